@@ -1,0 +1,67 @@
+// The text type of the host's utility library, as far as the scripting layer uses it.
+#ifndef ZN_STRING_H
+#define ZN_STRING_H
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// A text that may be absent. A default-constructed string, and one made from a null pointer, has no
+/// text storage (`IsNull()`); a string made from "" has storage and is empty. Both count as `empty()`
+/// and read as "". Texts may hold any byte, NUL included.
+class znString {
+public:
+    znString() = default;
+    znString(const char* text) : null_(text == nullptr), text_(text ? text : "") {}
+    znString(std::string_view text) : null_(false), text_(text) {}
+    znString(const std::string& text) : null_(false), text_(text) {}
+    znString(std::string&& text) noexcept : null_(false), text_(std::move(text)) {}
+
+    /// True when the string has no text storage.
+    bool IsNull() const { return null_; }
+    bool empty() const { return text_.empty(); }
+    std::size_t size() const { return text_.size(); }
+
+    /// The text, NUL-terminated; "" for a string without storage, never null. Owned by the string.
+    const char* c_str() const { return text_.c_str(); }
+    /// The text, or null for a string without storage. Owned by the string.
+    const char* GetText() const { return null_ ? nullptr : text_.c_str(); }
+    std::string_view View() const { return text_; }
+    const std::string& Str() const { return text_; }
+
+    /// Makes the string empty, with storage; the capacity is kept for the next text.
+    void clear() {
+        null_ = false;
+        text_.clear();
+    }
+    /// Replaces the text, reusing the storage. `text` may lie inside this string.
+    znString& assign(std::string_view text) {
+        null_ = false;
+        text_.assign(text);
+        return *this;
+    }
+    /// Appends; a null pointer appends nothing.
+    znString& operator+=(const char* text) { return text ? *this += std::string_view(text) : *this; }
+    znString& operator+=(std::string_view text) {
+        null_ = false;
+        text_.append(text);
+        return *this;
+    }
+    znString& operator+=(const znString& other) { return *this += other.View(); }
+    znString& operator+=(char character) {
+        null_ = false;
+        text_.push_back(character);
+        return *this;
+    }
+
+    /// Texts compare byte by byte; a string without storage equals an empty one.
+    friend bool operator==(const znString& a, const znString& b) { return a.text_ == b.text_; }
+    friend bool operator!=(const znString& a, const znString& b) { return a.text_ != b.text_; }
+    friend bool operator<(const znString& a, const znString& b) { return a.text_ < b.text_; }
+
+private:
+    bool null_ = true;
+    std::string text_;
+};
+
+#endif
