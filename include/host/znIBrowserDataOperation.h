@@ -1,0 +1,16 @@
+// A data operation: an action that a data control offers.
+#ifndef ZN_I_BROWSER_DATA_OPERATION_H
+#define ZN_I_BROWSER_DATA_OPERATION_H
+
+/// A named action of a data control. It is run with `znIBrowser::PerformDataOperation`.
+class znIBrowserDataOperation {
+public:
+    virtual const char* GetName() const = 0;
+    /// Sets the Tcl script that the operation runs.
+    virtual bool SetScript(const char* script) = 0;
+
+protected:
+    ~znIBrowserDataOperation() = default;
+};
+
+#endif

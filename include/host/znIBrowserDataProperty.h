@@ -1,0 +1,27 @@
+// A data property: a value that a data source has for each item.
+#ifndef ZN_I_BROWSER_DATA_PROPERTY_H
+#define ZN_I_BROWSER_DATA_PROPERTY_H
+
+#include "host/znutl/znVariant.h"
+#include "znBrowserTypes.h"
+
+struct znBrowserDataItem;
+
+/// A named value that a simple data source supplies for each of its items.
+class znIBrowserDataProperty {
+public:
+    virtual const char* GetName() const = 0;
+    /// The value of an item as text. `index` chooses an element of an array type: 0 for the others.
+    /// @return false when the item has no value.
+    virtual bool GetValueString(const znBrowserDataItem& item, int index, znString& value) = 0;
+    /// The type in the numbering of `ZNBROWSER_DATA_TYPE`; 11, 12 and 13 stand for further array forms of
+    /// integer, double and string.
+    virtual ZNBROWSER_DATA_TYPE GetType() const = 0;
+    /// The value of an item with its type; undefined when the item has none.
+    virtual znVariant GetValue(const znBrowserDataItem& item) = 0;
+
+protected:
+    ~znIBrowserDataProperty() = default;
+};
+
+#endif

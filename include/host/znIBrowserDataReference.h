@@ -1,0 +1,14 @@
+// A data reference: a link between data sources.
+#ifndef ZN_I_BROWSER_DATA_REFERENCE_H
+#define ZN_I_BROWSER_DATA_REFERENCE_H
+
+/// A named link, kept by a data control, from the items of one data source to those of another.
+class znIBrowserDataReference {
+public:
+    virtual const char* GetName() const = 0;
+
+protected:
+    ~znIBrowserDataReference() = default;
+};
+
+#endif

@@ -1,0 +1,23 @@
+// An event of a window part.
+#ifndef ZN_I_BROWSER_EVENT_H
+#define ZN_I_BROWSER_EVENT_H
+
+#include "host/znutl/znString.h"
+
+class znIBrowserWindowAccess;
+class znIBrowserWindowPart;
+
+/// Something that happens in a window part and fires the callbacks attached to it.
+class znIBrowserEvent {
+public:
+    /// The window in which the event happens.
+    virtual znIBrowserWindowAccess* GetWindowAccess() = 0;
+    virtual void GetName(znString& name) const = 0;
+    /// The part that offers the event.
+    virtual znIBrowserWindowPart* GetWindowPart() = 0;
+
+protected:
+    ~znIBrowserEvent() = default;
+};
+
+#endif

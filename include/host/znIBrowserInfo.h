@@ -1,0 +1,13 @@
+// What the manager tells about itself.
+#ifndef ZN_I_BROWSER_INFO_H
+#define ZN_I_BROWSER_INFO_H
+
+/// Information about the scripting layer, created and owned by the manager.
+class znIBrowserInfo {
+public:
+    virtual ~znIBrowserInfo() = default;
+    /// The version of the command language, "1.0".
+    virtual const char* GetVersion() const = 0;
+};
+
+#endif

@@ -1,0 +1,64 @@
+// A free folder of a view.
+#ifndef ZN_I_BROWSER_VIEW_ITEM_FREE_FOLDER_H
+#define ZN_I_BROWSER_VIEW_ITEM_FREE_FOLDER_H
+
+#include "host/znIBrowserViewItem.h"
+#include "host/znutl/znString.h"
+#include <vector>
+
+struct znBrowserDataItems;
+class znIBrowserDataSource;
+class znIBrowserDataSourceHierarchical;
+class znIBrowserDataSourceSimple;
+class znIBrowserView;
+class znIBrowserViewColumn;
+
+/// A named folder that scripts create in a view. It holds further folders, at most one tree (a hierarchical
+/// data source) and any number of lists (simple data sources). Its settings are changed through `znIBrowser`.
+class znIBrowserViewItemFreeFolder : public znIBrowserViewItem {
+public:
+    virtual const char* GetName() const = 0;
+    /// The child folder of that name, or null.
+    virtual znIBrowserViewItemFreeFolder* FindChildFolder(const char* name) = 0;
+    /// The hierarchical data sources shown in the folder.
+    virtual void GetTrees(std::vector<znIBrowserDataSourceHierarchical*>& trees) = 0;
+    /// The simple data sources shown in the folder.
+    virtual bool GetLists(std::vector<znIBrowserDataSourceSimple*>& lists) = 0;
+    virtual bool GetChildFolders(std::vector<znIBrowserViewItemFreeFolder*>& folders) = 0;
+    /// The folder that holds this one; null for the root folder.
+    virtual znIBrowserViewItemFreeFolder* GetParent() = 0;
+    /// The view that owns the folder.
+    virtual znIBrowserView* GetView() = 0;
+    /// Items dropped on the folder go to that hierarchical data source. The result is not used.
+    virtual bool SetDropItem(znIBrowserDataSourceHierarchical* source) = 0;
+
+    // Settings, as last set through `znIBrowser`.
+    virtual bool GetShowEmptyContainers() const = 0;
+    virtual bool GetShowEmptyFolders() const = 0;
+    virtual bool GetKeepChildrenAsCreated() const = 0;
+    /// The names of the data item types (data sources) configured below the folder.
+    virtual bool GetConfiguredTypes(std::vector<znString>& names) = 0;
+    /// The names of the child types that the folder's tree shows.
+    virtual bool GetShownChildTypes(std::vector<znString>& names) = 0;
+    /// The names of the data references by which the folder's tree finds its top items.
+    virtual bool GetTreeToplevelNames(std::vector<znString>& names) = 0;
+    /// The names of the data references by which the folder's tree finds children.
+    virtual bool GetTreeParentChildNames(std::vector<znString>& names) = 0;
+    /// The selected folders below this one, by name, in the order shown.
+    virtual bool GetSelectedFolderNames(std::vector<znString>& names) = 0;
+    /// The selected items below this folder.
+    virtual bool GetSelection(znBrowserDataItems& items) = 0;
+
+    // Data sources configured in the folder itself (new connection scheme).
+    virtual znIBrowserDataSource* FindDataSource(const char* name) = 0;
+    /// The data source that scripts chose last in this folder, or null.
+    virtual znIBrowserDataSource* GetCurrentDataSource() = 0;
+    virtual bool SetCurrentDataSource(znIBrowserDataSource* source) = 0;
+    /// Whether the items of that data source are drawn, in that column, with the folder's own style.
+    virtual bool SetDataSourceStyle(znIBrowserDataSource* source, znIBrowserViewColumn* column, bool style) = 0;
+
+protected:
+    ~znIBrowserViewItemFreeFolder() = default;
+};
+
+#endif
