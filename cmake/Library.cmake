@@ -1,0 +1,27 @@
+# The scripting layer: include/ and src/.
+
+add_library(zn_headers INTERFACE)
+target_include_directories(zn_headers INTERFACE "${PROJECT_SOURCE_DIR}/include")
+
+zn_find_sources(sources src/*.cpp)
+if(sources)
+    # The objects are compiled once and linked twice: into the library, which hides everything but the
+    # public classes, and into the unit tests, which also reach what is hidden.
+    add_library(zn_objects OBJECT ${sources})
+    set_target_properties(zn_objects PROPERTIES
+        POSITION_INDEPENDENT_CODE ON
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON)
+    target_include_directories(zn_objects PRIVATE "${PROJECT_SOURCE_DIR}/src")
+    target_link_libraries(zn_objects PUBLIC zn_headers PRIVATE zn_tcl_stubs)
+
+    add_library(znBrowserScripting SHARED)
+    set_target_properties(znBrowserScripting PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0)
+    target_link_libraries(znBrowserScripting PUBLIC zn_headers PRIVATE zn_objects zn_tcl_stubs)
+    if(NOT (ZN_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES Clang)) # whose runtime is in the program only
+        target_link_options(znBrowserScripting PRIVATE -Wl,-z,defs)
+    endif()
+
+    install(TARGETS znBrowserScripting LIBRARY)
+    install(DIRECTORY include/ DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/znBrowserScripting")
+endif()

@@ -1,0 +1,31 @@
+# Three kinds of tests: *_test.cpp (one GoogleTest program), *.test (a tcltest file each, run in the
+# shell) and the examples whose output is recorded in tests/examples/NAME.out.
+
+include(GoogleTest)
+
+zn_find_sources(sources tests/*_test.cpp)
+if(sources AND TARGET zn_objects AND TARGET znbrowserhost)
+    add_executable(znbrowsertest ${sources})
+    target_include_directories(znbrowsertest PRIVATE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/src")
+    target_link_libraries(znbrowsertest PRIVATE
+        zn_objects znbrowserhost zn_tcl "${ZN_TCL_STUB_LIBRARY}" GTest::gtest_main)
+    gtest_discover_tests(znbrowsertest DISCOVERY_MODE PRE_TEST)
+endif()
+
+if(TARGET znbrowsersh)
+    zn_find_sources(scripts tests/*.test)
+    foreach(script IN LISTS scripts)
+        file(RELATIVE_PATH name "${PROJECT_SOURCE_DIR}/tests" "${script}")
+        add_test(NAME "${name}" COMMAND znbrowsersh "${PROJECT_SOURCE_DIR}/tests/all.tcl" "${script}")
+        set_tests_properties("${name}" PROPERTIES TIMEOUT 300)
+    endforeach()
+
+    zn_find_sources(outputs tests/examples/*.out)
+    foreach(output IN LISTS outputs)
+        get_filename_component(name "${output}" NAME_WE)
+        add_test(NAME "examples/${name}"
+            COMMAND "${PROJECT_SOURCE_DIR}/tests/examples/run_example.sh"
+                $<TARGET_FILE:znbrowsersh> "${ZN_EXAMPLES_DIR}" "${name}" "${output}")
+        set_tests_properties("examples/${name}" PROPERTIES TIMEOUT 300)
+    endforeach()
+endif()

@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# Runs one example in a scratch copy of the examples, models included, and compares what it prints.
+#   run_example.sh SHELL EXAMPLES NAME EXPECTED
+set -euo pipefail
+shell=$1 examples=$2 name=$3 expected=$4
+
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+cp -R "$examples/." "$scratch"
+cd "$scratch"
+"$shell" "$name.tcl" >"$scratch/$name.printed" </dev/null
+diff -u "$expected" "$scratch/$name.printed"
