@@ -2,12 +2,14 @@
 #ifndef ZN_I_BROWSER_VIEW_COLUMN_H
 #define ZN_I_BROWSER_VIEW_COLUMN_H
 
-#include "znBrowserTypes.h"
 #include <vector>
 
 class znIBrowserPopupMenu;
 class znIBrowserStyle;
 class znIBrowserView;
+
+/// How a column sorts the rows now.
+enum ZNBROWSER_SORT_ORDER : int { ZNBROWSER_UNSORTED = 0, ZNBROWSER_ASCENDING, ZNBROWSER_DESCENDING };
 
 /// A column of a view. A built-in column comes with the view; the others are made by scripts.
 class znIBrowserViewColumn {
