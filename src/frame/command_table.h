@@ -1,0 +1,72 @@
+// Command levels: one static table per level of the command language.
+#ifndef COMMAND_TABLE_H
+#define COMMAND_TABLE_H
+
+#include "frame/call.h"
+
+#include <cstddef>
+
+struct CommandLevel;
+
+/// One word of a level. It is answered by a function, or leads to the level of the words that follow it. A row
+/// that has both is answered by the function; the level then tells completion what may follow.
+struct CommandRow {
+    Keyword keyword;
+    void (*answer)(Call& call);
+    const CommandLevel* level = nullptr;
+};
+
+/// The words that may stand at one position. The rows stand in the order in which the usage text lists them.
+struct CommandLevel {
+    template <std::size_t count>
+    constexpr CommandLevel(const CommandRow (&table)[count], const char* const& usage)
+        : CommandLevel(table, usage, usage) {}
+    /// For a level whose answer to an unknown word differs from its answer to a missing one.
+    template <std::size_t count>
+    constexpr CommandLevel(const CommandRow (&table)[count], const char* const& missing,
+                           const char* const& unknown)
+        : rows(table), rowCount(count), missingUsage(&missing), unknownUsage(&unknown) {}
+
+    const CommandRow* begin() const { return rows; }
+    const CommandRow* end() const { return rows + rowCount; }
+    /// The row of that keyword, or null.
+    const CommandRow* Find(Keyword keyword) const;
+
+    const CommandRow* rows;
+    std::size_t rowCount;
+    const char* const* missingUsage;
+    const char* const* unknownUsage;
+};
+
+/// Answers the word at `position` by the level's table, or with the level's usage text.
+void RunLevel(Call& call, const CommandLevel& level, int position);
+
+/// Runs a whole command family: its words begin at position 2. @return the Tcl code
+int RunFamily(znBrowserManagerTcl& manager, const CommandLevel& level, int objc, Tcl_Obj* const objv[]);
+
+// The levels of the command language, from which completion reads it. Each is defined in the file of its name.
+extern const CommandLevel topLevel;
+extern const CommandLevel viewLevel;
+extern const CommandLevel viewColumnLevel;
+extern const CommandLevel viewStyleLevel;
+extern const CommandLevel viewElementLevel;
+extern const CommandLevel viewPropertyLevel;
+extern const CommandLevel viewFolderLevel;
+extern const CommandLevel viewTreeLevel;
+extern const CommandLevel viewListLevel;
+extern const CommandLevel viewSelectionLevel;
+extern const CommandLevel viewDataItemLevel;
+extern const CommandLevel viewSortLevel;
+extern const CommandLevel viewFilterLevel;
+extern const CommandLevel viewOperationLevel;
+extern const CommandLevel viewDataSourceLevel;
+extern const CommandLevel viewDataReferenceLevel;
+extern const CommandLevel windowLevel;
+extern const CommandLevel dataCtrlLevel;
+extern const CommandLevel dataSourceLevel;
+extern const CommandLevel dataOperationLevel;
+extern const CommandLevel dataReferenceLevel;
+extern const CommandLevel userInputLevel;
+extern const CommandLevel stateLevel;
+
+#endif
