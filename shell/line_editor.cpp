@@ -1,0 +1,100 @@
+#include "line_editor.h"
+
+#include "completion.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <cwchar>
+
+namespace {
+
+constexpr std::size_t SCREEN_WIDTH = 80;
+
+/// Prints the words below the line, in columns.
+void ListWords(const std::vector<std::string>& words) {
+    std::size_t width = 0;
+    for (const std::string& word : words) width = std::max(width, word.size() + 2);
+    const std::size_t columns = std::max<std::size_t>(1, SCREEN_WIDTH / width);
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        std::printf("%s%-*s", i % columns ? "" : "\n", static_cast<int>(width), words[i].c_str());
+    }
+    std::printf("\n");
+    std::fflush(stdout);
+}
+
+} // namespace
+
+LineEditor::LineEditor(Services services)
+    : services_(std::move(services)), editor_(el_init("znbrowsersh", stdin, stdout, stderr)) {
+    el_set(editor_, EL_CLIENTDATA, this);
+    el_set(editor_, EL_PROMPT, ShowPrompt);
+    el_set(editor_, EL_GETCFN, ReadCharacter);
+    el_set(editor_, EL_SIGNAL, 1);
+    el_set(editor_, EL_HIST, history, history_.Get());
+    el_set(editor_, EL_EDITOR, "emacs");
+    el_set(editor_, EL_ADDFN, "zn-complete", "Complete a command word or a name", Complete);
+    el_set(editor_, EL_BIND, "^I", "zn-complete", nullptr);
+    el_set(editor_, EL_BIND, "^R", "em-inc-search-prev", nullptr);
+    el_source(editor_, nullptr);
+}
+
+LineEditor::~LineEditor() { el_end(editor_); }
+
+LineEditor::Outcome LineEditor::Read(const std::string& prompt, std::string& line) {
+    prompt_ = prompt;
+    int count = 0;
+    const char* const text = el_gets(editor_, &count);
+    if (!text || count <= 0) return count < 0 ? Outcome::Interrupted : Outcome::End;
+    line.assign(text, static_cast<std::size_t>(count));
+    history_.Add(line.substr(0, line.find_last_not_of('\n') + 1));
+    return Outcome::Line;
+}
+
+LineEditor& LineEditor::Self(EditLine* editor) {
+    void* self = nullptr;
+    el_get(editor, EL_CLIENTDATA, &self);
+    return *static_cast<LineEditor*>(self);
+}
+
+char* LineEditor::ShowPrompt(EditLine* editor) { return Self(editor).prompt_.data(); }
+
+// Gives one character, -1 when interrupted, 0 at the end. Bytes that are no character of the locale count
+// as one each, so that a stray byte does not end the session.
+int LineEditor::ReadCharacter(EditLine* editor, wchar_t* character) {
+    char bytes[MB_LEN_MAX];
+    std::size_t count = 0;
+    while (count < sizeof bytes) {
+        if (!Self(editor).services_.wait()) return -1;
+        const ssize_t got = read(STDIN_FILENO, bytes + count, 1);
+        if (got < 0 && (errno == EINTR || errno == EAGAIN)) continue;
+        if (got <= 0) return 0;
+        ++count;
+        std::mbstate_t state{};
+        const std::size_t used = std::mbrtowc(character, bytes, count, &state);
+        if (used == static_cast<std::size_t>(-2)) continue;
+        if (used != static_cast<std::size_t>(-1)) return 1;
+        break;
+    }
+    *character = static_cast<unsigned char>(bytes[0]);
+    return 1;
+}
+
+// Types what all completions share, a blank after the only one, and lists them when that is nothing new.
+unsigned char LineEditor::Complete(EditLine* editor, int) {
+    const LineInfo* const info = el_line(editor);
+    std::string partial;
+    const std::vector<std::string> words =
+        Self(editor).services_.complete(std::string(info->buffer, info->cursor), partial);
+    if (words.empty()) return CC_REFRESH_BEEP;
+    const std::string common = words.size() == 1 ? words.front() + ' ' : CommonBeginning(words);
+    if (common.size() > partial.size()) {
+        el_deletestr(editor, static_cast<int>(partial.size()));
+        return el_insertstr(editor, common.c_str()) == 0 ? CC_REFRESH : CC_ERROR;
+    }
+    ListWords(words);
+    return CC_REDISPLAY;
+}

@@ -1,0 +1,71 @@
+#include "options.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+
+const char* const FOOTER = R"(
+With a SCRIPT, znbrowsersh runs it, with ARG ... in "argv". Without one it gives a
+prompt, or runs the script that is piped into its standard input.
+
+Exit codes: 0 done, 1 the script failed, or it or a database cannot be opened, 2 bad
+usage; "exit N" in a script gives N.)";
+
+/// The script and its arguments are no option that the parser knows of; the help names them all the same.
+class HelpFormatter : public CLI::Formatter {
+    std::string make_usage(const CLI::App*, std::string) const override {
+        return "Usage: znbrowsersh [OPTIONS] [SCRIPT [ARG ...]]\n";
+    }
+};
+
+std::vector<DatabaseOption> SplitDatabases(const std::vector<std::string>& words) {
+    std::vector<DatabaseOption> databases;
+    for (const std::string& word : words) {
+        const std::size_t equals = word.find('=');
+        if (equals == std::string::npos || equals == 0) {
+            throw CLI::ValidationError("--db", "expected NAME=FILE but got \"" + word + "\"");
+        }
+        databases.push_back({word.substr(0, equals), word.substr(equals + 1)});
+    }
+    return databases;
+}
+
+/// What follows the options: the script and its arguments. A word that still looks like an option is none
+/// that we know, unless "--" stands before it.
+void SplitScript(std::vector<std::string> words, Options& options) {
+    const bool endOfOptions = !words.empty() && words.front() == "--";
+    if (endOfOptions) words.erase(words.begin());
+    if (words.empty()) return;
+    if (!endOfOptions && words.front().size() > 1 && words.front().front() == '-') {
+        throw CLI::ValidationError("unknown option \"" + words.front() + "\"");
+    }
+    options.script = words.front();
+    options.arguments.assign(words.begin() + 1, words.end());
+}
+
+} // namespace
+
+std::optional<ExitCode> ParseOptions(int argc, const char* const* argv, Options& options) {
+    std::vector<std::string> databases;
+    CLI::App app(
+        "The shell of znBrowserScripting: Tcl with the command znbrowsermanager on an embedded host.",
+        "znbrowsersh");
+    app.formatter(std::make_shared<HelpFormatter>());
+    app.footer(FOOTER);
+    app.add_option("--db", databases, "Add the data control NAME on a SQLite file, created when missing")
+        ->type_name("NAME=FILE")
+        ->allow_extra_args(false);
+    app.add_flag("--strict", options.strict,
+                 "Make each error banner a Tcl error, errorCode {ZNBROWSER ERROR ...}");
+    app.set_version_flag("--version", "znbrowsersh " ZN_VERSION);
+    app.prefix_command(); // stop at the script: the options behind it are the script's own
+    options.program = argv[0];
+    try {
+        app.parse(argc, argv);
+        options.databases = SplitDatabases(databases);
+        SplitScript(app.remaining(), options);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? EXIT_DONE : EXIT_USAGE;
+    }
+    return std::nullopt;
+}

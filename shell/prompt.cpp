@@ -1,0 +1,146 @@
+#include "prompt.h"
+
+#include "completion.h"
+#include "znBrowserTclCommandTree.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+#include <csignal>
+
+namespace {
+
+const char* const HELP = R"(znbrowsersh is Tcl with one command more.
+
+  znbrowsermanager            its action words; every level of words answers with its usage
+  znbrowsermanager app help   the words of the embedded host: databases, rows, journal
+  help ?WORD ...?             this text, or the words that may follow "znbrowsermanager WORD ..."
+  exit ?CODE?                 ends the session, as Ctrl-D does
+
+TAB completes command words and object names, the arrow keys recall earlier lines, Ctrl-R searches
+them, Ctrl-C drops the line or stops the running command.)";
+
+// Ctrl-C. A signal has no other way to its receiver than what is global: the mark that stops a running
+// command, and the pipe that wakes the waiting prompt.
+Tcl_AsyncHandler cancelHandler = nullptr;
+int wakePipe[2] = {-1, -1};
+
+void HandleInterrupt(int) {
+    const int saved = errno;
+    if (cancelHandler) Tcl_AsyncMark(cancelHandler);
+    if (write(wakePipe[1], "", 1) < 0) errno = saved; // full: the prompt is woken already
+    errno = saved;
+}
+
+/// Forgets interrupts; tells whether there was one.
+bool TakeInterrupt() {
+    bool found = false;
+    for (char byte = 0; read(wakePipe[0], &byte, 1) > 0;) found = true;
+    return found;
+}
+
+void MarkReadable(ClientData flag, int) { *static_cast<bool*>(flag) = true; }
+
+} // namespace
+
+Prompt::Prompt(Session& session)
+    : session_(session), interp_(session.GetInterp()),
+      editor_({[this] { return WaitForInput(); },
+               [this](const std::string& text, std::string& partial) {
+                   const TypedCommand typed = FindTypedCommand(text);
+                   partial = typed.partial;
+                   return FindCompletions(typed, [this] { return session_.GetObjectNames(); });
+               }}) {
+    if (pipe2(wakePipe, O_CLOEXEC | O_NONBLOCK) != 0) wakePipe[0] = wakePipe[1] = -1;
+    cancelHandler = Tcl_AsyncCreate(CancelCommand, this);
+    struct sigaction action = {};
+    action.sa_handler = HandleInterrupt;
+    sigaction(SIGINT, &action, nullptr);
+    Tcl_SetVar2Ex(interp_, "tcl_interactive", nullptr, Tcl_NewIntObj(1), TCL_GLOBAL_ONLY);
+}
+
+Prompt::~Prompt() {
+    std::signal(SIGINT, SIG_DFL);
+    Tcl_AsyncDelete(cancelHandler);
+    cancelHandler = nullptr;
+    for (int& end : wakePipe) {
+        close(end);
+        end = -1;
+    }
+}
+
+ExitCode Prompt::Run() {
+    std::string command;
+    for (;;) {
+        std::string line;
+        switch (editor_.Read(command.empty() ? "% " : "> ", line)) {
+        case LineEditor::Outcome::End: PrintLine(TCL_STDOUT, ""); return EXIT_DONE;
+        case LineEditor::Outcome::Interrupted:
+            PrintLine(TCL_STDOUT, "^C");
+            command.clear();
+            break;
+        case LineEditor::Outcome::Line:
+            command += line;
+            if (!Tcl_CommandComplete(command.c_str())) break;
+            if (!AnswerHelp(command)) Execute(command);
+            command.clear();
+            break;
+        }
+    }
+}
+
+void Prompt::Execute(const std::string& command) {
+    TakeInterrupt();
+    executing_ = true;
+    const int code = Tcl_RecordAndEval(interp_, command.c_str(), TCL_EVAL_GLOBAL);
+    executing_ = false;
+    TakeInterrupt();
+    Tcl_Obj* const result = Tcl_GetObjResult(interp_);
+    int length = 0;
+    Tcl_GetStringFromObj(result, &length);
+    if (length > 0) PrintLine(code == TCL_OK ? TCL_STDOUT : TCL_STDERR, result);
+}
+
+// "help" is a word of the prompt, not a command: a script may define its own, which then is the one called.
+bool Prompt::AnswerHelp(const std::string& command) const {
+    TypedCommand typed = FindTypedCommand(command.substr(0, command.find_last_not_of(" \t\n") + 1) + ' ');
+    if (typed.words.empty() || typed.words.front() != "help") return false;
+    if (Tcl_FindCommand(interp_, "help", nullptr, TCL_GLOBAL_ONLY)) return false;
+    if (typed.words.size() == 1) {
+        PrintLine(TCL_STDOUT, HELP);
+        return true;
+    }
+    std::vector<std::string> next;
+    znBrowserTclCommandTree::GetNextWords({typed.words.begin() + 1, typed.words.end()}, next);
+    std::string text;
+    for (const std::string& word : next) text += (text.empty() ? "" : " ") + word;
+    PrintLine(TCL_STDOUT, text.empty() ? "no further command words" : text);
+    return true;
+}
+
+bool Prompt::WaitForInput() {
+    const bool tkLoaded = Tcl_FindCommand(interp_, "winfo", nullptr, TCL_GLOBAL_ONLY) != nullptr;
+    if (tkLoaded) return WaitWithEvents();
+    pollfd sources[] = {{STDIN_FILENO, POLLIN, 0}, {wakePipe[0], POLLIN, 0}};
+    while (poll(sources, 2, -1) < 0) {
+    }
+    return !TakeInterrupt();
+}
+
+bool Prompt::WaitWithEvents() {
+    bool typed = false;
+    bool woken = false;
+    Tcl_CreateFileHandler(STDIN_FILENO, TCL_READABLE, MarkReadable, &typed);
+    Tcl_CreateFileHandler(wakePipe[0], TCL_READABLE, MarkReadable, &woken);
+    while (!typed && !woken) Tcl_DoOneEvent(TCL_ALL_EVENTS);
+    Tcl_DeleteFileHandler(wakePipe[0]);
+    Tcl_DeleteFileHandler(STDIN_FILENO);
+    return !TakeInterrupt();
+}
+
+int Prompt::CancelCommand(ClientData prompt, Tcl_Interp*, int code) {
+    const Prompt& self = *static_cast<Prompt*>(prompt);
+    if (self.executing_) Tcl_CancelEval(self.interp_, nullptr, nullptr, TCL_CANCEL_UNWIND);
+    return code;
+}

@@ -1,0 +1,133 @@
+#include "session.h"
+
+#include "model/embedded_host.h"
+#include "strict.h"
+
+namespace {
+
+const char* const COMMAND = "znbrowsermanager";
+
+/// A word of the command line as Tcl keeps text.
+std::string FromNative(const std::string& text) {
+    Tcl_DString converted;
+    Tcl_ExternalToUtfDString(nullptr, text.data(), static_cast<int>(text.size()), &converted);
+    std::string result(Tcl_DStringValue(&converted), static_cast<std::size_t>(Tcl_DStringLength(&converted)));
+    Tcl_DStringFree(&converted);
+    return result;
+}
+
+Tcl_Obj* NewText(const std::string& text) {
+    return Tcl_NewStringObj(text.data(), static_cast<int>(text.size()));
+}
+
+} // namespace
+
+Session::Session() : interp_(Tcl_CreateInterp()) { Tcl_CreateExitHandler(CloseAtExit, this); }
+
+Session::~Session() {
+    Tcl_DeleteExitHandler(CloseAtExit, this);
+    host_.reset();
+    Tcl_DeleteInterp(interp_);
+}
+
+// `exit` in a script leaves through Tcl_Exit, and no destructor runs.
+void Session::CloseAtExit(ClientData session) { static_cast<Session*>(session)->host_.reset(); }
+
+bool Session::Start(const Options& options) {
+    if (Tcl_Init(interp_) != TCL_OK) {
+        PrintLine(TCL_STDERR, Tcl_GetObjResult(interp_));
+        return false;
+    }
+    SetArguments(options);
+    host_ = std::make_unique<EmbeddedHost>(interp_);
+    if (options.strict && !MakeStrict(interp_, COMMAND)) {
+        PrintLine(TCL_STDERR, std::string("znbrowsersh: the host registered no command ") + COMMAND);
+        return false;
+    }
+    return AddDatabases(options.databases);
+}
+
+void Session::SetArguments(const Options& options) {
+    Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
+    for (const std::string& argument : options.arguments) {
+        Tcl_ListObjAppendElement(nullptr, list, NewText(FromNative(argument)));
+    }
+    const int count = static_cast<int>(options.arguments.size());
+    Tcl_SetVar2Ex(interp_, "argv", nullptr, list, TCL_GLOBAL_ONLY);
+    Tcl_SetVar2Ex(interp_, "argc", nullptr, Tcl_NewIntObj(count), TCL_GLOBAL_ONLY);
+    const std::string argv0 = FromNative(options.script.value_or(options.program));
+    Tcl_SetVar2Ex(interp_, "argv0", nullptr, NewText(argv0), TCL_GLOBAL_ONLY);
+    Tcl_SetVar2Ex(interp_, "tcl_interactive", nullptr, Tcl_NewIntObj(0), TCL_GLOBAL_ONLY);
+}
+
+bool Session::AddDatabases(const std::vector<DatabaseOption>& databases) {
+    for (const DatabaseOption& database : databases) {
+        std::string error;
+        if (!host_->CreateDataCtrl(FromNative(database.name), FromNative(database.file), error)) {
+            PrintLine(TCL_STDERR,
+                      "znbrowsersh: --db " + FromNative(database.name + "=" + database.file) + ": " + error);
+            return false;
+        }
+    }
+    return true;
+}
+
+ExitCode Session::RunScript(const std::string& file) {
+    Tcl_Obj* const path = NewText(FromNative(file));
+    Tcl_IncrRefCount(path);
+    const int code = Tcl_FSEvalFileEx(interp_, path, nullptr);
+    Tcl_DecrRefCount(path);
+    return Finish(code);
+}
+
+ExitCode Session::RunStandardInput() {
+    Tcl_Obj* const script = Tcl_NewObj();
+    Tcl_IncrRefCount(script);
+    const Tcl_Channel input = Tcl_GetStdChannel(TCL_STDIN);
+    int code = TCL_OK;
+    if (input && Tcl_ReadChars(input, script, -1, 0) < 0) {
+        Tcl_SetObjResult(interp_, Tcl_ObjPrintf("couldn't read standard input: %s", Tcl_PosixError(interp_)));
+        code = TCL_ERROR;
+    } else {
+        code = Tcl_EvalObjEx(interp_, script, TCL_EVAL_DIRECT | TCL_EVAL_GLOBAL);
+        if (code == TCL_ERROR) { // say where, as Tcl does for a file
+            const int line = Tcl_GetErrorLine(interp_);
+            Tcl_AppendObjToErrorInfo(interp_, Tcl_ObjPrintf("\n    (file \"stdin\" line %d)", line));
+        }
+    }
+    Tcl_DecrRefCount(script);
+    return Finish(code);
+}
+
+ExitCode Session::Finish(int code) {
+    if (code == TCL_OK || code == TCL_RETURN) return EXIT_DONE;
+    Tcl_Obj* const options = Tcl_GetReturnOptions(interp_, code);
+    Tcl_IncrRefCount(options);
+    Tcl_Obj* const key = Tcl_NewStringObj("-errorinfo", -1);
+    Tcl_IncrRefCount(key);
+    Tcl_Obj* errorInfo = nullptr;
+    Tcl_DictObjGet(nullptr, options, key, &errorInfo);
+    PrintLine(TCL_STDERR, errorInfo ? errorInfo : Tcl_GetObjResult(interp_));
+    Tcl_DecrRefCount(key);
+    Tcl_DecrRefCount(options);
+    return EXIT_FAILED;
+}
+
+std::vector<std::string> Session::GetObjectNames() const {
+    return host_ ? host_->GetObjectNames() : std::vector<std::string>();
+}
+
+void PrintLine(int channel, Tcl_Obj* text) {
+    const Tcl_Channel output = Tcl_GetStdChannel(channel);
+    if (!output) return;
+    Tcl_WriteObj(output, text);
+    Tcl_WriteChars(output, "\n", 1);
+    Tcl_Flush(output);
+}
+
+void PrintLine(int channel, const std::string& text) {
+    Tcl_Obj* const object = NewText(text);
+    Tcl_IncrRefCount(object);
+    PrintLine(channel, object);
+    Tcl_DecrRefCount(object);
+}
