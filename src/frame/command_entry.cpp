@@ -1,0 +1,39 @@
+#include "frame/command_entry.h"
+
+#include "znBrowserManagerTcl.h"
+
+#include <tcl.h>
+
+#include <exception>
+
+namespace {
+
+/// Turns what the host threw into the answer of the command: the error banner, as for any other refusal.
+int AnswerException(znIBrowserManagerTcl& manager, const char* message) noexcept {
+    Tcl_Interp* const interp = manager.GetTclInterp();
+    try {
+        auto& reporter = static_cast<znBrowserManagerTcl&>(manager);
+        reporter.SetError(message);
+        Tcl_SetObjResult(interp, Tcl_NewStringObj(reporter.GetError(), -1));
+    } catch (...) {
+        Tcl_SetResult(interp, const_cast<char*>("[Command] znbrowsermanager\n\t[Error] out of memory"), TCL_STATIC);
+    }
+    return TCL_OK;
+}
+
+}  // namespace
+
+int CommandProcedure(void* clientData, Tcl_Interp*, int objc, Tcl_Obj* const objv[]) {
+    znIBrowserManagerTcl& manager = *static_cast<znIBrowserManagerTcl*>(clientData);
+    try {
+        return manager.EvalTclCommand(objc, objv);
+    } catch (const std::exception& error) {
+        return AnswerException(manager, error.what());
+    } catch (const znString& text) {
+        return AnswerException(manager, text.c_str());
+    } catch (const char* text) {
+        return AnswerException(manager, text);
+    } catch (...) {
+        return AnswerException(manager, "Unexpected general error");
+    }
+}

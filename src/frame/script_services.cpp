@@ -1,0 +1,84 @@
+// The services by which the host reaches Tcl scripts, and the requests that the manager passes on to the host.
+#include "frame/messages.h"
+#include "host/znIBrowser.h"
+#include "host/znIBrowserApplication.h"
+#include "host/znIBrowserView.h"
+#include "znBrowserManagerTcl.h"
+
+#include <tcl.h>
+
+const char* znBrowserManagerTcl::GetCurrentView() const {
+    return current_.view ? current_.view->GetName().c_str() : "";
+}
+
+bool znBrowserManagerTcl::EvalTclScript(const char* script) {
+    if (!script) return Fail("NULL pointer found");
+    if (Tcl_Eval(GetTclInterp(), script) == TCL_OK) return true;
+    return Fail("Error while executing TCL script");
+}
+
+bool znBrowserManagerTcl::GetStringFromScript(const char* procName, znString& result, znString argument) {
+    BeginOperation();
+    if (!procName) return GetState();
+    AppendToBuff(procName, false, false);
+    if (!argument.empty()) AppendToBuffWithQuotes(argument.c_str(), true, false);
+    // The script may use the command, and so the buffer.
+    const znString script = buffer_;
+    if (EvalTclScript(script.c_str())) result = Tcl_GetStringResult(GetTclInterp());
+    return GetState();
+}
+
+bool znBrowserManagerTcl::UpdateTclInputScript(const char* script) {
+    BeginOperation();
+    if (!script) return true;
+    for (const char* const piece : {"::znbrowser::UpdatePopupInputScript \"", script, "\""})
+        AppendToBuff(piece, true, false);
+    const znString call = buffer_;
+    EvalTclScript(call.c_str());
+    return GetState();
+}
+
+bool znBrowserManagerTcl::UpdateTclFreeFolderSelection(const std::vector<znIBrowserViewItemFreeFolder*>& folders) {
+    BeginOperation();
+    if (!EvalTclScript("::znbrowser::ResetSelectedFreeFoldersArray")) return false;
+    for (znIBrowserViewItemFreeFolder* const folder : folders) {
+        znString name;
+        if (!GetFreeFolderName(folder, name)) break;
+        ResetBuff();
+        for (const char* const piece : {"::znbrowser::AddToSelectedFreeFoldersArray ", "\""})
+            AppendToBuff(piece, true, false);
+        if (!name.empty()) AppendToBuff(name.c_str(), true, false);
+        AppendToBuff("\"", true, false);
+        const znString call = buffer_;
+        if (!EvalTclScript(call.c_str())) break;
+    }
+    return GetState();
+}
+
+bool znBrowserManagerTcl::GetTclNameSpace(znString& out) {
+    BeginOperation();
+    out = application_->GetTclNameSpace();
+    return true;
+}
+
+bool znBrowserManagerTcl::SetFlushFlag(bool flush) {
+    if (znIBrowser* const browser = GetBrowser()) browser->SetFlushFlag(flush);
+    return GetState();
+}
+
+bool znBrowserManagerTcl::ApplyPendingChanges() {
+    if (!current_.dataCtrl) return Fail(messages::noCurrentDataCtrl);
+    if (current_.freeFolder) {
+        znIBrowser* const browser = GetBrowser();
+        return browser && browser->ApplyPendingChanges(current_.freeFolder);
+    }
+    // Whatever the buffer still holds goes in front of the message.
+    return FailWith({"Cannot find current freefolder"});
+}
+
+void znBrowserManagerTcl::TemporaryTestFunction() {
+    if (!current_.dataCtrl) return;
+    if (!current_.freeFolder && current_.view) current_.freeFolder = current_.view->GetRootFreeFolder();
+    znIBrowser* const browser = GetBrowser();
+    if (current_.freeFolder && browser) browser->ApplyPendingChanges(current_.freeFolder);
+}
