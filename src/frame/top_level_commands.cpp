@@ -144,7 +144,7 @@ constexpr CommandRow topRows[] = {
     {Keyword::DataSource, RunFamilyOf<&Manager::DataSourceTclAPICommands>, &dataSourceLevel},
     {Keyword::DataOperation, RunFamilyOf<&Manager::DataOperationTclAPICommands>, &dataOperationLevel},
     {Keyword::DataReference, RunFamilyOf<&Manager::DataReferenceTclAPICommands>, &dataReferenceLevel},
-    {Keyword::CheckBox, nullptr, &checkBoxLevel},
+    {Keyword::Checkbox, nullptr, &checkBoxLevel},
     {Keyword::OnTkTreeRequestCollapse, OnRequestCollapse},
     {Keyword::OnTkTreeRequestCollapseAll, OnRequestCollapseAll},
     {Keyword::OnTkTreeRequestDeselect, OnRequestDeselect},
