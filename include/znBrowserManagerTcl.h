@@ -55,6 +55,7 @@ public:
 
     // ---- Lifecycle ------------------------------------------------------------------------------------------
     /// Registers the command at once. `application` is not owned and outlives the manager.
+    /// @throws std::runtime_error when the interpreter's Tcl is older than 8.5, or not 8.x.
     explicit znBrowserManagerTcl(znIBrowserApplication* application);
     znBrowserManagerTcl(const znBrowserManagerTcl& other);
     znBrowserManagerTcl& operator=(const znBrowserManagerTcl& other);

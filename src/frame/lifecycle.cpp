@@ -8,6 +8,8 @@
 
 #include <tcl.h>
 
+#include <stdexcept>
+
 namespace {
 
 class BrowserInfo final : public znIBrowserInfo {
@@ -42,8 +44,11 @@ znBrowserManagerTcl& znBrowserManagerTcl::operator=(const znBrowserManagerTcl& o
 znBrowserManagerTcl::~znBrowserManagerTcl() { CleanUp(); }
 
 void znBrowserManagerTcl::Init() {
-    Tcl_CreateObjCommand(GetTclInterp(), "znbrowsermanager", CommandProcedure,
-                         static_cast<znIBrowserManagerTcl*>(this), nullptr);
+    Tcl_Interp* const interp = GetTclInterp();
+    // The library brings no Tcl of its own: it works with whatever 8.x the host has.
+    if (!Tcl_InitStubs(interp, "8.5", 0)) throw std::runtime_error("znbrowsermanager needs Tcl 8.5 or a later 8.x");
+    Tcl_CreateObjCommand(interp, "znbrowsermanager", CommandProcedure, static_cast<znIBrowserManagerTcl*>(this),
+                         nullptr);
     InitVars();
     InitBrowserInfo();
     CreateBrowserManagerViewTcl();

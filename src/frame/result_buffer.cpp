@@ -1,4 +1,5 @@
 // The result buffer, and how operations begin and end.
+#include "frame/text_piece.h"
 #include "host/znIBrowser.h"
 #include "host/znIBrowserApplication.h"
 #include "znBrowserManagerTcl.h"
@@ -6,18 +7,9 @@
 #include <tcl.h>
 
 #include <cstdio>
-#include <cstring>
 
 bool znBrowserManagerTcl::_AppendToBuff(const char* text, bool quoted, bool separate, bool braceIfBlank) const {
-    if (!text) return false;
-    if (separate && !buffer_.empty()) buffer_ += ' ';
-    if (quoted) buffer_ += '"';
-    const bool braced = braceIfBlank && std::strchr(text, ' ');
-    if (braced) buffer_ += '{';
-    buffer_ += text;
-    if (braced) buffer_ += '}';
-    if (quoted) buffer_ += '"';
-    return true;
+    return AppendPiece(buffer_, text, quoted, separate, braceIfBlank);
 }
 
 bool znBrowserManagerTcl::AppendToBuff(const char* text, bool separate, bool braceIfBlank) const {
