@@ -25,25 +25,27 @@ class znIBrowserInfo;
 class znIBrowserViewItem;
 class znVariant;
 
-
-/// The scripting layer of the model browser. Constructed with the host's application, it registers the Tcl command
-/// "znbrowsermanager" in the application's interpreter and serves it until it is destroyed.
+/// The scripting layer of the model browser. Constructed with the host's application, it registers the Tcl
+/// command "znbrowsermanager" in the application's interpreter and serves it until it is destroyed.
 ///
 /// Rules that hold for every operation unless its comment says otherwise:
-/// - An operation that returns bool clears the error state first (`SetOk`), is false when it failed, and then has
-///   its message in the error text (`GetErrorText`, or the banner of `GetError`). Some refusals are silent: false,
-///   with an empty error text.
-/// - A text that an operation gives through a `znString&` is valid until the caller changes it. A returned C string
+/// - An operation that returns bool clears the error state first (`SetOk`), is false when it failed, and then
+/// has
+///   its message in the error text (`GetErrorText`, or the banner of `GetError`). Some refusals are silent:
+///   false, with an empty error text.
+/// - A text that an operation gives through a `znString&` is valid until the caller changes it. A returned C
+/// string
 ///   is valid until the next operation.
-/// - "Current" objects (`znBrowserCurrentObjects`) belong to the host. `GetCurrent...Ptr` reads one, `ResetCurrent...`
-///   makes it null and touches nothing else, `SetCurrent...` with a pointer stores it, `SetCurrent...` with a name
-///   finds it in the host, and `UpdateCurrent...` moves it to the first child of a new parent. A failed operation
-///   leaves every current object as it was.
+/// - "Current" objects (`znBrowserCurrentObjects`) belong to the host. `GetCurrent...Ptr` reads one,
+/// `ResetCurrent...`
+///   makes it null and touches nothing else, `SetCurrent...` with a pointer stores it, `SetCurrent...` with a
+///   name finds it in the host, and `UpdateCurrent...` moves it to the first child of a new parent. A failed
+///   operation leaves every current object as it was.
 /// - Where a name is refused or not found the message names it.
 /// - Everything runs on the thread of the interpreter; nothing is locked.
 ///
-/// The host must delete the command (or the interpreter) before or when it destroys the manager. Copies share the
-/// browser info and the view helper, which the last of them releases; the command serves the object that
+/// The host must delete the command (or the interpreter) before or when it destroys the manager. Copies share
+/// the browser info and the view helper, which the last of them releases; the command serves the object that
 /// registered it.
 class ZN_API znBrowserManagerTcl : public znBrowserErrorReporter, public znIBrowserManagerTcl {
 public:
@@ -53,13 +55,15 @@ public:
     static const char* const DEFAULT_IMAGES_GUIMAP;
     static const char* const DEFAULT_COLORS_GUIMAP;
 
-    // ---- Lifecycle ------------------------------------------------------------------------------------------
+    // ---- Lifecycle
+    // ------------------------------------------------------------------------------------------
     /// Registers the command at once. `application` is not owned and outlives the manager.
     /// @throws std::runtime_error when the interpreter's Tcl is older than 8.5, or not 8.x.
     explicit znBrowserManagerTcl(znIBrowserApplication* application);
     znBrowserManagerTcl(const znBrowserManagerTcl& other);
     znBrowserManagerTcl& operator=(const znBrowserManagerTcl& other);
-    /// Does what `CleanUp` does. The collector helper is not destroyed: only `DeleteBrowserManagerCollectorTcl` does.
+    /// Does what `CleanUp` does. The collector helper is not destroyed: only
+    /// `DeleteBrowserManagerCollectorTcl` does.
     ~znBrowserManagerTcl() override;
     /// Registers the command and makes the current objects, the browser info and the helpers anew.
     void Init();
@@ -82,7 +86,8 @@ public:
     znBrowserManagerCollectorTcl* GetBrowserManagerCollectorTcl() const;
     znIBrowserApplication* GetApplication() const;
 
-    // ---- Services for the host ------------------------------------------------------------------------------
+    // ---- Services for the host
+    // ------------------------------------------------------------------------------
     int EvalTclCommand(int objc, Tcl_Obj* const objv[]) override;
     bool EvalTclScript(const char* script) override;
     bool GetStringFromScript(const char* procName, znString& result, znString argument) override;
@@ -103,9 +108,10 @@ public:
     /// Applies pending changes to the current free folder, or to the view's root folder, and reports nothing.
     void TemporaryTestFunction();
 
-    // ---- Result buffer --------------------------------------------------------------------------------------
-    // Each append is false, and appends nothing, when the text is null. `separate` puts a blank before a piece
-    // unless the buffer is empty; `braceIfBlank` puts a piece that holds a blank into braces. Nothing is escaped.
+    // ---- Result buffer
+    // -------------------------------------------------------------------------------------- Each append is
+    // false, and appends nothing, when the text is null. `separate` puts a blank before a piece unless the
+    // buffer is empty; `braceIfBlank` puts a piece that holds a blank into braces. Nothing is escaped.
     bool _AppendToBuff(const char* text, bool quoted, bool separate, bool braceIfBlank) const;
     bool AppendToBuff(const char* text, bool separate, bool braceIfBlank) const;
     bool AppendToBuff(int value, bool separate, bool braceIfBlank) const;
@@ -120,7 +126,8 @@ public:
     /// Records the words of a command for the error banner.
     void SetCommand(int objc, Tcl_Obj* const objv[]);
 
-    // ---- Types ----------------------------------------------------------------------------------------------
+    // ---- Types
+    // ----------------------------------------------------------------------------------------------
     /// "integer", "double", "string", "unsigned" and "bool" in any letter case; anything else is undefined.
     static ZNBROWSER_DATA_TYPE ConvertStringToViewPropertyType(const char* word);
     /// The name of a scalar type; "UNDEFINED" for the others.
@@ -133,8 +140,9 @@ public:
     /// The type of a field of the current data item type (the items of the current simple data source).
     bool GetDataType(const char* fieldName, ZNBROWSER_DATA_TYPE& type);
 
-    // ---- Command families -----------------------------------------------------------------------------------
-    // Each takes the whole word list and puts its answer into the interpreter result.
+    // ---- Command families
+    // ----------------------------------------------------------------------------------- Each takes the
+    // whole word list and puts its answer into the interpreter result.
     int ViewTclAPICommands(int objc, Tcl_Obj* const objv[]);
     int WindowTclAPICommands(int objc, Tcl_Obj* const objv[]);
     int StateTclAPICommands(int objc, Tcl_Obj* const objv[]);
@@ -145,7 +153,8 @@ public:
     int DataOperationTclAPICommands(int objc, Tcl_Obj* const objv[]);
     int DataReferenceTclAPICommands(int objc, Tcl_Obj* const objv[]);
 
-    // ---- Views ----------------------------------------------------------------------------------------------
+    // ---- Views
+    // ----------------------------------------------------------------------------------------------
     /// Creates a view and makes it current, with its data control. Silently false for a null name.
     /// @throws const char* "Could not create view" when the host refuses.
     bool CreateView(const char* name, bool flag);
@@ -154,8 +163,8 @@ public:
     bool SetCurrentView(const char* name);
     /// Stores the view; its data control, if any, becomes current too.
     void SetCurrentView(znIBrowserView* view);
-    /// As selecting by name does: also moves the data control, the column and the free folder. Nothing happens
-    /// when the view is current already.
+    /// As selecting by name does: also moves the data control, the column and the free folder. Nothing
+    /// happens when the view is current already.
     void UpdateCurrentView(znIBrowserView* view);
     znIBrowserView* GetCurrentViewPtr() const;
     void ResetCurrentView();
@@ -167,7 +176,8 @@ public:
     /// "true" or "false": the italic flag of the current column.
     bool GetItalic(znString& out);
 
-    // ---- Columns --------------------------------------------------------------------------------------------
+    // ---- Columns
+    // --------------------------------------------------------------------------------------------
     bool CreateButtonColumn(const char* name, const char* argument);
     bool CreateTextBoxColumn(const char* name, const char* argument);
     bool CreateIconColumn(const char* name, const char* argument, const char* icon);
@@ -204,7 +214,8 @@ public:
     bool SetCurrentColumnPopupMenu(const char* name);
     bool GetCurrentColumnPopupMenu(znString& out);
 
-    // ---- Styles and style elements --------------------------------------------------------------------------
+    // ---- Styles and style elements
+    // --------------------------------------------------------------------------
     /// Creates a style in the current column. One that exists already is made current, and then reported.
     bool CreateViewStyle(const char* name);
     bool DeleteViewStyle(const char* name);
@@ -235,7 +246,8 @@ public:
     /// Connects the current element to a view property; null stands for the current property.
     bool SetStyleElementProperty(const char* name);
 
-    // ---- View properties ------------------------------------------------------------------------------------
+    // ---- View properties
+    // ------------------------------------------------------------------------------------
     bool CreateViewProperty(const char* name);
     bool DeleteViewProperty(const char* name);
     znIBrowserViewProperty* FindViewProperty(const char* name);
@@ -264,7 +276,8 @@ public:
     bool DeleteViewPropertyConnect(const char* dataSource);
     bool GetConnectionList(znString& out);
 
-    // ---- Free folders ---------------------------------------------------------------------------------------
+    // ---- Free folders
+    // ---------------------------------------------------------------------------------------
     /// Creates a folder under the current one, or takes the one that exists, and makes it current.
     bool CreateFreeFolder(const char* name);
     /// Deletes a child of the current folder.
@@ -304,7 +317,8 @@ public:
     bool GetFreeFolderSortingException(znString& out);
     bool SetDropItemDataSourceHierarchical(const char* name);
 
-    // ---- Trees and lists of the current folder --------------------------------------------------------------
+    // ---- Trees and lists of the current folder
+    // --------------------------------------------------------------
     bool CreateTree(const char* name);
     bool DeleteTree(const char* name);
     bool GetTreeNames(znString& out);
@@ -330,7 +344,8 @@ public:
     bool ExpandFreeFolderList(bool recursive);
     bool CollapseFreeFolderList(bool recursive);
 
-    // ---- Selection and data items ---------------------------------------------------------------------------
+    // ---- Selection and data items
+    // ---------------------------------------------------------------------------
     bool ClearCurrentViewSelection();
     bool ClearAllSelection();
     bool SetSingleSelection();
@@ -343,8 +358,8 @@ public:
     bool SelectDataItemHierarchicals(bool select, bool recursive);
     bool SelectDataItemHierarchicalsByProp(bool select, bool recursive);
     bool SelectDataItemHierarchicalsByPropAndValue(const char* value, bool select, bool recursive);
-    bool SelectDataItemHierarchicalsByPropAndValues(int count, const std::vector<znString>& values, bool select,
-                                                    bool recursive);
+    bool SelectDataItemHierarchicalsByPropAndValues(int count, const std::vector<znString>& values,
+                                                    bool select, bool recursive);
     /// The current view property's value of each selected item of the current source, in double quotes.
     bool DataItemsSelected(znString& out, bool children, bool recursive);
     bool DataItemsSelectedAll(znString& out, bool children, bool recursive);
@@ -353,7 +368,8 @@ public:
     bool GetSelectedDataItemValues(const char* property, znString& out);
     bool GetSelectedDataItemValues(const char* property, const char* second, znString& out);
 
-    // ---- Sorting and filtering ------------------------------------------------------------------------------
+    // ---- Sorting and filtering
+    // ------------------------------------------------------------------------------
     bool SetSorting(bool sorting);
     bool GetSorting(znString& out);
     bool SetAscendingOrder(bool ascending);
@@ -372,7 +388,8 @@ public:
     bool SetFilterMatchWordFlag(bool& flag);
     bool GetFilterMatchWordFlag(bool& flag);
 
-    // ---- View operations ------------------------------------------------------------------------------------
+    // ---- View operations
+    // ------------------------------------------------------------------------------------
     bool CreateViewOperation(const char* name);
     bool SetCurrentViewOperation(const char* name);
     void SetCurrentViewOperation(znIBrowserViewOperation* operation);
@@ -385,7 +402,8 @@ public:
     bool SetViewOperationEditable(bool editable);
     bool PerformViewOperation();
 
-    // ---- Windows --------------------------------------------------------------------------------------------
+    // ---- Windows
+    // --------------------------------------------------------------------------------------------
     bool CreateWindowAccess(const char* name);
     bool DeleteWindowAccess(const char* name);
     /// Also moves the current view; emits the reselection signal when the window is current already.
@@ -410,7 +428,8 @@ public:
     bool ExpandAllItems();
     bool ExpandSelectedItems();
 
-    // ---- Window parts, events, callbacks, listeners ---------------------------------------------------------
+    // ---- Window parts, events, callbacks, listeners
+    // ---------------------------------------------------------
     bool CreateWindowPart(const char* name, const char* parent);
     bool DeleteWindowPart(const char* name);
     bool SetCurrentWindowPartByName(const char* name);
@@ -456,7 +475,8 @@ public:
     bool DeleteWindowListener(const char* name);
     bool GetWindowListenerNames(znString& out);
 
-    // ---- GUI maps -------------------------------------------------------------------------------------------
+    // ---- GUI maps
+    // -------------------------------------------------------------------------------------------
     bool CreateGuiMap(const char* name);
     bool DeleteGuiMap(const znString& name);
     bool UpdateCurrentGuiMap(const char* name);
@@ -488,7 +508,8 @@ public:
     /// The records of the current map.
     bool GetGuiMapRecordNames(znString& out);
 
-    // ---- Find requests --------------------------------------------------------------------------------------
+    // ---- Find requests
+    // --------------------------------------------------------------------------------------
     bool SetCurrentFindRequest(const znString& name);
     void SetCurrentFindRequestByPtr(znIBrowserFindRequest* request);
     void UpdateCurrentFindRequest(znIBrowserWindowAccess* window);
@@ -526,9 +547,10 @@ public:
     bool SetCurrentFindRequestPropertyCriterionUseregexp(bool useRegexp);
     bool GetCurrentFindRequestPropertyCriterionUseregexp(bool& useRegexp);
 
-    // ---- Events of the Tk tree ------------------------------------------------------------------------------
-    // Each makes the named window current and hands the event to it; the answer is the window's. The error state is
-    // not cleared first.
+    // ---- Events of the Tk tree
+    // ------------------------------------------------------------------------------ Each makes the named
+    // window current and hands the event to it; the answer is the window's. The error state is not cleared
+    // first.
     bool OnTkTreeRequestExpand(const char* window, unsigned int tkIndex);
     bool OnTkTreeRequestCollapse(const char* window, unsigned int tkIndex);
     bool OnTkTreeSetStatePos(const char* window, int position);
@@ -537,13 +559,16 @@ public:
     bool OnTkTreeSelectionUpdate(const char* window, const std::vector<unsigned int>& indices);
     bool OnTkTreeSelectionChangeFinished(const char* window);
     bool OnTkTreePopupMenu(const char* window, bool on);
-    bool OnTkTreeCheckBoxClick(const char* window, const char* column, const char* element, unsigned int tkIndex,
-                               bool value);
+    bool OnTkTreeCheckBoxClick(const char* window, const char* column, const char* element,
+                               unsigned int tkIndex, bool value);
     bool OnTkTreeWindowButtonClick(const char* window, const char* column, const char* element,
                                    unsigned int tkIndex, const char* value);
-    bool OnTkTreeLeftHandClick(const char* window, const char* column, const char* element, unsigned int tkIndex);
-    bool OnTkTreeRightHandClick(const char* window, const char* column, const std::vector<unsigned int>& indices);
-    bool OnTkTreeSetDropItem(const char* window, unsigned int target, const std::vector<unsigned int>& indices);
+    bool OnTkTreeLeftHandClick(const char* window, const char* column, const char* element,
+                               unsigned int tkIndex);
+    bool OnTkTreeRightHandClick(const char* window, const char* column,
+                                const std::vector<unsigned int>& indices);
+    bool OnTkTreeSetDropItem(const char* window, unsigned int target,
+                             const std::vector<unsigned int>& indices);
     bool OnTkTreePerformPopupOperation(const char* window, const char* first, const char* second);
     /// Only checks that the window exists.
     bool OnTkTreeDispElemsToggleClick(const char* window, int value);
@@ -553,21 +578,24 @@ public:
     bool OnTkColListItemSelected(const char* first, const char* second);
     bool OnTkColOptionItemSelected(const char* first, const char* second);
 
-    // ---- Data controls --------------------------------------------------------------------------------------
+    // ---- Data controls
+    // --------------------------------------------------------------------------------------
     bool SetCurrentDataCtrl(const char* name);
     void SetCurrentDataCtrl(znIBrowserDataCtrl* control);
     /// The name of the current data control; "" when there is none, never null.
     const char* GetCurrentDataCtrl() const;
     znIBrowserDataCtrl* GetCurrentDataCtrlPtr() const;
     void ResetCurrentDataCtrl();
-    /// The names of all data controls: each is followed by two blanks, and preceded by one from the second on.
+    /// The names of all data controls: each is followed by two blanks, and preceded by one from the second
+    /// on.
     bool GetDataCtrlNames(znString& out);
     /// Connects the current data control to the current view, which must have none.
     bool DataCtrlConnect();
     /// Takes the data control from the current view.
     bool DataCtrlDisconnect();
 
-    // ---- Simple data sources --------------------------------------------------------------------------------
+    // ---- Simple data sources
+    // --------------------------------------------------------------------------------
     /// True even when the host made nothing. The description is not passed on.
     bool CreateDataSourceSimple(const char* name, const char* caption, const char* description);
     /// True also for an unknown name.
@@ -612,7 +640,8 @@ public:
     /// Does nothing; called by the host when a source goes away.
     void OnDataSourceDelete(znIBrowserDataSourceSimple* source);
 
-    // ---- Hierarchical data sources --------------------------------------------------------------------------
+    // ---- Hierarchical data sources
+    // --------------------------------------------------------------------------
     bool CreateDataSourceHierarchical(const char* name, bool first, bool second, const char* text1,
                                       const char* text2);
     /// A source of the current data control, or null; sets no error.
@@ -639,14 +668,15 @@ public:
     bool DataSourceHierarchicalPropertyNames(znString& out);
     /// Silently false, nothing changes.
     bool GetDataSourceHierarchicalCriteriaNames(znString& out);
-    /// Shares a hierarchical source with another view. An unknown view or source leaves its text in the result
-    /// buffer, and the operation succeeds.
+    /// Shares a hierarchical source with another view. An unknown view or source leaves its text in the
+    /// result buffer, and the operation succeeds.
     bool CreateDataSourceHierarchicalShare(const znString& dataSource, const znString& view);
     bool GetDataSourceHierarchicalSharedNames(znString& out);
     /// Does nothing; called by the host when a source goes away.
     void OnDataSourceDelete(znIBrowserDataSourceHierarchical* source);
 
-    // ---- Criteria and data properties -----------------------------------------------------------------------
+    // ---- Criteria and data properties
+    // -----------------------------------------------------------------------
     bool CreateDataCriteria(const char* name);
     bool DeleteDataCriteria();
     bool SetCurrentCriteria(const char* name);
@@ -668,9 +698,11 @@ public:
     /// A property whose value a Tcl procedure computes.
     bool CreateDataPropertyScripted(const char* name, const char* script);
     /// A property that reads an attribute of the item.
-    bool CreateDataPropertyScripted(const char* name, ZNBROWSER_DATA_TYPE type, unsigned int attributeId, int extra);
+    bool CreateDataPropertyScripted(const char* name, ZNBROWSER_DATA_TYPE type, unsigned int attributeId,
+                                    int extra);
 
-    // ---- Data operations ------------------------------------------------------------------------------------
+    // ---- Data operations
+    // ------------------------------------------------------------------------------------
     bool CreateDataOperation(const char* name);
     bool DeleteDataOperation();
     bool SetCurrentDataOperation(const char* name);
@@ -685,7 +717,8 @@ public:
     bool PerformDataOperation();
     bool SetDataOperationScript(const char* script);
 
-    // ---- Data references ------------------------------------------------------------------------------------
+    // ---- Data references
+    // ------------------------------------------------------------------------------------
     bool GetDataReferencesNames(znString& out);
     /// Looks the reference up in the view's data control.
     bool ConnectDataReference(const znString& name);
@@ -693,7 +726,8 @@ public:
     bool DisconnectDataReference(const znString& name);
     bool GetConnectedDataReferencesNames(znString& out);
 
-    // ---- Input fields ---------------------------------------------------------------------------------------
+    // ---- Input fields
+    // ---------------------------------------------------------------------------------------
     /// Refused while a data control is current, and without one there is nothing to create it in.
     bool CreateInputField(const char* name, const char* type);
     /// Refused while a data control is current.
@@ -712,7 +746,8 @@ public:
     bool SetInputFieldValue(const char* text);
     bool ResetInputFieldValue();
 
-    // ---- States ---------------------------------------------------------------------------------------------
+    // ---- States
+    // ---------------------------------------------------------------------------------------------
     bool SetCurrentState(const char* name);
     void SetCurrentState(znIBrowserState* state);
     bool GetCurrentState(znString& out);
@@ -726,7 +761,8 @@ public:
     /// The configuration kept in the current state, one line an entry, in eight sections.
     bool GetConfigData(std::vector<znString>& lines);
 
-    // ---- Popup menus: kept as current objects, served by the host -------------------------------------------
+    // ---- Popup menus: kept as current objects, served by the host
+    // -------------------------------------------
     znIBrowserPopupMenu* GetCurrentPopupMenuPtr() const;
     void SetCurrentPopupMenu(znIBrowserPopupMenu* menu);
     bool GetCurrentPopupMenu(znString& out);
@@ -744,7 +780,8 @@ private:
     void BeginOperation();
     /// Sets the error text. @return false
     bool Fail(const char* message);
-    /// Joins pieces in the result buffer, a blank before each unless it is the first; null pieces are left out.
+    /// Joins pieces in the result buffer, a blank before each unless it is the first; null pieces are left
+    /// out.
     /// @return false
     bool FailWith(std::initializer_list<const char*> pieces);
     /// Takes over the browser object's error text. @return false
@@ -758,8 +795,9 @@ private:
     znIBrowserView* FindView(const char* name) const;
     znIBrowserWindowAccess* FindWindowAccess(const char* name) const;
 
-    // What dies with a host object. `CurrentsInside` finds, before the host deletes an object, the current objects
-    // that lie in it (the object itself included); `Forget` clears, after it, those of them that are still current.
+    // What dies with a host object. `CurrentsInside` finds, before the host deletes an object, the current
+    // objects that lie in it (the object itself included); `Forget` clears, after it, those of them that are
+    // still current.
     znBrowserCurrentObjects CurrentsInside(znIBrowserView* view) const;
     znBrowserCurrentObjects CurrentsInside(znIBrowserViewColumn* column) const;
     znBrowserCurrentObjects CurrentsInside(znIBrowserStyle* style) const;

@@ -7,13 +7,14 @@
 #include <string>
 #include <vector>
 
-/// Tells which words may follow others: for completion and for help. It reads the tables that the command itself
-/// works with, and evaluates nothing.
+/// Tells which words may follow others: for completion and for help. It reads the tables that the command
+/// itself works with, and evaluates nothing.
 class ZN_API znBrowserTclCommandTree {
 public:
     /// The words that may come next.
     /// @param words  the complete words behind "znbrowsermanager", in any spelling the command accepts
-    /// @param next   out: the plain spellings, in the order in which the usage text lists them; empty where free
+    /// @param next   out: the plain spellings, in the order in which the usage text lists them; empty where
+    /// free
     ///               arguments stand, or where the words lead nowhere
     static void GetNextWords(const std::vector<std::string>& words, std::vector<std::string>& next);
 };

@@ -4,9 +4,9 @@
 
 #include "znBrowserExport.h"
 
-/// A holder without content: its static members are the texts that the command families print when their words
-/// do not fit. Each text is a constant C string, defined in the file of its family beside the command table that
-/// it describes.
+/// A holder without content: its static members are the texts that the command families print when their
+/// words do not fit. Each text is a constant C string, defined in the file of its family beside the command
+/// table that it describes.
 struct ZN_API znBrowserTclMessages {
     // The command and the families that the top level serves.
     static const char* const GENERAL;

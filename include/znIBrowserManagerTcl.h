@@ -10,8 +10,8 @@ struct Tcl_Interp;
 struct Tcl_Obj;
 class znIBrowserViewItemFreeFolder;
 
-/// The host's view of the manager: the command itself, and the services by which the host reaches Tcl scripts.
-/// The order of the operations is part of the interface.
+/// The host's view of the manager: the command itself, and the services by which the host reaches Tcl
+/// scripts. The order of the operations is part of the interface.
 class znIBrowserManagerTcl {
 public:
     /// The body of the "znbrowsermanager" command. `objv[0]` is the command word; the interpreter result
@@ -31,8 +31,9 @@ public:
     virtual Tcl_Interp* GetTclInterp() const = 0;
     /// Hands a popup's input script to "::znbrowser::UpdatePopupInputScript". A null script does nothing.
     virtual bool UpdateTclInputScript(const char* script) = 0;
-    /// Tells the scripts which free folders are selected now: calls "::znbrowser::ResetSelectedFreeFoldersArray",
-    /// then "::znbrowser::AddToSelectedFreeFoldersArray" for each.
+    /// Tells the scripts which free folders are selected now: calls
+    /// "::znbrowser::ResetSelectedFreeFoldersArray", then "::znbrowser::AddToSelectedFreeFoldersArray" for
+    /// each.
     virtual bool UpdateTclFreeFolderSelection(const std::vector<znIBrowserViewItemFreeFolder*>& folders) = 0;
 };
 

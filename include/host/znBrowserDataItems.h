@@ -18,8 +18,8 @@ struct znBrowserDataItem {
     }
 };
 
-/// A list of data items in order, held as row numbers and the runs of rows that share a data source: a million
-/// items of one source cost eight bytes each.
+/// A list of data items in order, held as row numbers and the runs of rows that share a data source: a
+/// million items of one source cost eight bytes each.
 struct znBrowserDataItems {
     /// Rows from `first` up to the next run's `first` (or the end) belong to `source`.
     struct Run {
@@ -44,7 +44,8 @@ struct znBrowserDataItems {
     void ForEach(Visit&& visit) const {
         for (std::size_t run = 0; run < runs.size(); ++run) {
             const std::size_t end = run + 1 < runs.size() ? runs[run + 1].first : rows.size();
-            for (std::size_t i = runs[run].first; i < end; ++i) visit(znBrowserDataItem{runs[run].source, rows[i]});
+            for (std::size_t i = runs[run].first; i < end; ++i)
+                visit(znBrowserDataItem{runs[run].source, rows[i]});
         }
     }
 };

@@ -30,9 +30,9 @@ class znIBrowserWindowAccessList;
 class znIBrowserWindowCallback;
 class znIBrowserWindowPart;
 
-/// The browser object of the host: creates, changes and deletes views, columns, folders, view properties, windows,
-/// callbacks and GUI maps. Unless a comment says otherwise, an operation that returns bool answers false when it is
-/// refused and leaves the reason in `GetError()`.
+/// The browser object of the host: creates, changes and deletes views, columns, folders, view properties,
+/// windows, callbacks and GUI maps. Unless a comment says otherwise, an operation that returns bool answers
+/// false when it is refused and leaves the reason in `GetError()`.
 class znIBrowser {
 public:
     /// One pair of a share: the hierarchical data source, and the other view that shows it.
@@ -57,7 +57,8 @@ public:
                                   const char* icon) = 0;
     virtual bool CreateButtonColumn(znIBrowserView* view, const char* name, const char* argument) = 0;
     virtual bool CreateTextBoxColumn(znIBrowserView* view, const char* name, const char* argument) = 0;
-    virtual bool SetColumnJustify(znIBrowserView* view, znIBrowserViewColumn* column, const char* justify) = 0;
+    virtual bool SetColumnJustify(znIBrowserView* view, znIBrowserViewColumn* column,
+                                  const char* justify) = 0;
     /// `width` is the number of pixels as text.
     virtual bool SetColumnWidth(znIBrowserViewColumn* column, const char* width) = 0;
     virtual bool MoveColumn(znIBrowserView* view, znIBrowserViewColumn* column, int position) = 0;
@@ -76,8 +77,8 @@ public:
     virtual bool DisconnectViewProperty(znIBrowserViewProperty* property, znIBrowserDataSource* source) = 0;
     /// The values of the property come from a Tcl procedure.
     virtual bool ConnectScriptProperty(znIBrowserViewProperty* property, const char* argument) = 0;
-    /// The pair of scripts of a property: one that takes a changed value, one that gives the value. The meaning
-    /// of the third text is the host's.
+    /// The pair of scripts of a property: one that takes a changed value, one that gives the value. The
+    /// meaning of the third text is the host's.
     virtual bool SetViewPropertyScripts(znIBrowserViewProperty* property, const char* updateScript,
                                         const char* getScript, const char* third) = 0;
     virtual bool SetViewPropertyType(znIBrowserView* view, znIBrowserViewProperty* property,
@@ -94,7 +95,8 @@ public:
     virtual bool SetFreeFolderStyle(znIBrowserViewItemFreeFolder* folder, bool style) = 0;
     virtual bool SetFreeFolderShowEmptyContainers(znIBrowserViewItemFreeFolder* folder, bool show) = 0;
     virtual bool DestroyFreeFolder(znIBrowserViewItemFreeFolder* folder, bool recursive) = 0;
-    virtual bool RemoveTree(znIBrowserViewItemFreeFolder* folder, znIBrowserDataSourceHierarchical* source) = 0;
+    virtual bool RemoveTree(znIBrowserViewItemFreeFolder* folder,
+                            znIBrowserDataSourceHierarchical* source) = 0;
     virtual bool SetTreeGroup(znIBrowserViewItemFreeFolder* folder, znIBrowserDataSourceHierarchical* source,
                               bool group, bool second) = 0;
     /// Shows or hides the items of one child source in the folder's tree.
@@ -108,8 +110,8 @@ public:
     virtual bool RemoveList(znIBrowserViewItemFreeFolder* folder, znIBrowserDataSourceSimple* source) = 0;
     virtual bool SetListCaption(znIBrowserViewItemFreeFolder* folder, znIBrowserDataSourceSimple* source,
                                 const char* caption) = 0;
-    virtual bool SetListGroup(znIBrowserViewItemFreeFolder* folder, znIBrowserDataSourceSimple* source, bool group,
-                              bool second) = 0;
+    virtual bool SetListGroup(znIBrowserViewItemFreeFolder* folder, znIBrowserDataSourceSimple* source,
+                              bool group, bool second) = 0;
     /// Draws the list's items in that column with that style (`use` true) or with the column's own.
     virtual bool SetListStyle(znIBrowserViewItemFreeFolder* folder, znIBrowserDataSourceSimple* source,
                               znIBrowserViewColumn* column, znIBrowserStyle* style, bool use) = 0;
@@ -117,7 +119,8 @@ public:
                             bool recursive) = 0;
     virtual bool CollapseList(znIBrowserViewItemFreeFolder* folder, znIBrowserDataSourceSimple* source,
                               bool recursive) = 0;
-    virtual bool ExpandFreeFolder(znIBrowserView* view, znIBrowserViewItemFreeFolder* folder, bool recursive) = 0;
+    virtual bool ExpandFreeFolder(znIBrowserView* view, znIBrowserViewItemFreeFolder* folder,
+                                  bool recursive) = 0;
     virtual bool CollapseFreeFolder(znIBrowserView* view, znIBrowserViewItemFreeFolder* folder,
                                     bool recursive) = 0;
     virtual bool SetFreeFolderShowEmptyFolders(znIBrowserViewItemFreeFolder* folder, bool show,
@@ -154,7 +157,8 @@ public:
     virtual bool DeleteWindowPart(znIBrowserWindowPart* part) = 0;
     virtual bool SetWindowPartShown(znIBrowserWindowPart* part, bool shown) = 0;
     virtual bool CreateWindowCallback(znIBrowserEvent* event, const char* name, bool isWindowOperation) = 0;
-    virtual bool SetCallbackActionWindow(znIBrowserWindowCallback* callback, znIBrowserWindowAccess* window) = 0;
+    virtual bool SetCallbackActionWindow(znIBrowserWindowCallback* callback,
+                                         znIBrowserWindowAccess* window) = 0;
     virtual bool SetCallbackOperation(znIBrowserWindowCallback* callback,
                                       ZNBROWSER_CALLBACK_OPERATION operation) = 0;
 

@@ -14,9 +14,11 @@ struct Tcl_Obj;
 /// The host application. General contract of the host interfaces, here and in the neighbouring headers:
 /// - Every object belongs to the host. The scripting layer keeps plain pointers and never deletes one; the
 ///   destructors are therefore protected.
-/// - A C string that an operation returns belongs to the host, stays valid until the next change of the object
+/// - A C string that an operation returns belongs to the host, stays valid until the next change of the
+/// object
 ///   that gave it, and may be null.
-/// - An operation that returns bool answers false when the host refuses, and leaves its reason in the error text
+/// - An operation that returns bool answers false when the host refuses, and leaves its reason in the error
+/// text
 ///   of the browser object (`znIBrowser::GetError`).
 /// - An operation that fills a list replaces what the caller's list held.
 /// - The order of the operations is part of the interface.
@@ -33,7 +35,8 @@ public:
     virtual const char* GetTclNameSpace() = 0;
     /// The interpreter in which "znbrowsermanager" lives. It outlives the manager.
     virtual Tcl_Interp* GetTclInterp() = 0;
-    /// The host's own words, those that follow "znbrowsermanager app". Puts its answer into the interpreter result.
+    /// The host's own words, those that follow "znbrowsermanager app". Puts its answer into the interpreter
+    /// result.
     /// @return a Tcl code; only TCL_ERROR is passed on to the script.
     virtual int EvalAppCommand(int objc, Tcl_Obj* const objv[]) = 0;
     /// Emitted with the window's name when a script selects the window that is current already.

@@ -2,8 +2,8 @@
 #ifndef ZN_I_BROWSER_CRITERIA_H
 #define ZN_I_BROWSER_CRITERIA_H
 
-#include "host/znutl/znString.h"
 #include "host/znutl/znStlVector.h"
+#include "host/znutl/znString.h"
 #include "znBrowserTypes.h"
 #include <vector>
 

@@ -21,7 +21,8 @@ public:
     // Simple data sources.
     virtual void GetDataSourcesSimple(std::vector<znIBrowserDataSourceSimple*>& sources) = 0;
     virtual znIBrowserDataSourceSimple* FindDataSourceSimple(const char* name) = 0;
-    /// Makes a custom source. `description` may be null. The result is not used: the caller looks the source up.
+    /// Makes a custom source. `description` may be null. The result is not used: the caller looks the source
+    /// up.
     virtual bool CreateDataSourceSimple(const char* name, const char* caption, const char* description) = 0;
     /// Deletes a custom source with all that belongs to it. The result is not used.
     virtual bool DeleteDataSourceSimple(const char* name) = 0;
@@ -40,7 +41,8 @@ public:
     virtual znIBrowserDataOperation* FindDataOperation(const char* name) = 0;
 
     virtual bool SetDataSourceSimpleCaption(znIBrowserDataSourceSimple* source, const char* caption) = 0;
-    virtual bool SetDataSourceSimpleFilterCaption(znIBrowserDataSourceSimple* source, const char* caption) = 0;
+    virtual bool SetDataSourceSimpleFilterCaption(znIBrowserDataSourceSimple* source,
+                                                  const char* caption) = 0;
 
     /// Any data source, simple or hierarchical, usable as a tree parent; null when unknown.
     virtual znIBrowserDataSource* FindDataSource(const char* name) = 0;

@@ -23,8 +23,8 @@ public:
     /// The data property of that name, or null.
     virtual znIBrowserDataProperty* FindDataProperty(const char* name) = 0;
 
-    // Selection. Each works on the items that `view` shows of this source: on them alone, or, with `recursive`,
-    // also on what lies below them. `select` false deselects.
+    // Selection. Each works on the items that `view` shows of this source: on them alone, or, with
+    // `recursive`, also on what lies below them. `select` false deselects.
     virtual bool SelectItems(znIBrowserView* view, bool select, bool recursive) = 0;
     /// The items that have a value of that property.
     virtual bool SelectItemsByProperty(znIBrowserView* view, znIBrowserViewProperty* property, bool select,

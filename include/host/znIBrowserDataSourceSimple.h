@@ -12,8 +12,8 @@ class znIBrowserDataCtrl;
 class znIBrowserDataProperty;
 class znIBrowserDataSource;
 
-/// A flat source of data items. A base source comes with the data control; a custom (scripted) one is made by a
-/// script, gets its items from the base sources connected to it, and keeps criteria.
+/// A flat source of data items. A base source comes with the data control; a custom (scripted) one is made by
+/// a script, gets its items from the base sources connected to it, and keeps criteria.
 class znIBrowserDataSourceSimple {
 public:
     virtual const char* GetName() const = 0;
@@ -43,8 +43,8 @@ public:
     // Data properties.
     virtual bool GetDataProperties(std::vector<znIBrowserDataProperty*>& properties) = 0;
     /// A property that reads an attribute of the item. The meaning of `extra` is the host's.
-    virtual bool CreateDataPropertyAttribute(const char* name, ZNBROWSER_DATA_TYPE type, unsigned int attributeId,
-                                             int extra) = 0;
+    virtual bool CreateDataPropertyAttribute(const char* name, ZNBROWSER_DATA_TYPE type,
+                                             unsigned int attributeId, int extra) = 0;
     /// A property whose value a Tcl procedure computes for each item.
     virtual bool CreateDataPropertyScript(const char* name, const char* script) = 0;
     virtual bool DeleteDataProperty(const char* name) = 0;

@@ -32,8 +32,8 @@ public:
     virtual znIBrowserViewColumn* GetCurrentColumn() = 0;
     /// The folder that holds all other folders, or null.
     virtual znIBrowserViewItemFreeFolder* GetRootFreeFolder() = 0;
-    /// True when data sources connect to the view itself (the new connection scheme), false when they are found
-    /// through the view's data control (the classic scheme).
+    /// True when data sources connect to the view itself (the new connection scheme), false when they are
+    /// found through the view's data control (the classic scheme).
     virtual bool UsesNewConnections() const = 0;
     /// The browser object that keeps the view, and its shares.
     virtual znIBrowser* GetBrowser() = 0;
@@ -74,7 +74,8 @@ public:
     // Selection.
     virtual bool ClearSelection() = 0;
     /// The selected items of one data source; with `recursive` also the selected items below its items.
-    virtual bool GetSelectedItems(znIBrowserDataSource* source, bool recursive, znBrowserDataItems& items) = 0;
+    virtual bool GetSelectedItems(znIBrowserDataSource* source, bool recursive,
+                                  znBrowserDataItems& items) = 0;
     /// The selected items of every data source of the view.
     virtual bool GetAllSelectedItems(bool recursive, znBrowserDataItems& items) = 0;
 

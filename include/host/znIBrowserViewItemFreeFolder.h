@@ -55,7 +55,8 @@ public:
     virtual znIBrowserDataSource* GetCurrentDataSource() = 0;
     virtual bool SetCurrentDataSource(znIBrowserDataSource* source) = 0;
     /// Whether the items of that data source are drawn, in that column, with the folder's own style.
-    virtual bool SetDataSourceStyle(znIBrowserDataSource* source, znIBrowserViewColumn* column, bool style) = 0;
+    virtual bool SetDataSourceStyle(znIBrowserDataSource* source, znIBrowserViewColumn* column,
+                                    bool style) = 0;
 
 protected:
     ~znIBrowserViewItemFreeFolder() = default;

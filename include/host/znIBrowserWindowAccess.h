@@ -32,8 +32,8 @@ public:
     virtual bool AddListener(const char* name) = 0;
     virtual bool DeleteListener(const char* name) = 0;
 
-    // Events of the Tk tree. Each returns false when the window does not accept the event, for instance because
-    // an index does not exist (any more).
+    // Events of the Tk tree. Each returns false when the window does not accept the event, for instance
+    // because an index does not exist (any more).
     virtual bool RequestExpand(unsigned int index) = 0;
     virtual bool RequestCollapse(unsigned int index) = 0;
     virtual bool SetStatePos(int position) = 0;

@@ -63,7 +63,8 @@ public:
     /// What a getter gives, or the banner.
     void AnswerValue(Getter getter);
     void AnswerValue(FlagGetter getter);
-    /// Without a word at that position the getter's value. With one, sets it first: a failure answers the banner.
+    /// Without a word at that position the getter's value. With one, sets it first: a failure answers the
+    /// banner.
     void SetThenAnswer(int position, TextSetter setter, Getter getter);
     /// The outcome of an operation without arguments.
     void Run(Action action) { AnswerOutcome((manager.*action)()); }

@@ -6,8 +6,8 @@
 
 class znBrowserManagerTcl;
 
-/// Holds the collector's place beside the manager: whose it is, and the text that the collector words keep. The
-/// manager creates it with itself; only `DeleteBrowserManagerCollectorTcl` destroys it.
+/// Holds the collector's place beside the manager: whose it is, and the text that the collector words keep.
+/// The manager creates it with itself; only `DeleteBrowserManagerCollectorTcl` destroys it.
 class znBrowserManagerCollectorTcl {
 public:
     explicit znBrowserManagerCollectorTcl(znBrowserManagerTcl* manager) : manager_(manager) {}

@@ -16,12 +16,13 @@ int AnswerException(znIBrowserManagerTcl& manager, const char* message) noexcept
         reporter.SetError(message);
         Tcl_SetObjResult(interp, Tcl_NewStringObj(reporter.GetError(), -1));
     } catch (...) {
-        Tcl_SetResult(interp, const_cast<char*>("[Command] znbrowsermanager\n\t[Error] out of memory"), TCL_STATIC);
+        Tcl_SetResult(interp, const_cast<char*>("[Command] znbrowsermanager\n\t[Error] out of memory"),
+                      TCL_STATIC);
     }
     return TCL_OK;
 }
 
-}  // namespace
+} // namespace
 
 int CommandProcedure(void* clientData, Tcl_Interp*, int objc, Tcl_Obj* const objv[]) {
     znIBrowserManagerTcl& manager = *static_cast<znIBrowserManagerTcl*>(clientData);

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 const CommandRow* CommandLevel::Find(Keyword keyword) const {
-    const CommandRow* const row =
-        std::find_if(begin(), end(), [keyword](const CommandRow& candidate) { return candidate.keyword == keyword; });
+    const CommandRow* const row = std::find_if(
+        begin(), end(), [keyword](const CommandRow& candidate) { return candidate.keyword == keyword; });
     return row == end() ? nullptr : row;
 }
 

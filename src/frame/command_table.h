@@ -8,8 +8,8 @@
 
 struct CommandLevel;
 
-/// One word of a level. It is answered by a function, or leads to the level of the words that follow it. A row
-/// that has both is answered by the function; the level then tells completion what may follow.
+/// One word of a level. It is answered by a function, or leads to the level of the words that follow it. A
+/// row that has both is answered by the function; the level then tells completion what may follow.
 struct CommandRow {
     Keyword keyword;
     void (*answer)(Call& call);
@@ -44,7 +44,8 @@ void RunLevel(Call& call, const CommandLevel& level, int position);
 /// Runs a whole command family: its words begin at position 2. @return the Tcl code
 int RunFamily(znBrowserManagerTcl& manager, const CommandLevel& level, int objc, Tcl_Obj* const objv[]);
 
-// The levels of the command language, from which completion reads it. Each is defined in the file of its name.
+// The levels of the command language, from which completion reads it. Each is defined in the file of its
+// name.
 extern const CommandLevel topLevel;
 extern const CommandLevel viewLevel;
 extern const CommandLevel viewColumnLevel;

@@ -3,7 +3,8 @@
 #include "frame/command_table.h"
 #include "frame/shared_keywords.h"
 
-void znBrowserTclCommandTree::GetNextWords(const std::vector<std::string>& words, std::vector<std::string>& next) {
+void znBrowserTclCommandTree::GetNextWords(const std::vector<std::string>& words,
+                                           std::vector<std::string>& next) {
     next.clear();
     const CommandLevel* level = &topLevel;
     for (const std::string& word : words) {
@@ -12,6 +13,7 @@ void znBrowserTclCommandTree::GetNextWords(const std::vector<std::string>& words
         level = row->level;
     }
     for (const CommandRow& row : *level) {
-        if (const char* const spelling = znBrowserTclKeywords::GetSpelling(row.keyword)) next.emplace_back(spelling);
+        if (const char* const spelling = znBrowserTclKeywords::GetSpelling(row.keyword))
+            next.emplace_back(spelling);
     }
 }

@@ -1,8 +1,9 @@
 // Which current objects die with an object that the host deletes.
 //
-// The host never tells when an object dies. An operation that deletes one asks before, through the owners that
-// objects name, which of the current objects lie in it, and clears those after the deletion. An object whose owner
-// the host cannot tell counts as lying in the one that dies: no current object is safer than a dead one.
+// The host never tells when an object dies. An operation that deletes one asks before, through the owners
+// that objects name, which of the current objects lie in it, and clears those after the deletion. An object
+// whose owner the host cannot tell counts as lying in the one that dies: no current object is safer than a
+// dead one.
 #include "host/znIBrowser.h"
 #include "host/znIBrowserCriteria.h"
 #include "host/znIBrowserEvent.h"
@@ -54,7 +55,8 @@ znIBrowserView* ViewOf(znIBrowserStyle* style) {
     return column ? column->GetView() : nullptr;
 }
 
-bool Holds(znIBrowserWindowAccess* window, const znBrowserProperty* property, const znBrowserCriterion* criterion) {
+bool Holds(znIBrowserWindowAccess* window, const znBrowserProperty* property,
+           const znBrowserCriterion* criterion) {
     std::vector<znIBrowserFindRequest*> requests;
     std::vector<znBrowserProperty*> properties;
     window->GetFindRequests(requests);
@@ -63,15 +65,16 @@ bool Holds(znIBrowserWindowAccess* window, const znBrowserProperty* property, co
         for (const znBrowserProperty* const candidate : properties) {
             if (property && candidate == property) return true;
             const auto& criteria = candidate->criteria;
-            if (criterion && std::find(criteria.begin(), criteria.end(), criterion) != criteria.end()) return true;
+            if (criterion && std::find(criteria.begin(), criteria.end(), criterion) != criteria.end())
+                return true;
         }
     }
     return false;
 }
 
 /// The records of find requests name no owner: one is safe when a window other than the dying one holds it.
-bool OtherWindowHolds(znIBrowser* browser, const znIBrowserWindowAccess* dying, const znBrowserProperty* property,
-                      const znBrowserCriterion* criterion) {
+bool OtherWindowHolds(znIBrowser* browser, const znIBrowserWindowAccess* dying,
+                      const znBrowserProperty* property, const znBrowserCriterion* criterion) {
     std::vector<znIBrowserWindowAccess*> windows;
     znIBrowserWindowAccessList* const list = browser ? browser->GetWindowAccessList() : nullptr;
     if (list) list->GetWindowAccesses(windows, 0);
@@ -80,7 +83,7 @@ bool OtherWindowHolds(znIBrowser* browser, const znIBrowserWindowAccess* dying, 
     });
 }
 
-}  // namespace
+} // namespace
 
 Currents znBrowserManagerTcl::CurrentsInside(znIBrowserView* view) const {
     Currents doomed;
@@ -140,7 +143,9 @@ Currents znBrowserManagerTcl::CurrentsInside(znIBrowserWindowAccess* window) con
 
 Currents znBrowserManagerTcl::CurrentsInside(znIBrowserWindowPart* part) const {
     Currents doomed;
-    const auto dies = [part](znIBrowserEvent* event) { return !event || MayLieIn(event->GetWindowPart(), part); };
+    const auto dies = [part](znIBrowserEvent* event) {
+        return !event || MayLieIn(event->GetWindowPart(), part);
+    };
     if (current_.windowPart && MayLieIn(current_.windowPart, part)) doomed.windowPart = current_.windowPart;
     if (current_.event && dies(current_.event)) doomed.event = current_.event;
     if (current_.windowCallback && dies(current_.windowCallback->GetEvent()))
@@ -152,7 +157,8 @@ Currents znBrowserManagerTcl::CurrentsInside(znIBrowserDataSourceSimple* source)
     Currents doomed;
     if (current_.dataSourceSimple == source) doomed.dataSourceSimple = source;
     if (current_.list == source) doomed.list = source;
-    if (current_.criteria && MayBe(current_.criteria->GetDataSource(), source)) doomed.criteria = current_.criteria;
+    if (current_.criteria && MayBe(current_.criteria->GetDataSource(), source))
+        doomed.criteria = current_.criteria;
     return doomed;
 }
 

@@ -18,11 +18,13 @@ const char* NameOf(const T* object) {
     return name ? name : "";
 }
 
-}  // namespace
+} // namespace
 
 const char* znBrowserManagerTcl::GetCurrentDataCtrl() const { return NameOf(current_.dataCtrl); }
 
-const char* znBrowserManagerTcl::GetCurrentDataSourceSimple() const { return NameOf(current_.dataSourceSimple); }
+const char* znBrowserManagerTcl::GetCurrentDataSourceSimple() const {
+    return NameOf(current_.dataSourceSimple);
+}
 
 const char* znBrowserManagerTcl::GetCurrentDataSourceHierarchical() const {
     return NameOf(current_.dataSourceHierarchical);

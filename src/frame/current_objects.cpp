@@ -23,57 +23,105 @@ T* First(const std::vector<T*>& list) {
     return list.empty() ? nullptr : list.front();
 }
 
-}  // namespace
+} // namespace
 
 // ---- Reading ----
 znIBrowserView* znBrowserManagerTcl::GetCurrentViewPtr() const { return current_.view; }
 znIBrowserViewColumn* znBrowserManagerTcl::GetCurrentColumnPtr() const { return current_.column; }
 znIBrowserStyle* znBrowserManagerTcl::GetCurrentStylePtr() const { return current_.style; }
-znIBrowserStyleElement* znBrowserManagerTcl::GetCurrentStyleElementPtr() const { return current_.styleElement; }
-znIBrowserViewItemFreeFolder* znBrowserManagerTcl::GetCurrentFreeFolderPtr() const { return current_.freeFolder; }
+znIBrowserStyleElement* znBrowserManagerTcl::GetCurrentStyleElementPtr() const {
+    return current_.styleElement;
+}
+znIBrowserViewItemFreeFolder* znBrowserManagerTcl::GetCurrentFreeFolderPtr() const {
+    return current_.freeFolder;
+}
 znIBrowserDataSourceSimple* znBrowserManagerTcl::GetCurrentListPtr() const { return current_.list; }
-znIBrowserViewOperation* znBrowserManagerTcl::GetCurrentViewOperationPtr() const { return current_.viewOperation; }
-znIBrowserViewProperty* znBrowserManagerTcl::GetCurrentViewPropertyPtr() const { return current_.viewProperty; }
-znIBrowserWindowAccess* znBrowserManagerTcl::GetCurrentWindowAccessPtr() const { return current_.windowAccess; }
+znIBrowserViewOperation* znBrowserManagerTcl::GetCurrentViewOperationPtr() const {
+    return current_.viewOperation;
+}
+znIBrowserViewProperty* znBrowserManagerTcl::GetCurrentViewPropertyPtr() const {
+    return current_.viewProperty;
+}
+znIBrowserWindowAccess* znBrowserManagerTcl::GetCurrentWindowAccessPtr() const {
+    return current_.windowAccess;
+}
 znIBrowserWindowPart* znBrowserManagerTcl::GetCurrentWindowPartPtr() const { return current_.windowPart; }
 znIBrowserEvent* znBrowserManagerTcl::GetCurrentEventPtr() const { return current_.event; }
-znIBrowserWindowCallback* znBrowserManagerTcl::GetCurrentWindowCallbackPtr() const { return current_.windowCallback; }
+znIBrowserWindowCallback* znBrowserManagerTcl::GetCurrentWindowCallbackPtr() const {
+    return current_.windowCallback;
+}
 znIBrowserGuiMap* znBrowserManagerTcl::GetCurrentGuiMapPtr() const { return current_.guiMap; }
 znIBrowserFindRequest* znBrowserManagerTcl::GetCurrentFindRequestPtr() const { return current_.findRequest; }
-znBrowserProperty* znBrowserManagerTcl::GetCurrentFindRequestPropertyPtr() const { return current_.findRequestProperty; }
-znBrowserCriterion* znBrowserManagerTcl::GetCurrentFindRequestPropertyCriterionPtr() const { return current_.findRequestPropertyCriterion; }
+znBrowserProperty* znBrowserManagerTcl::GetCurrentFindRequestPropertyPtr() const {
+    return current_.findRequestProperty;
+}
+znBrowserCriterion* znBrowserManagerTcl::GetCurrentFindRequestPropertyCriterionPtr() const {
+    return current_.findRequestPropertyCriterion;
+}
 znIBrowserDataCtrl* znBrowserManagerTcl::GetCurrentDataCtrlPtr() const { return current_.dataCtrl; }
-znIBrowserDataSourceSimple* znBrowserManagerTcl::GetCurrentDataSourceSimplePtr() const { return current_.dataSourceSimple; }
-znIBrowserDataSourceHierarchical* znBrowserManagerTcl::GetCurrentDataSourceHierarchicalPtr() const { return current_.dataSourceHierarchical; }
+znIBrowserDataSourceSimple* znBrowserManagerTcl::GetCurrentDataSourceSimplePtr() const {
+    return current_.dataSourceSimple;
+}
+znIBrowserDataSourceHierarchical* znBrowserManagerTcl::GetCurrentDataSourceHierarchicalPtr() const {
+    return current_.dataSourceHierarchical;
+}
 znIBrowserCriteria* znBrowserManagerTcl::GetCurrentCriteriaPtr() const { return current_.criteria; }
-znIBrowserDataOperation* znBrowserManagerTcl::GetCurrentDataOperationPtr() const { return current_.dataOperation; }
+znIBrowserDataOperation* znBrowserManagerTcl::GetCurrentDataOperationPtr() const {
+    return current_.dataOperation;
+}
 znIBrowserInputField* znBrowserManagerTcl::GetCurrentInputFieldPtr() const { return current_.inputField; }
 znIBrowserState* znBrowserManagerTcl::GetCurrentStatePtr() const { return current_.state; }
 znIBrowserPopupMenu* znBrowserManagerTcl::GetCurrentPopupMenuPtr() const { return current_.popupMenu; }
-znIBrowserPopupMenuItem* znBrowserManagerTcl::GetCurrentPopupMenuItemPtr() const { return current_.popupMenuItem; }
-znIBrowserDataSourceSimple* znBrowserManagerTcl::GetCurrentConnectDataSourceSimplePtr() const { return current_.connectDataSourceSimple; }
+znIBrowserPopupMenuItem* znBrowserManagerTcl::GetCurrentPopupMenuItemPtr() const {
+    return current_.popupMenuItem;
+}
+znIBrowserDataSourceSimple* znBrowserManagerTcl::GetCurrentConnectDataSourceSimplePtr() const {
+    return current_.connectDataSourceSimple;
+}
 
 // ---- Storing ----
 void znBrowserManagerTcl::SetCurrentColumn(znIBrowserViewColumn* column) { current_.column = column; }
-void znBrowserManagerTcl::SetCurrentStyleElement(znIBrowserStyleElement* element) { current_.styleElement = element; }
-void znBrowserManagerTcl::SetCurrentFreeFolder(znIBrowserViewItemFreeFolder* folder) { current_.freeFolder = folder; }
+void znBrowserManagerTcl::SetCurrentStyleElement(znIBrowserStyleElement* element) {
+    current_.styleElement = element;
+}
+void znBrowserManagerTcl::SetCurrentFreeFolder(znIBrowserViewItemFreeFolder* folder) {
+    current_.freeFolder = folder;
+}
 void znBrowserManagerTcl::SetCurrentList(znIBrowserDataSourceSimple* list) { current_.list = list; }
-void znBrowserManagerTcl::SetCurrentViewOperation(znIBrowserViewOperation* operation) { current_.viewOperation = operation; }
-void znBrowserManagerTcl::SetCurrentViewProperty(znIBrowserViewProperty* property) { current_.viewProperty = property; }
-void znBrowserManagerTcl::SetCurrentWindowPartByPtr(znIBrowserWindowPart* part) { current_.windowPart = part; }
+void znBrowserManagerTcl::SetCurrentViewOperation(znIBrowserViewOperation* operation) {
+    current_.viewOperation = operation;
+}
+void znBrowserManagerTcl::SetCurrentViewProperty(znIBrowserViewProperty* property) {
+    current_.viewProperty = property;
+}
+void znBrowserManagerTcl::SetCurrentWindowPartByPtr(znIBrowserWindowPart* part) {
+    current_.windowPart = part;
+}
 void znBrowserManagerTcl::SetCurrentEvent(znIBrowserEvent* event) { current_.event = event; }
-void znBrowserManagerTcl::SetCurrentWindowCallback(znIBrowserWindowCallback* callback) { current_.windowCallback = callback; }
+void znBrowserManagerTcl::SetCurrentWindowCallback(znIBrowserWindowCallback* callback) {
+    current_.windowCallback = callback;
+}
 void znBrowserManagerTcl::SetCurrentGuiMap(znIBrowserGuiMap* map) { current_.guiMap = map; }
-void znBrowserManagerTcl::SetCurrentFindRequestByPtr(znIBrowserFindRequest* request) { current_.findRequest = request; }
-void znBrowserManagerTcl::SetCurrentFindRequestPropertyByPtr(znBrowserProperty* property) { current_.findRequestProperty = property; }
-void znBrowserManagerTcl::SetCurrentFindRequestPropertyCriterionByPtr(znBrowserCriterion* criterion) { current_.findRequestPropertyCriterion = criterion; }
+void znBrowserManagerTcl::SetCurrentFindRequestByPtr(znIBrowserFindRequest* request) {
+    current_.findRequest = request;
+}
+void znBrowserManagerTcl::SetCurrentFindRequestPropertyByPtr(znBrowserProperty* property) {
+    current_.findRequestProperty = property;
+}
+void znBrowserManagerTcl::SetCurrentFindRequestPropertyCriterionByPtr(znBrowserCriterion* criterion) {
+    current_.findRequestPropertyCriterion = criterion;
+}
 void znBrowserManagerTcl::SetCurrentDataCtrl(znIBrowserDataCtrl* control) { current_.dataCtrl = control; }
 void znBrowserManagerTcl::SetCurrentCriteria(znIBrowserCriteria* criteria) { current_.criteria = criteria; }
-void znBrowserManagerTcl::SetCurrentDataOperation(znIBrowserDataOperation* operation) { current_.dataOperation = operation; }
+void znBrowserManagerTcl::SetCurrentDataOperation(znIBrowserDataOperation* operation) {
+    current_.dataOperation = operation;
+}
 void znBrowserManagerTcl::SetCurrentInputField(znIBrowserInputField* field) { current_.inputField = field; }
 void znBrowserManagerTcl::SetCurrentState(znIBrowserState* state) { current_.state = state; }
 void znBrowserManagerTcl::SetCurrentPopupMenu(znIBrowserPopupMenu* menu) { current_.popupMenu = menu; }
-void znBrowserManagerTcl::SetCurrentPopupMenuItem(znIBrowserPopupMenuItem* item) { current_.popupMenuItem = item; }
+void znBrowserManagerTcl::SetCurrentPopupMenuItem(znIBrowserPopupMenuItem* item) {
+    current_.popupMenuItem = item;
+}
 
 void znBrowserManagerTcl::SetCurrentView(znIBrowserView* view) {
     current_.view = view;
@@ -116,7 +164,9 @@ void znBrowserManagerTcl::ResetCurrentEvent() { current_.event = nullptr; }
 void znBrowserManagerTcl::ResetCurrentWindowCallback() { current_.windowCallback = nullptr; }
 void znBrowserManagerTcl::ResetCurrentFindRequest() { current_.findRequest = nullptr; }
 void znBrowserManagerTcl::ResetCurrentFindRequestProperty() { current_.findRequestProperty = nullptr; }
-void znBrowserManagerTcl::ResetCurrentFindRequestPropertyCriterion() { current_.findRequestPropertyCriterion = nullptr; }
+void znBrowserManagerTcl::ResetCurrentFindRequestPropertyCriterion() {
+    current_.findRequestPropertyCriterion = nullptr;
+}
 void znBrowserManagerTcl::ResetCurrentDataCtrl() { current_.dataCtrl = nullptr; }
 void znBrowserManagerTcl::ResetCurrentCriteria() { current_.criteria = nullptr; }
 void znBrowserManagerTcl::ResetCurrentDataOperation() { current_.dataOperation = nullptr; }

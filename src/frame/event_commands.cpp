@@ -55,7 +55,8 @@ const char* const znBrowserTclMessages::ON_CHECK_BOX_CLICK =
     "    \tnewvalue                          New value to be assigned to the selected checkbox.\n\n";
 
 const char* const znBrowserTclMessages::ON_WINDOW_BUTTON_CLICK =
-    "    znbrowsermanager OnTkTreeWindowButtonClick windowname columnname styleelementname tkindex newvalue \n\n"
+    "    znbrowsermanager OnTkTreeWindowButtonClick windowname columnname styleelementname tkindex newvalue "
+    "\n\n"
     "    \tArguments:\n"
     "    \twindowname                        existing window name\n"
     "    \tcolumnname                        existing column name\n"
@@ -106,7 +107,8 @@ void AnswerIndexEvent(Call& call, bool (Manager::*handler)(const char*, unsigned
 }
 
 /// Selection: the window and a list of indices. A list without indices is no event at all.
-void AnswerSelectionEvent(Call& call, bool (Manager::*handler)(const char*, const std::vector<unsigned int>&)) {
+void AnswerSelectionEvent(Call& call,
+                          bool (Manager::*handler)(const char*, const std::vector<unsigned int>&)) {
     if (call.Count() < 4) return;
     std::vector<unsigned int> indices;
     if (!call.Has(2) || !call.Indices(3, indices)) return call.Answer(Messages::ON_REQUEST_SELECT);
@@ -124,7 +126,7 @@ void AnswerCollectorEvent(Call& call, bool (Manager::*handler)(const char*, cons
     call.AnswerOutcome((call.manager.*handler)(call.Text(2), call.Text(3)));
 }
 
-}  // namespace
+} // namespace
 
 void OnRequestCollapse(Call& call) {
     AnswerIndexEvent(call, &Manager::OnTkTreeRequestCollapse, Messages::ON_REQUEST_COLLAPSE);
@@ -208,7 +210,8 @@ void OnSetDropItem(Call& call) {
     std::vector<unsigned int> indices;
     if (!call.Has(2) || !call.Integer(3, target) || target < 0 || !call.Has(4) || !call.Indices(4, indices))
         return call.Answer(Messages::ON_DRAG_AND_DROP);
-    call.AnswerOutcome(call.manager.OnTkTreeSetDropItem(call.Text(2), static_cast<unsigned int>(target), indices));
+    call.AnswerOutcome(
+        call.manager.OnTkTreeSetDropItem(call.Text(2), static_cast<unsigned int>(target), indices));
 }
 
 void OnColListItemSelected(Call& call) { AnswerCollectorEvent(call, &Manager::OnTkColListItemSelected); }

@@ -4,7 +4,8 @@
 
 class Call;
 
-// One answer per event: reads the arguments and calls the manager's handler. A success leaves the result empty.
+// One answer per event: reads the arguments and calls the manager's handler. A success leaves the result
+// empty.
 void OnRequestCollapse(Call& call);
 void OnRequestCollapseAll(Call& call);
 void OnRequestDeselect(Call& call);

@@ -1,6 +1,6 @@
 // Construction, copies and destruction of the manager, and the registration of the command.
-#include "frame/command_entry.h"
 #include "frame/collector_helper.h"
+#include "frame/command_entry.h"
 #include "host/znIBrowserApplication.h"
 #include "host/znIBrowserInfo.h"
 #include "view/view_helper.h"
@@ -17,13 +17,15 @@ public:
     const char* GetVersion() const override { return "1.0"; }
 };
 
-}  // namespace
+} // namespace
 
 const znBrowserTclMessages znBrowserManagerTcl::TCLMESSAGE{};
 const char* const znBrowserManagerTcl::DEFAULT_IMAGES_GUIMAP = "default_images_guimap";
 const char* const znBrowserManagerTcl::DEFAULT_COLORS_GUIMAP = "default_colors_guimap";
 
-znBrowserManagerTcl::znBrowserManagerTcl(znIBrowserApplication* application) : application_(application) { Init(); }
+znBrowserManagerTcl::znBrowserManagerTcl(znIBrowserApplication* application) : application_(application) {
+    Init();
+}
 
 znBrowserManagerTcl::znBrowserManagerTcl(const znBrowserManagerTcl& other) = default;
 
@@ -46,9 +48,10 @@ znBrowserManagerTcl::~znBrowserManagerTcl() { CleanUp(); }
 void znBrowserManagerTcl::Init() {
     Tcl_Interp* const interp = GetTclInterp();
     // The library brings no Tcl of its own: it works with whatever 8.x the host has.
-    if (!Tcl_InitStubs(interp, "8.5", 0)) throw std::runtime_error("znbrowsermanager needs Tcl 8.5 or a later 8.x");
-    Tcl_CreateObjCommand(interp, "znbrowsermanager", CommandProcedure, static_cast<znIBrowserManagerTcl*>(this),
-                         nullptr);
+    if (!Tcl_InitStubs(interp, "8.5", 0))
+        throw std::runtime_error("znbrowsermanager needs Tcl 8.5 or a later 8.x");
+    Tcl_CreateObjCommand(interp, "znbrowsermanager", CommandProcedure,
+                         static_cast<znIBrowserManagerTcl*>(this), nullptr);
     InitVars();
     InitBrowserInfo();
     CreateBrowserManagerViewTcl();

@@ -8,7 +8,8 @@
 
 #include <cstdio>
 
-bool znBrowserManagerTcl::_AppendToBuff(const char* text, bool quoted, bool separate, bool braceIfBlank) const {
+bool znBrowserManagerTcl::_AppendToBuff(const char* text, bool quoted, bool separate,
+                                        bool braceIfBlank) const {
     return AppendPiece(buffer_, text, quoted, separate, braceIfBlank);
 }
 
@@ -26,7 +27,8 @@ bool znBrowserManagerTcl::AppendToBuffWithQuotes(const char* text, bool separate
     return _AppendToBuff(text, true, separate, braceIfBlank);
 }
 
-bool znBrowserManagerTcl::NewAppendToBuff(const char* text, bool separate, bool braceIfBlank, bool quoted) const {
+bool znBrowserManagerTcl::NewAppendToBuff(const char* text, bool separate, bool braceIfBlank,
+                                          bool quoted) const {
     return _AppendToBuff(text, quoted, separate, braceIfBlank);
 }
 

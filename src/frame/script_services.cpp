@@ -1,4 +1,5 @@
-// The services by which the host reaches Tcl scripts, and the requests that the manager passes on to the host.
+// The services by which the host reaches Tcl scripts, and the requests that the manager passes on to the
+// host.
 #include "frame/messages.h"
 #include "host/znIBrowser.h"
 #include "host/znIBrowserApplication.h"
@@ -38,7 +39,8 @@ bool znBrowserManagerTcl::UpdateTclInputScript(const char* script) {
     return GetState();
 }
 
-bool znBrowserManagerTcl::UpdateTclFreeFolderSelection(const std::vector<znIBrowserViewItemFreeFolder*>& folders) {
+bool znBrowserManagerTcl::UpdateTclFreeFolderSelection(
+    const std::vector<znIBrowserViewItemFreeFolder*>& folders) {
     BeginOperation();
     if (!EvalTclScript("::znbrowser::ResetSelectedFreeFoldersArray")) return false;
     for (znIBrowserViewItemFreeFolder* const folder : folders) {

@@ -7,13 +7,12 @@
 
 #include <algorithm>
 
-const char* const znBrowserTclMessages::GENERAL =
-    "    znbrowsermanager [action] ?options?\n\n"
-    "    \tcollector     Browser virtual collector...\n"
-    "    \tdatasource    Browser datasources...\n"
-    "    \tstate         Browser state...\n"
-    "    \tview          Brower views...\n"
-    "    \twindow        Browser windows...\n\n    ";
+const char* const znBrowserTclMessages::GENERAL = "    znbrowsermanager [action] ?options?\n\n"
+                                                  "    \tcollector     Browser virtual collector...\n"
+                                                  "    \tdatasource    Browser datasources...\n"
+                                                  "    \tstate         Browser state...\n"
+                                                  "    \tview          Brower views...\n"
+                                                  "    \twindow        Browser windows...\n\n    ";
 
 const char* const znBrowserTclMessages::EMPTY =
     "    znbrowsermanager empty show [true|false]\n\n"
@@ -25,10 +24,9 @@ const char* const znBrowserTclMessages::NO_FILTER =
     "    \tAction: negate previosely configured option\n"
     "    \tfilter    Do not apply filter, i.e. show all items.\n\n    ";
 
-const char* const znBrowserTclMessages::CHECKBOX =
-    "    znbrowsermanager checkbox [action] \n\n"
-    "    \tActions:\n"
-    "    \tnames               show checkbox names\n\n    ";
+const char* const znBrowserTclMessages::CHECKBOX = "    znbrowsermanager checkbox [action] \n\n"
+                                                   "    \tActions:\n"
+                                                   "    \tnames               show checkbox names\n\n    ";
 
 namespace {
 
@@ -48,8 +46,8 @@ void RunRaisingFamilyOf(Call& call) {
     if ((call.manager.*family)(call.Count(), call.Words()) == TCL_ERROR) call.Raise();
 }
 
-/// The host's handler gets the words behind "app" at the front of the caller's own array. The two words that make
-/// room stand behind them: each reference that the caller holds stays in its array exactly once.
+/// The host's handler gets the words behind "app" at the front of the caller's own array. The two words that
+/// make room stand behind them: each reference that the caller holds stays in its array exactly once.
 void App(Call& call) {
     call.KeepResult();
     znIBrowserApplication& application = *call.manager.GetApplication();
@@ -99,7 +97,8 @@ void CheckBoxDisplay(Call& call) {
     if (call.Count() < 4) return call.Answer(Messages::VIEW_COLUMN);
     const bool elements = call.Is(3, Keyword::Elem);
     int value = 0;
-    if ((!elements && !call.Is(3, Keyword::Geom)) || !call.Integer(4, value)) return call.Answer(Messages::CHECKBOX);
+    if ((!elements && !call.Is(3, Keyword::Geom)) || !call.Integer(4, value))
+        return call.Answer(Messages::CHECKBOX);
     const char* const window = call.Text(5);
     call.AnswerOutcome(elements ? call.manager.OnTkTreeDispElemsToggleClick(window, value)
                                 : call.manager.OnTkTreeDispGeomsToggleClick(window, value));
@@ -120,7 +119,8 @@ constexpr CommandRow elementRows[] = {
 constexpr CommandRow emptyRows[] = {{Keyword::Show, EmptyShow}};
 constexpr CommandRow noRows[] = {{Keyword::Filter, NoFilter}};
 constexpr CommandRow selectionRows[] = {{Keyword::Clear, Selection}};
-constexpr CommandRow checkBoxRows[] = {{Keyword::Display, CheckBoxDisplay}, {Keyword::Create, CheckBoxCreate}};
+constexpr CommandRow checkBoxRows[] = {{Keyword::Display, CheckBoxDisplay},
+                                       {Keyword::Create, CheckBoxCreate}};
 
 constexpr CommandLevel elementLevel(elementRows, Messages::VIEW_COLUMN);
 constexpr CommandLevel emptyLevel(emptyRows, Messages::EMPTY);
@@ -170,7 +170,7 @@ constexpr CommandRow topRows[] = {
 constexpr int firstAction = 2;
 constexpr int lastAction = 234;
 
-}  // namespace
+} // namespace
 
 constexpr CommandLevel topLevel(topRows, Messages::GENERAL);
 
