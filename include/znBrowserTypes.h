@@ -1,0 +1,67 @@
+// The small enumerations that the scripting layer shares with its host. Their numeric values are part
+// of the interface. Each has the underlying type int, so a host may pass on values it knows and this
+// header does not.
+#ifndef ZN_BROWSER_TYPES_H
+#define ZN_BROWSER_TYPES_H
+
+/// The type of a value that a view property, a criteria, an input field or a data item field carries.
+/// Values above 10 are the host's own: they are passed through and print as undefined.
+enum ZNBROWSER_DATA_TYPE : int {
+    ZNBROWSER_DATA_UNDEFINED = 0,
+    ZNBROWSER_DATA_BOOL,
+    ZNBROWSER_DATA_UNSIGNED,
+    ZNBROWSER_DATA_INT,
+    ZNBROWSER_DATA_DOUBLE,
+    ZNBROWSER_DATA_STRING,
+    ZNBROWSER_DATA_BOOL_ARRAY,
+    ZNBROWSER_DATA_UNSIGNED_ARRAY,
+    ZNBROWSER_DATA_INT_ARRAY,
+    ZNBROWSER_DATA_DOUBLE_ARRAY,
+    ZNBROWSER_DATA_STRING_ARRAY
+};
+
+/// What a GUI map translates: the type of its keys, and what a tree cell shows for them.
+enum ZNBROWSER_GUIMAP_TYPE : int {
+    ZNBROWSER_GUIMAP_UNDEFINED = 0,
+    ZNBROWSER_GUIMAP_INT_TO_ICON,
+    ZNBROWSER_GUIMAP_INT_TO_STRING,
+    ZNBROWSER_GUIMAP_INT_TO_RGB,
+    ZNBROWSER_GUIMAP_DOUBLE_TO_ICON,
+    ZNBROWSER_GUIMAP_DOUBLE_TO_STRING,
+    ZNBROWSER_GUIMAP_DOUBLE_TO_RGB,
+    ZNBROWSER_GUIMAP_UINT_TO_ICON,
+    ZNBROWSER_GUIMAP_UINT_TO_STRING,
+    ZNBROWSER_GUIMAP_UINT_TO_RGB,
+    ZNBROWSER_GUIMAP_BOOL_TO_ICON,
+    ZNBROWSER_GUIMAP_BOOL_TO_STRING,
+    ZNBROWSER_GUIMAP_BOOL_TO_RGB,
+    ZNBROWSER_GUIMAP_STRING_TO_ICON,
+    ZNBROWSER_GUIMAP_STRING_TO_STRING,
+    ZNBROWSER_GUIMAP_STRING_TO_RGB,
+    ZNBROWSER_GUIMAP_STRING_TO_BUTTON
+};
+
+/// How a criterion compares a value with its limit.
+enum ZNBROWSER_CRITERION_TYPE : int {
+    ZNBROWSER_CRITERION_UNKNOWN = 0,
+    ZNBROWSER_CRITERION_MORE_THAN,
+    ZNBROWSER_CRITERION_LESS_THAN,
+    ZNBROWSER_CRITERION_EQUAL_TO
+};
+
+/// Which matches a find request asks for.
+enum ZNBROWSER_FIND_REQUEST_TYPE : int {
+    ZNBROWSER_FIND_REQUEST_UNKNOWN = 0,
+    ZNBROWSER_FIND_REQUEST_ALL,
+    ZNBROWSER_FIND_REQUEST_NEXT,
+    ZNBROWSER_FIND_REQUEST_PREVIOUS
+};
+
+/// What a window callback does in its action window.
+enum ZNBROWSER_CALLBACK_OPERATION : int {
+    ZNBROWSER_CALLBACK_UNDEFINED = 0,
+    ZNBROWSER_CALLBACK_TREE_AREA_SELECT_PARENT_ITEMS,
+    ZNBROWSER_CALLBACK_TREE_AREA_SELECT_CHILDREN_ITEMS
+};
+
+#endif

@@ -1,0 +1,31 @@
+// The fixed messages that several command families report.
+#ifndef MESSAGES_H
+#define MESSAGES_H
+
+namespace messages {
+
+/// A current object is missing.
+inline constexpr char noCurrentDataCtrl[] = "Current Data Control object is not set";
+inline constexpr char noDataCtrlForView[] = "Data Control is not set for View";
+inline constexpr char noCurrentFindRequest[] = "Current Find Request object is not set";
+inline constexpr char noCurrentFreeFolder[] = "Current Free Folder object is not set";
+inline constexpr char noCurrentView[] = "Current View object is not set";
+inline constexpr char noCurrentViewProperty[] = "Current View Property object is not set";
+inline constexpr char noCurrentWindow[] = "Current Window object is not set";
+
+/// An operation was handed a null object where one is required.
+inline constexpr char nullPointer[] = "Null pointer hit";
+
+/// Faults of the system itself. No operation reports them; they complete the catalogue for hosts.
+inline constexpr char notNull[] = "Initialized memory where null is expected, possible memory leak";
+inline constexpr char outOfMemory[] = "Could not create new object in the heap, possibly unsufficient memory";
+inline constexpr char unexpectedEnum[] = "Unexpected enum value supplied";
+inline constexpr char foreignObject[] = "Attempt to operate on object belonging to different manager";
+inline constexpr char getChildrenFailed[] = "View::GetChildren(output,parent) call failed";
+inline constexpr char unexpectedCleanItem[] = "Unexpected clean item";
+inline constexpr char unexpectedDirtyItem[] = "Unexpected dirty item";
+inline constexpr char unexpectedError[] = "Unexpected general error";
+
+} // namespace messages
+
+#endif
