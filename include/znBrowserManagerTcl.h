@@ -438,6 +438,8 @@ public:
     znIBrowserWindowPart* GetCurrentWindowPartPtr() const;
     void ResetCurrentWindowPart();
     bool SetCurrentWindowPartParent(znIBrowserWindowPart* parent);
+    /// As above; null moves the part to the top level.
+    bool SetCurrentWindowPartParentByName(const char* name);
     bool GetCurrentWindowPartParent(znString& out);
     bool SetWindowPartCreateProc(const char* procedure, const char* argument);
     bool SetWindowPartPackProc(const char* procedure, const char* argument);
@@ -794,6 +796,13 @@ private:
     znIBrowser* GetBrowser() const;
     znIBrowserView* FindView(const char* name) const;
     znIBrowserWindowAccess* FindWindowAccess(const char* name) const;
+    /// The window that an event of the Tk tree names, made current; null, and an error, when there is none.
+    znIBrowserWindowAccess* SelectEventWindow(const char* name);
+    // The records of the current GUI map, whatever the type of the key.
+    template <class Key>
+    bool AddGuiMapRecord(Key key, const char* value, bool disabled);
+    template <class Key>
+    bool RemoveGuiMapRecord(Key key);
 
     // What dies with a host object. `CurrentsInside` finds, before the host deletes an object, the current
     // objects that lie in it (the object itself included); `Forget` clears, after it, those of them that are

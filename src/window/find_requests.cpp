@@ -1,0 +1,209 @@
+// Find requests: what a window searches for, and how. The records of properties and criteria are the host's,
+// and are read and written here directly.
+#include "frame/messages.h"
+#include "frame/name_list.h"
+#include "frame/shared_keywords.h"
+#include "host/znIBrowser.h"
+#include "host/znIBrowserFindRequest.h"
+#include "host/znIBrowserView.h"
+#include "host/znIBrowserWindowAccess.h"
+#include "znBrowserManagerTcl.h"
+
+namespace {
+
+constexpr char noRequest[] = "Cannot get handle to current find request";
+constexpr char noProperty[] = "Cannot get handle to current find request property";
+constexpr char noCriterion[] = "Cannot get handle to current criterion";
+constexpr char noPropertyCriterion[] = "Cannot get handle to current property criterion";
+
+/// The names of records, in order.
+template <class Record>
+NameList NamesOf(const std::vector<Record*>& records) {
+    NameList names(EntryForm::Plain, ExtraBlanks::Between);
+    for (const Record* const record : records) names.Add(record->name);
+    return names;
+}
+
+} // namespace
+
+// ---- Requests ----
+bool znBrowserManagerTcl::SetCurrentFindRequest(const znString& name) {
+    BeginOperation();
+    if (name.IsNull()) return false;
+    if (!current_.windowAccess) return Fail("Please set current window access first.");
+    znIBrowserFindRequest* const request = current_.windowAccess->FindFindRequest(name.c_str());
+    if (!request) return FailWith({"Cannot find request: ", name.c_str()});
+    SetCurrentFindRequestByPtr(request);
+    UpdateCurrentFindRequestProperty(request);
+    return true;
+}
+
+bool znBrowserManagerTcl::GetCurrentFindRequest(znString& out) {
+    BeginOperation();
+    if (!current_.findRequest) return Fail(messages::noCurrentFindRequest);
+    out = current_.findRequest->GetName();
+    return true;
+}
+
+bool znBrowserManagerTcl::GetFindRequestNames(znString& out) {
+    BeginOperation();
+    if (!current_.windowAccess) return Fail("Cannot get handle to the current windowaccess");
+    std::vector<znIBrowserFindRequest*> requests;
+    current_.windowAccess->GetFindRequests(requests);
+    return NameList(EntryForm::Plain, ExtraBlanks::Between).AddNames(requests).Give(*this, out);
+}
+
+bool znBrowserManagerTcl::SetCurrentFindRequestType(const znString& word) {
+    BeginOperation();
+    if (!current_.findRequest) return Fail(noRequest);
+    znIBrowser* const browser = GetBrowser();
+    if (!browser) return FailWithHostError();
+    browser->SetFindRequestType(current_.findRequest, SharedKeywords().GetFindRequestTypeEnum(word));
+    return true;
+}
+
+bool znBrowserManagerTcl::GetCurrentFindRequestType(znString& out) {
+    BeginOperation();
+    if (!current_.findRequest) return Fail(noRequest);
+    out = SharedKeywords().GetFindRequestTypeString(current_.findRequest->GetType());
+    return true;
+}
+
+bool znBrowserManagerTcl::PerformCurrentFindRequest() {
+    BeginOperation();
+    if (!current_.findRequest) return Fail(noRequest);
+    znIBrowser* const browser = GetBrowser();
+    return HostAnswer(browser && browser->PerformFindRequest(current_.findRequest));
+}
+
+// ---- Properties ----
+bool znBrowserManagerTcl::AddPropertyToCurrentFindRequest(const znString& name) {
+    BeginOperation();
+    if (!current_.findRequest) return Fail("Please set current window find request first.");
+    znIBrowserWindowAccess* const window = current_.findRequest->GetWindowAccess();
+    znIBrowserView* const view = window ? window->GetView() : nullptr;
+    if (view) view->AddFindRequestProperty(current_.findRequest, name.c_str());
+    return true;
+}
+
+bool znBrowserManagerTcl::SetCurrentFindRequestProperty(const znString& name) {
+    BeginOperation();
+    if (!current_.findRequest) return Fail("Please set current find request first.");
+    if (name.empty()) return Fail("Name cannot be empty string");
+    znBrowserProperty* const property = current_.findRequest->FindProperty(name.c_str());
+    if (!property) return FailWith({"Cannot find property: ", name.c_str()});
+    SetCurrentFindRequestPropertyByPtr(property);
+    UpdateCurrentFindRequestPropertyCriterion(property);
+    return true;
+}
+
+bool znBrowserManagerTcl::GetCurrentFindRequestProperty(znString& out) {
+    BeginOperation();
+    if (!current_.findRequestProperty) return Fail(noProperty);
+    out = current_.findRequestProperty->name;
+    return true;
+}
+
+bool znBrowserManagerTcl::GetFindRequestPropertyNames(znString& out) {
+    BeginOperation();
+    if (!current_.findRequest) return Fail(noRequest);
+    std::vector<znBrowserProperty*> properties;
+    current_.findRequest->GetProperties(properties);
+    return NamesOf(properties).Give(*this, out);
+}
+
+// ---- Criteria ----
+bool znBrowserManagerTcl::SetCurrentFindRequestPropertyCriterion(const znString& name) {
+    BeginOperation();
+    if (!current_.findRequestProperty) return Fail(noProperty);
+    for (znBrowserCriterion* const criterion : current_.findRequestProperty->criteria) {
+        if (criterion->name != name) continue;
+        SetCurrentFindRequestPropertyCriterionByPtr(criterion);
+        return true;
+    }
+    return FailWith({"Cannot find criterion : ", name.c_str()});
+}
+
+bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriterion(znString& out) {
+    BeginOperation();
+    if (!current_.findRequestPropertyCriterion) return Fail(noCriterion);
+    out = current_.findRequestPropertyCriterion->name;
+    return true;
+}
+
+bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriteriaNames(znString& out) {
+    BeginOperation();
+    if (!current_.findRequestProperty) return Fail(noProperty);
+    return NamesOf(current_.findRequestProperty->criteria).Give(*this, out);
+}
+
+// One type is supported, and it goes without saying: nothing is stored, whatever type the criterion has.
+bool znBrowserManagerTcl::SetCurrentFindRequestPropertyCriterionType(const znString& word) {
+    BeginOperation();
+    if (!current_.findRequestPropertyCriterion) return Fail(noCriterion);
+    const bool supported = SharedKeywords().GetCriterionTypeEnum(word) == ZNBROWSER_CRITERION_EQUAL_TO;
+    return supported || Fail("Only 'equalto' type currently supported");
+}
+
+bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriterionType(znString& out) {
+    BeginOperation();
+    if (!current_.findRequestPropertyCriterion) return Fail(noCriterion);
+    out = SharedKeywords().GetCriterionTypeString(current_.findRequestPropertyCriterion->type);
+    return true;
+}
+
+bool znBrowserManagerTcl::SetCurrentFindRequestPropertyCriterionValue(const znString& value) {
+    BeginOperation();
+    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
+    current_.findRequestPropertyCriterion->value = value;
+    return true;
+}
+
+bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriterionValue(znString& out) {
+    BeginOperation();
+    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
+    out = current_.findRequestPropertyCriterion->value;
+    return true;
+}
+
+bool znBrowserManagerTcl::SetCurrentFindRequestPropertyCriterionMatchcase(bool matchCase) {
+    BeginOperation();
+    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
+    current_.findRequestPropertyCriterion->matchcase = matchCase;
+    return true;
+}
+
+bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriterionMatchcase(bool& matchCase) {
+    BeginOperation();
+    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
+    matchCase = current_.findRequestPropertyCriterion->matchcase;
+    return true;
+}
+
+bool znBrowserManagerTcl::SetCurrentFindRequestPropertyCriterionMatchword(bool matchWord) {
+    BeginOperation();
+    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
+    current_.findRequestPropertyCriterion->matchword = matchWord;
+    return true;
+}
+
+bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriterionMatchword(bool& matchWord) {
+    BeginOperation();
+    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
+    matchWord = current_.findRequestPropertyCriterion->matchword;
+    return true;
+}
+
+bool znBrowserManagerTcl::SetCurrentFindRequestPropertyCriterionUseregexp(bool useRegexp) {
+    BeginOperation();
+    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
+    current_.findRequestPropertyCriterion->useregexp = useRegexp;
+    return true;
+}
+
+bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriterionUseregexp(bool& useRegexp) {
+    BeginOperation();
+    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
+    useRegexp = current_.findRequestPropertyCriterion->useregexp;
+    return true;
+}

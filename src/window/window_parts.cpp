@@ -1,0 +1,202 @@
+// Window parts: the frames into which a window is divided. Without a current part the top level is meant.
+#include "frame/name_list.h"
+#include "host/znIBrowser.h"
+#include "host/znIBrowserWindowAccess.h"
+#include "host/znIBrowserWindowPart.h"
+#include "znBrowserManagerTcl.h"
+
+namespace {
+
+constexpr char noWindow[] = "Cannot get a handle to the current window";
+constexpr char noWindowAccess[] = "Cannot get handle to window access";
+constexpr char noPart[] = "Cannot get a handle to the current window part";
+constexpr char noPartToMove[] = "Cannot get handle to current window part";
+
+/// The parts under a part or, without one, those of the window.
+std::vector<znIBrowserWindowPart*> PartsUnder(znIBrowserWindowPart* part, znIBrowserWindowAccess* window,
+                                              bool recursive) {
+    std::vector<znIBrowserWindowPart*> parts;
+    if (part)
+        part->GetChildParts(parts, recursive);
+    else
+        window->GetWindowParts(parts, recursive);
+    return parts;
+}
+
+/// One line of the table of parts.
+void AppendPartLine(const znBrowserManagerTcl& manager, znIBrowserWindowPart* part,
+                    znIBrowserWindowAccess* window) {
+    const auto append = [&manager](auto piece) { manager.AppendToBuff(piece, true, false); };
+    append(part->GetName());
+    append("\t\t");
+    if (znIBrowserWindowPart* const parent = part->GetParent()) {
+        append(parent->GetName());
+    } else {
+        append(window->GetName());
+        append("(Root)");
+        append(" ");
+    }
+    append("\t\t");
+    append(" ");
+    append(part->GetPosition());
+    append("\t\t");
+    append(part->GetFramePath());
+    append("\n");
+}
+
+} // namespace
+
+bool znBrowserManagerTcl::CreateWindowPart(const char* name, const char* parent) {
+    BeginOperation();
+    if (!name) return false;
+    if (!parent) parent = "";
+    znIBrowserWindowAccess* const window = current_.windowAccess;
+    if (!window) return Fail(noWindow);
+    if (window->FindWindowPart(name)) return FailWith({"Window part", name, " already exists"});
+    if (*parent && !window->FindWindowPart(parent))
+        return FailWith({"Window part", parent, " doesn't exists"});
+    znIBrowser* const browser = GetBrowser();
+    if (!browser || !browser->CreateWindowPart(window, name, parent)) return FailWithHostError();
+    // A new part of a posted window is filled by a script, which may have deleted the window.
+    znIBrowserWindowPart* const part =
+        current_.windowAccess == window ? window->FindWindowPart(name) : nullptr;
+    if (!part) return false;
+    SetCurrentWindowPartByPtr(part);
+    UpdateCurrentEvent(part);
+    return true;
+}
+
+bool znBrowserManagerTcl::DeleteWindowPart(const char* name) {
+    BeginOperation();
+    if (!name) return false;
+    znIBrowserWindowAccess* const window = current_.windowAccess;
+    if (!window) return Fail(noWindow);
+    znIBrowserWindowPart* const part = window->FindWindowPart(name);
+    if (!part) return FailWith({"Window part: ", name, " not found"});
+    const znBrowserCurrentObjects doomed = CurrentsInside(part);
+    znIBrowser* const browser = GetBrowser();
+    if (!browser || !browser->DeleteWindowPart(part)) return FailWithHostError();
+    Forget(doomed);
+    if (current_.windowAccess != window) return true;
+    const std::vector<znIBrowserWindowPart*> remaining = PartsUnder(nullptr, window, true);
+    SetCurrentWindowPartByPtr(remaining.empty() ? nullptr : remaining.front());
+    UpdateCurrentEvent(current_.windowPart);
+    return true;
+}
+
+bool znBrowserManagerTcl::SetCurrentWindowPartByName(const char* name) {
+    BeginOperation();
+    if (!name) return false;
+    if (!current_.windowAccess) return Fail(noWindowAccess);
+    znIBrowserWindowPart* const part = current_.windowAccess->FindWindowPart(name);
+    if (!part) return FailWith({"Cannot find window part : ", name});
+    SetCurrentWindowPartByPtr(part);
+    UpdateCurrentEvent(part);
+    return true;
+}
+
+bool znBrowserManagerTcl::GetCurrentWindowPart(znString& out) {
+    BeginOperation();
+    out = current_.windowPart ? current_.windowPart->GetName() : "";
+    return true;
+}
+
+bool znBrowserManagerTcl::SetCurrentWindowPartParent(znIBrowserWindowPart* parent) {
+    BeginOperation();
+    if (!current_.windowAccess) return Fail(noPartToMove);
+    if (!current_.windowPart) return Fail("The current part is toplevel, and no parent can be assigned");
+    return HostAnswer(current_.windowAccess->SetWindowPartParent(current_.windowPart, parent));
+}
+
+bool znBrowserManagerTcl::SetCurrentWindowPartParentByName(const char* name) {
+    BeginOperation();
+    const bool movable = current_.windowAccess && current_.windowPart;
+    znIBrowserWindowPart* const parent =
+        movable && name ? current_.windowAccess->FindWindowPart(name) : nullptr;
+    if (movable && name && !parent) return FailWith({"Cannot find window part : ", name});
+    return SetCurrentWindowPartParent(parent);
+}
+
+bool znBrowserManagerTcl::GetCurrentWindowPartParent(znString& out) {
+    BeginOperation();
+    out.clear();
+    const char* name = nullptr;
+    if (current_.windowPart) {
+        znIBrowserWindowPart* const parent = current_.windowPart->GetParent();
+        if (!parent) return true;
+        name = parent->GetName();
+    } else {
+        if (!current_.windowAccess) return Fail(noPartToMove);
+        name = current_.windowAccess->GetName();
+    }
+    if (!name) return Fail("The current part is toplevel, and no parent can be supplied");
+    out = name;
+    return true;
+}
+
+bool znBrowserManagerTcl::SetWindowPartCreateProc(const char* procedure, const char* argument) {
+    BeginOperation();
+    if (!current_.windowPart) return Fail("Cannot attach the create proc to toplevel");
+    return HostAnswer(current_.windowPart->SetCreateProc(procedure, argument));
+}
+
+bool znBrowserManagerTcl::SetWindowPartPackProc(const char* procedure, const char* argument) {
+    BeginOperation();
+    if (!current_.windowPart) return Fail("Cannot attach the pack proc to toplevel");
+    return HostAnswer(current_.windowPart->SetPackProc(procedure, argument));
+}
+
+bool znBrowserManagerTcl::SetWindowPartPosition(int position) {
+    BeginOperation();
+    if (!current_.windowAccess) return Fail(noWindow);
+    znIBrowserWindowPart* const part = current_.windowPart;
+    return (part && current_.windowAccess->SetWindowPartPosition(part, position)) || Fail(noPart);
+}
+
+bool znBrowserManagerTcl::SetWindowPartShownState(bool shown) {
+    BeginOperation();
+    if (!current_.windowPart) return Fail(noPart);
+    znIBrowser* const browser = GetBrowser();
+    return HostAnswer(browser && browser->SetWindowPartShown(current_.windowPart, shown));
+}
+
+bool znBrowserManagerTcl::GetWindowPartShownState(znString& out) {
+    BeginOperation();
+    if (!current_.windowPart) return Fail(noPart);
+    znIBrowserWindowAccess* const window = current_.windowPart->GetWindowAccess();
+    return GiveBool(window && window->IsWindowPartShown(current_.windowPart), out);
+}
+
+bool znBrowserManagerTcl::GetWindowPartFramePath(znString& out) {
+    BeginOperation();
+    if (!current_.windowPart) return Fail(noPart);
+    out = current_.windowPart->GetFramePath();
+    return true;
+}
+
+bool znBrowserManagerTcl::GetWindowPartNames(znString& out, bool recursive) {
+    BeginOperation();
+    if (!current_.windowAccess) return Fail(noWindowAccess);
+    return NameList(EntryForm::Plain, ExtraBlanks::Between)
+        .AddNames(PartsUnder(current_.windowPart, current_.windowAccess, recursive))
+        .Give(*this, out);
+}
+
+bool znBrowserManagerTcl::GetWindowPartInfo(znString& out) {
+    BeginOperation();
+    if (!current_.windowAccess) return Fail(noWindowAccess);
+    const auto parts = PartsUnder(current_.windowPart, current_.windowAccess, true);
+    AppendToBuff("Part\t\t\t\tParent\t\t\tPosition\tFramePath\n", true, false);
+    for (znIBrowserWindowPart* const part : parts) AppendPartLine(*this, part, current_.windowAccess);
+    return GiveBuffer(out);
+}
+
+bool znBrowserManagerTcl::GetWindowPartOperationNames(znString& out) {
+    BeginOperation();
+    if (!current_.windowPart) return Fail(noPart);
+    std::vector<znString> operations;
+    znIBrowserWindowAccess* const window = current_.windowPart->GetWindowAccess();
+    if (!window || !window->GetOperations(current_.windowPart, operations))
+        return Fail("Cannot get list of operations");
+    return NameList(EntryForm::Plain, ExtraBlanks::Between).AddTexts(operations).Give(*this, out);
+}
