@@ -47,6 +47,8 @@ LineEditor::~LineEditor() { el_end(editor_); }
 LineEditor::Outcome LineEditor::Read(const std::string& prompt, std::string& line) {
     prompt_ = prompt;
     int count = 0;
+    el_set(editor_, EL_PREP_TERM,
+           1); // before the prompt shows: what is typed at it must not meet the old mode
     const char* const text = el_gets(editor_, &count);
     if (!text || count <= 0) return count < 0 ? Outcome::Interrupted : Outcome::End;
     line.assign(text, static_cast<std::size_t>(count));

@@ -7,7 +7,10 @@
 #include <poll.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
+#include <iterator>
+#include <sstream>
 
 namespace {
 
@@ -104,18 +107,20 @@ void Prompt::Execute(const std::string& command) {
 
 // "help" is a word of the prompt, not a command: a script may define its own, which then is the one called.
 bool Prompt::AnswerHelp(const std::string& command) const {
-    TypedCommand typed = FindTypedCommand(command.substr(0, command.find_last_not_of(" \t\n") + 1) + ' ');
-    if (typed.words.empty() || typed.words.front() != "help") return false;
+    std::istringstream text(command);
+    std::vector<std::string> words{std::istream_iterator<std::string>(text), {}};
+    if (words.empty() || words.front() != "help") return false;
     if (Tcl_FindCommand(interp_, "help", nullptr, TCL_GLOBAL_ONLY)) return false;
-    if (typed.words.size() == 1) {
+    if (words.size() == 1) {
         PrintLine(TCL_STDOUT, HELP);
         return true;
     }
+    words.erase(words.begin());
     std::vector<std::string> next;
-    znBrowserTclCommandTree::GetNextWords({typed.words.begin() + 1, typed.words.end()}, next);
-    std::string text;
-    for (const std::string& word : next) text += (text.empty() ? "" : " ") + word;
-    PrintLine(TCL_STDOUT, text.empty() ? "no further command words" : text);
+    znBrowserTclCommandTree::GetNextWords(words, next);
+    std::string answer;
+    for (const std::string& word : next) answer += (answer.empty() ? "" : " ") + word;
+    PrintLine(TCL_STDOUT, answer.empty() ? "no further command words" : answer);
     return true;
 }
 
