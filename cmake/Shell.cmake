@@ -2,7 +2,7 @@
 
 zn_find_sources(sources shell/*.cpp)
 if(sources AND TARGET znBrowserScripting
-   AND EXISTS "${PROJECT_SOURCE_DIR}/host/model/embedded_host.h"
+   AND EXISTS "${PROJECT_SOURCE_DIR}/host/model/embedded_host.cpp"
    AND EXISTS "${PROJECT_SOURCE_DIR}/include/znBrowserTclCommandTree.h")
     add_executable(znbrowsersh ${sources})
     target_compile_definitions(znbrowsersh PRIVATE ZN_VERSION="${PROJECT_VERSION}")

@@ -36,7 +36,8 @@ LineEditor::LineEditor(Services services)
     el_set(editor_, EL_SIGNAL, 1);
     el_set(editor_, EL_HIST, history, history_.Get());
     el_set(editor_, EL_EDITOR, "emacs");
-    el_set(editor_, EL_ADDFN, "zn-complete", "Complete a command word or a name", Complete);
+    // the narrow form would copy both texts and never release them
+    el_wset(editor_, EL_ADDFN, L"zn-complete", L"Complete a command word or a name", Complete);
     el_set(editor_, EL_BIND, "^I", "zn-complete", nullptr);
     el_set(editor_, EL_BIND, "^R", "em-inc-search-prev", nullptr);
     el_source(editor_, nullptr);

@@ -39,7 +39,7 @@ bool Session::Start(const Options& options) {
         return false;
     }
     SetArguments(options);
-    host_ = std::make_unique<EmbeddedHost>(interp_);
+    host_ = std::make_unique<znhost::EmbeddedHost>(interp_);
     if (options.strict && !MakeStrict(interp_, COMMAND)) {
         PrintLine(TCL_STDERR, std::string("znbrowsersh: the host registered no command ") + COMMAND);
         return false;

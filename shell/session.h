@@ -10,7 +10,9 @@
 #include <string>
 #include <vector>
 
+namespace znhost {
 class EmbeddedHost;
+}
 
 /// A stock Tcl interpreter with one command more, znbrowsermanager. Ends in the right order however the
 /// program ends: the host first, its databases closed, then the interpreter.
@@ -41,7 +43,7 @@ private:
     static void CloseAtExit(ClientData session);
 
     Tcl_Interp* interp_;
-    std::unique_ptr<EmbeddedHost> host_;
+    std::unique_ptr<znhost::EmbeddedHost> host_;
 };
 
 /// Writes one line to Tcl's standard channel `channel` (TCL_STDOUT, TCL_STDERR), in its encoding.
