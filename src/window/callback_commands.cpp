@@ -5,19 +5,17 @@
 const char* const znBrowserTclMessages::WINDOW_EVENT =
     "    znbrowsermanager window event [action] \n\n"
     "    \tActions:\n"
-    "    \tcallback create <callback_name> <type>   Creates a callback of the current event and makes it the "
-    "current\n"
-    "    \t                                         one. Type WINDOW_OPERATION: a window operation.\n"
-    "    \tcallback current [callback_name]         Gets/sets the current callback.\n"
-    "    \tcallback delete                          Accepted, and does nothing.\n"
-    "    \tcallback names                           Shows the names of the callbacks of the current event.\n"
-    "    \tcallback operation [operation]           Gets/sets the operation of the current callback:\n"
-    "    \t                                         TREE_AREA_SELECT_PARENT_ITEMS or\n"
-    "    \t                                         TREE_AREA_SELECT_CHILDREN_ITEMS.\n"
-    "    \tcallback window [window_name]            Gets/sets the action window of the current callback.\n"
-    "    \tcurrent [event_name]                     Gets/sets the current event of the current window part.\n"
-    "    \tnames                                    Shows the names of the events of the current window "
-    "part.\n\n";
+    "    \tcallback create <callback> <type>   Creates a callback of the current event and makes it the\n"
+    "    \t                                    current one. Type WINDOW_OPERATION: a window operation.\n"
+    "    \tcallback current [callback]         Gets/sets the current callback.\n"
+    "    \tcallback delete                     Accepted, and does nothing.\n"
+    "    \tcallback names                      Shows the names of the callbacks of the current event.\n"
+    "    \tcallback operation [operation]      Gets/sets the operation of the current callback:\n"
+    "    \t                                    TREE_AREA_SELECT_PARENT_ITEMS or\n"
+    "    \t                                    TREE_AREA_SELECT_CHILDREN_ITEMS.\n"
+    "    \tcallback window [window]            Gets/sets the action window of the current callback.\n"
+    "    \tcurrent [event]                     Gets/sets the current event of the current part.\n"
+    "    \tnames                               Shows the names of the events of the current part.\n\n";
 
 namespace {
 
