@@ -6,7 +6,6 @@
 #include "znBrowserManagerTcl.h"
 
 #include <cstddef>
-#include <utility>
 #include <vector>
 
 /// How an entry is written: as it is, in braces when it holds a blank, or in double quotes.
@@ -67,8 +66,7 @@ public:
     bool Give(const znBrowserManagerTcl& manager, znString& out) {
         manager.ResetBuff();
         manager.AppendToBuff(text_.c_str(), false, false);
-        text_ += ""; // An empty list is a text, too.
-        out = std::move(text_);
+        out.assign(text_.View());
         return manager.GetState();
     }
 

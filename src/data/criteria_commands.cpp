@@ -1,0 +1,102 @@
+// datasource simple criteria ...: what narrows a custom data source.
+#include "data/data_messages.h"
+#include "data/data_source_commands.h"
+#include "frame/command_table.h"
+#include "frame/data_types.h"
+
+// The type names that the text lists are not the words that "type" takes.
+// clang-format off: the texts keep their lines.
+const char* const znBrowserTclMessages::DATASOURCE_SIMPLE_CRITERIA =
+    "    znbrowsermanager datasource simple criteria [action] \n\n"
+    "    \tcode <code>                  Sets the code of the current criteria.\n"
+    "    \tcreate <criteria_name>       Creates a criteria for the current scripted(custom)\n"
+    "    \t                             datasource and makes it current.\n"
+    "    \tcurrent [criteria_name]      Gets/sets the current criteria.\n"
+    "    \tdata [<type> <value> ...]    Gets/sets the values of the current criteria, for\n"
+    "    \t                             example: 'double 10.0 integer 2 string 'some'\n"
+    "    \tdelete                       Deletes the current criteria.\n"
+    "    \tnames                        Returns the names of all of the criteria for the\n"
+    "    \t                             current simple datasource.\n"
+    "    \ttype [data_type]             Gets/sets the data type of the current criteria.\n"
+    "    \t                             Valid types: ZNBROWSER_DATA_BOOL, ZNBROWSER_DATA_BOOL_ARRAY,\n"
+    "    \t                             ZNBROWSER_DATA_INT, ZNBROWSER_DATA_INT_ARRAY,\n"
+    "    \t                             ZNBROWSER_DATA_UNSIGNED, ZNBROWSER_DATA_UNSIGNED_ARRAY,\n"
+    "    \t                             ZNBROWSER_DATA_DOUBLE, ZNBROWSER_DATA_DOUBLE_ARRAY,\n"
+    "    \t                             ZNBROWSER_DATA_STRING, ZNBROWSER_DATA_STRING_ARRAY.\n\n";
+// clang-format on
+
+namespace {
+
+using Manager = znBrowserManagerTcl;
+using Messages = znBrowserTclMessages;
+
+/// The values of one "data" command, by type, each list in the order of the words.
+struct Values {
+    std::vector<bool> bools;
+    std::vector<unsigned int> unsigneds;
+    std::vector<int> ints;
+    std::vector<double> doubles;
+    znStlVector<znString> strings;
+};
+
+template <class Read, class List>
+bool Keep(bool isRead, Read value, List& list) {
+    if (isRead) list.push_back(static_cast<typename List::value_type>(value));
+    return isRead;
+}
+
+/// Reads the type word at `position` and the value after it. @return false when either is no good
+bool ReadPair(const Call& call, int position, Values& values) {
+    bool truth = false;
+    long natural = 0;
+    int integer = 0;
+    double real = 0;
+    if (!call.Has(position) || !call.Has(position + 1)) return false;
+    switch (DataTypeFromWord(call.Text(position))) {
+    case ZNBROWSER_DATA_BOOL: return Keep(call.Boolean(position + 1, truth), truth, values.bools);
+    case ZNBROWSER_DATA_UNSIGNED: return Keep(call.Long(position + 1, natural), natural, values.unsigneds);
+    case ZNBROWSER_DATA_INT: return Keep(call.Integer(position + 1, integer), integer, values.ints);
+    case ZNBROWSER_DATA_DOUBLE: return Keep(call.Double(position + 1, real), real, values.doubles);
+    case ZNBROWSER_DATA_STRING: return Keep(true, call.Text(position + 1), values.strings);
+    default: return false;
+    }
+}
+
+void Code(Call& call) {
+    if (!call.Has(5)) return call.Answer(Messages::DATASOURCE_SIMPLE_CRITERIA);
+    call.AnswerOutcome(call.manager.SetCriteriaCode(call.Text(5)));
+}
+
+void Create(Call& call) {
+    if (!call.Has(5)) return call.Answer(Messages::DATASOURCE_SIMPLE_CRITERIA);
+    call.AnswerOutcome(call.manager.CreateDataCriteria(call.Text(5)), call.Text(5));
+}
+
+void Current(Call& call) {
+    call.SetThenAnswer(5, &Manager::SetCurrentCriteria, &Manager::GetCurrentCriteria);
+}
+
+void Data(Call& call) {
+    if (!call.Has(5)) return call.AnswerValue(&Manager::GetCriteriaDataParameters);
+    if (!call.manager.GetCurrentCriteriaPtr()) return call.Answer(data_messages::noCriteria);
+    Values values;
+    for (int position = 5; position < call.Count(); position += 2) {
+        if (!ReadPair(call, position, values)) return call.Answer(Messages::DATASOURCE_SIMPLE_CRITERIA);
+    }
+    call.manager.UpdateCriteriaData(values.bools, values.unsigneds, values.ints, values.doubles,
+                                    values.strings);
+}
+
+void Delete(Call& call) { call.AnswerOutcome(call.manager.DeleteDataCriteria()); }
+void Names(Call& call) { call.AnswerValue(&Manager::GetDataSourceSimpleCriteriaNames); }
+
+void Type(Call& call) { call.SetThenAnswer(5, &Manager::SetCriteriaDataType, &Manager::GetCriteriaDataType); }
+
+constexpr CommandRow criteriaRows[] = {
+    {Keyword::Code, Code},     {Keyword::Create, Create}, {Keyword::Current, Current}, {Keyword::Data, Data},
+    {Keyword::Delete, Delete}, {Keyword::Names, Names},   {Keyword::Type, Type},
+};
+
+} // namespace
+
+const CommandLevel criteriaLevel(criteriaRows, znBrowserTclMessages::DATASOURCE_SIMPLE_CRITERIA);

@@ -1,0 +1,58 @@
+// dataoperation ...: named actions that a data control offers.
+#include "frame/command_table.h"
+
+// clang-format off: the texts keep their lines.
+const char* const znBrowserTclMessages::DATAOPERATION =
+    "    znbrowsermanager dataoperation [action] \n\n"
+    "    \tcurrent                             Gets/sets the current data operation.\n"
+    "    \tnames                               Returns the names of all the simple datasource operations.\n"
+    "    \tperform <operation_name> [input_name datatypevalue...]    Performs the simple datasource "
+    "operation\n"
+    "    \t                                                          with the given name.  The 2nd argument "
+    "is formated as the \n"
+    "    \t                                                          following example:\n"
+    "    \t                                                          '$name1 integer $newvalue1 $name2 bool "
+    "$newvalue2...'\n"
+    "    \t                                                          Valid datatypes values are: bool, "
+    "double, int or string.\n\n";
+// clang-format on
+
+namespace {
+
+using Manager = znBrowserManagerTcl;
+using Messages = znBrowserTclMessages;
+
+void Create(Call& call) {
+    if (!call.Has(3)) return call.Answer(Messages::DATAOPERATION);
+    call.SetThenAnswer(3, &Manager::CreateDataOperation, &Manager::GetCurrentDataOperation);
+}
+
+void Current(Call& call) {
+    call.SetThenAnswer(3, &Manager::SetCurrentDataOperation, &Manager::GetCurrentDataOperation);
+}
+
+void Names(Call& call) { call.AnswerValue(&Manager::GetDataOperationNames); }
+
+// Runs the current operation: the words that the usage text describes are not read.
+void Perform(Call& call) { call.AnswerOutcome(call.manager.PerformDataOperation()); }
+
+// The script is the second word; the first is not read.
+void Script(Call& call) {
+    if (call.Count() == 3) return call.AnswerValue(&Manager::GetCurrentDataOperation);
+    if (!call.Has(4)) return call.Answer(Messages::DATAOPERATION);
+    call.AnswerOutcome(call.manager.SetDataOperationScript(call.Text(4)));
+}
+
+// The usage text leaves out the last two.
+constexpr CommandRow dataOperationRows[] = {
+    {Keyword::Current, Current}, {Keyword::Names, Names},   {Keyword::Perform, Perform},
+    {Keyword::Create, Create},   {Keyword::Script, Script},
+};
+
+} // namespace
+
+const CommandLevel dataOperationLevel(dataOperationRows, znBrowserTclMessages::DATAOPERATION);
+
+int znBrowserManagerTcl::DataOperationTclAPICommands(int objc, Tcl_Obj* const objv[]) {
+    return RunFamily(*this, dataOperationLevel, objc, objv);
+}

@@ -1,0 +1,12 @@
+// The levels of "datasource ..." that stand in files of their own.
+#ifndef DATA_SOURCE_COMMANDS_H
+#define DATA_SOURCE_COMMANDS_H
+
+struct CommandLevel;
+
+extern const CommandLevel dataSourceSimpleLevel;
+extern const CommandLevel dataSourceHierarchicalLevel;
+extern const CommandLevel criteriaLevel;
+extern const CommandLevel dataPropertyLevel;
+
+#endif

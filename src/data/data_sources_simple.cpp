@@ -1,0 +1,138 @@
+// Simple data sources: made, chosen, captioned and listed.
+#include "data/data_messages.h"
+#include "data/item_values.h"
+#include "frame/messages.h"
+#include "host/znBrowserDataItems.h"
+#include "host/znIBrowserDataCtrl.h"
+#include "host/znIBrowserDataProperty.h"
+#include "host/znIBrowserDataSource.h"
+#include "host/znIBrowserDataSourceSimple.h"
+#include "host/znIBrowserViewProperty.h"
+#include "znBrowserManagerTcl.h"
+
+#include <algorithm>
+
+using namespace data_messages;
+
+namespace {
+
+constexpr char noCurrentSource[] = "Cannot get handle to current datasource simple";
+
+} // namespace
+
+// The host's answer is not asked for: what counts is whether it knows the source afterwards.
+bool znBrowserManagerTcl::CreateDataSourceSimple(const char* name, const char* caption, const char*) {
+    if (!current_.dataCtrl) return Fail(noDataCtrl);
+    if (name) current_.dataCtrl->CreateDataSourceSimple(name, caption, nullptr);
+    UpdateCurrentDataSourceSimple(FindDataSourceSimple(name));
+    return true;
+}
+
+bool znBrowserManagerTcl::DeleteDataSourceSimple(const char* name) {
+    BeginOperation();
+    if (!current_.dataCtrl) return Fail(noDataCtrl);
+    znIBrowserDataSourceSimple* const source = FindDataSourceSimple(name);
+    if (!source) return GetState();
+    if (source->IsBase()) return FailWith({"Cannot delete datasource: ", name});
+    if (source->IsConnected()) return FailWith({"Cannot delete connected datasource: ", name});
+    const znBrowserCurrentObjects doomed = CurrentsInside(source);
+    current_.dataCtrl->DeleteDataSourceSimple(name);
+    if (FindDataSourceSimple(name) != source) Forget(doomed);
+    return GetState();
+}
+
+znIBrowserDataSourceSimple* znBrowserManagerTcl::FindDataSourceSimple(const char* name) const {
+    return current_.dataCtrl && name ? current_.dataCtrl->FindDataSourceSimple(name) : nullptr;
+}
+
+bool znBrowserManagerTcl::SetCurrentDataSourceSimple(const char* name) {
+    BeginOperation();
+    znIBrowserDataSourceSimple* const source = FindDataSourceSimple(name);
+    if (!source) return FailWith({unknownDataSource, name});
+    UpdateCurrentDataSourceSimple(source);
+    return GetState();
+}
+
+bool znBrowserManagerTcl::GetCurrentDataSourceSimpleCaption(znString& out) {
+    BeginOperation();
+    if (!current_.dataSourceSimple) return Fail(noCurrentSource);
+    out = current_.dataSourceSimple->GetCaption();
+    return GetState();
+}
+
+bool znBrowserManagerTcl::SetCurrentDataSourceSimpleCaption(const char* caption) {
+    BeginOperation();
+    if (!caption) return false;
+    if (!current_.dataSourceSimple) return Fail(noCurrentSource);
+    if (!current_.dataCtrl) return Fail(messages::noCurrentDataCtrl);
+    return current_.dataCtrl->SetDataSourceSimpleCaption(current_.dataSourceSimple, caption);
+}
+
+bool znBrowserManagerTcl::GetCurrentDataSourceSimpleFilterCaption(znString& out) {
+    BeginOperation();
+    if (!current_.dataSourceSimple) return Fail(noCurrentSource);
+    out = current_.dataSourceSimple->GetFilterCaption();
+    return GetState();
+}
+
+bool znBrowserManagerTcl::SetCurrentDataSourceSimpleFilterCaption(const char* caption) {
+    BeginOperation();
+    if (!caption) return false;
+    if (!current_.dataSourceSimple) return Fail(noCurrentSource);
+    if (!current_.dataCtrl) return Fail(messages::noCurrentDataCtrl);
+    return current_.dataCtrl->SetDataSourceSimpleFilterCaption(current_.dataSourceSimple, caption);
+}
+
+bool znBrowserManagerTcl::DataSourceSimpleNames(znString& out) {
+    BeginOperation();
+    out.clear();
+    if (!current_.dataCtrl) return Fail("Cannot get current Data Control");
+    std::vector<znIBrowserDataSourceSimple*> sources;
+    current_.dataCtrl->GetDataSourcesSimple(sources);
+    return NameList(EntryForm::Braced).AddNames(sources).Give(*this, out);
+}
+
+bool znBrowserManagerTcl::DataSourceSimpleCustomNames(znString& out) {
+    BeginOperation();
+    out.clear();
+    if (!current_.dataCtrl) return Fail(noDataCtrl);
+    std::vector<znIBrowserDataSourceSimple*> sources;
+    current_.dataCtrl->GetDataSourcesSimple(sources);
+    const auto isCustom = [](const znIBrowserDataSourceSimple* source) {
+        return source && source->IsCustom();
+    };
+    sources.erase(std::stable_partition(sources.begin(), sources.end(), isCustom), sources.end());
+    return NameList(EntryForm::Braced).AddNames(sources).Give(*this, out);
+}
+
+bool znBrowserManagerTcl::DataSourceSimplePropertyNames(const char* dataSource, znString& out) {
+    BeginOperation();
+    out.clear();
+    znIBrowserDataSourceSimple* const source = FindDataSourceSimple(dataSource);
+    if (!source) return FailWith({unknownDataSource, dataSource});
+    std::vector<znIBrowserDataProperty*> properties;
+    source->GetDataProperties(properties);
+    return NameList(EntryForm::Plain, ExtraBlanks::Between).AddNames(properties).Give(*this, out);
+}
+
+bool znBrowserManagerTcl::GetDataSourcesNames(znString& out) {
+    BeginOperation();
+    out.clear();
+    if (!current_.dataCtrl) return Fail(messages::noCurrentDataCtrl);
+    std::vector<znIBrowserDataSource*> sources;
+    if (!current_.dataCtrl->GetDataSources(sources)) return Fail("Cannot get data sources names");
+    return NameList(EntryForm::Plain, ExtraBlanks::After).AddNames(sources).Give(*this, out);
+}
+
+bool znBrowserManagerTcl::GetDataItemsFromCurrentDSS(znString& out) {
+    BeginOperation();
+    out.clear();
+    if (!current_.view) return Fail(noView);
+    // One message for both: scripts know it so.
+    if (!current_.viewProperty || !current_.dataSourceSimple) return Fail(noViewProperty);
+    if (!current_.viewProperty->GetDataProperty(current_.dataSourceSimple))
+        return Fail("Cannot get data property for current datasource");
+    znBrowserDataItems items;
+    current_.dataSourceSimple->GetDataItems(items);
+    return GiveCurrentPropertyValues(*this, items, out);
+}

@@ -1,0 +1,79 @@
+// view datasource ...: the data sources of the current view.
+#include "frame/command_table.h"
+#include "view/view_helper_commands.h"
+
+const char* const znBrowserTclMessages::VIEW_DATASOURCE =
+    "    znbrowsermanager view datasource [action] \n\n"
+    "    \tActions:\n"
+    "    \thierarchical connect <datasource_name>       Connects the hierarchical datasource to the current "
+    "view.\n"
+    "    \thierarchical connected                       Returns the hierarchical datasources of the current "
+    "view.\n"
+    "    \thierarchical disconnect <datasource_name>    Disconnects the datasource from the current view.\n"
+    "    \thierarchical selected [recursive]            Returns the selected dataitems of the current\n"
+    "    \t                                             hierarchical datasource.\n"
+    "    \tsimple connect <datasource_name>             Connects the simple datasource to the current view.\n"
+    "    \tsimple connected                             Returns the simple datasources of the current view.\n"
+    "    \tsimple disconnect <datasource_name>          Disconnects the datasource from the current view.\n"
+    "    \tsimple selected [recursive]                  Returns the selected dataitems of the current\n"
+    "    \t                                             simple datasource.\n\n";
+
+namespace {
+
+using Manager = znBrowserManagerTcl;
+using Messages = znBrowserTclMessages;
+
+template <bool (Manager::*change)(znIBrowserView*, const char*)>
+void Change(Call& call) {
+    znIBrowserView* const view = call.manager.GetCurrentViewPtr();
+    if (!view) return call.Answer("No current view available");
+    if (!call.Has(5)) return call.Answer(Messages::VIEW_DATASOURCE);
+    call.AnswerOutcome((call.manager.*change)(view, call.Text(5)), call.Text(5));
+}
+
+template <bool (Manager::*list)(znIBrowserView*, znString&)>
+void Connected(Call& call) {
+    znIBrowserView* const view = call.manager.GetCurrentViewPtr();
+    if (!view) return call.Answer("No current view available");
+    znString names;
+    call.AnswerOutcome((call.manager.*list)(view, names), names.c_str());
+}
+
+template <bool (Manager::*list)(znString&, bool)>
+void Selected(Call& call) {
+    znString values;
+    call.AnswerOutcome((call.manager.*list)(values, call.Is(5, Keyword::Recursive)), values.c_str());
+}
+
+constexpr CommandRow hierarchicalRows[] = {
+    {Keyword::Connect, Change<&Manager::DataSourceHierarchicalConnect>},
+    {Keyword::Connected, Connected<&Manager::DataSourceHierarchicalConnected>},
+    {Keyword::Disconnect, Change<&Manager::DataSourceDisconnect>},
+    {Keyword::Selected, Selected<&Manager::DataSourceHierarchicalSelected>},
+};
+
+constexpr CommandRow simpleRows[] = {
+    {Keyword::Connect, Change<&Manager::DataSourceSimpleConnect>},
+    {Keyword::Connected, Connected<&Manager::DataSourceSimpleConnected>},
+    {Keyword::Disconnect, Change<&Manager::DataSourceDisconnect>},
+    {Keyword::Selected, Selected<&Manager::DataSourceSimpleSelected>},
+};
+
+constexpr CommandLevel hierarchicalLevel(hierarchicalRows, Messages::VIEW_DATASOURCE);
+constexpr CommandLevel simpleLevel(simpleRows, Messages::VIEW_DATASOURCE);
+
+// The view helper has words of its own here, for views that connect data sources themselves.
+constexpr CommandRow viewDataSourceRows[] = {
+    {Keyword::Hierarchical, nullptr, &hierarchicalLevel},
+    {Keyword::Simple, nullptr, &simpleLevel},
+    {Keyword::Connect, AnswerByViewHelper},
+    {Keyword::Current, AnswerByViewHelper},
+    {Keyword::Disconnect, AnswerByViewHelper},
+    {Keyword::Names, AnswerByViewHelper},
+    {Keyword::Selected, AnswerByViewHelper},
+};
+
+} // namespace
+
+const CommandLevel viewDataSourceLevel(viewDataSourceRows, Messages::VIEW_DATASOURCE,
+                                       Messages::HELPER_DATASOURCE);

@@ -1,0 +1,7 @@
+#include "frame/interpreter_result.h"
+
+#include <tcl.h>
+
+void AppendToInterpreterResult(Tcl_Interp* interp, const char* text) {
+    Tcl_AppendResult(interp, text, static_cast<char*>(nullptr));
+}
