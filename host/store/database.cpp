@@ -1,0 +1,181 @@
+#include "store/database.h"
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
+#include <algorithm>
+#include <iterator>
+#include <sqlite3.h>
+
+namespace znhost {
+namespace {
+
+constexpr int busyTimeout = 250; // milliseconds: a window is waiting
+constexpr std::size_t idleStatements = 64;
+
+} // namespace
+
+std::unique_ptr<Database> Database::OpenFile(const std::string& path, std::string& error) {
+    std::string reason;
+    // An empty name would be a nameless database that vanishes when it is closed.
+    std::unique_ptr<Database> database;
+    if (path.empty())
+        reason = "the file name is empty";
+    else
+        database = Open(path.c_str(), reason);
+    if (!database) error = "cannot open the database \"" + path + "\": " + reason;
+    return database;
+}
+
+std::unique_ptr<Database> Database::OpenMemory(std::string& error) { return Open(":memory:", error); }
+
+std::unique_ptr<Database> Database::Open(const char* path, std::string& error) {
+    const int flags = SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE;
+    try {
+        std::unique_ptr<Database> database(
+            new Database(std::make_unique<SQLite::Database>(path, flags, busyTimeout)));
+        // SQLite looks into the file only when it must.
+        return database->Execute("SELECT 1 FROM sqlite_schema", error) ? std::move(database) : nullptr;
+    } catch (const SQLite::Exception& failure) {
+        error = failure.what();
+        return nullptr;
+    }
+}
+
+Database::Database(std::unique_ptr<SQLite::Database> connection) : connection_(std::move(connection)) {
+    // No statement may damage the database file itself.
+    sqlite3_db_config(Handle(), SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+}
+
+Database::~Database() = default;
+
+sqlite3* Database::Handle() const { return connection_->getHandle(); }
+
+Statement Database::Prepare(std::string_view sql) {
+    std::list<PreparedStatement> taken;
+    const auto found = idleBySql_.find(sql);
+    if (found != idleBySql_.end()) {
+        taken.splice(taken.begin(), idle_, found->second);
+        idleBySql_.erase(found);
+        return Statement(*this, std::move(taken));
+    }
+    std::string error;
+    taken.emplace_back();
+    if (!PrepareAnew(sql, taken.front(), error)) return Statement(std::move(error));
+    return Statement(*this, std::move(taken));
+}
+
+bool Database::PrepareAnew(std::string_view sql, PreparedStatement& prepared, std::string& error) {
+    prepared.sql = sql;
+    if (sql.find('\0') != sql.npos) { // SQLite would silently run what stands before it
+        error = "a NUL character in the SQL statement";
+        return false;
+    }
+    sqlite3_stmt* handle = nullptr;
+    const char* tail = nullptr;
+    const char* const text = prepared.sql.c_str();
+    const int outcome = sqlite3_prepare_v3(Handle(), text, -1, SQLITE_PREPARE_PERSISTENT, &handle, &tail);
+    prepared.handle.reset(handle);
+    if (outcome != SQLITE_OK) {
+        error = sqlite3_errmsg(Handle());
+        return false;
+    }
+    if (!handle) {
+        error = "no SQL statement in \"" + prepared.sql + "\"";
+        return false;
+    }
+    return EndsAt(tail, text + prepared.sql.size(), error);
+}
+
+/// Whether nothing but blanks and comments follows the first statement.
+bool Database::EndsAt(const char* tail, const char* end, std::string& error) {
+    while (tail != end) {
+        sqlite3_stmt* second = nullptr;
+        const char* rest = end;
+        const int outcome = sqlite3_prepare_v2(Handle(), tail, -1, &second, &rest);
+        sqlite3_finalize(second);
+        if (second || outcome != SQLITE_OK) {
+            const std::string_view text(tail, static_cast<std::size_t>(end - tail));
+            const std::size_t first = std::min(text.find_first_not_of(" \t\r\n\f;"), text.size());
+            error = "one SQL statement at a time; this follows the first: " + std::string(text.substr(first));
+            return false;
+        }
+        tail = rest; // behind a lone semicolon
+    }
+    return true;
+}
+
+void Database::TakeBack(std::list<PreparedStatement>&& prepared) {
+    sqlite3_stmt* const handle = prepared.front().handle.get();
+    sqlite3_reset(handle);
+    sqlite3_clear_bindings(handle);
+    idle_.splice(idle_.begin(), prepared);
+    idleBySql_.emplace(idle_.front().sql, idle_.begin());
+    if (idle_.size() <= idleStatements) return;
+    const auto oldest = std::prev(idle_.end());
+    auto [entry, end] = idleBySql_.equal_range(oldest->sql);
+    while (entry != end && entry->second != oldest) ++entry;
+    if (entry != end) idleBySql_.erase(entry);
+    idle_.erase(oldest);
+}
+
+bool Database::Run(std::string_view sql, const std::vector<Value>& values, Rows& rows, std::string& error) {
+    rows.clear();
+    Statement statement = Prepare(sql);
+    const auto count = static_cast<std::size_t>(statement.ParameterCount());
+    if (!statement.Failed() && count != values.size()) {
+        error = "the SQL statement takes " + std::to_string(count) + (count == 1 ? " value, " : " values, ") +
+                std::to_string(values.size()) + (values.size() == 1 ? " is given" : " are given");
+        return false;
+    }
+    for (std::size_t i = 0; i < values.size(); ++i) statement.Bind(static_cast<int>(i + 1), values[i]);
+    const int columns = statement.ColumnCount();
+    // What gives no rows and changes none itself begins or ends transactions.
+    if (columns == 0 && statement.IsReadOnly()) NoteRollback();
+    while (statement.Next()) {
+        std::vector<std::string>& row = rows.emplace_back();
+        row.reserve(static_cast<std::size_t>(columns));
+        for (int column = 0; column < columns; ++column) row.emplace_back(statement.Text(column));
+    }
+    return statement.Finish(error);
+}
+
+bool Database::Execute(std::string_view sql, std::string& error) {
+    Statement statement = Prepare(sql);
+    while (statement.Next()) {
+    }
+    return statement.Finish(error);
+}
+
+bool Database::RunScript(const std::string& script, std::string& error) {
+    const bool inTransaction = InTransaction();
+    NoteRollback();
+    if (connection_->tryExec(script) == SQLITE_OK) return true;
+    error = connection_->getErrorMsg();
+    std::string ignored; // the script's error is the one to tell
+    if (!inTransaction && InTransaction()) Execute("ROLLBACK", ignored);
+    return false;
+}
+
+bool Database::ReadStamp(Stamp& stamp, std::string& error) {
+    Statement schema = Prepare("PRAGMA main.schema_version");
+    if (schema.Next()) stamp.schema = schema.Integer(0);
+    Statement data = Prepare("PRAGMA main.data_version");
+    if (data.Next()) stamp.foreign = data.Integer(0);
+    stamp.rollbacks = rollbacks_;
+    stamp.own = RowsChanged() - disregarded_;
+    return schema.Finish(error) && data.Finish(error);
+}
+
+std::int64_t Database::RowsChanged() const { return sqlite3_total_changes64(Handle()); }
+
+bool Database::InTransaction() const { return sqlite3_get_autocommit(Handle()) == 0; }
+
+std::int64_t Database::LastInsertedRow() const { return sqlite3_last_insert_rowid(Handle()); }
+
+std::string Database::Quoted(std::string_view name) {
+    std::string quoted = "\"";
+    for (const char character : name) quoted.append(character == '"' ? 2 : 1, character);
+    return quoted += '"';
+}
+
+} // namespace znhost

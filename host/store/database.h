@@ -1,0 +1,96 @@
+// One SQLite database, open: statements, values, transactions' ground, and whether anything changed.
+#ifndef ZN_HOST_DATABASE_H
+#define ZN_HOST_DATABASE_H
+
+#include "store/statement.h"
+
+#include <unordered_map>
+#include <vector>
+
+namespace SQLite {
+class Database;
+}
+struct sqlite3;
+
+namespace znhost {
+
+/// A connection to a database file, or to a database in memory. Failures come as `false` and SQLite's own
+/// text; no SQLite exception leaves the class. All objects made from a database must go before it does.
+class Database {
+public:
+    using Rows = std::vector<std::vector<std::string>>;
+
+    /// What the tables and their rows looked like at one moment. Equal stamps: nothing changed in between.
+    struct Stamp {
+        std::int64_t schema = -1;   ///< counts changes of the tables, by whomever
+        std::int64_t rollbacks = 0; ///< what was rolled back may have been counted, and looked at, before
+        std::int64_t foreign = 0;   ///< what other connections commit
+        std::int64_t own = 0;       ///< rows changed through this one
+
+        bool SameTables(const Stamp& other) const {
+            return schema == other.schema && rollbacks == other.rollbacks;
+        }
+        bool SameRows(const Stamp& other) const {
+            return SameTables(other) && foreign == other.foreign && own == other.own;
+        }
+    };
+
+    /// Opens the database file, which is created when it is missing. Null, with a message that names the file
+    /// and SQLite's reason, when the file cannot be opened, holds something else, or is locked.
+    static std::unique_ptr<Database> OpenFile(const std::string& path, std::string& error);
+    /// A new, empty database that lives as long as the connection.
+    static std::unique_ptr<Database> OpenMemory(std::string& error);
+    ~Database();
+
+    // ---- Statements ----
+    /// The statement, taken from those prepared before when it is among them and not in use. More than one
+    /// statement in `sql`, or none, is a failure.
+    Statement Prepare(std::string_view sql);
+    /// Runs one statement with a value for each of its `?`, and gives its rows as texts (a NULL as an empty
+    /// one).
+    bool Run(std::string_view sql, const std::vector<Value>& values, Rows& rows, std::string& error);
+    /// Runs one statement and drops its rows.
+    bool Execute(std::string_view sql, std::string& error);
+    /// Runs any number of statements, such as a shipped script holds. A transaction that a failed script left
+    /// open is rolled back.
+    bool RunScript(const std::string& script, std::string& error);
+
+    // ---- What happened ----
+    /// @return false when the database cannot be read at present (it is locked, for example)
+    bool ReadStamp(Stamp& stamp, std::string& error);
+    /// The rows changed through this connection so far.
+    std::int64_t RowsChanged() const;
+    /// Leaves that many of the changed rows out of account: they are the host's own, in copies of its own.
+    void DisregardChanges(std::int64_t rows) { disregarded_ += rows; }
+    /// Tells that something was undone: `Stamp` must not be trusted to count on.
+    void NoteRollback() { ++rollbacks_; }
+    bool InTransaction() const;
+    std::int64_t LastInsertedRow() const;
+
+    /// The connection, for the other files of this folder.
+    sqlite3* Handle() const;
+
+    /// A name as an identifier in SQL: in double quotes, those inside doubled.
+    static std::string Quoted(std::string_view name);
+
+private:
+    friend class Statement;
+    explicit Database(std::unique_ptr<SQLite::Database> connection);
+    static std::unique_ptr<Database> Open(const char* path, std::string& error);
+
+    bool PrepareAnew(std::string_view sql, PreparedStatement& prepared, std::string& error);
+    bool EndsAt(const char* tail, const char* end, std::string& error);
+    void TakeBack(std::list<PreparedStatement>&& prepared);
+
+    std::unique_ptr<SQLite::Database> connection_; // closed last: the statements below need it
+    // The statements not in use, the latest first. The same text may be there more than once: a statement
+    // used inside a loop over its own rows needs a second one.
+    std::list<PreparedStatement> idle_;
+    std::unordered_multimap<std::string_view, std::list<PreparedStatement>::iterator> idleBySql_;
+    std::int64_t rollbacks_ = 0;
+    std::int64_t disregarded_ = 0;
+};
+
+} // namespace znhost
+
+#endif

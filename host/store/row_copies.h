@@ -1,0 +1,27 @@
+// Copies of the rows of views and other tables whose rows have no numbers of their own.
+#ifndef ZN_HOST_ROW_COPIES_H
+#define ZN_HOST_ROW_COPIES_H
+
+#include "store/schema.h"
+
+namespace znhost {
+
+/// The temporary copies that `Table::rows` names where a table is `copied`. The user's database is not
+/// touched.
+class RowCopies {
+public:
+    explicit RowCopies(Database& database) : database_(database) {}
+
+    /// Makes the rows of the table ready to be read; to be called before each reading. Does nothing for a
+    /// table that is not copied, and next to nothing when nothing in the database changed; else it reads the
+    /// table once. @return false with SQLite's reason when the table cannot be read
+    bool Refresh(const Table& table, std::string& error);
+
+private:
+    Database& database_;
+    std::unordered_map<std::string, Database::Stamp> stamps_; // of the last copy, by table name
+};
+
+} // namespace znhost
+
+#endif

@@ -1,0 +1,248 @@
+#include "store/schema.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+namespace znhost {
+namespace {
+
+char Folded(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+
+std::string Folded(std::string_view text) {
+    std::string folded(text);
+    for (char& character : folded) character = Folded(character);
+    return folded;
+}
+
+bool StartsWith(std::string_view text, std::string_view start) {
+    return text.substr(0, start.size()) == start;
+}
+
+bool Holds(std::string_view text, std::initializer_list<std::string_view> words) {
+    return std::any_of(words.begin(), words.end(),
+                       [text](std::string_view word) { return text.find(word) != text.npos; });
+}
+
+bool IsInternal(std::string_view name) {
+    const std::string folded = Folded(name);
+    return StartsWith(folded, "sqlite_") || StartsWith(folded, "znbrowser_");
+}
+
+/// By SQLite's rules: anything with INT in it is an integer, even when it is a text too.
+bool IsTextDeclaration(std::string_view declaredType) {
+    const std::string folded = Folded(declaredType);
+    return folded.find("int") == folded.npos && Holds(folded, {"char", "clob", "text"});
+}
+
+/// Builds one table from what the pragmas tell.
+class TableReader {
+public:
+    TableReader(Database& database, Table& table) : database_(database), table_(table) {}
+
+    bool ReadColumns(std::string& error) {
+        Statement columns = Ask("SELECT name, type, \"notnull\", pk FROM pragma_table_xinfo(?, 'main') WHERE "
+                                "hidden <> 1 ORDER BY cid");
+        while (columns.Next()) {
+            Column& column = table_.columns.emplace_back();
+            column.name = columns.Text(0);
+            column.declaredType = columns.Text(1);
+            column.type = TypeOfDeclaration(column.declaredType);
+            column.text = IsTextDeclaration(column.declaredType);
+            column.notNull = columns.Integer(2) != 0;
+            column.primaryKey = static_cast<int>(columns.Integer(3));
+        }
+        return columns.Finish(error);
+    }
+
+    /// Marks what an index leads with. A partial index does not hold all rows and an expression is no column.
+    bool ReadIndexes(std::string& error) {
+        Statement indexes = Ask("SELECT info.name, list.origin FROM pragma_index_list(?, 'main') AS list, "
+                                "pragma_index_info(list.name, 'main') AS info "
+                                "WHERE info.seqno = 0 AND info.cid >= 0 AND list.partial = 0");
+        while (indexes.Next()) {
+            keyHasIndex_ = keyHasIndex_ || indexes.Text(1) == "pk";
+            if (const auto column = table_.FindColumn(indexes.Text(0)))
+                table_.columns[*column].indexed = true;
+        }
+        return indexes.Finish(error);
+    }
+
+    /// Targets without columns stay so for now: they mean the primary key of a table perhaps not yet read.
+    bool ReadForeignKeys(std::string& error) {
+        Statement keys =
+            Ask("SELECT seq, \"table\", \"from\", \"to\" FROM pragma_foreign_key_list(?, 'main') "
+                "ORDER BY id DESC, seq"); // the last declared has the id 0
+        while (keys.Next()) {
+            if (keys.Integer(0) == 0) {
+                table_.foreignKeys.emplace_back();
+                table_.foreignKeys.back().table = keys.Text(1);
+            }
+            table_.foreignKeys.back().from.emplace_back(keys.Text(2));
+            if (!keys.IsNull(3)) table_.foreignKeys.back().to.emplace_back(keys.Text(3));
+        }
+        return keys.Finish(error);
+    }
+
+    void FindRowidColumn() {
+        const auto isKey = [](const Column& column) { return column.primaryKey > 0; };
+        if (keyHasIndex_ || std::count_if(table_.columns.begin(), table_.columns.end(), isKey) != 1) return;
+        const auto key = std::find_if(table_.columns.begin(), table_.columns.end(), isKey);
+        // A key of any other type is an ordinary column with an index, also INT; so is INTEGER ... DESC.
+        if (!SameName(key->declaredType, "INTEGER")) return;
+        key->indexed = true;
+        table_.rowidColumn = static_cast<std::size_t>(key - table_.columns.begin());
+    }
+
+    void FindDisplayColumn() {
+        for (const char* const name : {"name", "title", "label", "caption", "number"}) {
+            if ((table_.displayColumn = table_.FindColumn(name))) return;
+        }
+        const auto text = std::find_if(table_.columns.begin(), table_.columns.end(),
+                                       [](const Column& column) { return column.text; });
+        if (text != table_.columns.end()) {
+            table_.displayColumn = static_cast<std::size_t>(text - table_.columns.begin());
+        }
+    }
+
+    /// Where the rows are read and what numbers them.
+    void FindRows() {
+        if (table_.rowidColumn) {
+            table_.key = Database::Quoted(table_.columns[*table_.rowidColumn].name);
+        } else { // any of the three names may be taken by an ordinary column
+            for (const char* const name : {"rowid", "_rowid_", "oid"}) {
+                if (table_.key.empty() && !table_.FindColumn(name)) table_.key = name;
+            }
+        }
+        if (table_.key.empty()) table_.problem = "columns hide the row number of the table " + table_.name;
+        table_.rows = table_.copied ? "temp." + Database::Quoted("znbrowser_rows_" + table_.name)
+                                    : "main." + Database::Quoted(table_.name);
+    }
+
+private:
+    Statement Ask(std::string_view sql) {
+        Statement statement = database_.Prepare(sql);
+        statement.Bind(1, table_.name);
+        return statement;
+    }
+
+    Database& database_;
+    Table& table_;
+    bool keyHasIndex_ = false;
+};
+
+std::string ReadTable(Database& database, Table& table) {
+    TableReader reader(database, table);
+    std::string error;
+    if (!reader.ReadColumns(error)) return error;
+    if (!table.view && !reader.ReadForeignKeys(error)) return error;
+    if (table.copied) {
+        for (Column& column : table.columns) column.indexed = column.primaryKey == 1; // all that the copy has
+    } else {
+        if (!reader.ReadIndexes(error)) return error;
+        reader.FindRowidColumn();
+    }
+    reader.FindDisplayColumn();
+    reader.FindRows();
+    return table.problem;
+}
+
+using TablesByName = std::unordered_map<std::string, const Table*>;
+
+/// Gives a foreign key its target as the target's own definition has it. @return false when it leads nowhere
+bool Resolve(ForeignKey& key, const Table& from, const TablesByName& tables) {
+    const auto found = tables.find(Folded(key.table));
+    if (found == tables.end()) return false;
+    const Table& target = *found->second;
+    key.table = target.name;
+    if (key.to.empty()) {
+        for (int position = 1; position <= static_cast<int>(key.from.size()); ++position) {
+            for (const Column& column : target.columns) {
+                if (column.primaryKey == position) key.to.push_back(column.name);
+            }
+        }
+    }
+    const auto allIn = [](const Table& table, std::vector<std::string>& names) {
+        return std::all_of(names.begin(), names.end(), [&table](std::string& name) {
+            const auto column = table.FindColumn(name);
+            if (column) name = table.columns[*column].name;
+            return column.has_value();
+        });
+    };
+    return key.to.size() == key.from.size() && allIn(target, key.to) && allIn(from, key.from);
+}
+
+} // namespace
+
+bool SameName(std::string_view a, std::string_view b) {
+    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
+                                              [](char one, char two) { return Folded(one) == Folded(two); });
+}
+
+ZNBROWSER_DATA_TYPE TypeOfDeclaration(std::string_view declaredType) {
+    const std::string folded = Folded(declaredType);
+    if (folded == "bool" || folded == "boolean") return ZNBROWSER_DATA_BOOL;
+    if (Holds(folded, {"int"})) return ZNBROWSER_DATA_INT;
+    if (IsTextDeclaration(declaredType) || Holds(folded, {"blob"})) return ZNBROWSER_DATA_STRING;
+    return Holds(folded, {"real", "floa", "doub"}) ? ZNBROWSER_DATA_DOUBLE : ZNBROWSER_DATA_STRING;
+}
+
+std::optional<std::size_t> Table::FindColumn(std::string_view column) const {
+    const auto found = std::find_if(columns.begin(), columns.end(),
+                                    [column](const Column& one) { return SameName(one.name, column); });
+    if (found == columns.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - columns.begin());
+}
+
+const std::vector<Schema::TablePtr>& Schema::Tables() {
+    std::string ignored;
+    Refresh(ignored);
+    return tables_;
+}
+
+Schema::TablePtr Schema::Find(std::string_view name) {
+    for (const TablePtr& table : Tables()) {
+        if (SameName(table->name, name)) return table;
+    }
+    return nullptr;
+}
+
+bool Schema::Refresh(std::string& error) {
+    Database::Stamp now;
+    if (!database_.ReadStamp(now, error)) return false;
+    if (now.SameTables(stamp_)) return true;
+    std::vector<TablePtr> tables;
+    if (!Read(tables, error)) return false;
+    tables_ = std::move(tables);
+    stamp_ = now;
+    return true;
+}
+
+bool Schema::Read(std::vector<TablePtr>& tables, std::string& error) {
+    std::vector<std::shared_ptr<Table>> found;
+    Statement list = database_.Prepare("SELECT name, type, wr FROM pragma_table_list WHERE schema = 'main' "
+                                       "AND type IN ('table', 'view', 'virtual') ORDER BY name");
+    while (list.Next()) {
+        if (IsInternal(list.Text(0))) continue;
+        Table& table = *found.emplace_back(std::make_shared<Table>());
+        table.name = list.Text(0);
+        table.view = list.Text(1) == "view";
+        table.copied = list.Text(1) != "table" || list.Integer(2) != 0;
+    }
+    if (!list.Finish(error)) return false;
+    TablesByName byName;
+    for (const auto& table : found) {
+        table->problem = ReadTable(database_, *table);
+        byName.emplace(Folded(table->name), table.get());
+    }
+    for (const auto& table : found) {
+        std::vector<ForeignKey>& keys = table->foreignKeys;
+        const auto leadsNowhere = [&](ForeignKey& key) { return !Resolve(key, *table, byName); };
+        keys.erase(std::remove_if(keys.begin(), keys.end(), leadsNowhere), keys.end());
+    }
+    tables.assign(found.begin(), found.end());
+    return true;
+}
+
+} // namespace znhost

@@ -1,0 +1,93 @@
+// The tables and views of a database, with what the browser needs to know of them.
+#ifndef ZN_HOST_SCHEMA_H
+#define ZN_HOST_SCHEMA_H
+
+#include "store/database.h"
+#include "znBrowserTypes.h"
+
+#include <optional>
+
+namespace znhost {
+
+struct Column {
+    std::string name;
+    std::string declaredType; ///< as written in the table's definition, may be empty
+    /// BOOL for BOOL and BOOLEAN; INT and DOUBLE where SQLite's rules give the column that affinity; else
+    /// STRING.
+    ZNBROWSER_DATA_TYPE type = ZNBROWSER_DATA_STRING;
+    bool text = false; ///< declared as a text: CHAR, CLOB or TEXT
+    bool notNull = false;
+    int primaryKey = 0;   ///< position in the primary key from 1; 0: not in it
+    bool indexed = false; ///< rows with a given value are found through an index
+};
+
+/// The columns `from` of a table hold the values of the columns `to` of the table `table`, pair by pair.
+struct ForeignKey {
+    std::vector<std::string> from;
+    std::string table;
+    std::vector<std::string> to;
+};
+
+/// A table or a view. An item of it is known by its row number, the value of `key` in `rows`:
+///
+///     SELECT <key>, <columns> FROM <rows> WHERE <key> = ?
+///
+/// With most tables that is the rowid of the table itself. Views, tables WITHOUT ROWID and virtual tables
+/// have none: there `rows` is a temporary copy (`copied`), which `RowCopies::Refresh` brings up to date
+/// before it is read. The row numbers of a copied table with a primary key stay with their rows; those of a
+/// view number its rows from 1, and hold until its rows change.
+struct Table {
+    std::string name;
+    bool view = false;
+    bool copied = false;
+    std::string rows; ///< what stands behind FROM
+    std::string key;  ///< the expression for the row number
+    std::vector<Column> columns;
+    std::vector<ForeignKey>
+        foreignKeys; ///< in the order of their declaration; only those that lead somewhere
+    /// The column that names a row: "name", "title", "label", "caption" or "number", else the first text
+    /// column; none: a row is named by its row number.
+    std::optional<std::size_t> displayColumn;
+    /// The column that is the row number itself: INTEGER PRIMARY KEY.
+    std::optional<std::size_t> rowidColumn;
+    /// Why the table cannot be read (a view on a table that is gone, for example); empty: it can. Such a
+    /// table may lack everything but its name.
+    std::string problem;
+
+    /// The place of a column, by its name as SQL compares it: without regard to (ASCII) case.
+    std::optional<std::size_t> FindColumn(std::string_view column) const;
+};
+
+/// What the database is made of, read anew when its tables changed. Tables are shared: one that was found
+/// stays valid, as it was, after a change.
+class Schema {
+public:
+    using TablePtr = std::shared_ptr<const Table>;
+
+    explicit Schema(Database& database) : database_(database) {}
+
+    /// All tables and views in name order, but for SQLite's own and those of the browser itself. When the
+    /// database cannot be read, the tables last known.
+    const std::vector<TablePtr>& Tables();
+    /// The table of that name, case regarded as SQL does; null when there is none.
+    TablePtr Find(std::string_view name);
+    /// Brings `Tables` up to date. @return false when the database cannot be read at present
+    bool Refresh(std::string& error);
+
+private:
+    bool Read(std::vector<TablePtr>& tables, std::string& error);
+
+    Database& database_;
+    Database::Stamp stamp_;
+    std::vector<TablePtr> tables_;
+};
+
+/// The data type of a column declared so.
+ZNBROWSER_DATA_TYPE TypeOfDeclaration(std::string_view declaredType);
+
+/// Whether two names are one to SQL: the same but for ASCII case.
+bool SameName(std::string_view a, std::string_view b);
+
+} // namespace znhost
+
+#endif

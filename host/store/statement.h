@@ -1,0 +1,93 @@
+// A prepared statement, borrowed from its database for as long as it is needed.
+#ifndef ZN_HOST_STATEMENT_H
+#define ZN_HOST_STATEMENT_H
+
+#include "store/value.h"
+
+#include <list>
+#include <memory>
+#include <string>
+#include <string_view>
+
+struct sqlite3_stmt;
+
+namespace znhost {
+
+class Database;
+
+struct FinalizeStatement {
+    void operator()(sqlite3_stmt* statement) const;
+};
+
+/// A statement with the text that it was prepared from.
+struct PreparedStatement {
+    std::string sql;
+    std::unique_ptr<sqlite3_stmt, FinalizeStatement> handle;
+};
+
+/// One run of one SQL statement: bind, read the rows, ask for the outcome.
+///
+///     Statement parts = database.Prepare("SELECT name FROM part WHERE mass > ?");
+///     parts.Bind(1, 2.5);
+///     while (parts.Next()) Show(parts.Text(0));
+///     return parts.Finish(error);
+///
+/// The first failure is kept; from then on every call is harmless and does nothing, so that one look at the
+/// end suffices. On destruction the statement goes back to the database, ready for its next use. It must not
+/// outlive the database.
+class Statement {
+public:
+    Statement(Statement&& other) noexcept = default;
+    Statement& operator=(Statement&&) = delete;
+    ~Statement();
+
+    /// The `?` in their order, the first one is 1. What is not bound is NULL. Texts are copied.
+    void Bind(int position, std::int64_t value);
+    void Bind(int position, double value);
+    void Bind(int position, std::string_view text);
+    void Bind(int position, const Value& value);
+    void Bind(int position, int value) { Bind(position, std::int64_t{value}); }
+    void Bind(int position, const std::string& text) { Bind(position, std::string_view(text)); }
+    void Bind(int position, const char* text) { Bind(position, std::string_view(text ? text : "")); }
+    int ParameterCount() const;
+
+    /// Steps to the next row: false when there are no more, and on failure. A statement that gives no rows is
+    /// run by its first `Next`.
+    bool Next();
+    /// Ready for another run: what is bound stays bound.
+    void Rewind();
+
+    /// The present row, the first column is 0. A value of another type is converted as the database does;
+    /// NULL, and a column that is not there, read as 0 and "". A text is valid until the next call.
+    int ColumnCount() const;
+    bool IsNull(int column) const;
+    std::int64_t Integer(int column) const;
+    double Real(int column) const;
+    std::string_view Text(int column) const;
+    /// The value as it is stored; the bytes of a blob as a text.
+    Value Get(int column) const;
+
+    bool Failed() const { return failed_; }
+    /// Whether everything went well; if not, `error` is the database's reason.
+    bool Finish(std::string& error) const;
+    /// Whether the statement leaves the rows of the database as they are.
+    bool IsReadOnly() const;
+
+private:
+    friend class Database;
+    Statement(Database& owner, std::list<PreparedStatement>&& prepared);
+    explicit Statement(std::string reason);
+
+    sqlite3_stmt* Handle() const { return prepared_.empty() ? nullptr : prepared_.front().handle.get(); }
+    void Check(int resultCode);
+
+    Database* owner_ = nullptr;
+    std::list<PreparedStatement> prepared_; // one, or none after a failed preparation
+    std::string error_;
+    bool failed_ = false;
+    bool finished_ = false;
+};
+
+} // namespace znhost
+
+#endif
