@@ -81,5 +81,5 @@ bool znBrowserManagerTcl::PerformDataOperation() {
 bool znBrowserManagerTcl::SetDataOperationScript(const char* script) {
     BeginOperation();
     if (!current_.dataOperation) return Fail(noOperation);
-    return current_.dataOperation->SetScript(script);
+    return script && current_.dataOperation->SetScript(script);
 }

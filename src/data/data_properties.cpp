@@ -20,7 +20,7 @@ constexpr int lastHostType = 13;
 bool znBrowserManagerTcl::CreateDataPropertyScripted(const char* name, const char* script) {
     BeginOperation();
     if (!current_.dataSourceSimple) return Fail(noDataSource);
-    if (!current_.dataSourceSimple->CreateDataPropertyScript(name, script))
+    if (!name || !script || !current_.dataSourceSimple->CreateDataPropertyScript(name, script))
         return Fail(current_.dataSourceSimple->GetError());
     return GetState();
 }
@@ -30,7 +30,7 @@ bool znBrowserManagerTcl::CreateDataPropertyScripted(const char* name, ZNBROWSER
     BeginOperation();
     if (!current_.dataSourceSimple) return Fail(noDataSource);
     if (type < ZNBROWSER_DATA_BOOL || type > lastHostType) return Fail("Incorrect data type specified");
-    if (!current_.dataSourceSimple->CreateDataPropertyAttribute(name, type, attributeId, extra))
+    if (!name || !current_.dataSourceSimple->CreateDataPropertyAttribute(name, type, attributeId, extra))
         return Fail(current_.dataSourceSimple->GetError());
     return GetState();
 }

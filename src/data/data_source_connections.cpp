@@ -91,17 +91,17 @@ bool znBrowserManagerTcl::DataSourceHierarchicalConnected(znIBrowserView* view, 
 bool znBrowserManagerTcl::DataSourceSimpleConnect(znIBrowserView* view, const char* name) {
     BeginOperation();
     znIBrowser* const browser = GetBrowser();
-    return browser && browser->ConnectDataSourceSimple(view, name);
+    return browser && view && name && browser->ConnectDataSourceSimple(view, name);
 }
 
 bool znBrowserManagerTcl::DataSourceHierarchicalConnect(znIBrowserView* view, const char* name) {
     BeginOperation();
     znIBrowser* const browser = GetBrowser();
-    return browser && browser->ConnectDataSourceHierarchical(view, name);
+    return browser && view && name && browser->ConnectDataSourceHierarchical(view, name);
 }
 
 bool znBrowserManagerTcl::DataSourceDisconnect(znIBrowserView* view, const char* name) {
     BeginOperation();
     znIBrowser* const browser = GetBrowser();
-    return browser && browser->DisconnectDataSource(view, name);
+    return browser && view && name && browser->DisconnectDataSource(view, name);
 }

@@ -27,7 +27,9 @@ bool znBrowserManagerTcl::CreateDataSourceHierarchical(const char* name, bool fi
                                                        const char* text1, const char* text2) {
     BeginOperation();
     if (!current_.dataCtrl) return Fail(noDataCtrl);
-    if (name) current_.dataCtrl->CreateDataSourceHierarchical(name, first, second, text1, text2);
+    if (name)
+        current_.dataCtrl->CreateDataSourceHierarchical(name, first, second, text1 ? text1 : "",
+                                                        text2 ? text2 : "");
     SetCurrentDataSourceHierarchical(name);
     return true;
 }
@@ -51,7 +53,8 @@ bool znBrowserManagerTcl::DataSourceHierarchicalConnect(const char* kind, const 
     BeginOperation();
     if (!kind || !name) return false;
     if (kind == std::string_view("parent")) return current_.dataSourceHierarchical->SetParent(name);
-    return kind == std::string_view("child") && current_.dataSourceHierarchical->AddChild(name, third);
+    return kind == std::string_view("child") &&
+           current_.dataSourceHierarchical->AddChild(name, third ? third : "");
 }
 
 bool znBrowserManagerTcl::DataSourceHierarchicalDisconnectSimple(const char* name) {

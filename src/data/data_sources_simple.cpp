@@ -23,20 +23,20 @@ constexpr char noCurrentSource[] = "Cannot get handle to current datasource simp
 // The host's answer is not asked for: what counts is whether it knows the source afterwards.
 bool znBrowserManagerTcl::CreateDataSourceSimple(const char* name, const char* caption, const char*) {
     if (!current_.dataCtrl) return Fail(noDataCtrl);
-    if (name) current_.dataCtrl->CreateDataSourceSimple(name, caption, nullptr);
+    if (name) current_.dataCtrl->CreateDataSourceSimple(name, caption ? caption : "", nullptr);
     UpdateCurrentDataSourceSimple(FindDataSourceSimple(name));
     return true;
 }
 
+// Unknown names go to the host, too, and its answer is not asked for.
 bool znBrowserManagerTcl::DeleteDataSourceSimple(const char* name) {
     BeginOperation();
     if (!current_.dataCtrl) return Fail(noDataCtrl);
     znIBrowserDataSourceSimple* const source = FindDataSourceSimple(name);
-    if (!source) return GetState();
-    if (source->IsBase()) return FailWith({"Cannot delete datasource: ", name});
-    if (source->IsConnected()) return FailWith({"Cannot delete connected datasource: ", name});
-    const znBrowserCurrentObjects doomed = CurrentsInside(source);
-    current_.dataCtrl->DeleteDataSourceSimple(name);
+    if (source && source->IsBase()) return FailWith({"Cannot delete datasource: ", name});
+    if (source && source->IsConnected()) return FailWith({"Cannot delete connected datasource: ", name});
+    const znBrowserCurrentObjects doomed = source ? CurrentsInside(source) : znBrowserCurrentObjects();
+    if (name) current_.dataCtrl->DeleteDataSourceSimple(name);
     if (FindDataSourceSimple(name) != source) Forget(doomed);
     return GetState();
 }
