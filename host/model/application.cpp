@@ -1,0 +1,107 @@
+#include "model/application.h"
+
+#include "model/data_sources.h"
+#include "store/data_ctrl.h"
+#include "znIBrowserManagerTcl.h"
+
+#include <tcl.h>
+
+namespace znhost {
+
+namespace {
+
+/// The interpreter's result and error state as they were, put back at the end.
+class KeptResult {
+public:
+    explicit KeptResult(Tcl_Interp* interp) : interp_(interp), state_(Tcl_SaveInterpState(interp, TCL_OK)) {}
+    ~KeptResult() { Tcl_RestoreInterpState(interp_, state_); }
+    KeptResult(const KeptResult&) = delete;
+    KeptResult& operator=(const KeptResult&) = delete;
+
+private:
+    Tcl_Interp* const interp_;
+    const Tcl_InterpState state_;
+};
+
+} // namespace
+
+Application::Application(Tcl_Interp* interp, CallLog& log)
+    : HostObject(log), interp_(interp), browser_(*this, log) {}
+
+Application::~Application() = default;
+
+bool Application::AddDataCtrl(const std::string& name, const std::string& file, std::string& error) {
+    if (name.empty()) {
+        error = "A data control needs a name";
+        return false;
+    }
+    if (dataControls_.Find(name)) {
+        error = "A data control \"" + name + "\" already exists";
+        return false;
+    }
+    std::shared_ptr<DataCtrl> control = DataCtrl::Open(*this, name, file, error);
+    if (!control) return false;
+    dataControls_.Add(std::move(control));
+    return true;
+}
+
+bool Application::RunScript(const std::string& script) {
+    if (!manager_ || Tcl_InterpDeleted(interp_)) return Fail("There is no interpreter to run a script in");
+    const KeptResult kept(interp_);
+    if (manager_->EvalTclScript(script.c_str())) return true;
+    log_.SetError(Tcl_GetStringResult(interp_));
+    Tcl_BackgroundException(interp_, TCL_ERROR);
+    return false;
+}
+
+bool Application::CallProcedure(const std::vector<std::string>& words, std::string& result) {
+    if (Tcl_InterpDeleted(interp_)) {
+        result = "There is no interpreter to call a procedure in";
+        return false;
+    }
+    const KeptResult kept(interp_);
+    Tcl_Obj* const command = Tcl_NewListObj(0, nullptr);
+    Tcl_IncrRefCount(command);
+    for (const std::string& word : words) {
+        Tcl_ListObjAppendElement(nullptr, command,
+                                 Tcl_NewStringObj(word.data(), static_cast<int>(word.size())));
+    }
+    const int code = Tcl_EvalObjEx(interp_, command, TCL_EVAL_GLOBAL);
+    Tcl_DecrRefCount(command);
+    result = Tcl_GetStringResult(interp_);
+    return code == TCL_OK;
+}
+
+znIBrowserDataCtrl* Application::FindDataCtrl(const char* name) {
+    if (Refused("znIBrowserApplication::FindDataCtrl", name)) return nullptr;
+    return dataControls_.Find(TextOf(name));
+}
+
+void Application::GetDataCtrls(std::vector<znIBrowserDataCtrl*>& controls) {
+    controls.clear();
+    if (Refused("znIBrowserApplication::GetDataCtrls")) return;
+    dataControls_.CopyTo(controls);
+}
+
+znIBrowser* Application::GetBrowser() {
+    if (Refused("znIBrowserApplication::GetBrowser")) return nullptr;
+    return &browser_;
+}
+
+const char* Application::GetTclNameSpace() {
+    static_cast<void>(Refused("znIBrowserApplication::GetTclNameSpace"));
+    return "::znbrowser";
+}
+
+// Never refused: without an interpreter there would be no way to say so.
+Tcl_Interp* Application::GetTclInterp() {
+    static_cast<void>(Refused("znIBrowserApplication::GetTclInterp"));
+    return interp_;
+}
+
+znSignal<single_threaded, const char*>& Application::GetWindowReselectedSignal() {
+    static_cast<void>(Refused("znIBrowserApplication::GetWindowReselectedSignal"));
+    return windowReselected_;
+}
+
+} // namespace znhost

@@ -1,0 +1,66 @@
+// The browser object: what it owns, and what it makes the others let go of.
+#include "model/browser.h"
+
+#include "model/data_sources.h"
+#include "model/gui_map_list.h"
+#include "model/window_list.h"
+
+namespace znhost {
+
+znIBrowserView* ViewList::FindView(const char* name) {
+    if (Refused("znIBrowserViewList::FindView", name)) return nullptr;
+    return views_.Find(TextOf(name));
+}
+
+void ViewList::GetViews(std::vector<znIBrowserView*>& views, int flags) {
+    views.clear();
+    if (Refused("znIBrowserViewList::GetViews", flags)) return;
+    views_.CopyTo(views);
+}
+
+Browser::Browser(Application& application, CallLog& log)
+    : HostObject(log), application_(application), views_(log), windows_(std::make_unique<WindowList>(log)),
+      guiMaps_(std::make_unique<GuiMapList>(log)) {}
+
+Browser::~Browser() = default;
+
+PopupMenu& Browser::PopupMenuNamed(const std::string& name) {
+    PopupMenu* const menu = popupMenus_.Find(name);
+    return menu ? *menu : popupMenus_.Add(std::make_shared<PopupMenu>(log_, name));
+}
+
+void Browser::Forget(znIBrowserDataSource& source) {
+    for (const auto& view : Views()) view->Forget(source);
+}
+
+void Browser::Forget(const znIBrowserDataReference& reference) {
+    for (const auto& view : Views()) view->Forget(reference);
+}
+
+void Browser::Forget(const znIBrowserDataProperty& property) {
+    for (const auto& view : Views()) view->Forget(property);
+}
+
+void Browser::Forget(const znIBrowserDataOperation& operation) {
+    for (const auto& view : Views()) view->Forget(operation);
+}
+
+bool Browser::Uses(znIBrowserDataSource& source) {
+    for (const auto& view : Views()) {
+        if (view->Uses(source)) return true;
+    }
+    return false;
+}
+
+void Browser::DataChanged(const znIBrowserDataCtrl& control, unsigned changes) {
+    for (const auto& view : Views()) {
+        if (view->DataControl() == &control) view->Changed(changes);
+    }
+}
+
+const char* Browser::GetError() const {
+    if (Refused("znIBrowser::GetError")) return "";
+    return log_.Error().c_str();
+}
+
+} // namespace znhost

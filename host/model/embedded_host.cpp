@@ -1,0 +1,92 @@
+#include "model/embedded_host.h"
+
+#include "host/znIBrowserDataCtrl.h"
+#include "model/application.h"
+#include "model/data_sources.h"
+#include "model/window_list.h"
+#include "store/data_ctrl.h"
+#include "znBrowserManagerTcl.h"
+
+#include <set>
+#include <tcl.h>
+
+namespace znhost {
+
+namespace {
+
+constexpr const char* commandName = "znbrowsermanager";
+
+} // namespace
+
+/// What the host consists of; destroyed from the last to the first.
+struct EmbeddedHost::Parts {
+    explicit Parts(Tcl_Interp* tcl) : interp(tcl), application(interp, log) { Tcl_Preserve(interp); }
+    ~Parts() {
+        if (command) Tcl_DeleteCommandFromToken(interp, command);
+        application.SetManager(nullptr);
+        if (manager) manager->DeleteBrowserManagerCollectorTcl();
+        manager.reset();
+        Tcl_Release(interp);
+    }
+    Parts(const Parts&) = delete;
+    Parts& operator=(const Parts&) = delete;
+
+    /// Keeps hold of the command, so that it is found again when a script has renamed it, and is not looked
+    /// for when a script has deleted it.
+    void WatchCommand() {
+        Tcl_CmdInfo info;
+        if (!Tcl_GetCommandInfo(interp, commandName, &info)) return;
+        command = Tcl_FindCommand(interp, commandName, nullptr, TCL_GLOBAL_ONLY);
+        info.deleteProc = [](ClientData parts) { static_cast<Parts*>(parts)->command = nullptr; };
+        info.deleteData = this;
+        Tcl_SetCommandInfoFromToken(command, &info);
+    }
+
+    Tcl_Interp* const interp;
+    Tcl_Command command = nullptr;
+    CallLog log;
+    Application application;
+    std::unique_ptr<znBrowserManagerTcl> manager;
+};
+
+EmbeddedHost::EmbeddedHost(Tcl_Interp* interp) : parts_(std::make_unique<Parts>(interp)) {
+    parts_->manager = std::make_unique<znBrowserManagerTcl>(&parts_->application);
+    parts_->application.SetManager(parts_->manager.get());
+    parts_->WatchCommand();
+}
+
+EmbeddedHost::~EmbeddedHost() = default;
+
+znBrowserManagerTcl& EmbeddedHost::Manager() { return *parts_->manager; }
+
+Application& EmbeddedHost::App() { return parts_->application; }
+
+bool EmbeddedHost::CreateDataCtrl(const std::string& name, const std::string& file, std::string& error) {
+    return App().AddDataCtrl(name, file, error);
+}
+
+std::vector<std::string> EmbeddedHost::GetObjectNames() const {
+    CallLog& log = parts_->log;
+    const CallLog::Quiet quiet(log);
+    Browser& browser = parts_->application.Model();
+    std::set<std::string> names;
+    for (const auto& control : parts_->application.DataControls()) {
+        names.insert(control->Name());
+        std::vector<znIBrowserDataSource*> sources;
+        control->GetDataSources(sources);
+        for (znIBrowserDataSource* const source : sources) names.insert(NameOf(log, source));
+    }
+    for (const auto& view : browser.Views()) {
+        names.insert(view->Name());
+        for (const auto& column : view->Columns()) names.insert(column->Name());
+        for (const auto& property : view->Properties()) names.insert(property->Name());
+        for (const auto& operation : view->Operations()) names.insert(operation->Name());
+        for (const FreeFolder* const folder : view->RootFolder().WithBelow()) names.insert(folder->Name());
+    }
+    std::vector<znIBrowserWindowAccess*> windows;
+    browser.Windows().GetWindowAccesses(windows, 0);
+    for (znIBrowserWindowAccess* const window : windows) names.insert(NameOf(log, window));
+    return {names.begin(), names.end()};
+}
+
+} // namespace znhost

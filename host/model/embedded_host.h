@@ -1,0 +1,42 @@
+// The embedded host: a complete host for the scripting layer.
+#ifndef ZN_HOST_EMBEDDED_HOST_H
+#define ZN_HOST_EMBEDDED_HOST_H
+
+#include <memory>
+#include <string>
+#include <vector>
+
+class znBrowserManagerTcl;
+struct Tcl_Interp;
+
+namespace znhost {
+
+class Application;
+
+/// A host with its own model, and a manager on it: after the constructor the interpreter has the command
+/// "znbrowsermanager". The interpreter may be deleted before the host; its memory is kept as long.
+class EmbeddedHost {
+public:
+    explicit EmbeddedHost(Tcl_Interp* interp);
+    /// Deletes the command, the manager and the model.
+    ~EmbeddedHost();
+    EmbeddedHost(const EmbeddedHost&) = delete;
+    EmbeddedHost& operator=(const EmbeddedHost&) = delete;
+
+    /// Adds a data control on the database `file`, which is made when missing; on one in memory when `file`
+    /// is "". @return false, with the reason in `error`, and without a data control.
+    bool CreateDataCtrl(const std::string& name, const std::string& file, std::string& error);
+    /// The names of what scripts name most: views, windows, data controls, their data sources, and the
+    /// columns, properties and folders of views; sorted, each once.
+    std::vector<std::string> GetObjectNames() const;
+    znBrowserManagerTcl& Manager();
+    Application& App();
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> parts_;
+};
+
+} // namespace znhost
+
+#endif

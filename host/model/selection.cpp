@@ -1,0 +1,111 @@
+#include "model/selection.h"
+
+#include "host/znBrowserDataItems.h"
+
+#include <algorithm>
+
+namespace znhost {
+
+Selection::Part* Selection::Find(const Source* source) {
+    const auto found = std::find_if(parts_.begin(), parts_.end(),
+                                    [source](const Part& part) { return part.source == source; });
+    return found == parts_.end() ? nullptr : &*found;
+}
+
+RowSet& Selection::RowsFor(Source* source) {
+    if (Part* const part = Find(source)) return part->rows;
+    return parts_.emplace_back(Part{source, {}}).rows;
+}
+
+const RowSet* Selection::Rows(const Source* source) const {
+    const Part* const part = const_cast<Selection*>(this)->Find(source);
+    return part && !part->rows.IsEmpty() ? &part->rows : nullptr;
+}
+
+bool Selection::Announce(bool changed) {
+    if (changed && onChange_) onChange_();
+    return changed;
+}
+
+bool Selection::Select(Source* source, Row row) { return source && Announce(RowsFor(source).Add(row)); }
+
+bool Selection::Select(Source* source, std::vector<Row> rows) {
+    return source && Announce(RowsFor(source).Add(std::move(rows)));
+}
+
+bool Selection::Deselect(Source* source, Row row) {
+    Part* const part = Find(source);
+    return part && Announce(part->rows.Remove(row));
+}
+
+bool Selection::Deselect(Source* source, const std::vector<Row>& rows) {
+    Part* const part = Find(source);
+    return part && Announce(part->rows.Remove(rows));
+}
+
+bool Selection::Change(const znBrowserDataItems& items, bool select) {
+    bool changed = false;
+    for (std::size_t i = 0; i < items.runs.size(); ++i) {
+        const std::size_t end = i + 1 < items.runs.size() ? items.runs[i + 1].first : items.rows.size();
+        std::vector<Row> rows(items.rows.begin() + static_cast<std::ptrdiff_t>(items.runs[i].first),
+                              items.rows.begin() + static_cast<std::ptrdiff_t>(end));
+        Source* const source = items.runs[i].source;
+        if (!source) continue;
+        if (select) {
+            changed = RowsFor(source).Add(std::move(rows)) || changed;
+        } else if (Part* const part = Find(source)) {
+            changed = part->rows.Remove(rows) || changed;
+        }
+    }
+    return changed;
+}
+
+bool Selection::Select(const znBrowserDataItems& items) { return Announce(Change(items, true)); }
+
+bool Selection::Deselect(const znBrowserDataItems& items) { return Announce(Change(items, false)); }
+
+bool Selection::Replace(const znBrowserDataItems& items) {
+    const bool had = !IsEmpty();
+    parts_.clear();
+    return Announce(Change(items, true) || had);
+}
+
+bool Selection::Clear() {
+    const bool had = !IsEmpty();
+    parts_.clear();
+    return Announce(had);
+}
+
+bool Selection::Clear(const Source* source) {
+    const bool had = Rows(source) != nullptr;
+    parts_.erase(std::remove_if(parts_.begin(), parts_.end(),
+                                [source](const Part& part) { return part.source == source; }),
+                 parts_.end());
+    return Announce(had);
+}
+
+bool Selection::IsSelected(const Source* source, Row row) const {
+    const RowSet* const rows = Rows(source);
+    return rows && rows->Has(row);
+}
+
+bool Selection::IsSelected(const znBrowserDataItem& item) const { return IsSelected(item.source, item.row); }
+
+std::size_t Selection::Size() const {
+    std::size_t size = 0;
+    for (const Part& part : parts_) size += part.rows.Size();
+    return size;
+}
+
+void Selection::AppendTo(znBrowserDataItems& items) const {
+    for (const Part& part : parts_) AppendTo(items, part.source);
+}
+
+void Selection::AppendTo(znBrowserDataItems& items, Source* source) const {
+    const RowSet* const rows = Rows(source);
+    if (!rows) return;
+    items.rows.reserve(items.rows.size() + rows->Size());
+    rows->ForEach([&](Row row) { items.Append(source, row); });
+}
+
+} // namespace znhost

@@ -1,0 +1,133 @@
+// A view: its parts, its observers, and the questions that scripts ask about it.
+#include "model/view.h"
+
+#include "host/znIBrowserDataCtrl.h"
+#include "host/znIBrowserDataReference.h"
+#include "model/browser.h"
+#include "model/data_sources.h"
+
+namespace znhost {
+
+View::View(Browser& browser, std::string name, bool newConnections)
+    : HostObject(browser.Log()), browser_(browser), name_(std::move(name)), newConnections_(newConnections),
+      root_(std::make_shared<FreeFolder>(*this, nullptr, Name())),
+      selection_([this] { Changed(VIEW_SELECTION); }) {
+    columns_.Add(std::make_shared<Column>(*this, Column::builtInName, ColumnKind::BuiltIn));
+}
+
+View::~View() {
+    TellObservers([](ViewObserver& observer) { observer.OnViewDeleted(); });
+    for (const auto& operation : operations_) operation->Detach();
+}
+
+void View::DeleteColumn(Column& column) {
+    TellObservers([&](ViewObserver& observer) { observer.OnColumnDeleted(column); });
+    if (sortColumn_ == &column) sortColumn_ = nullptr;
+    columns_.Remove(column);
+    Changed(VIEW_COLUMNS | VIEW_ROWS);
+}
+
+void View::SortBy(Column* column, bool ascending) {
+    sortColumn_ = column;
+    sortAscending_ = ascending;
+    Changed(VIEW_ROWS | VIEW_COLUMNS);
+}
+
+ZNBROWSER_SORT_ORDER View::SortOrderOf(const Column& column) const {
+    if (sortColumn_ != &column) return ZNBROWSER_UNSORTED;
+    return sortAscending_ ? ZNBROWSER_ASCENDING : ZNBROWSER_DESCENDING;
+}
+
+void View::AddObserver(ViewObserver& observer) { observers_.push_back(&observer); }
+
+void View::RemoveObserver(const ViewObserver& observer) {
+    RemoveAll(observers_, const_cast<ViewObserver*>(&observer));
+}
+
+void View::Changed(unsigned changes) {
+    heldBack_ |= changes;
+    if (!browser_.HoldsBack()) Flush();
+}
+
+void View::Flush() {
+    const unsigned changes = std::exchange(heldBack_, 0U);
+    if (changes) TellObservers([changes](ViewObserver& observer) { observer.OnViewChanged(changes); });
+}
+
+const znString& View::GetName() const {
+    static const znString none;
+    if (Refused("znIBrowserView::GetName")) return none;
+    return name_;
+}
+
+znIBrowserDataCtrl* View::GetDataCtrl() {
+    if (Refused("znIBrowserView::GetDataCtrl")) return nullptr;
+    return dataControl_;
+}
+
+// What the view shows of another control stays configured, so that it is there again when that is connected
+// again; only the selection goes.
+bool View::SetDataCtrl(znIBrowserDataCtrl* control) {
+    if (Refused("znIBrowserView::SetDataCtrl", control)) return false;
+    if (control == dataControl_) return true;
+    dataControl_ = control;
+    ClearAllSelection();
+    Changed(VIEW_ALL);
+    return true;
+}
+
+znIBrowserViewColumn* View::GetCurrentColumn() {
+    if (Refused("znIBrowserView::GetCurrentColumn")) return nullptr;
+    return &DefaultColumn();
+}
+
+znIBrowserViewItemFreeFolder* View::GetRootFreeFolder() {
+    if (Refused("znIBrowserView::GetRootFreeFolder")) return nullptr;
+    return root_.get();
+}
+
+bool View::UsesNewConnections() const {
+    if (Refused("znIBrowserView::UsesNewConnections")) return false;
+    return newConnections_;
+}
+
+znIBrowser* View::GetBrowser() {
+    if (Refused("znIBrowserView::GetBrowser")) return nullptr;
+    return &browser_;
+}
+
+znIBrowserViewColumn* View::FindColumn(const char* name) {
+    if (Refused("znIBrowserView::FindColumn", name)) return nullptr;
+    return columns_.Find(TextOf(name));
+}
+
+znIBrowserViewColumn* View::GetDefaultColumn() {
+    if (Refused("znIBrowserView::GetDefaultColumn")) return nullptr;
+    return &DefaultColumn();
+}
+
+bool View::GetColumns(std::vector<znIBrowserViewColumn*>& columns) {
+    columns.clear();
+    if (Refused("znIBrowserView::GetColumns")) return false;
+    columns_.CopyTo(columns);
+    return true;
+}
+
+znIBrowserViewProperty* View::FindViewProperty(const char* name) {
+    if (Refused("znIBrowserView::FindViewProperty", name)) return nullptr;
+    return properties_.Find(TextOf(name));
+}
+
+bool View::GetViewProperties(std::vector<znIBrowserViewProperty*>& properties) {
+    properties.clear();
+    if (Refused("znIBrowserView::GetViewProperties")) return false;
+    properties_.CopyTo(properties);
+    return true;
+}
+
+znIBrowserViewOperation* View::FindViewOperation(const char* name) {
+    if (Refused("znIBrowserView::FindViewOperation", name)) return nullptr;
+    return operations_.Find(TextOf(name));
+}
+
+} // namespace znhost

@@ -1,0 +1,193 @@
+// A view.
+#ifndef ZN_HOST_VIEW_H
+#define ZN_HOST_VIEW_H
+
+#include "host/znIBrowserView.h"
+#include "model/column.h"
+#include "model/free_folder.h"
+#include "model/host_call.h"
+#include "model/named_list.h"
+#include "model/selection.h"
+#include "model/view_observer.h"
+#include "model/view_operation.h"
+#include "model/view_property.h"
+
+#include <memory>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace znhost {
+
+class Browser;
+
+/// What narrows the rows of a view to those with a text.
+struct TextFilter {
+    std::string pattern; ///< "" for no filter.
+    bool matchCase = false;
+    bool matchWord = false;
+};
+
+class View final : public znIBrowserView, public HostObject {
+public:
+    using Share = std::pair<znIBrowserDataSourceHierarchical*, znIBrowserView*>;
+
+    /// Has one column, "Name", and a root folder that bears the view's name.
+    View(Browser& browser, std::string name, bool newConnections);
+    /// Tells the observers.
+    ~View() override;
+
+    const std::string& Name() const { return name_.Str(); }
+    Browser& Owner() const { return browser_; }
+    znIBrowserDataCtrl* DataControl() const { return dataControl_; }
+    bool HasNewConnections() const { return newConnections_; }
+    FreeFolder& RootFolder() const { return *root_; }
+
+    // Columns. The default column is the built-in one; it always exists.
+    NamedList<Column>& Columns() { return columns_; }
+    const NamedList<Column>& Columns() const { return columns_; }
+    Column& DefaultColumn() const { return *columns_.Find(Column::builtInName); }
+    void DeleteColumn(Column& column);
+    /// The column by which the rows are sorted; null when they are not, or the view does not sort.
+    Column* SortColumn() const { return sorting_ ? sortColumn_ : nullptr; }
+    bool SortsAscending() const { return sortAscending_; }
+    /// Null: no column sorts.
+    void SortBy(Column* column, bool ascending);
+    /// The direction of one column, whether or not the view sorts at present.
+    ZNBROWSER_SORT_ORDER SortOrderOf(const Column& column) const;
+
+    NamedList<ViewProperty>& Properties() { return properties_; }
+    const NamedList<ViewProperty>& Properties() const { return properties_; }
+    NamedList<ViewOperation>& Operations() { return operations_; }
+    const NamedList<ViewOperation>& Operations() const { return operations_; }
+
+    // Data sources connected to the view itself, in the order connected, and references.
+    const std::vector<znIBrowserDataSource*>& ConnectedSources() const { return connected_; }
+    bool IsConnected(const znIBrowserDataSource* source) const;
+    /// False, with an error text, when the source is connected already.
+    bool ConnectSource(znIBrowserDataSource& source);
+    /// False, with an error text, when the source is not connected.
+    bool DisconnectSource(znIBrowserDataSource& source);
+    const std::vector<znIBrowserDataReference*>& ConnectedReferences() const { return references_; }
+    /// The hierarchical sources that this view shares with others.
+    const std::vector<Share>& Shares() const { return shares_; }
+    /// False, with an error text, when the share exists.
+    bool AddShare(View& other, znIBrowserDataSourceHierarchical& source);
+
+    // Selection.
+    Selection& Selected() { return selection_; }
+    const Selection& Selected() const { return selection_; }
+    /// True when that changed something.
+    bool SelectFolder(FreeFolder& folder, bool selected);
+    void ClearAllSelection();
+
+    // Filters.
+    /// Whether the filter shows the items of that source.
+    bool IsShown(znIBrowserDataSourceSimple* source) const;
+    const TextFilter& Filter() const { return filter_; }
+    bool GroupsFilter() const { return groupFilter_; }
+    /// The simple data sources that the view has: in its folders, then those only connected.
+    std::vector<znIBrowserDataSourceSimple*> ShowableSources() const;
+
+    // Who shows the view. Observers are not owned and must outlive the view or be removed.
+    void AddObserver(ViewObserver& observer);
+    void RemoveObserver(const ViewObserver& observer);
+    /// Tells the observers, now or, while changes are held back, with the next `Flush`.
+    /// `changes` are bits of `ViewChange`.
+    void Changed(unsigned changes);
+    /// Tells what was held back.
+    void Flush();
+    /// Tells each observer something at once: `tell(ViewObserver&)`.
+    template <class Tell>
+    void TellObservers(Tell&& tell) {
+        const std::vector<ViewObserver*> observers = observers_;
+        for (ViewObserver* const observer : observers) tell(*observer);
+    }
+
+    // Lets go of what is about to be deleted.
+    void Forget(znIBrowserDataSource& source);
+    void Forget(const znIBrowserDataReference& reference);
+    void Forget(const znIBrowserDataProperty& property);
+    void Forget(const znIBrowserDataOperation& operation);
+    void Forget(const View& other);
+    /// Whether the view shows the source, or is connected to it.
+    bool Uses(znIBrowserDataSource& source) const;
+
+    const znString& GetName() const override;
+    znIBrowserDataCtrl* GetDataCtrl() override;
+    bool SetDataCtrl(znIBrowserDataCtrl* control) override;
+    znIBrowserViewColumn* GetCurrentColumn() override;
+    znIBrowserViewItemFreeFolder* GetRootFreeFolder() override;
+    bool UsesNewConnections() const override;
+    znIBrowser* GetBrowser() override;
+    znIBrowserViewColumn* FindColumn(const char* name) override;
+    znIBrowserViewColumn* GetDefaultColumn() override;
+    bool GetColumns(std::vector<znIBrowserViewColumn*>& columns) override;
+    znIBrowserViewProperty* FindViewProperty(const char* name) override;
+    bool GetViewProperties(std::vector<znIBrowserViewProperty*>& properties) override;
+    znIBrowserViewOperation* FindViewOperation(const char* name) override;
+    void GetDataSourcesSimple(std::vector<znIBrowserDataSourceSimple*>& sources) override;
+    void GetDataSourcesHierarchical(std::vector<znIBrowserDataSourceHierarchical*>& sources) override;
+    znIBrowserDataSourceHierarchical* FindDataSourceHierarchical(const char* name) override;
+    znIBrowserDataSource* FindDataSource(const char* name) override;
+    bool SetDataSourceConnected(znIBrowserDataSource* source, bool connected) override;
+    bool GetConnectedDataSources(std::vector<znIBrowserDataSource*>& sources) override;
+    bool GetConnectedDataReferences(std::vector<znIBrowserDataReference*>& references) override;
+    bool ConnectDataReference(znIBrowserDataReference* reference, bool connect) override;
+    bool AddFindRequestProperty(znIBrowserFindRequest* request, const char* name) override;
+    bool ClearSelection() override;
+    bool GetSelectedItems(znIBrowserDataSource* source, bool recursive, znBrowserDataItems& items) override;
+    bool GetAllSelectedItems(bool recursive, znBrowserDataItems& items) override;
+    bool GetSorting() const override;
+    bool SetSorting(bool sorting) override;
+    bool GetShownFilters(std::vector<znString>& names) override;
+    bool SetShownFilters(const std::vector<znString>& names) override;
+    bool GetFilterNames(std::vector<znString>& names) override;
+    bool RebuildFilterLists() override;
+    bool GetGroupFilter() const override;
+    bool SetGroupFilter(bool group) override;
+    const char* GetFilterString() const override;
+    bool SetFilterString(const char* pattern) override;
+    bool GetFilterMatchCase() const override;
+    bool SetFilterMatchCase(bool matchCase) override;
+    bool GetFilterMatchWord() const override;
+    bool SetFilterMatchWord(bool matchWord) override;
+
+private:
+    template <class Value>
+    bool Set(Value& field, Value value, unsigned change) {
+        field = std::move(value);
+        Changed(change);
+        return true;
+    }
+
+    Browser& browser_;
+    const znString name_;
+    const bool newConnections_;
+    znIBrowserDataCtrl* dataControl_ = nullptr;
+
+    NamedList<Column> columns_;
+    NamedList<ViewProperty> properties_;
+    NamedList<ViewOperation> operations_;
+    std::shared_ptr<FreeFolder> root_;
+
+    std::vector<znIBrowserDataSource*> connected_;
+    std::vector<znIBrowserDataReference*> references_;
+    std::vector<Share> shares_;
+
+    Selection selection_;
+    bool sorting_ = true;
+    Column* sortColumn_ = nullptr;
+    bool sortAscending_ = true;
+    TextFilter filter_;
+    bool groupFilter_ = false;
+    std::set<std::string> hiddenSources_; ///< By name: what is not shown.
+
+    std::vector<ViewObserver*> observers_;
+    unsigned heldBack_ = 0;
+};
+
+} // namespace znhost
+
+#endif
