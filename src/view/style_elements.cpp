@@ -1,0 +1,132 @@
+// Elements of the current style.
+#include "frame/name_list.h"
+#include "host/znIBrowser.h"
+#include "host/znIBrowserGuiMap.h"
+#include "host/znIBrowserStyle.h"
+#include "host/znIBrowserStyleElement.h"
+#include "host/znIBrowserView.h"
+#include "host/znIBrowserViewProperty.h"
+#include "host/znIBrowserWindowAccess.h"
+#include "view/view_messages.h"
+
+#include <cstring>
+
+using namespace view_messages;
+
+namespace {
+
+constexpr char noElementName[] = "Cannot get name of the current style element";
+
+/// Styles tell only whether an element exists; to get at it one walks the list.
+znIBrowserStyleElement* FindElement(znIBrowserStyle& style, const char* name) {
+    if (!name || !style.FindElement(name)) return nullptr;
+    std::vector<znIBrowserStyleElement*> elements;
+    style.GetElements(elements);
+    for (znIBrowserStyleElement* const element : elements) {
+        const char* const elementName = element ? element->GetName() : nullptr;
+        if (elementName && std::strcmp(elementName, name) == 0) return element;
+    }
+    return nullptr;
+}
+
+bool GuiMapExists(znIBrowser* browser, const char* name) {
+    znIBrowserGuiMapList* const maps = browser ? browser->GetGuiMapList() : nullptr;
+    return maps && name && maps->FindGuiMap(name);
+}
+
+} // namespace
+
+bool znBrowserManagerTcl::CreateViewStyleElement(const char* name, const char* description) {
+    BeginOperation();
+    if (!current_.style) return Fail(noStyleName);
+    if (!name) return Fail(nullName);
+    if (current_.style->FindElement(name)) return FailWith({"Can't Create, Style Element exists: ", name});
+    if (!current_.style->CreateElement(name, description ? description : ""))
+        return FailWith({"Cannot Create element: ", name});
+    return SetCurrentStyleElement(name);
+}
+
+bool znBrowserManagerTcl::DeleteStyleElement(const char* name) {
+    BeginOperation();
+    if (!current_.style) return Fail(noStyleName);
+    znIBrowserStyleElement* const element = FindElement(*current_.style, name);
+    if (!element)
+        return FailWith({"Element: ", name, " not found in the current style: ", current_.style->GetName()});
+    const bool isCurrent = current_.styleElement == element;
+    if (!current_.style->DeleteElement(element))
+        return FailWith({"View style element \"", name, "\" cannot be deleted"});
+    if (isCurrent) ResetCurrentStyleElement();
+    return true;
+}
+
+bool znBrowserManagerTcl::SetCurrentStyleElement(const char* name) {
+    BeginOperation();
+    if (!current_.style) return Fail(noStyleHandle);
+    znIBrowserStyleElement* const element = FindElement(*current_.style, name);
+    if (!element) return FailWith({"Cannot not find element: ", name, " in the current style"});
+    SetCurrentStyleElement(element);
+    return GetState();
+}
+
+bool znBrowserManagerTcl::GetCurrentStyleElement(znString& out) {
+    BeginOperation();
+    if (!current_.styleElement) return Fail(noElementName);
+    out = current_.styleElement->GetName();
+    return true;
+}
+
+bool znBrowserManagerTcl::GetElementNames(znString& out) {
+    BeginOperation();
+    if (!current_.style) return Fail(noStyleName);
+    std::vector<znIBrowserStyleElement*> elements;
+    current_.style->GetElements(elements);
+    return NameList(EntryForm::Braced).AddNames(elements, NullName::IsLeftOut).Give(*this, out);
+}
+
+bool znBrowserManagerTcl::SetStyleElementDescription(const char* description) {
+    BeginOperation();
+    if (!current_.styleElement) return Fail(noElementName);
+    return HostAnswer(current_.styleElement->SetDescription(description));
+}
+
+bool znBrowserManagerTcl::GetStyleElementDescription(znString& out) {
+    BeginOperation();
+    if (!current_.styleElement) return Fail(noElementName);
+    out = current_.styleElement->GetDescription();
+    return true;
+}
+
+bool znBrowserManagerTcl::GetStyleElementMapName(znString& out) {
+    BeginOperation();
+    if (!current_.styleElement) return Fail("Cannot get description of the current style element");
+    out = current_.styleElement->GetMapName();
+    return true;
+}
+
+bool znBrowserManagerTcl::SetStyleElementMapName(const char* name) {
+    BeginOperation();
+    if (!current_.view) return Fail(noViewName);
+    if (!current_.styleElement) return Fail(noElementName);
+    if (!name && !current_.guiMap) return Fail("Cannot get name of the current gui map");
+    const bool exists = GuiMapExists(GetBrowser(), name ? name : current_.guiMap->GetName());
+    if (!exists && name) {
+        return FailWith({"Gui Map: ", name, " not found in the current window: ",
+                         current_.windowAccess ? current_.windowAccess->GetName() : nullptr});
+    }
+    // A current map that the host no longer knows is passed over in silence.
+    return !exists || HostAnswer(current_.styleElement->SetMapName(name ? name : current_.guiMap->GetName()));
+}
+
+bool znBrowserManagerTcl::SetStyleElementProperty(const char* name) {
+    BeginOperation();
+    if (!current_.view) return Fail(noViewName);
+    if (!current_.styleElement) return Fail(noElementName);
+    if (!name && !current_.viewProperty) return Fail(noPropertyName);
+    const char* const wanted = name ? name : current_.viewProperty->GetName();
+    const bool exists = wanted && current_.view->FindViewProperty(wanted);
+    if (!exists && name) {
+        return FailWith(
+            {"View Property: ", name, " not found in the current view: ", current_.view->GetName().c_str()});
+    }
+    return !exists || HostAnswer(current_.styleElement->SetPropertyName(wanted));
+}

@@ -1,0 +1,149 @@
+// view ...: the views themselves, and the way to the families below them.
+#include "data/data_ctrl_commands.h"
+#include "frame/command_table.h"
+#include "view/view_words.h"
+
+const char* const znBrowserTclMessages::VIEW =
+    "    znbrowsermanager view [action] \n\n"
+    "    \tActions:\n"
+    "    \tcolumn                     Columns for current view...\n"
+    "    \tcreate <view_name>         Create a new view and makes it current.\n"
+    "    \tcurrent [view_name]        Gets/sets the current view.\n"
+    "    \tdatasource                 Datasources for current view...\n"
+    "    \tdelete                     Delete the current view.\n"
+    "    \telement                    Element for the current view...\n"
+    "    \tfilter                     Filter for the current view...\n"
+    "    \tflush <true|false>         Sets the state of the browser flush operation.\n"
+    "    \tfolder                     Folder for the current view...\n"
+    "    \tgroup                      Group for the current view...\n"
+    "    \titalic [enabled|disabled]  Gets/sets the italic font state for the current column in the current "
+    "view.\n"
+    "    \tlist                       List for the current view...\n"
+    "    \tnames                      Show the existing view name list.\n"
+    "    \tnamespace                  Gets the tcl namespace for the application.\n"
+    "    \toperation                  Operation for the current view...\n"
+    "    \tpopupitem                  Popup item for the current view...\n"
+    "    \tproperty                   Property for the current view...\n"
+    "    \tsort                       Sort for the current view...\n"
+    "    \tstyle                      Style for the current view...\n"
+    "    \ttree                       Tree for the current view...\n\n";
+
+const char* const znBrowserTclMessages::VIEW_GROUP =
+    "    znbrowsermanager group children [true|false]\n\n"
+    "    \tActions:\n"
+    "    \tset/get state of group children in the current folder flag\n\n";
+
+const char* const znBrowserTclMessages::VIEW_ITALIC =
+    "    znbrowsermanager view italic [action] \n\n"
+    "    \tActions:\n"
+    "    \t[enabled|disabled]    Sets the italic font state for the current column\n"
+    "    \t                      in the current view.\n";
+
+const char* const znBrowserTclMessages::VIEW_POPUPMENU =
+    "    znbrowsermanager view popupmenu [action] \n\n"
+    "    \tPopup menus and their items are served by the host application.\n\n";
+
+namespace {
+
+using Manager = znBrowserManagerTcl;
+using Messages = znBrowserTclMessages;
+
+/// A host that refuses makes `CreateView` throw; to a script that is a failure like any other.
+bool CreateView(Manager& manager, const char* name, bool flag) {
+    try {
+        return manager.CreateView(name, flag);
+    } catch (const char* refusal) {
+        manager.SetError(refusal);
+        return false;
+    }
+}
+
+void Create(Call& call) {
+    if (!call.Has(3)) return call.Answer(Messages::VIEW);
+    bool flag = false;
+    if (!ReadFlag(call, 4, flag, Messages::VIEW)) return;
+    call.AnswerOutcome(CreateView(call.manager, call.Text(3), flag), call.Text(3));
+}
+
+void Current(Call& call) {
+    if (call.Has(3) && !call.manager.SetCurrentView(call.Text(3))) return call.AnswerError();
+    call.Answer(call.manager.GetCurrentView());
+}
+
+void Delete(Call& call) {
+    if (!call.manager.GetCurrentViewPtr()) return call.Answer("No current view available");
+    const znString name = call.manager.GetCurrentView();
+    call.AnswerOutcome(call.manager.DeleteView(name.c_str()));
+}
+
+void Flush(Call& call) { SetFlag(call, 3, &Manager::SetFlushFlag, Messages::VIEW); }
+
+void GroupChildren(Call& call) {
+    SetOrGetFlag(call, 4, &Manager::SetFreeFolderGroupLeafs, &Manager::GetFreeFolderGroupLeafs,
+                 Messages::VIEW_GROUP);
+}
+
+void Italic(Call& call) {
+    SetOrGetEnabled(call, 3, &Manager::SetItalic, &Manager::GetItalic, Messages::VIEW_ITALIC);
+}
+
+void Names(Call& call) { call.AnswerValue(&Manager::GetViewNames); }
+void Namespace(Call& call) { call.AnswerValue(&Manager::GetTclNameSpace); }
+void Redraw(Call& call) { call.Run(&Manager::RedrawAllViews); }
+void ApplyPending(Call& call) { call.manager.ApplyPendingChanges(); }
+void PopupMenu(Call& call) { call.Answer(Messages::VIEW_POPUPMENU); }
+
+void Sort(Call& call) {
+    if (call.Has(3)) return RunLevel(call, viewSortLevel, 3);
+    znString sorting;
+    znString order;
+    if (!call.manager.GetSorting(sorting) || !call.manager.GetAscendingOrder(order))
+        return call.AnswerError();
+    for (const char* const text : {sorting.c_str(), " ", order.c_str()}) call.Answer(text);
+}
+
+constexpr CommandRow groupRows[] = {{Keyword::Children, GroupChildren}};
+constexpr CommandLevel groupLevel(groupRows, Messages::VIEW_GROUP);
+
+constexpr CommandRow applyRows[] = {{Keyword::Pending, ApplyPending}};
+constexpr CommandLevel applyLevel(applyRows, Messages::VIEW);
+
+constexpr CommandRow viewRows[] = {
+    {Keyword::Column, nullptr, &viewColumnLevel},
+    {Keyword::Create, Create},
+    {Keyword::Current, Current},
+    {Keyword::DataSource, nullptr, &viewDataSourceLevel},
+    {Keyword::Delete, Delete},
+    {Keyword::Element, nullptr, &viewElementLevel},
+    {Keyword::Filter, nullptr, &viewFilterLevel},
+    {Keyword::Flush, Flush},
+    {Keyword::Folder, nullptr, &viewFolderLevel},
+    {Keyword::Group, nullptr, &groupLevel},
+    {Keyword::Italic, Italic},
+    {Keyword::List, nullptr, &viewListLevel},
+    {Keyword::Names, Names},
+    {Keyword::Namespace, Namespace},
+    {Keyword::Operation, nullptr, &viewOperationLevel},
+    {Keyword::Property, nullptr, &viewPropertyLevel},
+    {Keyword::Sort, Sort, &viewSortLevel},
+    {Keyword::Style, nullptr, &viewStyleLevel},
+    {Keyword::Tree, nullptr, &viewTreeLevel},
+    // Words that the usage text leaves out.
+    {Keyword::Apply, nullptr, &applyLevel},
+    {Keyword::DataCtrl, AnswerViewDataCtrl},
+    {Keyword::DataItem, nullptr, &viewDataItemLevel},
+    {Keyword::DataItemList, nullptr, &viewDataItemLevel},
+    {Keyword::DataReference, nullptr, &viewDataReferenceLevel},
+    {Keyword::PopupMenu, PopupMenu},
+    {Keyword::PopupMenuItem, PopupMenu},
+    {Keyword::Redraw, Redraw},
+    {Keyword::Selection, nullptr, &viewSelectionLevel},
+};
+
+} // namespace
+
+constexpr CommandLevel viewLevel(viewRows, Messages::VIEW);
+
+int znBrowserManagerTcl::ViewTclAPICommands(int objc, Tcl_Obj* const objv[]) {
+    return RunFamily(*this, viewLevel, objc, objv);
+}

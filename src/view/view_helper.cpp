@@ -1,0 +1,195 @@
+#include "view/view_helper.h"
+
+#include "frame/data_types.h"
+#include "frame/messages.h"
+#include "frame/name_list.h"
+#include "host/znBrowserDataItems.h"
+#include "host/znIBrowserDataCtrl.h"
+#include "host/znIBrowserDataProperty.h"
+#include "host/znIBrowserDataSource.h"
+#include "host/znIBrowserView.h"
+#include "host/znIBrowserViewItemFreeFolder.h"
+#include "host/znIBrowserViewProperty.h"
+#include "view/view_messages.h"
+
+#include <algorithm>
+
+using namespace view_messages;
+
+namespace {
+
+/// The value of the current view property for an item, as text. It is asked for anew with each item: a script
+/// that computed a value before may have deleted what there was.
+bool ValueOf(const znBrowserManagerTcl& manager, const znBrowserDataItem& item, znString& text) {
+    znIBrowserViewProperty* const property = manager.GetCurrentViewPropertyPtr();
+    znIBrowserDataProperty* const data =
+        property && item.source ? property->GetDataProperty(item.source) : nullptr;
+    return data && VariantToText(data->GetValue(item), text);
+}
+
+} // namespace
+
+znBrowserManagerViewTcl& ViewHelperOf(znBrowserManagerTcl& manager) {
+    manager.CreateBrowserManagerViewTcl();
+    znBrowserManagerViewTcl& helper = *manager.GetBrowserManagerViewTcl();
+    helper.Serve(&manager);
+    return helper;
+}
+
+bool znBrowserManagerViewTcl::Connect(const char* name) {
+    owner_->BeginOperation();
+    znIBrowserView* const view = owner_->GetCurrentViewPtr();
+    if (!view) return owner_->Fail(messages::noCurrentView);
+    znIBrowserDataCtrl* const control = view->GetDataCtrl();
+    znIBrowserDataSource* const source = control && name ? control->FindDataSource(name) : nullptr;
+    if (!source) return owner_->FailWith({"Cannot find data source : ", name});
+    return view->SetDataSourceConnected(source, true) || owner_->Fail("Cannot connect data source");
+}
+
+bool znBrowserManagerViewTcl::Disconnect(const char* name) {
+    owner_->BeginOperation();
+    znIBrowserView* const view = owner_->GetCurrentViewPtr();
+    if (!view) return owner_->Fail(messages::noCurrentView);
+    znIBrowserDataSource* const source = name ? view->FindDataSource(name) : nullptr;
+    if (!source) return owner_->FailWith({"Cannot find data source : ", name});
+    if (!view->SetDataSourceConnected(source, false)) return owner_->Fail("Cannot create tree");
+    if (dataSource_ == source) dataSource_ = nullptr;
+    return true;
+}
+
+bool znBrowserManagerViewTcl::SetCurrentDataSource(const char* name) {
+    owner_->BeginOperation();
+    znIBrowserView* const view = owner_->GetCurrentViewPtr();
+    if (!view) return owner_->Fail(noViewName);
+    znIBrowserDataSource* const source = name ? view->FindDataSource(name) : nullptr;
+    if (!source) {
+        return owner_->FailWith(
+            {"DataSource of: ", name, "(s) is not configured in the view: ", view->GetName().c_str()});
+    }
+    dataSource_ = source;
+    return true;
+}
+
+bool znBrowserManagerViewTcl::GetCurrentDataSource(znString& out) {
+    if (!RequireSource(false)) return false;
+    out = CurrentDataSource()->GetName();
+    return true;
+}
+
+znString znBrowserManagerViewTcl::GetCurrentDataSourceName() const {
+    znIBrowserDataSource* const source = CurrentDataSource();
+    return source ? source->GetName() : znString("");
+}
+
+bool znBrowserManagerViewTcl::GetDataSourceNames(znString& out) {
+    owner_->BeginOperation();
+    znIBrowserView* const view = owner_->GetCurrentViewPtr();
+    if (!view) return owner_->Fail(noViewName);
+    std::vector<znIBrowserDataSource*> sources;
+    if (!view->GetConnectedDataSources(sources))
+        return owner_->Fail("Cannot get list of connected data sources");
+    return NameList(EntryForm::Braced).AddNames(sources, NullName::IsLeftOut).Give(*owner_, out);
+}
+
+bool znBrowserManagerViewTcl::SetFolderDataSource(const char* name) {
+    owner_->BeginOperation();
+    znIBrowserViewItemFreeFolder* const folder = owner_->GetCurrentFreeFolderPtr();
+    if (!owner_->GetCurrentViewPtr()) return owner_->Fail(noViewName);
+    if (!folder) return owner_->Fail(noFolderName);
+    znIBrowserDataSource* const source = name ? folder->FindDataSource(name) : nullptr;
+    if (!source) {
+        return owner_->FailWith(
+            {"DataSource of: ", name, "(s) is not configured in the folder: ", folder->GetName()});
+    }
+    return owner_->HostAnswer(folder->SetCurrentDataSource(source));
+}
+
+bool znBrowserManagerViewTcl::GetFolderDataSource(znString& out) {
+    owner_->BeginOperation();
+    znIBrowserViewItemFreeFolder* const folder = owner_->GetCurrentFreeFolderPtr();
+    if (!owner_->GetCurrentViewPtr()) return owner_->Fail(noViewName);
+    if (!folder) return owner_->Fail(noFolderName);
+    znIBrowserDataSource* const source = folder->GetCurrentDataSource();
+    if (!source) return owner_->Fail(noDataSourceName);
+    out = source->GetName();
+    return true;
+}
+
+bool znBrowserManagerViewTcl::SetFolderDataSourceStyle(bool style) {
+    owner_->BeginOperation();
+    znIBrowserViewItemFreeFolder* const folder = owner_->GetCurrentFreeFolderPtr();
+    znIBrowserViewColumn* const column = owner_->GetCurrentColumnPtr();
+    if (!folder) return owner_->Fail(noFolderName);
+    if (!column) return owner_->Fail(noColumnHandle);
+    znIBrowserDataSource* const source = folder->GetCurrentDataSource();
+    if (!source) return owner_->Fail(" datasource in the current folder");
+    return owner_->HostAnswer(folder->SetDataSourceStyle(source, column, style));
+}
+
+bool znBrowserManagerViewTcl::GetCurrentItem(znString& out) {
+    owner_->BeginOperation();
+    out = "";
+    if (item_) ValueOf(*owner_, *item_, out);
+    return true;
+}
+
+bool znBrowserManagerViewTcl::GetSelectedItems(znString& out, bool recursive) {
+    if (!RequireSource(true)) return false;
+    znIBrowserDataSource* const source = CurrentDataSource();
+    znIBrowserDataSourceSimple* const simple = source->GetSimple();
+    if (simple && !owner_->GetCurrentViewPropertyPtr()->GetDataProperty(simple))
+        return owner_->Fail("Cannot get data property for current datasource");
+    znBrowserDataItems items;
+    if (!owner_->GetCurrentViewPtr()->GetSelectedItems(source, recursive, items))
+        return owner_->FailWithHostError();
+    return GiveValues(items, out);
+}
+
+bool znBrowserManagerViewTcl::GetAllSelectedItems(znString& out, bool recursive) {
+    owner_->BeginOperation();
+    znIBrowserView* const view = owner_->GetCurrentViewPtr();
+    if (!view) return owner_->Fail(noViewName);
+    if (!owner_->GetCurrentViewPropertyPtr()) return owner_->Fail(noPropertyName);
+    znBrowserDataItems items;
+    if (!view->GetAllSelectedItems(recursive, items)) return owner_->FailWithHostError();
+    return GiveValues(items, out);
+}
+
+bool znBrowserManagerViewTcl::SelectItems(bool select, bool recursive) {
+    if (!RequireSource(false)) return false;
+    znIBrowserView* const view = owner_->GetCurrentViewPtr();
+    return owner_->HostAnswer(CurrentDataSource()->SelectItems(view, select, recursive));
+}
+
+bool znBrowserManagerViewTcl::SelectItemsByValue(const char* value, bool select, bool recursive) {
+    if (!RequireSource(true)) return false;
+    znIBrowserView* const view = owner_->GetCurrentViewPtr();
+    znIBrowserViewProperty* const property = owner_->GetCurrentViewPropertyPtr();
+    return owner_->HostAnswer(
+        CurrentDataSource()->SelectItemsByValue(view, property, value, select, recursive));
+}
+
+znIBrowserDataSource* znBrowserManagerViewTcl::CurrentDataSource() const {
+    znIBrowserView* const view = owner_->GetCurrentViewPtr();
+    std::vector<znIBrowserDataSource*> sources;
+    if (!view || !view->GetConnectedDataSources(sources)) return nullptr;
+    return std::find(sources.begin(), sources.end(), dataSource_) != sources.end() ? dataSource_ : nullptr;
+}
+
+bool znBrowserManagerViewTcl::RequireSource(bool property) {
+    owner_->BeginOperation();
+    if (!owner_->GetCurrentViewPtr()) return owner_->Fail(noViewName);
+    if (property && !owner_->GetCurrentViewPropertyPtr()) return owner_->Fail(noPropertyName);
+    return CurrentDataSource() || owner_->Fail(noDataSourceName);
+}
+
+bool znBrowserManagerViewTcl::GiveValues(const znBrowserDataItems& items, znString& out) {
+    znBrowserManagerTcl& manager = *owner_;
+    NameList values(EntryForm::Quoted);
+    znString text;
+    items.ForEach([&](const znBrowserDataItem& item) {
+        if (ValueOf(manager, item, text)) values.Add(text);
+    });
+    manager.SetOk(); // whatever the scripts that computed values left behind
+    return values.Give(manager, out);
+}
