@@ -4,7 +4,9 @@
 
 #include <tcl.h>
 
+#include <algorithm>
 #include <exception>
+#include <vector>
 
 namespace {
 
@@ -22,12 +24,21 @@ int AnswerException(znIBrowserManagerTcl& manager, const char* message) noexcept
     return TCL_OK;
 }
 
+/// Hands on a copy of the words: "app" moves them within their array, and Tcl must find its own as it was.
+int EvalCopy(znIBrowserManagerTcl& manager, int objc, Tcl_Obj* const objv[]) {
+    constexpr int fewWords = 16;
+    if (objc > fewWords) return manager.EvalTclCommand(objc, std::vector<Tcl_Obj*>(objv, objv + objc).data());
+    Tcl_Obj* words[fewWords];
+    std::copy(objv, objv + objc, words);
+    return manager.EvalTclCommand(objc, words);
+}
+
 } // namespace
 
 int CommandProcedure(void* clientData, Tcl_Interp*, int objc, Tcl_Obj* const objv[]) {
     znIBrowserManagerTcl& manager = *static_cast<znIBrowserManagerTcl*>(clientData);
     try {
-        return manager.EvalTclCommand(objc, objv);
+        return EvalCopy(manager, objc, objv);
     } catch (const std::exception& error) {
         return AnswerException(manager, error.what());
     } catch (const znString& text) {
