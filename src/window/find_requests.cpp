@@ -14,7 +14,6 @@ namespace {
 constexpr char noRequest[] = "Cannot get handle to current find request";
 constexpr char noProperty[] = "Cannot get handle to current find request property";
 constexpr char noCriterion[] = "Cannot get handle to current criterion";
-constexpr char noPropertyCriterion[] = "Cannot get handle to current property criterion";
 
 /// The names of records, in order.
 template <class Record>
@@ -22,6 +21,29 @@ NameList NamesOf(const std::vector<Record*>& records) {
     NameList names(EntryForm::Plain, ExtraBlanks::Between);
     for (const Record* const record : records) names.Add(record->name);
     return names;
+}
+
+/// Begins the reading or writing of a field of the current criterion; null, and an error, when there is none.
+znBrowserCriterion* BeginField(znBrowserManagerTcl& manager) {
+    manager.SetOk();
+    manager.ResetBuff();
+    znBrowserCriterion* const criterion = manager.GetCurrentFindRequestPropertyCriterionPtr();
+    if (!criterion) manager.SetError("Cannot get handle to current property criterion");
+    return criterion;
+}
+
+template <class Field>
+bool WriteField(znBrowserManagerTcl& manager, Field znBrowserCriterion::*field, const Field& value) {
+    znBrowserCriterion* const criterion = BeginField(manager);
+    if (criterion) criterion->*field = value;
+    return criterion != nullptr;
+}
+
+template <class Field>
+bool ReadField(znBrowserManagerTcl& manager, Field znBrowserCriterion::*field, Field& value) {
+    const znBrowserCriterion* const criterion = BeginField(manager);
+    if (criterion) value = criterion->*field;
+    return criterion != nullptr;
 }
 
 } // namespace
@@ -153,57 +175,33 @@ bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriterionType(znString& o
 }
 
 bool znBrowserManagerTcl::SetCurrentFindRequestPropertyCriterionValue(const znString& value) {
-    BeginOperation();
-    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
-    current_.findRequestPropertyCriterion->value = value;
-    return true;
+    return WriteField(*this, &znBrowserCriterion::value, value);
 }
 
 bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriterionValue(znString& out) {
-    BeginOperation();
-    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
-    out = current_.findRequestPropertyCriterion->value;
-    return true;
+    return ReadField(*this, &znBrowserCriterion::value, out);
 }
 
 bool znBrowserManagerTcl::SetCurrentFindRequestPropertyCriterionMatchcase(bool matchCase) {
-    BeginOperation();
-    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
-    current_.findRequestPropertyCriterion->matchcase = matchCase;
-    return true;
+    return WriteField(*this, &znBrowserCriterion::matchcase, matchCase);
 }
 
 bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriterionMatchcase(bool& matchCase) {
-    BeginOperation();
-    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
-    matchCase = current_.findRequestPropertyCriterion->matchcase;
-    return true;
+    return ReadField(*this, &znBrowserCriterion::matchcase, matchCase);
 }
 
 bool znBrowserManagerTcl::SetCurrentFindRequestPropertyCriterionMatchword(bool matchWord) {
-    BeginOperation();
-    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
-    current_.findRequestPropertyCriterion->matchword = matchWord;
-    return true;
+    return WriteField(*this, &znBrowserCriterion::matchword, matchWord);
 }
 
 bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriterionMatchword(bool& matchWord) {
-    BeginOperation();
-    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
-    matchWord = current_.findRequestPropertyCriterion->matchword;
-    return true;
+    return ReadField(*this, &znBrowserCriterion::matchword, matchWord);
 }
 
 bool znBrowserManagerTcl::SetCurrentFindRequestPropertyCriterionUseregexp(bool useRegexp) {
-    BeginOperation();
-    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
-    current_.findRequestPropertyCriterion->useregexp = useRegexp;
-    return true;
+    return WriteField(*this, &znBrowserCriterion::useregexp, useRegexp);
 }
 
 bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriterionUseregexp(bool& useRegexp) {
-    BeginOperation();
-    if (!current_.findRequestPropertyCriterion) return Fail(noPropertyCriterion);
-    useRegexp = current_.findRequestPropertyCriterion->useregexp;
-    return true;
+    return ReadField(*this, &znBrowserCriterion::useregexp, useRegexp);
 }
