@@ -1,9 +1,7 @@
 # The program: shell/.
 
 zn_find_sources(sources shell/*.cpp)
-if(sources AND TARGET znBrowserScripting
-   AND EXISTS "${PROJECT_SOURCE_DIR}/host/model/embedded_host.cpp"
-   AND EXISTS "${PROJECT_SOURCE_DIR}/include/znBrowserTclCommandTree.h")
+if(sources AND TARGET znBrowserScripting AND TARGET znbrowserhost)
     add_executable(znbrowsersh ${sources})
     target_compile_definitions(znbrowsersh PRIVATE ZN_VERSION="${PROJECT_VERSION}")
     target_include_directories(znbrowsersh PRIVATE "${PROJECT_SOURCE_DIR}/shell")

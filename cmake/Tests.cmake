@@ -4,11 +4,11 @@
 include(GoogleTest)
 
 zn_find_sources(sources tests/*_test.cpp)
-if(sources AND TARGET zn_objects)
+if(sources AND TARGET zn_objects AND TARGET znbrowserhost)
     add_executable(znbrowsertest ${sources})
     target_include_directories(znbrowsertest PRIVATE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/src")
     target_link_libraries(znbrowsertest PRIVATE
-        zn_objects $<TARGET_NAME_IF_EXISTS:znbrowserhost> zn_tcl "${ZN_TCL_STUB_LIBRARY}" GTest::gtest_main)
+        zn_objects znbrowserhost zn_tcl "${ZN_TCL_STUB_LIBRARY}" GTest::gtest_main)
     gtest_discover_tests(znbrowsertest DISCOVERY_MODE PRE_TEST)
 endif()
 
