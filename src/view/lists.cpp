@@ -27,6 +27,16 @@ znIBrowserDataSourceSimple* FindList(znIBrowserViewItemFreeFolder& folder, const
     return nullptr;
 }
 
+/// The list of that name in the current folder; null when there is none, with the error set.
+znIBrowserDataSourceSimple* RequireList(znBrowserManagerTcl& manager, const char* name) {
+    znIBrowserViewItemFreeFolder* const folder = manager.GetCurrentFreeFolderPtr();
+    znIBrowserDataSourceSimple* const list = folder ? FindList(*folder, name) : nullptr;
+    if (!folder) manager.SetError(noFolderName);
+    if (folder && !list)
+        Refuse(manager, {"List of: ", name, "(s) is not configured in the folder: ", folder->GetName()});
+    return list;
+}
+
 /// Adds the names of the lists in the folder, and with `recursive` of those below it, top to bottom.
 bool AddListNames(znIBrowserViewItemFreeFolder* top, bool recursive, NameList& names) {
     Folders waiting{top};
@@ -88,25 +98,17 @@ bool znBrowserManagerTcl::ListAdd(const char* name, bool flag) {
 
 bool znBrowserManagerTcl::DeleteList(const char* name) {
     BeginOperation();
-    znIBrowserViewItemFreeFolder* const folder = current_.freeFolder;
-    if (!folder) return Fail(noFolderName);
-    znIBrowserDataSourceSimple* const list = FindList(*folder, name);
-    if (!list)
-        return FailWith({"List of: ", name, "(s) is not configured in the folder: ", folder->GetName()});
-    if (!AskBrowser(*this, &znIBrowser::RemoveList, folder, list)) return false;
+    znIBrowserDataSourceSimple* const list = RequireList(*this, name);
+    if (!list || !AskBrowser(*this, &znIBrowser::RemoveList, current_.freeFolder, list)) return false;
     if (current_.list == list) ResetCurrentList();
     return true;
 }
 
 bool znBrowserManagerTcl::SetCurrentList(const char* name) {
     BeginOperation();
-    znIBrowserViewItemFreeFolder* const folder = current_.freeFolder;
-    if (!folder) return Fail(noFolderName);
-    znIBrowserDataSourceSimple* const list = FindList(*folder, name);
-    if (!list)
-        return FailWith({"List of: ", name, "(s) is not configured in the folder: ", folder->GetName()});
-    SetCurrentList(list);
-    return GetState();
+    znIBrowserDataSourceSimple* const list = RequireList(*this, name);
+    if (list) SetCurrentList(list);
+    return list != nullptr;
 }
 
 bool znBrowserManagerTcl::GetListNames(znString& out, bool recursive) {

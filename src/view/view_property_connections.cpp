@@ -62,12 +62,6 @@ znIBrowserDataSource* FindDataSource(znIBrowserViewProperty& property, const cha
     return control ? control->FindDataSource(name) : nullptr;
 }
 
-bool Refuse(znBrowserManagerTcl& manager, std::initializer_list<const char*> pieces) {
-    for (const char* const piece : pieces) manager.AppendToBuff(piece, true, false);
-    manager.SetError(manager.GetBuff());
-    return false;
-}
-
 /// Connects by one of the schemes, which is refused unless it is that of the property's view.
 bool Connect(znBrowserManagerTcl& manager, znIBrowserViewProperty* property, const char* sourceName,
              const char* propertyName, bool newScheme) {
