@@ -4,19 +4,22 @@
 #include "view/view_helper_commands.h"
 #include "view/view_words.h"
 
+// The lines that the texts of both kinds of data source share.
+#define SELECTION_FORMS                                                                                      \
+    "    \t[true|false]                             All dataitems, with or without those below them.\n"      \
+    "    \tbyprop <any> [true|false]                Those that have the current view property.\n"            \
+    "    \tbypropval <value> [true|false]           Those with the given value of the current view "         \
+    "property.\n"                                                                                            \
+    "    \tbypropvals <count> <value1> ... <valueN> "                                                        \
+    "Those with one of the given values of the current view property.\n\n"
+
 const char* const znBrowserTclMessages::VIEW_DATAITEM_SIMPLE =
     "    znbrowsermanager view dataitem simple select <byprop/bypropval> <propval> <recursive> [action]\n\n"
     "    \tActions:\n"
     "    \tdeselect                                 "
     "Deselects dataitems of the current simple datasource in the current view.\n"
     "    \tselect                                   "
-    "Selects dataitems of the current simple datasource in the current view.\n"
-    "    \t[true|false]                             All dataitems, with or without those below them.\n"
-    "    \tbyprop <any> [true|false]                Those that have the current view property.\n"
-    "    \tbypropval <value> [true|false]           Those with the given value of the current view "
-    "property.\n"
-    "    \tbypropvals <count> <value1> ... <valueN> "
-    "Those with one of the given values of the current view property.\n\n";
+    "Selects dataitems of the current simple datasource in the current view.\n" SELECTION_FORMS;
 
 const char* const znBrowserTclMessages::VIEW_DATAITEM_HIERARCHICAL =
     "    znbrowsermanager view dataitem hierarchical select <byprop/bypropval> <propval> <recursive> "
@@ -25,13 +28,7 @@ const char* const znBrowserTclMessages::VIEW_DATAITEM_HIERARCHICAL =
     "    \tdeselect                                 "
     "Deselects dataitems of the current hierarchical datasource in the current view.\n"
     "    \tselect                                   "
-    "Selects dataitems of the current hierarchical datasource in the current view.\n"
-    "    \t[true|false]                             All dataitems, with or without those below them.\n"
-    "    \tbyprop <any> [true|false]                Those that have the current view property.\n"
-    "    \tbypropval <value> [true|false]           Those with the given value of the current view "
-    "property.\n"
-    "    \tbypropvals <count> <value1> ... <valueN> "
-    "Those with one of the given values of the current view property.\n\n";
+    "Selects dataitems of the current hierarchical datasource in the current view.\n" SELECTION_FORMS;
 
 namespace {
 
