@@ -4,6 +4,7 @@
 #include "store/data_ctrl.h"
 #include "znIBrowserManagerTcl.h"
 
+#include <memory>
 #include <tcl.h>
 
 namespace znhost {
@@ -45,10 +46,13 @@ bool Application::AddDataCtrl(const std::string& name, const std::string& file, 
     return true;
 }
 
+// The lambda makes a script that ends with "return" end well; the script itself runs at the global level.
 bool Application::RunScript(const std::string& script) {
     if (!manager_ || Tcl_InterpDeleted(interp_)) return Fail("There is no interpreter to run a script in");
     const KeptResult kept(interp_);
-    if (manager_->EvalTclScript(script.c_str())) return true;
+    const char* const words[] = {"::apply", "script {uplevel #0 $script}", script.c_str()};
+    const std::unique_ptr<char, void (*)(char*)> command(Tcl_Merge(3, words), Tcl_Free);
+    if (manager_->EvalTclScript(command.get())) return true;
     log_.SetError(Tcl_GetStringResult(interp_));
     Tcl_BackgroundException(interp_, TCL_ERROR);
     return false;

@@ -19,7 +19,7 @@ void ViewList::GetViews(std::vector<znIBrowserView*>& views, int flags) {
 }
 
 Browser::Browser(Application& application, CallLog& log)
-    : HostObject(log), application_(application), views_(log), windows_(std::make_unique<WindowList>(log)),
+    : HostObject(log), application_(application), views_(log), windows_(std::make_unique<WindowList>(*this)),
       guiMaps_(std::make_unique<GuiMapList>(log)) {}
 
 Browser::~Browser() = default;

@@ -23,9 +23,7 @@ bool Browser::DeleteViewProperty(znIBrowserView* view, znIBrowserViewProperty* p
     if (Refused("znIBrowser::DeleteViewProperty", view, property)) return false;
     if (!property) return Fail("No view property to delete");
     ViewProperty& doomed = *static_cast<ViewProperty*>(property);
-    View& owner = doomed.Owner();
-    owner.Properties().Remove(doomed);
-    owner.Changed(VIEW_CELLS | VIEW_ROWS);
+    doomed.Owner().DeleteProperty(doomed);
     return true;
 }
 

@@ -43,8 +43,9 @@ bool Browser::DeleteView(znIBrowserView* view) {
 
 bool Browser::RedrawViews(znIBrowserDataCtrl* control) {
     if (Refused("znIBrowser::RedrawViews", control)) return false;
+    if (!control) return Fail("No data control to redraw the views of");
     for (const auto& view : Views()) {
-        if (!control || view->DataControl() != control) continue;
+        if (view->DataControl() != control) continue;
         view->Changed(VIEW_ALL);
         view->Flush();
     }

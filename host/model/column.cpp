@@ -31,6 +31,10 @@ void Column::SetJustification(Justify justify) {
     Changed(VIEW_COLUMNS);
 }
 
+void Column::Forget(const ViewProperty& property) {
+    if (sortProperty_ == property.Name()) sortProperty_.clear();
+}
+
 ZNBROWSER_SORT_ORDER Column::SortOrder() const { return view_.SortOrderOf(*this); }
 
 const char* Column::GetName() const {

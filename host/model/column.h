@@ -14,6 +14,7 @@ namespace znhost {
 
 class PopupMenu;
 class View;
+class ViewProperty;
 
 enum class ColumnKind { BuiltIn, TextBox, Icon, Button };
 enum class Justify { Left, Center, Right };
@@ -45,6 +46,8 @@ public:
     ZNBROWSER_SORT_ORDER SortOrder() const;
     /// The view property by which the column sorts; "" for its text.
     const std::string& SortProperty() const { return sortProperty_; }
+    /// Lets go of a property that is about to be deleted.
+    void Forget(const ViewProperty& property);
     const NamedList<Style>& Styles() const { return styles_; }
     /// The style that the column draws its items with; null when none was set.
     Style* StyleInUse() const { return styleInUse_; }

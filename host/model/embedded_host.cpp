@@ -16,17 +16,26 @@ namespace {
 
 constexpr const char* commandName = "znbrowsermanager";
 
+/// Keeps the interpreter's memory, whoever deletes it.
+struct PreservedInterp {
+    explicit PreservedInterp(Tcl_Interp* tcl) : interp(tcl) { Tcl_Preserve(interp); }
+    ~PreservedInterp() { Tcl_Release(interp); }
+    PreservedInterp(const PreservedInterp&) = delete;
+    PreservedInterp& operator=(const PreservedInterp&) = delete;
+
+    Tcl_Interp* const interp;
+};
+
 } // namespace
 
 /// What the host consists of; destroyed from the last to the first.
-struct EmbeddedHost::Parts {
-    explicit Parts(Tcl_Interp* tcl) : interp(tcl), application(interp, log) { Tcl_Preserve(interp); }
+struct EmbeddedHost::Parts : PreservedInterp {
+    explicit Parts(Tcl_Interp* tcl) : PreservedInterp(tcl), application(interp, log) {}
     ~Parts() {
         if (command) Tcl_DeleteCommandFromToken(interp, command);
         application.SetManager(nullptr);
         if (manager) manager->DeleteBrowserManagerCollectorTcl();
         manager.reset();
-        Tcl_Release(interp);
     }
     Parts(const Parts&) = delete;
     Parts& operator=(const Parts&) = delete;
@@ -42,7 +51,6 @@ struct EmbeddedHost::Parts {
         Tcl_SetCommandInfoFromToken(command, &info);
     }
 
-    Tcl_Interp* const interp;
     Tcl_Command command = nullptr;
     CallLog log;
     Application application;

@@ -27,6 +27,12 @@ void View::DeleteColumn(Column& column) {
     Changed(VIEW_COLUMNS | VIEW_ROWS);
 }
 
+void View::DeleteProperty(ViewProperty& property) {
+    for (const auto& column : columns_) column->Forget(property);
+    properties_.Remove(property);
+    Changed(VIEW_CELLS | VIEW_ROWS);
+}
+
 void View::SortBy(Column* column, bool ascending) {
     sortColumn_ = column;
     sortAscending_ = ascending;

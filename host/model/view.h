@@ -59,6 +59,7 @@ public:
 
     NamedList<ViewProperty>& Properties() { return properties_; }
     const NamedList<ViewProperty>& Properties() const { return properties_; }
+    void DeleteProperty(ViewProperty& property);
     NamedList<ViewOperation>& Operations() { return operations_; }
     const NamedList<ViewOperation>& Operations() const { return operations_; }
 

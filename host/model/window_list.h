@@ -3,13 +3,13 @@
 #define ZN_HOST_WINDOW_LIST_H
 
 #include "host/znIBrowserWindowAccess.h"
-#include "model/host_call.h"
+#include "model/browser.h"
 
 namespace znhost {
 
 class WindowList final : public znIBrowserWindowAccessList, public HostObject {
 public:
-    explicit WindowList(CallLog& log) : HostObject(log) {}
+    explicit WindowList(Browser& browser) : HostObject(browser.Log()) {}
 
     znIBrowserWindowAccess* FindWindowAccess(const char* name) override {
         static_cast<void>(Refused("znIBrowserWindowAccessList::FindWindowAccess", name));
