@@ -97,11 +97,7 @@ const char* Application::GetTclNameSpace() {
     return "::znbrowser";
 }
 
-// Never refused: without an interpreter there would be no way to say so.
-Tcl_Interp* Application::GetTclInterp() {
-    static_cast<void>(Refused("znIBrowserApplication::GetTclInterp"));
-    return interp_;
-}
+Tcl_Interp* Application::GetTclInterp() { return interp_; }
 
 znSignal<single_threaded, const char*>& Application::GetWindowReselectedSignal() {
     static_cast<void>(Refused("znIBrowserApplication::GetWindowReselectedSignal"));
