@@ -6,6 +6,8 @@
 #include "znBrowserExport.h"
 #include "znBrowserTypes.h"
 
+#include <string_view>
+
 /// The keyword that a command word stands for. The numbers are part of the interface; numbers left out
 /// have no word. `TrueWord`, `FalseWord` and `NoneWord` are named so because X11's headers make macros
 /// of the plain names.
@@ -250,6 +252,8 @@ public:
     /// The keyword of a word, in any mixture of ASCII letter case, whatever the locale; `Unknown` for a
     /// null word and for a word that is none. Where a word has two meanings the older one holds.
     ZNBROWSER_TCLAPI_KEYWORD GetZnBrowserTclApiEnum(const char* word) const;
+    /// The same for a word whose length is known.
+    ZNBROWSER_TCLAPI_KEYWORD GetZnBrowserTclApiEnum(std::string_view word) const;
 
     /// The plain full spelling of a keyword ("create" and not "cr"), for help and completion; null for
     /// a keyword without spelling and for a number out of range. The text is static.

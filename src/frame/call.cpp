@@ -1,6 +1,7 @@
 #include "frame/call.h"
 
 #include "frame/shared_keywords.h"
+#include "frame/word_text.h"
 
 #include <tcl.h>
 
@@ -8,7 +9,7 @@ Call::Call(znBrowserManagerTcl& callManager, int objc, Tcl_Obj* const objv[])
     : manager(callManager), interp_(callManager.GetTclInterp()), objc_(objc), objv_(objv), code_(TCL_OK) {}
 
 const char* Call::Text(int position) const {
-    return position < objc_ && objv_[position] ? Tcl_GetString(objv_[position]) : nullptr;
+    return position < objc_ ? WordText(objv_[position]).data() : nullptr;
 }
 
 const char* Call::TextOr(int position, const char* fallback) const {
@@ -16,7 +17,10 @@ const char* Call::TextOr(int position, const char* fallback) const {
     return text ? text : fallback;
 }
 
-Keyword Call::Word(int position) const { return SharedKeywords().GetZnBrowserTclApiEnum(Text(position)); }
+Keyword Call::Word(int position) const {
+    if (position >= objc_) return Keyword::Unknown;
+    return SharedKeywords().GetZnBrowserTclApiEnum(WordText(objv_[position]));
+}
 
 bool Call::Integer(int position, int& value) const {
     return Has(position) && Tcl_GetIntFromObj(nullptr, objv_[position], &value) == TCL_OK;
@@ -110,6 +114,11 @@ void Call::SetThenAnswer(int position, TextSetter setter, Getter getter) {
 }
 
 void Call::Raise() { code_ = TCL_ERROR; }
+
+void Call::KeepResult() {
+    Tcl_ResetResult(interp_);
+    replied_ = true;
+}
 
 int Call::Finish() {
     if (!replied_) Tcl_ResetResult(interp_);

@@ -69,8 +69,8 @@ public:
     /// The outcome of an operation without arguments.
     void Run(Action action) { AnswerOutcome((manager.*action)()); }
 
-    /// Leaves in the interpreter result what an operation put there itself.
-    void KeepResult() { replied_ = true; }
+    /// Empties the interpreter result, and from then on leaves in it what an operation puts there itself.
+    void KeepResult();
     /// The command ends with a Tcl error.
     void Raise();
     /// Ends the call. @return the Tcl code

@@ -38,6 +38,9 @@ struct CommandLevel {
     const char* const* unknownUsage;
 };
 
+/// Answers a word that stands at `position` by the level's table, or with the level's text for unknown words.
+void RunWord(Call& call, const CommandLevel& level, int position, Keyword keyword);
+
 /// Answers the word at `position` by the level's table, or with the level's usage text.
 void RunLevel(Call& call, const CommandLevel& level, int position);
 

@@ -146,8 +146,10 @@ const char* WordOf(const char* const (&words)[count], int value) {
 } // namespace
 
 ZNBROWSER_TCLAPI_KEYWORD znBrowserTclKeywords::GetZnBrowserTclApiEnum(const char* word) const {
-    if (!word) return Keyword::Unknown;
-    const std::string_view text(word);
+    return word ? GetZnBrowserTclApiEnum(std::string_view(word)) : Keyword::Unknown;
+}
+
+ZNBROWSER_TCLAPI_KEYWORD znBrowserTclKeywords::GetZnBrowserTclApiEnum(std::string_view text) const {
     const KeywordHash::Slot& slot = keywordHash.slots[keywordHash.Find(Key(text))];
     if (slot.debugOnly && !debugMode_) return Keyword::Unknown;
     return text.size() <= 16 ? slot.keyword : CheckMiddle(slot, text);

@@ -1,10 +1,9 @@
 // The result buffer, and how operations begin and end.
 #include "frame/text_piece.h"
+#include "frame/word_text.h"
 #include "host/znIBrowser.h"
 #include "host/znIBrowserApplication.h"
 #include "znBrowserManagerTcl.h"
-
-#include <tcl.h>
 
 #include <cstdio>
 
@@ -47,9 +46,10 @@ const char* znBrowserManagerTcl::GetBuff() const { return buffer_.c_str(); }
 void znBrowserManagerTcl::SetCommand(int objc, Tcl_Obj* const objv[]) {
     ResetBuff();
     for (int i = 0; i < objc; ++i) {
-        if (!objv[i]) continue;
+        const std::string_view text = WordText(objv[i]);
+        if (!text.data()) continue;
         if (!buffer_.empty()) buffer_ += ' ';
-        buffer_ += Tcl_GetString(objv[i]);
+        buffer_ += text;
     }
     SetErrCommand(buffer_);
     ResetBuff();

@@ -33,17 +33,11 @@ namespace {
 using Manager = znBrowserManagerTcl;
 using Messages = znBrowserTclMessages;
 
+/// For families that look at more than their table.
 template <int (Manager::*family)(int, Tcl_Obj* const[])>
 void RunFamilyOf(Call& call) {
     call.KeepResult();
     (call.manager.*family)(call.Count(), call.Words());
-}
-
-/// The view and the window family may raise a Tcl error.
-template <int (Manager::*family)(int, Tcl_Obj* const[])>
-void RunRaisingFamilyOf(Call& call) {
-    call.KeepResult();
-    if ((call.manager.*family)(call.Count(), call.Words()) == TCL_ERROR) call.Raise();
 }
 
 /// The host's handler gets the words behind "app" at the front of the caller's own array. The two words that
@@ -129,21 +123,21 @@ constexpr CommandLevel selectionLevel(selectionRows, Messages::VIEW_SELECTION);
 constexpr CommandLevel checkBoxLevel(checkBoxRows, Messages::VIEW_COLUMN);
 
 constexpr CommandRow topRows[] = {
-    {Keyword::View, RunRaisingFamilyOf<&Manager::ViewTclAPICommands>, &viewLevel},
-    {Keyword::Window, RunRaisingFamilyOf<&Manager::WindowTclAPICommands>, &windowLevel},
+    {Keyword::View, nullptr, &viewLevel},
+    {Keyword::Window, nullptr, &windowLevel},
     {Keyword::App, App},
     {Keyword::Frame, Frame},
     {Keyword::State, RunFamilyOf<&Manager::StateTclAPICommands>, &stateLevel},
-    {Keyword::DataCtrl, RunFamilyOf<&Manager::DataCtrlTclAPICommands>, &dataCtrlLevel},
+    {Keyword::DataCtrl, nullptr, &dataCtrlLevel},
     {Keyword::Element, nullptr, &elementLevel},
     {Keyword::Empty, nullptr, &emptyLevel},
     {Keyword::NoFilterForm, nullptr, &noLevel},
     {Keyword::Selection, Selection, &selectionLevel},
-    {Keyword::UserInput, RunFamilyOf<&Manager::DataUserInputTclAPICommands>, &userInputLevel},
+    {Keyword::UserInput, nullptr, &userInputLevel},
     {Keyword::Collector, RunFamilyOf<&Manager::CollectorTclAPICommands>},
-    {Keyword::DataSource, RunFamilyOf<&Manager::DataSourceTclAPICommands>, &dataSourceLevel},
-    {Keyword::DataOperation, RunFamilyOf<&Manager::DataOperationTclAPICommands>, &dataOperationLevel},
-    {Keyword::DataReference, RunFamilyOf<&Manager::DataReferenceTclAPICommands>, &dataReferenceLevel},
+    {Keyword::DataSource, nullptr, &dataSourceLevel},
+    {Keyword::DataOperation, nullptr, &dataOperationLevel},
+    {Keyword::DataReference, nullptr, &dataReferenceLevel},
     {Keyword::Checkbox, nullptr, &checkBoxLevel},
     {Keyword::OnTkTreeRequestCollapse, OnRequestCollapse},
     {Keyword::OnTkTreeRequestCollapseAll, OnRequestCollapseAll},
@@ -167,8 +161,8 @@ constexpr CommandRow topRows[] = {
 };
 
 /// "data", "pending" and "apply" are keywords, but never actions.
-constexpr int firstAction = 2;
-constexpr int lastAction = 234;
+constexpr Keyword firstAction = Keyword::View;
+constexpr Keyword lastAction = Keyword::OnTkColPreselButtonClicked;
 
 } // namespace
 
@@ -177,12 +171,11 @@ constexpr CommandLevel topLevel(topRows, Messages::GENERAL);
 int znBrowserManagerTcl::EvalTclCommand(int objc, Tcl_Obj* const objv[]) {
     if (ProcessingCommand()) return TCL_OK;
     SetCommand(objc, objv);
-    Tcl_ResetResult(GetTclInterp());
     Call call(*this, objc, objv);
-    const int action = static_cast<int>(call.Word(1));
+    const Keyword action = call.Word(1);
     if (action < firstAction || action > lastAction)
         call.Answer(Messages::GENERAL);
     else
-        RunLevel(call, topLevel, 1);
+        RunWord(call, topLevel, 1, action);
     return call.Finish();
 }

@@ -34,6 +34,12 @@ public:
         null_ = false;
         text_.clear();
     }
+    /// Replaces the text, reusing the storage; a null pointer leaves the string without text storage.
+    znString& operator=(const char* text) {
+        null_ = text == nullptr;
+        text_.assign(text ? text : "");
+        return *this;
+    }
     /// Replaces the text, reusing the storage. `text` may lie inside this string.
     znString& assign(std::string_view text) {
         null_ = false;

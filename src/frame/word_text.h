@@ -1,0 +1,17 @@
+// The text of a Tcl word.
+#ifndef WORD_TEXT_H
+#define WORD_TEXT_H
+
+#include <tcl.h>
+
+#include <string_view>
+
+/// The string form of a word, without a call where the word has it already, as words of a command nearly
+/// always do. Without data for a null word. Belongs to the word.
+inline std::string_view WordText(Tcl_Obj* word) {
+    if (!word) return {};
+    if (!word->bytes) Tcl_GetString(word);
+    return {word->bytes, static_cast<std::size_t>(word->length)};
+}
+
+#endif
