@@ -12,11 +12,14 @@ if(sources)
         POSITION_INDEPENDENT_CODE ON
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON)
+    # Nobody interposes the library's own functions: calls within it are direct.
+    target_compile_options(zn_objects PRIVATE -fno-semantic-interposition)
     target_include_directories(zn_objects PRIVATE "${PROJECT_SOURCE_DIR}/src")
     target_link_libraries(zn_objects PUBLIC zn_headers PRIVATE zn_tcl_stubs)
 
     add_library(znBrowserScripting SHARED)
     set_target_properties(znBrowserScripting PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0)
+    target_link_options(znBrowserScripting PRIVATE -Wl,-Bsymbolic-functions)
     target_link_libraries(znBrowserScripting PUBLIC zn_headers PRIVATE zn_objects zn_tcl_stubs)
     if(NOT (ZN_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES Clang)) # whose runtime is in the program only
         target_link_options(znBrowserScripting PRIVATE -Wl,-z,defs)

@@ -69,16 +69,17 @@ std::vector<znString> Call::TextsFrom(int position) const {
 }
 
 void Call::Answer(std::string_view text) {
-    const int length = static_cast<int>(text.size());
-    if (!replied_) {
-        replied_ = true;
-        Tcl_SetObjResult(interp_, Tcl_NewStringObj(text.data(), length));
-        return;
-    }
     Tcl_Obj* result = Tcl_GetObjResult(interp_);
-    if (Tcl_IsShared(result)) result = Tcl_DuplicateObj(result);
-    Tcl_AppendToObj(result, text.data(), length);
-    Tcl_SetObjResult(interp_, result);
+    if (Tcl_IsShared(result)) {
+        result = replied_ ? Tcl_DuplicateObj(result) : Tcl_NewObj();
+        Tcl_SetObjResult(interp_, result);
+    }
+    const int length = static_cast<int>(text.size());
+    if (replied_)
+        Tcl_AppendToObj(result, text.data(), length);
+    else
+        Tcl_SetStringObj(result, text.data(), length);
+    replied_ = true;
 }
 
 void Call::Answer(bool value) {
@@ -98,8 +99,8 @@ void Call::AnswerOutcome(bool succeeded, const char* text) {
 
 void Call::AnswerValue(Getter getter) {
     znString value;
-    const bool succeeded = (manager.*getter)(value);
-    AnswerOutcome(succeeded, value.c_str());
+    if (!(manager.*getter)(value)) return AnswerError();
+    Answer(value);
 }
 
 void Call::AnswerValue(FlagGetter getter) {
