@@ -130,7 +130,7 @@ constexpr CommandRow viewRows[] = {
     {Keyword::Tree, nullptr, &viewTreeLevel},
     // Words that the usage text leaves out.
     {Keyword::Apply, nullptr, &applyLevel},
-    {Keyword::DataCtrl, AnswerViewDataCtrl},
+    {Keyword::DataCtrl, AnswerViewDataCtrl, &viewDataCtrlLevel},
     {Keyword::DataItem, nullptr, &viewDataItemLevel},
     {Keyword::DataItemList, nullptr, &viewDataItemLevel},
     {Keyword::DataReference, nullptr, &viewDataReferenceLevel},
