@@ -1,0 +1,327 @@
+#include "rows/row_tree.h"
+
+#include <algorithm>
+#include <iterator>
+#include <numeric>
+#include <utility>
+
+namespace znhost {
+
+bool RowContent::IsSame(const RowContent& other) const {
+    return kind == other.kind && folder == other.folder && source == other.source && link == other.link &&
+           parent == other.parent && top == other.top;
+}
+
+RowPart::RowPart() = default;
+RowPart::RowPart(RowPart&& other) noexcept = default;
+RowPart& RowPart::operator=(RowPart&& other) noexcept = default;
+RowPart::~RowPart() = default;
+
+std::int64_t RowPart::Size() const { return node ? 1 + node->visible : block->Size(); }
+
+std::uint32_t RowBlock::SlotAt(std::size_t position) const {
+    return slotAt.empty() ? static_cast<std::uint32_t>(position) : slotAt[position];
+}
+
+std::uint32_t RowBlock::PositionOf(std::uint32_t slot) const {
+    if (positionOf.empty()) return slot < rows.size() ? slot : gone;
+    return slot < positionOf.size() ? positionOf[slot] : gone;
+}
+
+std::uint32_t RowBlock::IndexAt(std::size_t position) const {
+    const std::uint32_t slot = SlotAt(position);
+    const auto after =
+        std::upper_bound(ranges.begin(), ranges.end(), slot,
+                         [](std::uint32_t value, const Range& range) { return value < range.firstSlot; });
+    const Range& range = *std::prev(after);
+    return range.firstIndex + (slot - range.firstSlot);
+}
+
+std::int64_t RowBlock::Size() const {
+    return sums.Empty() ? static_cast<std::int64_t>(rows.size()) : sums.Before(rows.size());
+}
+
+RowTree::RowTree() = default;
+RowTree::~RowTree() { ReleaseParts(root_); }
+
+Row RowTree::At(std::int64_t position) const {
+    const RowNode* node = &root_;
+    for (;;) {
+        const std::size_t place = node->sums.Find(position);
+        position -= node->sums.Before(place);
+        const RowPart& part = node->parts[place];
+        if (part.node) {
+            if (position == 0) return {part.node.get(), nullptr, 0};
+            --position;
+            node = part.node.get();
+            continue;
+        }
+        RowBlock& block = *part.block;
+        if (block.sums.Empty()) return {nullptr, &block, static_cast<std::uint32_t>(position)};
+        const std::size_t at = block.sums.Find(position);
+        position -= block.sums.Before(at);
+        const Row item = ItemAt(block, static_cast<std::uint32_t>(at));
+        if (position == 0) return item;
+        --position;
+        node = item.node;
+    }
+}
+
+/// The first row of a part and those after it; no row when all are empty.
+Row RowTree::FirstFrom(const RowNode& node, std::size_t place) {
+    for (; place < node.parts.size(); ++place) {
+        const RowPart& part = node.parts[place];
+        if (part.node) return {part.node.get(), nullptr, 0};
+        if (!part.block->rows.empty()) return ItemAt(*part.block, 0);
+    }
+    return {};
+}
+
+Row RowTree::ItemAt(RowBlock& block, std::uint32_t position) {
+    const auto child = block.children.find(block.SlotAt(position));
+    return {child == block.children.end() ? nullptr : child->second.get(), &block, position};
+}
+
+Row RowTree::Next(const Row& row) const {
+    if (row.node) {
+        if (const Row below = FirstFrom(*row.node, 0)) return below;
+    }
+    Row at = row;
+    for (;;) {
+        if (at.block && at.position + 1 < at.block->rows.size()) return ItemAt(*at.block, at.position + 1);
+        RowNode& owner = at.Owner();
+        if (const Row next = FirstFrom(owner, (at.block ? at.block->place : at.node->place) + std::size_t{1}))
+            return next;
+        if (&owner == &root_) return {};
+        at = RowOf(owner);
+    }
+}
+
+Row RowTree::Find(std::uint32_t index) const {
+    const TkIndices::Owner owner = indices_.Find(index);
+    if (!owner.block) return {owner.node, nullptr, 0};
+    const std::uint32_t position = owner.block->PositionOf(owner.slot);
+    if (position == RowBlock::gone) return {};
+    return ItemAt(*owner.block, position);
+}
+
+std::int64_t RowTree::PositionOf(const Row& row) const {
+    std::int64_t position = 0;
+    const RowBlock* block = row.block;
+    std::uint32_t at = row.position;
+    const RowNode* node = row.node;
+    for (;;) {
+        std::uint32_t place = 0;
+        if (block) {
+            position += block->sums.Empty() ? std::int64_t{at} : block->sums.Before(at);
+            place = block->place;
+            node = block->owner;
+        } else {
+            place = node->place;
+            node = node->parent;
+        }
+        position += node->sums.Before(place);
+        if (node == &root_) return position;
+        ++position; // the row of the container itself
+        block = node->block;
+        if (block) at = block->PositionOf(node->place);
+    }
+}
+
+Row RowTree::RowOf(RowNode& node) {
+    if (node.block) return {&node, node.block, node.block->PositionOf(node.place)};
+    return {node.parent ? &node : nullptr, nullptr, 0};
+}
+
+RowNode& RowTree::NodeOf(const Row& item) {
+    if (item.node) return *item.node;
+    RowBlock& block = *item.block;
+    const std::uint32_t slot = block.SlotAt(item.position);
+    std::unique_ptr<RowNode>& child = block.children[slot];
+    child = std::make_unique<RowNode>();
+    child->block = &block;
+    child->parent = block.owner;
+    child->place = slot;
+    child->level = block.owner->level + 1;
+    if (block.sums.Empty()) block.sums.AssignOnes(block.rows.size());
+    return *child;
+}
+
+RowPart RowTree::MakeNode(RowContent content) {
+    RowPart part;
+    part.node = std::make_unique<RowNode>();
+    part.node->content = std::move(content);
+    return part;
+}
+
+RowPart RowTree::MakeBlock(RowContent content, std::vector<std::int64_t> rows) {
+    RowPart part;
+    part.block = std::make_unique<RowBlock>();
+    part.block->content = std::move(content);
+    part.block->rows = std::move(rows);
+    return part;
+}
+
+void RowTree::SetParts(RowNode& node, std::vector<RowPart> parts) {
+    ReleaseParts(node);
+    node.expanded = true;
+    for (RowPart& part : parts) {
+        if (!part.node && part.block->rows.empty()) continue;
+        node.parts.push_back(std::move(part));
+        Attach(node, node.parts.back());
+    }
+    Release(std::move(parts));
+    if (!uncounted_) Grow(&node, MakeSums(node) - node.visible);
+}
+
+/// Makes a part, old or new, the last one of the container.
+void RowTree::Attach(RowNode& node, RowPart& part) {
+    const auto place = static_cast<std::uint32_t>(node.parts.size() - 1);
+    if (part.node) {
+        part.node->parent = &node;
+        part.node->place = place;
+        part.node->level = node.level + 1;
+        if (!part.node->index) part.node->index = indices_.Take(1, {part.node.get(), nullptr, 0});
+        return;
+    }
+    RowBlock& block = *part.block;
+    block.owner = &node;
+    block.place = place;
+    if (!block.ranges.empty()) return;
+    block.slotCount = static_cast<std::uint32_t>(block.rows.size());
+    if (!TakeIndices(block, 0, block.slotCount)) block.rows.clear();
+}
+
+/// False, and nothing changed, when so many indices are not to be had.
+bool RowTree::TakeIndices(RowBlock& block, std::uint32_t firstSlot, std::uint32_t count) {
+    const std::uint32_t first = indices_.Take(count, {nullptr, &block, firstSlot});
+    if (first) block.ranges.push_back({firstSlot, first});
+    return first != 0;
+}
+
+void RowTree::Collapse(RowNode& node) {
+    ReleaseParts(node);
+    node.sums.Clear();
+    node.expanded = false;
+    if (uncounted_) node.visible = 0;
+    Grow(&node, -node.visible);
+    if (node.block) node.block->children.erase(node.place);
+}
+
+/// Takes parts apart and gives their indices back. Not by recursion: there is no limit to the depth.
+void RowTree::Release(std::vector<RowPart> parts) {
+    const auto takeBelow = [&parts](RowNode& node) {
+        std::move(node.parts.begin(), node.parts.end(), std::back_inserter(parts));
+        node.parts.clear();
+    };
+    while (!parts.empty()) {
+        const RowPart part = std::move(parts.back());
+        parts.pop_back();
+        if (part.node) {
+            indices_.Release(part.node->index);
+            takeBelow(*part.node);
+        } else if (part.block) {
+            for (const RowBlock::Range& range : part.block->ranges) indices_.Release(range.firstIndex);
+            for (const auto& child : part.block->children) takeBelow(*child.second);
+        }
+    }
+}
+
+void RowTree::SetRows(RowBlock& block, std::vector<std::int64_t> rows) {
+    if (rows == block.rows) return;
+    using Known = std::pair<std::int64_t, std::uint32_t>; // row, slot
+    std::vector<Known> known(block.rows.size());
+    for (std::size_t i = 0; i < known.size(); ++i) known[i] = {block.rows[i], block.SlotAt(i)};
+    std::sort(known.begin(), known.end());
+    std::vector<std::uint32_t> slotAt(rows.size());
+    std::uint32_t slots = block.slotCount;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const auto old = std::lower_bound(known.begin(), known.end(), Known{rows[i], 0});
+        slotAt[i] = old != known.end() && old->first == rows[i] ? old->second : slots++;
+    }
+    if (slots > block.slotCount && !TakeIndices(block, block.slotCount, slots - block.slotCount)) return;
+    block.slotCount = slots;
+    block.positionOf.assign(slots, RowBlock::gone);
+    for (std::size_t i = 0; i < slotAt.size(); ++i)
+        block.positionOf[slotAt[i]] = static_cast<std::uint32_t>(i);
+    const std::int64_t size = block.Size();
+    block.rows = std::move(rows);
+    block.slotAt = std::move(slotAt);
+    for (auto child = block.children.begin(); child != block.children.end();) {
+        const bool stays = block.PositionOf(child->first) != RowBlock::gone;
+        if (!stays) ReleaseParts(*child->second);
+        child = stays ? std::next(child) : block.children.erase(child);
+    }
+    if (uncounted_) return;
+    MakeSums(block);
+    GrowOwner(block, block.Size() - size);
+}
+
+void RowTree::MakeSums(RowBlock& block) {
+    block.sums.Clear();
+    if (block.children.empty()) return;
+    std::vector<std::int64_t> sizes(block.rows.size(), 1);
+    for (const auto& [slot, child] : block.children) sizes[block.PositionOf(slot)] += child->visible;
+    block.sums.Assign(std::move(sizes));
+}
+
+/// Gives the number of visible rows in the container.
+std::int64_t RowTree::MakeSums(RowNode& node) {
+    std::vector<std::int64_t> sizes;
+    sizes.reserve(node.parts.size());
+    for (const RowPart& part : node.parts) sizes.push_back(part.Size());
+    const std::int64_t visible = std::accumulate(sizes.begin(), sizes.end(), std::int64_t{0});
+    node.sums.Assign(std::move(sizes));
+    return visible;
+}
+
+/// The rows below a container became that many more: tells it and all containers around it.
+void RowTree::Grow(RowNode* node, std::int64_t delta) {
+    while (node && delta != 0) {
+        node->visible += delta;
+        if (RowBlock* const block = node->block) {
+            block->sums.Add(block->PositionOf(node->place), delta);
+            block->owner->sums.Add(block->place, delta);
+            node = block->owner;
+        } else {
+            if (node->parent) node->parent->sums.Add(node->place, delta);
+            node = node->parent;
+        }
+    }
+}
+
+void RowTree::GrowOwner(RowBlock& block, std::int64_t delta) {
+    block.owner->sums.Add(block.place, delta);
+    Grow(block.owner, delta);
+}
+
+std::vector<RowNode*> RowTree::Expanded(RowNode& node) {
+    std::vector<RowNode*> found;
+    if (node.expanded) found.push_back(&node);
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        for (const RowPart& part : found[i]->parts) {
+            if (part.node && part.node->expanded) found.push_back(part.node.get());
+            if (!part.block) continue;
+            for (const auto& child : part.block->children) found.push_back(child.second.get());
+        }
+    }
+    return found;
+}
+
+RowTree::ManyChanges::~ManyChanges() {
+    tree_.uncounted_ = outer_;
+    if (outer_) return;
+    const std::int64_t before = top_.visible;
+    const std::vector<RowNode*> nodes = Expanded(top_);
+    for (auto node = nodes.rbegin(); node != nodes.rend(); ++node) {
+        for (const RowPart& part : (*node)->parts) {
+            if (part.block) MakeSums(*part.block);
+        }
+        (*node)->visible = MakeSums(**node);
+    }
+    const std::int64_t delta = top_.visible - before;
+    top_.visible = before;
+    tree_.Grow(&top_, delta);
+}
+
+} // namespace znhost
