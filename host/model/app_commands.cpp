@@ -2,6 +2,7 @@
 #include "model/app_commands.h"
 
 #include "model/data_sources.h"
+#include "rows/row_commands.h"
 #include "store/data_ctrl.h"
 
 #include <tcl.h>
@@ -161,6 +162,7 @@ constexpr AppWord appWords[] = {
     {"datactrl create", "NAME ?FILE?", "adds a data control on the database FILE, or on one in memory", 1, 2,
      CreateDataCtrl},
     {"datactrl names", "", "lists the data controls", 0, 0, DataCtrlNames},
+    {"draw", "WINDOW", "draws what a window shows, as a table", 1, 1, AnswerDraw},
     {"help", "", "lists these words", 0, 0, Help},
     {"journal", "", "lists the host calls recorded", 0, 0, Journal},
     {"journal clear", "", "empties the record of host calls", 0, 0, JournalClear},
@@ -168,6 +170,8 @@ constexpr AppWord appWords[] = {
     {"journal on", "", "records host calls from now on", 0, 0, JournalOn},
     {"refuse", "?OPERATION? ?TEXT?", "lets the next call of OPERATION fail with TEXT; or lists what waits", 0,
      2, Refuse},
+    {"rows", "WINDOW ?FIRST COUNT?", "lists what a window shows, a dictionary for each row", 1, 3,
+     AnswerRows},
     {"sql", "NAME STATEMENT ?VALUE ...?", "runs one SQL statement, the values bound to its ?s", 2, anyNumber,
      Sql},
 };

@@ -1,14 +1,19 @@
 // Windows, their parts and callbacks, and find requests.
-#include "host/znIBrowserEvent.h"
-#include "host/znIBrowserFindRequest.h"
-#include "host/znIBrowserWindowAccess.h"
-#include "host/znIBrowserWindowCallback.h"
-#include "host/znIBrowserWindowPart.h"
 #include "model/browser.h"
-#include "model/view.h"
 #include "model/window_list.h"
 
 namespace znhost {
+
+namespace {
+
+constexpr const char* noWindow = "There is no such window";
+
+Window* Own(znIBrowserWindowAccess* window) { return static_cast<Window*>(window); }
+
+} // namespace
+
+// ---- Windows
+// ------------------------------------------------------------------------------------------------
 
 znIBrowserWindowAccessList* Browser::GetWindowAccessList() {
     if (Refused("znIBrowser::GetWindowAccessList")) return nullptr;
@@ -16,82 +21,135 @@ znIBrowserWindowAccessList* Browser::GetWindowAccessList() {
 }
 
 void Browser::SetCurrentWindowAccess(znIBrowserWindowAccess* window) {
-    static_cast<void>(Refused("znIBrowser::SetCurrentWindowAccess", window));
+    if (Refused("znIBrowser::SetCurrentWindowAccess", window)) return;
+    windows_->SetCurrent(Own(window));
 }
 
 bool Browser::CreateWindowAccess(const char* name, znIBrowserView* view) {
     if (Refused("znIBrowser::CreateWindowAccess", name, view)) return false;
-    return Fail("There is no such window");
+    if (!view) return Fail("There is no such view");
+    if (TextOf(name).empty()) return Fail("A window needs a name");
+    if (windows_->All().Find(TextOf(name))) return Fail("A window \"" + TextOf(name) + "\" already exists");
+    windows_->All().Add(std::make_shared<Window>(*this, static_cast<View&>(*view), TextOf(name)));
+    return true;
 }
 
 bool Browser::DeleteWindowAccess(znIBrowserWindowAccess* window) {
     if (Refused("znIBrowser::DeleteWindowAccess", window)) return false;
-    return Fail("There is no such window");
+    if (!window) return Fail(noWindow);
+    windows_->Delete(*Own(window));
+    return true;
 }
 
 void Browser::SetWindowTkFrame(znIBrowserWindowAccess* window, const char* frame) {
-    static_cast<void>(Refused("znIBrowser::SetWindowTkFrame", window, frame));
+    if (Refused("znIBrowser::SetWindowTkFrame", window, frame) || !window) return;
+    Own(window)->SetTkFrame(TextOf(frame));
 }
 
 bool Browser::PostWindowAccess(znIBrowserWindowAccess* window, bool post) {
     if (Refused("znIBrowser::PostWindowAccess", window, post)) return false;
-    return Fail("There is no such window");
+    if (!window) return Fail(noWindow);
+    Own(window)->Post(post);
+    return true;
 }
 
 bool Browser::SetWindowStripeDisplay(znIBrowserWindowAccess* window, bool on, bool all) {
     if (Refused("znIBrowser::SetWindowStripeDisplay", window, on, all)) return false;
-    return Fail("There is no such window");
+    if (!window && !all) return Fail(noWindow);
+    if (!all) Own(window)->SetStripes(on);
+    if (!all) return true;
+    for (const auto& each : windows_->All()) each->SetStripes(on);
+    return true;
 }
 
 bool Browser::SetWindowBackgroundColor(znIBrowserWindowAccess* window, const char* color, bool flag) {
     if (Refused("znIBrowser::SetWindowBackgroundColor", window, color, flag)) return false;
-    return Fail("There is no such window");
+    if (!window) return Fail(noWindow);
+    Own(window)->SetBackground(TextOf(color));
+    return true;
 }
+
+// ---- Parts and callbacks
+// ------------------------------------------------------------------------------------
 
 bool Browser::CreateWindowPart(znIBrowserWindowAccess* window, const char* name, const char* parent) {
     if (Refused("znIBrowser::CreateWindowPart", window, name, parent)) return false;
-    return Fail("There is no such window");
+    if (!window) return Fail(noWindow);
+    Window& own = *Own(window);
+    WindowPart* const above = own.FindPart(TextOf(parent));
+    if (!above && !TextOf(parent).empty()) return Fail("There is no window part \"" + TextOf(parent) + "\"");
+    if (TextOf(name).empty()) return Fail("A window part needs a name");
+    if (own.FindPart(TextOf(name))) return Fail("A window part \"" + TextOf(name) + "\" already exists");
+    own.AddPart(TextOf(name), above);
+    return true;
 }
 
 bool Browser::DeleteWindowPart(znIBrowserWindowPart* part) {
     if (Refused("znIBrowser::DeleteWindowPart", part)) return false;
-    return Fail("There is no such window");
+    if (!part) return Fail("There is no such window part");
+    WindowPart& own = static_cast<WindowPart&>(*part);
+    own.Owner().DeletePart(own);
+    return true;
 }
 
 bool Browser::SetWindowPartShown(znIBrowserWindowPart* part, bool shown) {
     if (Refused("znIBrowser::SetWindowPartShown", part, shown)) return false;
-    return Fail("There is no such window");
+    if (!part) return Fail("There is no such window part");
+    static_cast<WindowPart&>(*part).SetShown(shown);
+    return true;
 }
 
 bool Browser::CreateWindowCallback(znIBrowserEvent* event, const char* name, bool isWindowOperation) {
     if (Refused("znIBrowser::CreateWindowCallback", event, name, isWindowOperation)) return false;
-    return Fail("There is no such window");
+    if (!event) return Fail("There is no such event");
+    if (TextOf(name).empty()) return Fail("A callback needs a name");
+    WindowEvent& own = static_cast<WindowEvent&>(*event);
+    if (own.Callbacks().Find(TextOf(name))) return Fail("A callback \"" + TextOf(name) + "\" already exists");
+    own.Callbacks().Add(std::make_shared<WindowCallback>(own, TextOf(name), isWindowOperation));
+    return true;
 }
 
 bool Browser::SetCallbackActionWindow(znIBrowserWindowCallback* callback, znIBrowserWindowAccess* window) {
     if (Refused("znIBrowser::SetCallbackActionWindow", callback, window)) return false;
-    return Fail("There is no such window");
+    if (!callback) return Fail("There is no such callback");
+    static_cast<WindowCallback&>(*callback).SetActionWindow(Own(window));
+    return true;
 }
 
 bool Browser::SetCallbackOperation(znIBrowserWindowCallback* callback,
                                    ZNBROWSER_CALLBACK_OPERATION operation) {
     if (Refused("znIBrowser::SetCallbackOperation", callback, operation)) return false;
-    return Fail("There is no such window");
+    if (!callback) return Fail("There is no such callback");
+    static_cast<WindowCallback&>(*callback).SetOperation(operation);
+    return true;
 }
+
+// ---- Find requests
+// ------------------------------------------------------------------------------------------
 
 bool Browser::SetFindRequestType(znIBrowserFindRequest* request, ZNBROWSER_FIND_REQUEST_TYPE type) {
     if (Refused("znIBrowser::SetFindRequestType", request, type)) return false;
-    return Fail("There is no such window");
+    if (!request) return Fail("There is no such find request");
+    static_cast<FindRequest&>(*request).SetType(type);
+    return true;
 }
 
 bool Browser::PerformFindRequest(znIBrowserFindRequest* request) {
     if (Refused("znIBrowser::PerformFindRequest", request)) return false;
-    return Fail("There is no such window");
+    if (!request) return Fail("There is no such find request");
+    FindRequest& own = static_cast<FindRequest&>(*request);
+    return own.Owner().Perform(own);
 }
 
 bool View::AddFindRequestProperty(znIBrowserFindRequest* request, const char* name) {
     if (Refused("znIBrowserView::AddFindRequestProperty", request, name)) return false;
-    return Fail("There is no such find request");
+    if (!request) return Fail("There is no such find request");
+    const std::string property = TextOf(name);
+    if (property != Column::builtInName && !properties_.Find(property)) {
+        return Fail("The view \"" + Name() + "\" has no property \"" + property + "\"");
+    }
+    static_cast<FindRequest&>(*request).AddProperty(property);
+    return true;
 }
 
 } // namespace znhost

@@ -1,0 +1,214 @@
+// A window: its life, its parts and listeners, and the scripts that it runs.
+#include "model/window.h"
+
+#include "model/application.h"
+#include "model/browser.h"
+#include "rows/row_finder.h"
+
+#include <algorithm>
+#include <tcl.h>
+
+namespace znhost {
+
+Window::Window(Browser& browser, View& view, std::string name)
+    : HostObject(browser.Log()), browser_(browser), view_(&view), name_(std::move(name)), rows_(view) {
+    findRequests_.Add(std::make_shared<FindRequest>(*this, FindRequest::defaultName));
+    view.AddObserver(*this);
+}
+
+Window::~Window() { Close(); }
+
+void Window::Close() {
+    if (closed_) return;
+    closed_ = true;
+    finder_.reset();
+    if (view_) view_->RemoveObserver(*this);
+    view_ = nullptr;
+    rows_.OnViewDeleted();
+    parts_.clear();
+    listeners_.clear();
+}
+
+void Window::OnViewDeleted() {
+    finder_.reset();
+    view_ = nullptr;
+    rows_.OnViewDeleted();
+}
+
+void Window::OnExpanded(FreeFolder& folder, znIBrowserDataSourceSimple* list, bool expanded, bool recursive) {
+    rows_.SetExpanded(folder, list, expanded, recursive);
+}
+
+void Window::SetStripes(bool on) {
+    stripes_ = on;
+    rows_.Tell(RowChange::AllCells);
+}
+
+void Window::SetBackground(std::string colour) {
+    background_ = std::move(colour);
+    rows_.Tell(RowChange::AllCells);
+}
+
+// ---- Scripts
+// ------------------------------------------------------------------------------------------------
+
+/// Calls a Tcl procedure; an error goes to the interpreter's background error handler.
+void Window::Call(const std::vector<std::string>& words) {
+    Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
+    Tcl_IncrRefCount(list);
+    for (const std::string& word : words) {
+        Tcl_ListObjAppendElement(nullptr, list, Tcl_NewStringObj(word.data(), static_cast<int>(word.size())));
+    }
+    const std::string script = Tcl_GetString(list);
+    Tcl_DecrRefCount(list);
+    browser_.Owner().RunScript(script);
+}
+
+/// An event of the window: each part's callbacks, then the listeners. What is to be done is noted before
+/// anything is done, and ends with the window.
+void Window::Fire(EventKind kind) {
+    struct Reaction {
+        std::string procedure;
+        std::shared_ptr<Window> target;
+        ZNBROWSER_CALLBACK_OPERATION operation;
+    };
+    std::vector<Reaction> reactions;
+    for (WindowPart* const part : AllParts()) {
+        for (const auto& callback : part->Event(kind).Callbacks()) {
+            Window* const target = callback->ActionWindow();
+            if (!callback->IsWindowOperation()) {
+                reactions.push_back({callback->Name(), nullptr, ZNBROWSER_CALLBACK_UNDEFINED});
+            } else if (target) {
+                reactions.push_back({"", target->shared_from_this(), callback->Operation()});
+            }
+        }
+    }
+    for (const std::string& listener : listeners_)
+        reactions.push_back({listener, nullptr, ZNBROWSER_CALLBACK_UNDEFINED});
+    for (const Reaction& reaction : reactions) {
+        if (closed_) return;
+        if (reaction.target) {
+            RunWindowOperation(*reaction.target, reaction.operation);
+        } else {
+            Call({reaction.procedure, name_, EventName(kind)});
+        }
+    }
+}
+
+void Window::RunWindowOperation(Window& target, ZNBROWSER_CALLBACK_OPERATION operation) {
+    if (!view_ || operation == ZNBROWSER_CALLBACK_UNDEFINED) return;
+    znBrowserDataItems items;
+    view_->Selected().AppendTo(items);
+    target.rows_.SelectRelated(items, operation == ZNBROWSER_CALLBACK_TREE_AREA_SELECT_PARENT_ITEMS);
+}
+
+void Window::Post(bool posted) {
+    if (posted == posted_) return;
+    const std::shared_ptr<Window> self = shared_from_this();
+    posted_ = posted;
+    std::vector<std::vector<std::string>> calls;
+    const auto add = [&calls](const WindowPart& part, const WindowPart::Procedure& procedure) {
+        if (procedure.name.empty()) return;
+        calls.push_back({procedure.name, part.FramePath()});
+        if (!procedure.argument.empty()) calls.back().push_back(procedure.argument);
+    };
+    if (posted) {
+        const std::vector<WindowPart*> parts = AllParts();
+        for (const WindowPart* const part : parts) add(*part, part->CreateProcedure());
+        for (const WindowPart* const part : parts) {
+            if (part->IsShown()) add(*part, part->PackProcedure());
+        }
+    }
+    for (const std::vector<std::string>& call : calls) {
+        if (!closed_) Call(call);
+    }
+    Fire(posted ? EventKind::Posted : EventKind::Unposted);
+}
+
+// ---- Parts
+// --------------------------------------------------------------------------------------------------
+
+std::vector<WindowPart*> Window::AllParts() const {
+    std::vector<WindowPart*> parts;
+    WindowPart::Append(parts_, true, parts);
+    return parts;
+}
+
+WindowPart* Window::FindPart(std::string_view name) {
+    const std::vector<WindowPart*> parts = AllParts();
+    const auto found =
+        std::find_if(parts.begin(), parts.end(), [name](auto* part) { return part->Name() == name; });
+    return found == parts.end() ? nullptr : *found;
+}
+
+WindowPart& Window::AddPart(const std::string& name, WindowPart* parent) {
+    WindowPart::Parts& siblings = parent ? parent->Children() : parts_;
+    siblings.push_back(std::make_unique<WindowPart>(*this, parent, name, ++partsMade_));
+    return *siblings.back();
+}
+
+void Window::DeletePart(WindowPart& part) {
+    WindowPart::Parts& siblings = part.Parent() ? part.Parent()->Children() : parts_;
+    siblings.erase(siblings.begin() + part.Position());
+}
+
+void Window::Forget(const Window& other) {
+    for (WindowPart* const part : AllParts()) {
+        for (std::size_t i = 0; i < eventKinds; ++i) {
+            for (const auto& callback : part->Event(static_cast<EventKind>(i)).Callbacks()) {
+                if (callback->ActionWindow() == &other) callback->SetActionWindow(nullptr);
+            }
+        }
+    }
+}
+
+/// Null when the part is not one of this window.
+WindowPart* Window::Own(znIBrowserWindowPart* part) const {
+    WindowPart* const own = static_cast<WindowPart*>(part);
+    return own && &own->Owner() == this ? own : nullptr;
+}
+
+WindowEvent* Window::Own(znIBrowserEvent* event) const {
+    WindowEvent* const own = static_cast<WindowEvent*>(event);
+    return own && &own->Part().Owner() == this ? own : nullptr;
+}
+
+// ---- Finding
+// ------------------------------------------------------------------------------------------------
+
+bool Window::Perform(FindRequest& request) {
+    const std::shared_ptr<Window> self = shared_from_this();
+    if (!view_) return Fail("The window \"" + name_ + "\" shows no view");
+    const ZNBROWSER_FIND_REQUEST_TYPE type = request.Type();
+    if (type == ZNBROWSER_FIND_REQUEST_UNKNOWN)
+        return Fail("The find request \"" + request.Name() + "\" has no type");
+    std::vector<FindCriterion> criteria;
+    for (const znBrowserProperty& property : request.Properties()) {
+        for (const znBrowserCriterion* const criterion : property.criteria) {
+            criteria.push_back({property.name.Str(), *criterion});
+        }
+    }
+    if (!finder_ || !finder_->IsUpToDate(criteria)) {
+        auto finder = std::make_unique<RowFinder>(*view_, rows_, std::move(criteria));
+        if (!view_) return false; // a script that gave a value closed the window
+        finder_ = std::move(finder);
+    }
+    if (!finder_->GetError().empty()) return Fail(finder_->GetError());
+    if (finder_->Size() == 0) return Fail("Nothing is found");
+    const bool all = type == ZNBROWSER_FIND_REQUEST_ALL;
+    const std::size_t shown = all ? 0 : finder_->Next(type == ZNBROWSER_FIND_REQUEST_NEXT, *view_);
+    znBrowserDataItems found;
+    const auto add = [&found](const znBrowserDataItem& item) { found.Append(item.source, item.row); };
+    if (all && !rows_.IsSingle()) {
+        for (std::size_t hit = 0; hit < finder_->Size(); ++hit) add(finder_->Item(hit));
+    } else {
+        add(finder_->Item(shown));
+    }
+    rows_.Reveal(finder_->PathTo(shown));
+    if (!view_) return false;
+    view_->Selected().Replace(found);
+    Fire(EventKind::SelectionChanged);
+    return true;
+}
+
+} // namespace znhost

@@ -1,0 +1,223 @@
+// The events of a window's Tk tree.
+#include "host/znBrowserDataItems.h"
+#include "model/application.h"
+#include "model/browser.h"
+#include "model/window.h"
+#include "znIBrowserManagerTcl.h"
+
+#include <algorithm>
+#include <iterator>
+#include <tcl.h>
+
+namespace znhost {
+
+// ---- Expanding
+// ----------------------------------------------------------------------------------------------
+
+bool Window::RequestExpand(unsigned int index) {
+    if (Refused("znIBrowserWindowAccess::RequestExpand", index)) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
+    if (!rows_.Expand(index)) return false;
+    Fire(EventKind::ItemExpanded);
+    return true;
+}
+
+bool Window::RequestCollapse(unsigned int index) {
+    if (Refused("znIBrowserWindowAccess::RequestCollapse", index)) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
+    if (!rows_.Collapse(index)) return false;
+    Fire(EventKind::ItemCollapsed);
+    return true;
+}
+
+bool Window::ExpandAllItems() {
+    if (Refused("znIBrowserWindowAccess::ExpandAllItems")) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
+    rows_.ExpandAll();
+    return true;
+}
+
+bool Window::ExpandSelectedItems() {
+    if (Refused("znIBrowserWindowAccess::ExpandSelectedItems")) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
+    rows_.ExpandSelected();
+    return true;
+}
+
+bool Window::CollapseAllItems() {
+    if (Refused("znIBrowserWindowAccess::CollapseAllItems")) return false;
+    rows_.CollapseAll();
+    return true;
+}
+
+bool Window::CollapseSelectedItems() {
+    if (Refused("znIBrowserWindowAccess::CollapseSelectedItems")) return false;
+    rows_.CollapseSelected();
+    return true;
+}
+
+bool Window::SetStatePos(int position) {
+    if (Refused("znIBrowserWindowAccess::SetStatePos", position) || position < 0) return false;
+    scrollPosition_ = position;
+    return true;
+}
+
+// ---- Selecting
+// ----------------------------------------------------------------------------------------------
+
+bool Window::SelectionAdded(const std::vector<unsigned int>& indices) {
+    if (Refused("znIBrowserWindowAccess::SelectionAdded", indices)) return false;
+    return rows_.Select(RowModel::Selecting::Add, indices);
+}
+
+bool Window::SelectionRemoved(const std::vector<unsigned int>& indices) {
+    if (Refused("znIBrowserWindowAccess::SelectionRemoved", indices)) return false;
+    return rows_.Select(RowModel::Selecting::Remove, indices);
+}
+
+bool Window::SelectionUpdate(const std::vector<unsigned int>& indices) {
+    if (Refused("znIBrowserWindowAccess::SelectionUpdate", indices)) return false;
+    return rows_.Select(RowModel::Selecting::Replace, indices);
+}
+
+bool Window::SelectionChangeFinished() {
+    if (Refused("znIBrowserWindowAccess::SelectionChangeFinished")) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
+    TellSelectedFolders();
+    Fire(EventKind::SelectionChanged);
+    return true;
+}
+
+/// Scripts that want to know the selected folders define the procedures that receive them.
+void Window::TellSelectedFolders() {
+    Application& application = browser_.Owner();
+    constexpr const char* procedure = "::znbrowser::ResetSelectedFreeFoldersArray";
+    const bool wanted = Tcl_FindCommand(application.Interp(), procedure, nullptr, TCL_GLOBAL_ONLY) != nullptr;
+    if (!view_ || !wanted || !application.Manager()) return;
+    std::vector<znIBrowserViewItemFreeFolder*> folders;
+    for (FreeFolder* const folder : view_->RootFolder().WithBelow()) {
+        if (folder->IsSelected()) folders.push_back(folder);
+    }
+    application.Manager()->UpdateTclFreeFolderSelection(folders);
+}
+
+bool Window::SetSingleSelection() {
+    if (Refused("znIBrowserWindowAccess::SetSingleSelection")) return false;
+    rows_.SetSingle(true);
+    return true;
+}
+
+bool Window::SetMultipleSelection() {
+    if (Refused("znIBrowserWindowAccess::SetMultipleSelection")) return false;
+    rows_.SetSingle(false);
+    return true;
+}
+
+// ---- Clicks
+// -------------------------------------------------------------------------------------------------
+
+Column* Window::FindColumn(const char* name) const {
+    return view_ ? view_->Columns().Find(TextOf(name)) : nullptr;
+}
+
+/// The value of an item changed: the update script of its property is told or, without one, a boolean is
+/// written to the database.
+bool Window::WriteValue(ViewProperty& property, const znBrowserDataItem& item, const std::string& value) {
+    if (!property.UpdateScript().empty()) return property.Update(item, value);
+    znIBrowserDataProperty* const data = property.DataProperty(item.source);
+    RowSource* const source = GetRowSource(item.source);
+    if (!data || !source) return Fail("The property \"" + property.Name() + "\" has no value for the item");
+    std::string error;
+    if (!source->WriteBoolean(*data, item.row, value == "true", error)) return Fail(error);
+    if (view_ && view_->DataControl()) browser_.DataChanged(*view_->DataControl(), VIEW_CELLS);
+    return true;
+}
+
+bool Window::CheckBoxClick(const char* column, const char* element, unsigned int index, bool value) {
+    if (Refused("znIBrowserWindowAccess::CheckBoxClick", column, element, index, value)) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
+    const Column* const own = FindColumn(column);
+    znBrowserDataItem item;
+    if (!own || !rows_.GetItem(index, item)) return false;
+    ViewProperty* const property = rows_.PropertyOf(index, *own, TextOf(element));
+    if (!property) return Fail("The column \"" + own->Name() + "\" shows no property");
+    if (!WriteValue(*property, item, value ? "true" : "false")) return false;
+    Fire(EventKind::CheckBoxClick);
+    return true;
+}
+
+// A button runs the operation of the view that is called like its element, the element's property, its column
+// or its value. A property with an update script is told the value instead.
+bool Window::WindowButtonClick(const char* column, const char* element, unsigned int index,
+                               const znString& value) {
+    if (Refused("znIBrowserWindowAccess::WindowButtonClick", column, element, index, value)) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
+    const Column* const own = FindColumn(column);
+    znBrowserDataItem item;
+    if (!own || !rows_.GetItem(index, item)) return false;
+    ViewProperty* const property = rows_.PropertyOf(index, *own, TextOf(element));
+    bool done = false;
+    if (property && !property->UpdateScript().empty()) {
+        done = WriteValue(*property, item, value.Str());
+    } else {
+        const std::string names[] = {TextOf(element), property ? property->Name() : "", own->Name(),
+                                     value.Str()};
+        done = std::any_of(std::begin(names), std::end(names),
+                           [this](auto& name) { return RunOperation(name); });
+        if (!done) Fail("The view \"" + view_->Name() + "\" has no operation for the button");
+    }
+    if (done) Fire(EventKind::ButtonClick);
+    return done;
+}
+
+/// False when the view has no such operation. How its script ends does not matter.
+bool Window::RunOperation(const std::string& name) {
+    ViewOperation* const operation = view_ ? view_->Operations().Find(name) : nullptr;
+    if (operation) operation->Run();
+    return operation != nullptr;
+}
+
+bool Window::LeftHandClick(const char* column, const char* element, unsigned int index) {
+    if (Refused("znIBrowserWindowAccess::LeftHandClick", column, element, index)) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
+    if (!FindColumn(column) || !rows_.Has(index)) return false;
+    Fire(EventKind::LeftClick);
+    return true;
+}
+
+bool Window::RightHandClick(znIBrowserViewColumn* column, const std::vector<unsigned int>& indices) {
+    if (Refused("znIBrowserWindowAccess::RightHandClick", column, indices)) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
+    if (!column || !rows_.HasAll(indices)) return false;
+    Fire(EventKind::RightClick);
+    return true;
+}
+
+bool Window::PopupMenu(bool on) {
+    if (Refused("znIBrowserWindowAccess::PopupMenu", on)) return false;
+    popup_ = on;
+    return true;
+}
+
+// The menu offers the view's operations. One of the two texts is the name of the one that was chosen.
+bool Window::PerformPopupOperation(const char* first, const char* second) {
+    if (Refused("znIBrowserWindowAccess::PerformPopupOperation", first, second)) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
+    return RunOperation(TextOf(first)) || RunOperation(TextOf(second)) ||
+           Fail("There is no view operation \"" + TextOf(first) + "\"");
+}
+
+// ---- Dropping
+// -----------------------------------------------------------------------------------------------
+
+bool Window::SetDropItem(unsigned int target, const std::vector<unsigned int>& indices) {
+    if (Refused("znIBrowserWindowAccess::SetDropItem", target, indices)) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
+    std::string error;
+    if (indices.empty() || !rows_.Drop(target, indices, error)) return error.empty() ? false : Fail(error);
+    if (view_ && view_->DataControl()) browser_.DataChanged(*view_->DataControl(), VIEW_ROWS | VIEW_CELLS);
+    Fire(EventKind::ItemsDropped);
+    return true;
+}
+
+} // namespace znhost

@@ -1,0 +1,16 @@
+// The words "app rows" and "app draw": what a window shows, for scripts and as a text.
+#ifndef ZN_HOST_ROW_COMMANDS_H
+#define ZN_HOST_ROW_COMMANDS_H
+
+namespace znhost {
+
+class AppCall;
+
+/// "rows WINDOW ?FIRST COUNT?": a dictionary for each row.
+int AnswerRows(AppCall& call);
+/// "draw WINDOW": the rows as a table.
+int AnswerDraw(AppCall& call);
+
+} // namespace znhost
+
+#endif

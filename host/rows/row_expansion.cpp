@@ -1,0 +1,310 @@
+// Expanding and collapsing, and keeping what is expanded through changes of the view.
+#include "model/view.h"
+#include "rows/row_model.h"
+
+#include <algorithm>
+#include <set>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace znhost {
+
+namespace {
+
+const void* KeyOf(const RowContent& content) {
+    return content.kind == RowKind::Folder ? static_cast<const void*>(content.folder.get()) : content.source;
+}
+
+RowPart MakePart(const RowContent& content, const RowPlan& plan) {
+    return content.kind == RowKind::Item ? RowTree::MakeBlock(content, plan.List(content))
+                                         : RowTree::MakeNode(content);
+}
+
+} // namespace
+
+// ---- Filling
+// ------------------------------------------------------------------------------------------------
+
+/// Makes what stands in a container. False when there is nothing, or the work must be given up.
+bool RowModel::Fill(RowNode& node) {
+    const Row row = RowTree::RowOf(node);
+    std::vector<RowPart> parts;
+    for (const RowContent& content :
+         node.block ? plan_.Below(row.Content(), row.Number()) : plan_.Below(node.content)) {
+        parts.push_back(MakePart(content, plan_));
+        if (stopped_) return false;
+    }
+    tree_.SetParts(node, std::move(parts));
+    return !node.parts.empty();
+}
+
+/// Fills a container, and below it whatever is to be expanded as soon as it is there.
+void RowModel::FillAndExpand(RowNode& top) {
+    const RowTree::ManyChanges many(tree_, top);
+    std::vector<std::pair<RowNode*, int>> open{{&top, 0}};
+    while (!open.empty() && !stopped_) {
+        const auto [node, depth] = open.back();
+        open.pop_back();
+        if (Fill(*node)) ExpandAsCreated(*node, depth, open);
+    }
+}
+
+void RowModel::ExpandAsCreated(RowNode& node, int depth, std::vector<std::pair<RowNode*, int>>& open) {
+    for (const RowPart& part : node.parts) {
+        const RowContent& content = part.node ? part.node->content : part.block->content;
+        if (content.kind == RowKind::Folder && content.folder->IsExpanded())
+            open.emplace_back(part.node.get(), 0);
+        if (content.kind == RowKind::List) {
+            const FolderList* const list =
+                content.link.reference ? nullptr : content.folder->FindList(content.source->GetSource());
+            if (list && list->expanded) open.emplace_back(part.node.get(), 0);
+        }
+        if (content.kind != RowKind::Item) continue;
+        // Below an item of the same kind the count goes on; it does not begin anew.
+        const bool goesOn =
+            content.link.reference && !content.top && content.link.parent == content.link.child;
+        const int own = goesOn ? 0 : content.folder->CreateExpandedDepth(content.source->GetSource());
+        const int left = std::max(own, depth);
+        if (left <= 0) continue;
+        for (std::uint32_t i = 0; i < part.block->rows.size(); ++i) {
+            const Row row = RowTree::ItemAt(*part.block, i);
+            if (HasRows(row)) open.emplace_back(&tree_.NodeOf(row), left - 1);
+        }
+    }
+}
+
+// ---- Expanding
+// ----------------------------------------------------------------------------------------------
+
+bool RowModel::ExpandRow(const Row& row) {
+    if (!row || !(row.IsExpanded() || HasRows(row))) return false;
+    if (row.IsExpanded()) return true;
+    RowNode& node = row.IsItem() ? tree_.NodeOf(row) : *row.node;
+    FillAndExpand(node);
+    Tell(RowChange::Filled, row.Index());
+    return !stopped_;
+}
+
+bool RowModel::Expand(std::uint32_t index) {
+    const Change change(*this);
+    return change && ExpandRow(tree_.Find(index));
+}
+
+bool RowModel::Collapse(std::uint32_t index) {
+    const Change change(*this);
+    const Row row = change ? tree_.Find(index) : Row();
+    if (!row) return false;
+    if (!row.IsExpanded()) return true;
+    tree_.Collapse(*row.node);
+    Tell(RowChange::Filled, index);
+    return true;
+}
+
+/// Goes down to the leafs, not by recursion and not into an item that lies below itself.
+void RowModel::ExpandBelow(RowNode& top) {
+    struct Step {
+        RowNode* node;
+        bool leaves;
+    };
+    using Item = std::pair<const RowSource*, std::int64_t>;
+    const auto itemOf = [](RowNode& node) -> Item {
+        return {node.block->content.source, RowTree::RowOf(node).Number()};
+    };
+    std::set<Item> way;
+    for (RowNode* node = top.parent; node; node = node->parent) {
+        if (node->block) way.insert(itemOf(*node));
+    }
+    const RowTree::ManyChanges many(tree_, top);
+    std::vector<Step> open{{&top, false}};
+    while (!open.empty() && !stopped_) {
+        const Step step = open.back();
+        open.pop_back();
+        RowNode& node = *step.node;
+        if (step.leaves) {
+            way.erase(itemOf(node));
+            continue;
+        }
+        if (node.block) {
+            if (!way.insert(itemOf(node)).second) continue;
+            open.push_back({&node, true});
+        }
+        if (!node.expanded && !Fill(node)) continue;
+        for (const RowPart& part : node.parts) {
+            if (part.node) {
+                open.push_back({part.node.get(), false});
+                continue;
+            }
+            for (std::uint32_t i = 0; i < part.block->rows.size(); ++i) {
+                const Row row = RowTree::ItemAt(*part.block, i);
+                const Item item{part.block->content.source, row.Number()};
+                if (!way.count(item) && HasRows(row)) open.push_back({&tree_.NodeOf(row), false});
+            }
+        }
+    }
+}
+
+void RowModel::ExpandAll() {
+    const Change change(*this);
+    if (!change) return;
+    ExpandBelow(tree_.Root());
+    Tell(RowChange::AllFilled);
+}
+
+void RowModel::CollapseInside(RowNode& node) {
+    const RowTree::ManyChanges many(tree_, node);
+    for (const RowPart& part : node.parts) {
+        if (part.node && part.node->expanded) tree_.Collapse(*part.node);
+        while (part.block && !part.block->children.empty())
+            tree_.Collapse(*part.block->children.begin()->second);
+    }
+}
+
+void RowModel::CollapseAll() {
+    const Change change(*this);
+    if (!change) return;
+    CollapseInside(tree_.Root());
+    Tell(RowChange::AllFilled);
+}
+
+void RowModel::ExpandSelected() {
+    const Change change(*this);
+    if (!change) return;
+    for (const std::uint32_t index : SelectedIndices()) {
+        const Row row = tree_.Find(index);
+        if (!row || !HasRows(row)) continue;
+        ExpandBelow(row.IsItem() ? tree_.NodeOf(row) : *row.node);
+    }
+    Tell(RowChange::AllFilled);
+}
+
+void RowModel::CollapseSelected() {
+    const Change change(*this);
+    if (!change) return;
+    for (const std::uint32_t index : SelectedIndices()) {
+        const Row row = tree_.Find(index); // gone when what it lay in was selected too
+        if (row && row.IsExpanded()) tree_.Collapse(*row.node);
+    }
+    Tell(RowChange::AllFilled);
+}
+
+RowNode* RowModel::FindContainer(const FreeFolder& folder, const znIBrowserDataSourceSimple* list) {
+    if (!list && tree_.Root().content.folder.get() == &folder) return &tree_.Root();
+    for (RowNode* const node : RowTree::Expanded(tree_.Root())) {
+        for (const RowPart& part : node->parts) {
+            if (!part.node || part.node->content.folder.get() != &folder) continue;
+            const RowContent& content = part.node->content;
+            const bool isList = content.kind == RowKind::List && !content.link.reference;
+            if (list ? isList && content.source->GetSource() == list : content.kind == RowKind::Folder) {
+                return part.node.get();
+            }
+        }
+    }
+    return nullptr;
+}
+
+void RowModel::SetExpanded(const FreeFolder& folder, const znIBrowserDataSourceSimple* list, bool expanded,
+                           bool recursive) {
+    const Change change(*this);
+    RowNode* const node = change ? FindContainer(folder, list) : nullptr;
+    if (!node) return;
+    if (expanded && recursive) {
+        ExpandBelow(*node);
+    } else if (expanded) {
+        ExpandRow(RowTree::RowOf(*node));
+    } else if (node == &tree_.Root()) {
+        if (recursive) CollapseInside(*node);
+    } else if (node->expanded) {
+        tree_.Collapse(*node);
+    }
+    Tell(RowChange::AllFilled);
+}
+
+bool RowModel::Reveal(const std::vector<RowStep>& path) {
+    const Change change(*this);
+    if (!change) return false;
+    RowNode* node = &tree_.Root();
+    for (const RowStep& step : path) {
+        if (!node->expanded && !(ExpandRow(RowTree::RowOf(*node)))) return false;
+        const auto part =
+            std::find_if(node->parts.begin(), node->parts.end(), [&step](const RowPart& candidate) {
+                return (candidate.node ? candidate.node->content : candidate.block->content)
+                    .IsSame(step.content);
+            });
+        if (part == node->parts.end()) return false;
+        if (part->node) {
+            node = part->node.get();
+            continue;
+        }
+        const std::vector<std::int64_t>& rows = part->block->rows;
+        const auto found = std::find(rows.begin(), rows.end(), step.row);
+        if (found == rows.end()) return false;
+        const Row row = RowTree::ItemAt(*part->block, static_cast<std::uint32_t>(found - rows.begin()));
+        if (&step != &path.back()) {
+            node = &tree_.NodeOf(row);
+        } else {
+            Tell(RowChange::Shown, row.Index());
+        }
+    }
+    return true;
+}
+
+// ---- Taking over changes of the view
+// ------------------------------------------------------------------------
+
+/// Everything that is expanded is planned anew. What is still there keeps its indices and what lies below it.
+void RowModel::Refresh() {
+    RowNode& root = tree_.Root();
+    if (!root.expanded) {
+        FillAndExpand(root);
+        return;
+    }
+    const RowTree::ManyChanges many(tree_, root);
+    std::vector<RowNode*> open{&root};
+    while (!open.empty() && !stopped_) {
+        RowNode& node = *open.back();
+        open.pop_back();
+        RefreshNode(node);
+        for (const RowPart& part : node.parts) {
+            if (part.node && part.node->expanded) open.push_back(part.node.get());
+            if (!part.block) continue;
+            for (const auto& child : part.block->children) open.push_back(child.second.get());
+        }
+    }
+}
+
+void RowModel::RefreshNode(RowNode& node) {
+    const Row row = RowTree::RowOf(node);
+    std::unordered_multimap<const void*, RowPart*> old;
+    for (RowPart& part : node.parts)
+        old.emplace(KeyOf(part.node ? part.node->content : part.block->content), &part);
+    std::vector<RowPart> parts;
+    std::vector<std::pair<RowNode*, int>> fresh;
+    for (const RowContent& content :
+         node.block ? plan_.Below(row.Content(), row.Number()) : plan_.Below(node.content)) {
+        const auto range = old.equal_range(KeyOf(content));
+        const auto known = std::find_if(range.first, range.second, [&content](const auto& entry) {
+            const RowPart& part = *entry.second;
+            return (part.node || part.block) &&
+                   (part.node ? part.node->content : part.block->content).IsSame(content);
+        });
+        if (known == range.second) {
+            parts.push_back(MakePart(content, plan_));
+        } else {
+            parts.push_back(std::move(*known->second));
+            RefreshContent(parts.back(), content);
+        }
+    }
+    tree_.SetParts(node, std::move(parts));
+}
+
+/// The same thing as before, but with the present links and filter, and the present rows.
+void RowModel::RefreshContent(RowPart& part, const RowContent& content) {
+    if (part.node) {
+        part.node->content = content;
+    } else {
+        part.block->content = content;
+        tree_.SetRows(*part.block, plan_.List(content));
+    }
+}
+
+} // namespace znhost

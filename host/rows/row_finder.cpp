@@ -1,0 +1,221 @@
+#include "rows/row_finder.h"
+
+#include "host/znIBrowserDataSourceSimple.h"
+#include "model/view.h"
+#include "rows/text_matcher.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace znhost {
+
+namespace {
+
+/// What is found may be reached in several ways. More rows than this nobody looks through.
+constexpr std::size_t mostEntries = 8'000'000;
+
+bool IsNumber(ZNBROWSER_DATA_TYPE type) {
+    return type == ZNBROWSER_DATA_BOOL || type == ZNBROWSER_DATA_UNSIGNED || type == ZNBROWSER_DATA_INT ||
+           type == ZNBROWSER_DATA_DOUBLE;
+}
+
+/// The text as a number: "true" and "false" too.
+bool ReadNumber(std::string& text) {
+    if (text == "true" || text == "false") text = text == "true" ? "1" : "0";
+    char* end = nullptr;
+    std::strtod(text.c_str(), &end);
+    return !text.empty() && end == text.c_str() + text.size();
+}
+
+/// How a value is to match. False, with the reason, when the criterion cannot be used.
+bool MakeCondition(const znBrowserCriterion& criterion, ZNBROWSER_DATA_TYPE type, RowCondition& condition,
+                   std::string& error) {
+    condition.value = criterion.value.Str();
+    const bool isText = criterion.useregexp || !IsNumber(type) || !ReadNumber(condition.value);
+    if (criterion.type == ZNBROWSER_CRITERION_MORE_THAN || criterion.type == ZNBROWSER_CRITERION_LESS_THAN) {
+        const bool isMore = criterion.type == ZNBROWSER_CRITERION_MORE_THAN;
+        condition.compare = isMore ? RowCondition::Compare::More : RowCondition::Compare::Less;
+        return true;
+    }
+    if (!isText) {
+        condition.compare = RowCondition::Compare::Equal;
+        return true;
+    }
+    TextMatcher::Options options;
+    options.matchCase = criterion.matchcase;
+    options.matchWord = criterion.matchword;
+    options.regexp = criterion.useregexp;
+    const auto matcher = std::make_shared<TextMatcher>(criterion.value.View(), options);
+    error = matcher->GetError();
+    condition.accept = [matcher](std::string_view text) { return matcher->Matches(text); };
+    return error.empty();
+}
+
+} // namespace
+
+bool operator==(const FindCriterion& a, const FindCriterion& b) {
+    const znBrowserCriterion& x = a.criterion;
+    const znBrowserCriterion& y = b.criterion;
+    return a.property == b.property && x.type == y.type && x.value == y.value && x.matchcase == y.matchcase &&
+           x.matchword == y.matchword && x.useregexp == y.useregexp;
+}
+
+RowFinder::RowFinder(View& view, RowModel& model, std::vector<FindCriterion> criteria)
+    : model_(model), criteria_(std::move(criteria)) {
+    const RowModel::Answering answering(model);
+    revision_ = model.Revision();
+    if (Prepare(view)) Walk();
+}
+
+bool RowFinder::IsUpToDate(const std::vector<FindCriterion>& criteria) const {
+    const RowModel::Answering answering(model_);
+    return error_.empty() && revision_ == model_.Revision() && criteria == criteria_;
+}
+
+// ---- What matches
+// -------------------------------------------------------------------------------------------
+
+bool RowFinder::Prepare(const View& view) {
+    if (criteria_.empty()) error_ = "There is nothing to look for";
+    for (const FindCriterion& wanted : criteria_) {
+        ViewProperty* const property = view.Properties().Find(wanted.property);
+        if (!property && wanted.property != Column::builtInName) {
+            error_ = "The view \"" + view.Name() + "\" has no property \"" + wanted.property + "\"";
+            return false;
+        }
+        tests_.emplace_back(RowCondition(), property);
+        const ZNBROWSER_DATA_TYPE type = property ? property->Type() : ZNBROWSER_DATA_STRING;
+        if (!MakeCondition(wanted.criterion, type, tests_.back().first, error_)) return false;
+    }
+    return error_.empty();
+}
+
+bool RowFinder::ConditionsFor(RowSource& source, std::vector<RowCondition>& conditions) const {
+    for (const auto& [condition, property] : tests_) {
+        conditions.push_back(condition);
+        if (!property) continue;
+        conditions.back().property = property->DataProperty(source.GetSource());
+        if (!conditions.back().property) return false;
+    }
+    return true;
+}
+
+std::shared_ptr<const RowFilter> RowFinder::FilterFor(const RowContent& block) {
+    std::shared_ptr<const RowFilter>& filter = filters_[{block.scope.get(), block.source}];
+    if (!filter) {
+        filter =
+            std::make_shared<RowFilter>(std::vector<RowSource*>{block.source}, block.scope->links,
+                                        [this](RowSource& source, std::vector<RowCondition>& conditions) {
+                                            return ConditionsFor(source, conditions);
+                                        });
+    }
+    return filter;
+}
+
+// ---- The walk
+// -----------------------------------------------------------------------------------------------
+
+void RowFinder::Walk() {
+    frames_.push_back({});
+    frames_.back().contents = model_.Plan().Below(model_.Top());
+    while (!frames_.empty() && !model_.IsStopped() && entries_.size() < mostEntries) {
+        Frame& frame = frames_.back();
+        if (frame.nextRow < frame.rows.size()) {
+            WalkRow(frame);
+        } else if (frame.next < frame.contents.size()) {
+            WalkContent(frame);
+        } else {
+            if (frame.item.first) way_.erase(frame.item);
+            frames_.pop_back();
+        }
+    }
+    frames_.clear();
+    way_.clear();
+    filters_.clear();
+}
+
+std::uint32_t RowFinder::AddEntry(std::uint32_t above, std::uint32_t content, std::int64_t row) {
+    const auto entry = static_cast<std::uint32_t>(entries_.size());
+    entries_.push_back({frames_.size() > 1 ? above : entry, content, row});
+    return entry;
+}
+
+void RowFinder::WalkContent(Frame& frame) {
+    const RowContent& content = frame.contents[frame.next++];
+    frame.content = static_cast<std::uint32_t>(contents_.size());
+    contents_.push_back(content);
+    if (content.kind != RowKind::Item) {
+        Frame below;
+        below.above = AddEntry(frame.above, frame.content, 0);
+        below.contents = model_.Plan().Below(content);
+        frames_.push_back(std::move(below));
+        return;
+    }
+    frame.filter = FilterFor(content);
+    frame.rows = model_.Plan().List(content);
+    frame.nextRow = 0;
+    frame.filter->Narrow(content.source, frame.rows);
+}
+
+void RowFinder::WalkRow(Frame& frame) {
+    const RowContent& block = frame.contents[frame.next - 1];
+    const std::int64_t row = frame.rows[frame.nextRow++];
+    const std::uint32_t entry = AddEntry(frame.above, frame.content, row);
+    if (frame.filter->IsMatch(block.source, row)) hits_.push_back(entry);
+    const std::vector<RowLink>& links = block.scope->links;
+    const bool leads = std::any_of(links.begin(), links.end(), [&](const RowLink& link) {
+        return link.parent == block.source && frame.filter->KeepsBelow(link, row);
+    });
+    if (!leads || !way_.insert({block.source, row}).second)
+        return; // an item below itself is not walked again
+    Frame below;
+    below.above = entry;
+    below.item = {block.source, row};
+    below.contents = model_.Plan().Below(block, row);
+    frames_.push_back(std::move(below));
+}
+
+// ---- The hits
+// -----------------------------------------------------------------------------------------------
+
+znBrowserDataItem RowFinder::Item(std::size_t hit) const {
+    const Entry& entry = entries_[hits_[hit]];
+    return {contents_[entry.content].source->GetSource(), entry.row};
+}
+
+std::vector<RowStep> RowFinder::PathTo(std::size_t hit) const {
+    std::vector<RowStep> path;
+    for (std::uint32_t at = hits_[hit];; at = entries_[at].above) {
+        path.push_back({contents_[entries_[at].content], entries_[at].row});
+        if (entries_[at].above == at) break;
+    }
+    std::reverse(path.begin(), path.end());
+    return path;
+}
+
+std::size_t RowFinder::Next(bool forward, const View& view) {
+    const std::size_t count = hits_.size();
+    std::size_t next = forward ? 0 : count - 1;
+    if (hasLast_ && view.Selected().IsSelected(Item(last_))) {
+        next = (last_ + (forward ? 1 : count - 1)) % count;
+    } else {
+        const auto selected = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) {
+            const RowContent& content = contents_[entry.content];
+            return content.kind == RowKind::Item &&
+                   view.Selected().IsSelected(content.source->GetSource(), entry.row);
+        });
+        const auto at = static_cast<std::uint32_t>(selected - entries_.begin());
+        const auto after = std::upper_bound(hits_.begin(), hits_.end(), at);
+        const auto from = std::lower_bound(hits_.begin(), hits_.end(), at);
+        if (selected != entries_.end()) {
+            next = static_cast<std::size_t>((forward ? after : from) - hits_.begin()) +
+                   (forward ? 0 : count - 1);
+            next %= count;
+        }
+    }
+    last_ = next;
+    hasLast_ = true;
+    return next;
+}
+
+} // namespace znhost

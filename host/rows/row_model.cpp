@@ -1,0 +1,228 @@
+// What a window shows: the questions about its rows, and how it hears of changes.
+#include "rows/row_model.h"
+
+#include "host/znBrowserDataItems.h"
+#include "host/znIBrowserDataSourceHierarchical.h"
+#include "host/znIBrowserDataSourceSimple.h"
+#include "model/view.h"
+
+#include <algorithm>
+
+namespace znhost {
+
+RowModel::RowModel(View& view)
+    : view_(&view), log_(view.Log()), plan_(view), cells_(view, plan_), pending_(VIEW_ALL) {
+    tree_.Root().content.folder = view.RootFolder().shared_from_this();
+}
+
+// ---- Changes
+// ------------------------------------------------------------------------------------------------
+
+void RowModel::OnViewChanged(unsigned changes) {
+    pending_ |= changes;
+    if (changes & VIEW_ROWS) {
+        Tell(RowChange::AllFilled);
+    } else if (changes & (VIEW_CELLS | VIEW_COLUMNS)) {
+        Tell(RowChange::AllCells);
+    }
+    if (changes & VIEW_SELECTION) Tell(RowChange::Selection);
+}
+
+// Rows of a source or folder that goes are not looked at any more before they are listed anew.
+void RowModel::OnSourceDeleted(znIBrowserDataSource&) {
+    stopped_ = true;
+    OnViewChanged(VIEW_ROWS);
+}
+
+void RowModel::OnFolderDeleted(FreeFolder&) { OnViewChanged(VIEW_ROWS); }
+
+void RowModel::OnViewDeleted() {
+    stopped_ = true;
+    view_ = nullptr;
+    if (!answering_) TakeOver();
+    Tell(RowChange::AllFilled);
+}
+
+RowModel::Answering::Answering(RowModel& model) : model_(model), quiet_(model.log_) {
+    if (model_.answering_++) return;
+    model_.TakeOver();
+}
+
+RowModel::Answering::~Answering() {
+    if (--model_.answering_) return;
+    if (!model_.view_) model_.TakeOver();
+    model_.Deliver();
+}
+
+void RowModel::TakeOver() {
+    stopped_ = false;
+    cells_.Forget();
+    if (!view_) {
+        if (tree_.Root().expanded) tree_.Collapse(tree_.Root());
+        tree_.Root().content.folder.reset();
+        return;
+    }
+    const unsigned changes = std::exchange(pending_, 0U);
+    if (changes & ~unsigned{VIEW_SELECTION}) ++revision_;
+    if (!(changes & VIEW_ROWS)) return;
+    plan_.Forget();
+    Refresh();
+    if (stopped_) pending_ |= VIEW_ROWS;
+}
+
+void RowModel::Tell(RowChange::Kind kind, std::uint32_t index) {
+    if (observers_.empty()) return;
+    changes_.push_back({kind, index});
+    Deliver();
+}
+
+void RowModel::Deliver() {
+    if (answering_ || delivering_) return;
+    delivering_ = true;
+    while (!changes_.empty()) {
+        const std::vector<RowChange> changes = std::exchange(changes_, {});
+        const std::vector<RowObserver*> observers = observers_;
+        for (RowObserver* const observer : observers) {
+            const bool stays = std::find(observers_.begin(), observers_.end(), observer) != observers_.end();
+            if (stays) observer->OnRowsChanged(changes);
+        }
+    }
+    delivering_ = false;
+}
+
+void RowModel::RemoveObserver(const RowObserver& observer) {
+    observers_.erase(std::remove(observers_.begin(), observers_.end(), &observer), observers_.end());
+}
+
+// ---- Questions
+// ----------------------------------------------------------------------------------------------
+
+std::int64_t RowModel::Count() {
+    const Answering answering(*this);
+    return tree_.Count();
+}
+
+std::vector<RowLook> RowModel::Read(std::int64_t first, std::int64_t count) {
+    const Answering answering(*this);
+    std::vector<RowLook> looks;
+    if (first < 0 || first >= tree_.Count()) return looks;
+    for (Row row = tree_.At(first); row && count > 0 && !stopped_; row = tree_.Next(row), --count) {
+        looks.push_back(Look(row));
+    }
+    return looks;
+}
+
+std::vector<RowLook> RowModel::ReadBelow(std::uint32_t index, std::int64_t first, std::int64_t count) {
+    const Answering answering(*this);
+    std::vector<RowLook> looks;
+    const Row above = index == RowChange::root ? Row{&tree_.Root(), nullptr, 0} : tree_.Find(index);
+    if (!above.node || first < 0) return looks;
+    for (const RowPart& part : above.node->parts) {
+        const auto size = part.node ? std::int64_t{1} : static_cast<std::int64_t>(part.block->rows.size());
+        for (; first < size && count > 0 && !stopped_; ++first, --count) {
+            looks.push_back(Look(part.node
+                                     ? RowTree::RowOf(*part.node)
+                                     : RowTree::ItemAt(*part.block, static_cast<std::uint32_t>(first))));
+        }
+        first = std::max<std::int64_t>(first - size, 0);
+    }
+    return looks;
+}
+
+bool RowModel::Has(std::uint32_t index) { return HasAll({index}); }
+
+bool RowModel::HasAll(const std::vector<std::uint32_t>& indices) {
+    const Answering answering(*this);
+    return std::all_of(indices.begin(), indices.end(),
+                       [this](std::uint32_t index) { return bool(tree_.Find(index)); });
+}
+
+std::int64_t RowModel::CountBelow(std::uint32_t index) {
+    const Answering answering(*this);
+    const Row row = tree_.Find(index);
+    if (!row || !view_) return -1;
+    return row.IsItem() ? plan_.Count(row.Content(), row.Number()) : plan_.Count(row.Content());
+}
+
+std::int64_t RowModel::PositionOf(std::uint32_t index) {
+    const Answering answering(*this);
+    const Row row = tree_.Find(index);
+    return row ? tree_.PositionOf(row) : -1;
+}
+
+bool RowModel::GetItem(std::uint32_t index, znBrowserDataItem& item) {
+    const Answering answering(*this);
+    const Row row = tree_.Find(index);
+    if (!row.IsItem()) return false;
+    item = {row.Content().source->GetSource(), row.Number()};
+    return true;
+}
+
+ViewProperty* RowModel::PropertyOf(std::uint32_t index, const Column& column, const std::string& element) {
+    const Answering answering(*this);
+    const Row row = tree_.Find(index);
+    return row.IsItem() && view_ ? cells_.PropertyOf(row.Content(), column, element) : nullptr;
+}
+
+// ---- How a row looks
+// ----------------------------------------------------------------------------------------
+
+bool RowModel::HasRows(const Row& row) const {
+    return row.IsItem() ? plan_.HasRows(row.Content(), row.Number()) : plan_.HasRows(row.Content());
+}
+
+bool RowModel::IsSelected(const Row& row) const {
+    if (row.IsItem()) return view_->Selected().IsSelected(row.Content().source->GetSource(), row.Number());
+    if (row.Content().kind == RowKind::Folder) return row.Content().folder->IsSelected();
+    return selectedContainers_.count(row.Index()) != 0;
+}
+
+RowLook RowModel::Look(const Row& row) {
+    RowLook look = row.IsItem() ? RowLook() : LookOf(row.Content());
+    look.index = row.Index();
+    if (const Row above = RowTree::RowOf(row.Owner())) look.parent = above.Index();
+    look.depth = row.Depth();
+    look.expanded = row.IsExpanded();
+    look.selected = IsSelected(row);
+    look.hasRows = look.expanded || HasRows(row);
+    if (!row.IsItem()) return look;
+    const RowContent content = row.Content();
+    const std::int64_t number = row.Number();
+    look.cells = cells_.Read(content, number);
+    const auto name = std::find_if(look.cells.begin(), look.cells.end(), [](const RowCell& cell) {
+        return cell.column->Kind() == ColumnKind::BuiltIn;
+    });
+    look.text = name != look.cells.end() ? name->Text() : cells_.Name(content, number);
+    return look;
+}
+
+/// What a container shows of itself.
+RowLook RowModel::LookOf(const RowContent& container) const {
+    const FolderSettings& settings = container.folder->Settings();
+    RowLook look;
+    look.kind = container.kind;
+    look.icon = container.kind == RowKind::Folder ? "folder"
+                : container.kind == RowKind::Tree ? "tree"
+                                                  : "list";
+    if (container.kind == RowKind::Folder) {
+        look.text = container.folder->Name();
+        look.bold = settings.bold;
+        look.italic = settings.italic;
+    } else if (container.kind == RowKind::Tree) {
+        look.text = NameOf(log_, container.scope->tree);
+    } else {
+        znIBrowserDataSourceSimple* const source = container.source->GetSource();
+        const FolderList* const list =
+            container.link.reference ? nullptr : container.folder->FindList(source);
+        look.text = list && !list->caption.empty() ? list->caption : TextOf(source->GetCaption());
+        if (look.text.empty()) look.text = NameOf(log_, source);
+    }
+    if (!settings.countByNumber && !settings.countByImage) return look;
+    const std::int64_t count = plan_.Count(container);
+    if (settings.countByNumber) look.text += " (" + std::to_string(count) + ")";
+    if (settings.countByImage)
+        look.icon = count == 0 ? "count_none" : count == 1 ? "count_one" : "count_many";
+    return look;
+}
+
+} // namespace znhost

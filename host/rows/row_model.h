@@ -1,0 +1,195 @@
+// The rows of one window: what is expanded, and what the rows show.
+#ifndef ZN_HOST_ROW_MODEL_H
+#define ZN_HOST_ROW_MODEL_H
+
+#include "model/host_call.h"
+#include "rows/row_cells.h"
+#include "rows/row_changes.h"
+#include "rows/row_plan.h"
+#include "rows/row_tree.h"
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+struct znBrowserDataItem;
+struct znBrowserDataItems;
+class znIBrowserDataSource;
+
+namespace znhost {
+
+class FreeFolder;
+class View;
+
+/// What a row shows beside its cells.
+struct RowLook {
+    std::uint32_t index = 0;
+    std::int64_t parent = -1; ///< the Tk index of the row above it, -1 at the top
+    std::uint32_t depth = 0;
+    RowKind kind = RowKind::Item;
+    std::string text;
+    bool expanded = false;
+    bool selected = false;
+    bool hasRows = false; ///< it can be expanded
+    bool bold = false;
+    bool italic = false;
+    std::string icon; ///< a key of the default images
+    std::vector<RowCell> cells;
+};
+
+/// One step on the way down to an item: the container, or the block and the item in it.
+struct RowStep {
+    RowContent content;
+    std::int64_t row = 0;
+};
+
+/// The rows that a window shows of its view, top to bottom. They are made when they are needed: what is not
+/// expanded costs nothing. Changes of the view are taken over with the next question asked.
+///
+/// Values may come from scripts, and a script may delete anything. So while a question is being answered
+/// nothing is taken apart: what goes meanwhile is let go of at the end, and the work in hand is given up.
+class RowModel {
+public:
+    explicit RowModel(View& view);
+    RowModel(const RowModel&) = delete;
+    RowModel& operator=(const RowModel&) = delete;
+
+    // What the view tells.
+    void OnViewChanged(unsigned changes);
+    void OnSourceDeleted(znIBrowserDataSource& source);
+    void OnFolderDeleted(FreeFolder& folder);
+    /// The view goes: no rows are left.
+    void OnViewDeleted();
+
+    // The rows.
+    std::int64_t Count();
+    /// How the rows from position `first` on look, at most `count` of them.
+    std::vector<RowLook> Read(std::int64_t first, std::int64_t count);
+    /// How the rows directly below that one look (0: at the top), from the `first`; for a tree filled by
+    /// branch.
+    std::vector<RowLook> ReadBelow(std::uint32_t index, std::int64_t first, std::int64_t count);
+    bool Has(std::uint32_t index);
+    bool HasAll(const std::vector<std::uint32_t>& indices);
+    /// How many rows lie directly below, or would when it is expanded; -1 for an unknown index.
+    std::int64_t CountBelow(std::uint32_t index);
+    /// The row's position from the top; -1 for an unknown index.
+    std::int64_t PositionOf(std::uint32_t index);
+    /// False when the row is not an item's.
+    bool GetItem(std::uint32_t index, znBrowserDataItem& item);
+    /// The view property behind an element of an item's cell; null when there is none.
+    ViewProperty* PropertyOf(std::uint32_t index, const Column& column, const std::string& element);
+
+    // Expanding. False when nothing can be expanded or collapsed there.
+    bool Expand(std::uint32_t index);
+    bool Collapse(std::uint32_t index);
+    /// Everything; an item that lies below itself is expanded only once on the way down.
+    void ExpandAll();
+    void CollapseAll();
+    /// The selected rows, with `ExpandSelected` each with all that lies below.
+    void ExpandSelected();
+    void CollapseSelected();
+    /// A folder, or one list in it, if it has a row; with `recursive` what lies below it too.
+    void SetExpanded(const FreeFolder& folder, const znIBrowserDataSourceSimple* list, bool expanded,
+                     bool recursive);
+    /// Makes an item visible by expanding what it lies in: the contents and rows on the way to it, from the
+    /// top.
+    bool Reveal(const std::vector<RowStep>& path);
+
+    // Selection: of items and folders it is the view's; that of trees and lists is the window's own.
+    enum class Selecting { Add, Remove, Replace };
+    /// False, and nothing changes, when an index is unknown.
+    bool Select(Selecting how, const std::vector<std::uint32_t>& indices);
+    /// With one row at most selected, selecting another deselects it.
+    void SetSingle(bool single);
+    bool IsSingle() const { return single_; }
+
+    /// Selects exactly what lies directly above or below these items, along any reference that the view
+    /// shows.
+    void SelectRelated(const znBrowserDataItems& items, bool parents);
+
+    /// Moves items below another item. False, with the reason in `error`, when no reference allows it
+    /// or the database refuses.
+    bool Drop(std::uint32_t target, const std::vector<std::uint32_t>& indices, std::string& error);
+
+    // Observers are not owned.
+    void AddObserver(RowObserver& observer) { observers_.push_back(&observer); }
+    void RemoveObserver(const RowObserver& observer);
+    void Tell(RowChange::Kind kind, std::uint32_t index = RowChange::root);
+
+    /// While one lives a question is being answered: nothing is taken apart, and the host's calls to itself
+    /// are not recorded. What changed before is taken over at the beginning of the outermost.
+    class Answering {
+    public:
+        explicit Answering(RowModel& model);
+        ~Answering();
+        Answering(const Answering&) = delete;
+        Answering& operator=(const Answering&) = delete;
+
+        RowModel& Model() const { return model_; }
+
+    private:
+        RowModel& model_;
+        CallLog::Quiet quiet_;
+    };
+    /// Whether the work in hand must be given up, because something that it may hold was deleted.
+    bool IsStopped() const { return stopped_; }
+    const RowPlan& Plan() const { return plan_; }
+    /// The root folder.
+    const RowContent& Top() { return tree_.Root().content; }
+    /// Counts the changes of rows and cells: what was found at another number may be out of date.
+    std::uint64_t Revision() const { return revision_; }
+
+private:
+    /// A change of the tree. It cannot begin while a question is being answered: a script asked for it then.
+    class Change {
+    public:
+        explicit Change(RowModel& model) : begins_(!model.answering_), answering_(model) {}
+        explicit operator bool() const { return begins_ && answering_.Model().view_; }
+
+    private:
+        bool begins_;
+        Answering answering_;
+    };
+
+    void TakeOver();
+    void Deliver();
+    RowLook Look(const Row& row);
+    RowLook LookOf(const RowContent& container) const;
+    bool HasRows(const Row& row) const;
+    bool IsSelected(const Row& row) const;
+    std::vector<std::uint32_t> SelectedIndices();
+
+    bool Fill(RowNode& node);
+    void FillAndExpand(RowNode& top);
+    void ExpandAsCreated(RowNode& node, int depth, std::vector<std::pair<RowNode*, int>>& open);
+    bool ExpandRow(const Row& row);
+    void ExpandBelow(RowNode& top);
+    void Refresh();
+    void RefreshNode(RowNode& node);
+    void RefreshContent(RowPart& part, const RowContent& content);
+    RowNode* FindContainer(const FreeFolder& folder, const znIBrowserDataSourceSimple* list);
+    void CollapseInside(RowNode& node);
+    void Select(Selecting how, const std::vector<Row>& rows);
+    const RowLink* FindLink(const RowContent& block, RowSource* child, std::string& error) const;
+
+    View* view_;
+    CallLog& log_;
+    RowPlan plan_;
+    RowCells cells_;
+    RowTree tree_;
+    unsigned pending_;
+    int answering_ = 0;
+    bool stopped_ = false;
+    bool single_ = false;
+    bool delivering_ = false;
+    std::uint64_t revision_ = 0;
+    std::set<std::uint32_t> selectedContainers_; ///< of trees and lists: their Tk indices
+    std::vector<RowChange> changes_;
+    std::vector<RowObserver*> observers_;
+};
+
+} // namespace znhost
+
+#endif

@@ -1,0 +1,294 @@
+#include "rows/row_plan.h"
+
+#include "model/data_sources.h"
+#include "model/view.h"
+#include "rows/text_matcher.h"
+
+#include <algorithm>
+#include <strings.h>
+
+namespace znhost {
+
+namespace {
+
+RowContent Container(RowKind kind, const RowContent& folder, std::shared_ptr<const RowScope> scope,
+                     RowSource* source) {
+    RowContent content;
+    content.kind = kind;
+    content.folder = folder.folder;
+    content.scope = std::move(scope);
+    content.source = source;
+    return content;
+}
+
+RowQuery QueryFor(const RowContent& block) {
+    RowQuery query;
+    query.link = block.link.reference ? &block.link : nullptr;
+    query.parent = block.parent;
+    query.top = block.top;
+    return query;
+}
+
+} // namespace
+
+bool RowScope::HasLinksBelow(const RowSource* source) const {
+    return std::any_of(links.begin(), links.end(),
+                       [source](const RowLink& link) { return link.parent == source; });
+}
+
+// ---- What stands where
+// --------------------------------------------------------------------------------------
+
+std::vector<RowContent> RowPlan::Below(const RowContent& container) const {
+    if (container.kind == RowKind::Folder) return InFolder(container);
+    RowContent items = container;
+    items.kind = RowKind::Item;
+    if (container.kind != RowKind::Tree) return {items};
+    items.source = container.scope->top;
+    if (!items.source || !IsShown(items.source)) return {};
+    for (const RowLink& link : container.scope->links) {
+        if (link.parent != items.source || link.child != items.source) continue;
+        items.link = link;
+        items.top = true;
+        break;
+    }
+    return {items};
+}
+
+std::vector<RowContent> RowPlan::Below(const RowContent& block, std::int64_t row) const {
+    std::vector<RowContent> contents;
+    for (const RowLink& link : block.scope->links) {
+        if (link.parent != block.source || !HasRows(block, link, row)) continue;
+        RowContent below = Container(RowKind::Item, block, block.scope, link.child);
+        below.link = link;
+        below.parent = row;
+        const bool leafs = block.scope->groupsLeafs && !block.scope->HasLinksBelow(link.child);
+        if (block.scope->groups || leafs) below.kind = RowKind::List;
+        contents.push_back(below);
+    }
+    return contents;
+}
+
+std::vector<RowContent> RowPlan::InFolder(const RowContent& folder) const {
+    std::vector<RowContent> contents;
+    AddChildFolders(folder, contents);
+    AddTopItems(folder, contents);
+    AddLists(folder, contents);
+    return contents;
+}
+
+void RowPlan::AddChildFolders(const RowContent& folder, std::vector<RowContent>& contents) const {
+    const FolderSettings& settings = folder.folder->Settings();
+    for (const std::shared_ptr<FreeFolder>& child : folder.folder->Children()) {
+        RowContent content;
+        content.folder = child;
+        if (!HidesEmpty(settings.showEmptyFolders) || HasRows(content)) contents.push_back(content);
+    }
+    Column* const column = view_.SortColumn();
+    if (settings.keepChildrenAsCreated || column != &view_.DefaultColumn()) return;
+    std::stable_sort(contents.begin(), contents.end(), [this](const RowContent& a, const RowContent& b) {
+        const int order = strcasecmp(a.folder->Name().c_str(), b.folder->Name().c_str());
+        return view_.SortsAscending() ? order < 0 : order > 0;
+    });
+}
+
+/// The folder's tree, and the top items of the tree that it ties together itself.
+void RowPlan::AddTopItems(const RowContent& folder, std::vector<RowContent>& contents) const {
+    if (folder.folder->Tree().source) {
+        const RowContent tree = Container(RowKind::Tree, folder, TreeScope(*folder.folder), nullptr);
+        if (!HidesEmpty(folder.folder->Settings().showEmptyContainers) || HasRows(tree))
+            contents.push_back(tree);
+    }
+    std::vector<RowSource*> tops;
+    std::vector<RowContent> blocks;
+    for (const FolderTreeLink& link : folder.folder->TreeLinks()) {
+        RowSource* const source = link.parent ? nullptr : GetRowSource(SimpleOf(view_.Log(), link.child));
+        if (!source || !IsShown(source)) continue;
+        tops.push_back(source);
+        RowContent items = Container(RowKind::Item, folder, nullptr, source);
+        if (link.reference) items.link = {source, source, link.reference};
+        items.top = true;
+        blocks.push_back(items);
+    }
+    if (blocks.empty()) return;
+    const std::shared_ptr<const RowScope> scope = MakeScope(*folder.folder, tops, nullptr);
+    for (RowContent& block : blocks) {
+        block.scope = scope;
+        contents.push_back(std::move(block));
+    }
+}
+
+void RowPlan::AddLists(const RowContent& folder, std::vector<RowContent>& contents) const {
+    for (const FolderList& list : folder.folder->Lists()) {
+        RowSource* const source = GetRowSource(list.source);
+        if (!source || !IsShown(source)) continue;
+        const RowContent content =
+            Container(RowKind::List, folder, MakeScope(*folder.folder, {source}, source), source);
+        if (!HidesEmpty(folder.folder->Settings().showEmptyContainers) || HasRows(content))
+            contents.push_back(content);
+    }
+}
+
+bool RowPlan::IsShown(RowSource* source) const { return view_.IsShown(source->GetSource()); }
+
+/// Who filters wants to see what is left, not where nothing is.
+bool RowPlan::HidesEmpty(bool shows) const { return !shows || !view_.Filter().pattern.empty(); }
+
+// ---- Links and filters
+// --------------------------------------------------------------------------------------
+
+void RowPlan::AddFolderLinks(const FreeFolder& folder, RowScope& scope) const {
+    for (const FolderTreeLink& link : folder.TreeLinks()) {
+        RowSource* const parent = GetRowSource(SimpleOf(view_.Log(), link.parent));
+        RowSource* const child = GetRowSource(SimpleOf(view_.Log(), link.child));
+        if (parent && child && link.reference && IsShown(child))
+            scope.links.push_back({parent, child, link.reference});
+    }
+    scope.groupsLeafs = folder.Settings().groupLeafs;
+}
+
+std::shared_ptr<RowScope> RowPlan::MakeScope(FreeFolder& folder, const std::vector<RowSource*>& tops,
+                                             const void* what) const {
+    const auto scope = std::make_shared<RowScope>();
+    AddFolderLinks(folder, *scope);
+    Filter(*scope, tops, folder, what);
+    return scope;
+}
+
+void RowPlan::AddTreeLinks(FreeFolder& folder, RowScope& scope) const {
+    znIBrowserDataSourceHierarchical& tree = *folder.Tree().source;
+    scope.tree = &tree;
+    scope.groups = folder.Tree().group;
+    scope.top = GetRowSource(tree.GetParent());
+    for (const RowLink& link : GetRowLinks(tree)) {
+        znIBrowserDataSource* const type = AnySource(view_.Log(), link.child->GetSource());
+        const bool isTop = link.child == scope.top && link.parent == scope.top;
+        if (isTop || (IsShown(link.child) && folder.ShowsChildType(type))) scope.links.push_back(link);
+    }
+}
+
+std::shared_ptr<RowScope> RowPlan::TreeScope(FreeFolder& folder) const {
+    const auto scope = std::make_shared<RowScope>();
+    AddTreeLinks(folder, *scope);
+    AddFolderLinks(folder, *scope);
+    Filter(*scope, {scope->top}, folder, folder.Tree().source);
+    return scope;
+}
+
+std::vector<RowLink> RowPlan::AllLinks() const {
+    RowScope all;
+    for (FreeFolder* const folder : view_.RootFolder().WithBelow()) {
+        if (folder->Tree().source) AddTreeLinks(*folder, all);
+        AddFolderLinks(*folder, all);
+    }
+    std::vector<RowLink> links;
+    for (const RowLink& link : all.links) {
+        if (std::find(links.begin(), links.end(), link) == links.end()) links.push_back(link);
+    }
+    return links;
+}
+
+/// With a filter, only the items with the text remain, and those above them.
+void RowPlan::Filter(RowScope& scope, const std::vector<RowSource*>& tops, const FreeFolder& folder,
+                     const void* what) const {
+    const TextFilter& filter = view_.Filter();
+    if (filter.pattern.empty()) return;
+    std::shared_ptr<const RowFilter>& known = filters_[{&folder, what}];
+    if (!known) {
+        TextMatcher::Options options;
+        options.matchCase = filter.matchCase;
+        options.matchWord = filter.matchWord;
+        options.glob = true;
+        const auto matcher = std::make_shared<TextMatcher>(filter.pattern, options);
+        RowCondition condition;
+        condition.accept = [matcher](std::string_view text) { return matcher->Matches(text); };
+        const auto conditions = [&condition](RowSource&, std::vector<RowCondition>& all) {
+            all.push_back(condition);
+            return true;
+        };
+        known = std::make_shared<RowFilter>(tops, scope.links, conditions);
+    }
+    scope.filter = known;
+}
+
+// ---- Rows
+// ---------------------------------------------------------------------------------------------------
+
+std::vector<std::int64_t> RowPlan::List(const RowContent& block) const { return List(block, OrderOf(block)); }
+
+std::vector<std::int64_t> RowPlan::List(const RowContent& block, const RowOrder& order) {
+    RowQuery query = QueryFor(block);
+    query.order = order;
+    std::vector<std::int64_t> rows;
+    block.source->List(query, rows);
+    if (block.scope->filter) block.scope->filter->Narrow(block.source, rows);
+    return rows;
+}
+
+std::int64_t RowPlan::CountRows(const RowContent& block) {
+    if (block.scope->filter) return static_cast<std::int64_t>(List(block, {}).size());
+    return block.source->Count(QueryFor(block));
+}
+
+bool RowPlan::HasRows(const RowContent& container) const {
+    if (container.kind == RowKind::List && container.link.reference)
+        return true; // a group is only there with items
+    const std::vector<RowContent> below = Below(container);
+    return std::any_of(below.begin(), below.end(), [this](const RowContent& content) {
+        return content.kind != RowKind::Item || CountRows(content) > 0;
+    });
+}
+
+bool RowPlan::HasRows(const RowContent& block, const RowLink& link, std::int64_t row) {
+    const RowFilter* const filter = block.scope->filter.get();
+    return filter ? filter->KeepsBelow(link, row) : link.child->HasChildren(link, row);
+}
+
+bool RowPlan::HasRows(const RowContent& block, std::int64_t row) const {
+    const std::vector<RowLink>& links = block.scope->links;
+    return std::any_of(links.begin(), links.end(), [&](const RowLink& link) {
+        return link.parent == block.source && HasRows(block, link, row);
+    });
+}
+
+std::int64_t RowPlan::Count(const RowContent& container) const {
+    std::int64_t count = 0;
+    for (const RowContent& content : Below(container))
+        count += content.kind == RowKind::Item ? CountRows(content) : 1;
+    return count;
+}
+
+std::int64_t RowPlan::Count(const RowContent& block, std::int64_t row) const {
+    std::int64_t count = 0;
+    for (const RowContent& content : Below(block, row))
+        count += content.kind == RowKind::Item ? CountRows(content) : 1;
+    return count;
+}
+
+// ---- Order
+// --------------------------------------------------------------------------------------------------
+
+ViewProperty* RowPlan::PropertyOf(const Column& column, const Style* style) const {
+    if (style) {
+        for (const std::shared_ptr<StyleElement>& element : style->Elements()) {
+            if (ViewProperty* const property = view_.Properties().Find(element->PropertyName()))
+                return property;
+        }
+    }
+    return column.Kind() == ColumnKind::BuiltIn ? nullptr : view_.Properties().Find(column.Name());
+}
+
+RowOrder RowPlan::OrderOf(const RowContent& block) const {
+    Column* const column = view_.SortColumn();
+    znIBrowserDataSourceSimple* const source = block.source->GetSource();
+    if (!column || block.folder->SortingException(source) != 0) return {};
+    ViewProperty* property = view_.Properties().Find(column->SortProperty());
+    if (!property) property = PropertyOf(*column, block.folder->ItemStyleIn(*column, source));
+    RowOrder order;
+    order.property = property ? property->DataProperty(source) : nullptr;
+    order.sorted = order.property || column->Kind() == ColumnKind::BuiltIn;
+    order.descending = !view_.SortsAscending();
+    return order;
+}
+
+} // namespace znhost

@@ -1,0 +1,86 @@
+// What belongs into a container, as the view and the data have it now.
+#ifndef ZN_HOST_ROW_PLAN_H
+#define ZN_HOST_ROW_PLAN_H
+
+#include "rows/row_filter.h"
+#include "rows/row_tree.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace znhost {
+
+class Column;
+class Style;
+class View;
+class ViewProperty;
+
+/// What holds for everything below one tree, one list, or a tree that a folder ties together itself.
+struct RowScope {
+    znIBrowserDataSourceHierarchical* tree = nullptr;
+    RowSource* top = nullptr;   ///< whose items are not below others
+    std::vector<RowLink> links; ///< only those whose children are shown
+    bool groups = false;        ///< children stand together by source, below a row for each source
+    bool groupsLeafs = false;   ///< those do that have no children themselves
+    std::shared_ptr<const RowFilter> filter; ///< null: everything is shown
+
+    bool HasLinksBelow(const RowSource* source) const;
+};
+
+/// Reads from a view what its windows show. Every answer is made anew, but for what a text filter found.
+class RowPlan {
+public:
+    explicit RowPlan(View& view) : view_(view) {}
+
+    /// Forgets what the filter found: the view or the data changed.
+    void Forget() { filters_.clear(); }
+
+    /// What stands in a folder, tree or list, in order.
+    std::vector<RowContent> Below(const RowContent& container) const;
+    /// What stands below an item of that block.
+    std::vector<RowContent> Below(const RowContent& block, std::int64_t row) const;
+    /// The rows of a block, in order.
+    std::vector<std::int64_t> List(const RowContent& block) const;
+
+    // Whether there is anything below, and how many rows directly below.
+    bool HasRows(const RowContent& container) const;
+    bool HasRows(const RowContent& block, std::int64_t row) const;
+    std::int64_t Count(const RowContent& container) const;
+    std::int64_t Count(const RowContent& block, std::int64_t row) const;
+
+    /// Every link along which the view shows items below others, each once.
+    std::vector<RowLink> AllLinks() const;
+    /// The view property that a column shows first when it draws with that style (null: none); null when it
+    /// shows something else.
+    ViewProperty* PropertyOf(const Column& column, const Style* style) const;
+
+private:
+    static bool HasRows(const RowContent& block, const RowLink& link, std::int64_t row);
+    std::vector<RowContent> InFolder(const RowContent& folder) const;
+    void AddChildFolders(const RowContent& folder, std::vector<RowContent>& contents) const;
+    void AddTopItems(const RowContent& folder, std::vector<RowContent>& contents) const;
+    void AddLists(const RowContent& folder, std::vector<RowContent>& contents) const;
+    bool IsShown(RowSource* source) const;
+    bool HidesEmpty(bool shows) const;
+    void AddFolderLinks(const FreeFolder& folder, RowScope& scope) const;
+    std::shared_ptr<RowScope> MakeScope(FreeFolder& folder, const std::vector<RowSource*>& tops,
+                                        const void* what) const;
+    void AddTreeLinks(FreeFolder& folder, RowScope& scope) const;
+    std::shared_ptr<RowScope> TreeScope(FreeFolder& folder) const;
+    void Filter(RowScope& scope, const std::vector<RowSource*>& tops, const FreeFolder& folder,
+                const void* what) const;
+    RowOrder OrderOf(const RowContent& block) const;
+    static std::vector<std::int64_t> List(const RowContent& block, const RowOrder& order);
+    static std::int64_t CountRows(const RowContent& block);
+
+    View& view_;
+    /// By folder and by what stands in it.
+    mutable std::map<std::pair<const FreeFolder*, const void*>, std::shared_ptr<const RowFilter>> filters_;
+};
+
+} // namespace znhost
+
+#endif

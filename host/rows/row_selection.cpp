@@ -1,0 +1,148 @@
+// Selecting rows, and dropping rows on others.
+#include "host/znBrowserDataItems.h"
+#include "host/znIBrowserDataSourceSimple.h"
+#include "model/view.h"
+#include "rows/row_model.h"
+
+#include <algorithm>
+#include <map>
+
+namespace znhost {
+
+/// The indices of the selected rows that are visible, top to bottom.
+std::vector<std::uint32_t> RowModel::SelectedIndices() {
+    std::vector<std::uint32_t> indices;
+    for (Row row = tree_.First(); row; row = tree_.Next(row)) {
+        if (IsSelected(row)) indices.push_back(row.Index());
+    }
+    return indices;
+}
+
+bool RowModel::Select(Selecting how, const std::vector<std::uint32_t>& indices) {
+    const Change change(*this);
+    if (!change) return false;
+    std::vector<Row> rows;
+    rows.reserve(indices.size());
+    for (const std::uint32_t index : indices) {
+        rows.push_back(tree_.Find(index));
+        if (!rows.back()) return false;
+    }
+    if (single_ && how != Selecting::Remove && !rows.empty()) {
+        rows = {rows.back()};
+        how = Selecting::Replace;
+    }
+    Select(how, rows);
+    return true;
+}
+
+void RowModel::Select(Selecting how, const std::vector<Row>& rows) {
+    znBrowserDataItems items;
+    std::set<FreeFolder*> folders;
+    std::set<std::uint32_t> containers;
+    for (const Row& row : rows) {
+        const RowContent& content = row.Content();
+        if (row.IsItem()) {
+            items.Append(content.source->GetSource(), row.Number());
+        } else if (content.kind == RowKind::Folder) {
+            folders.insert(content.folder.get());
+        } else {
+            containers.insert(row.Index());
+        }
+    }
+    Selection& selection = view_->Selected();
+    const bool selects = how != Selecting::Remove;
+    if (how == Selecting::Replace) {
+        selection.Replace(items);
+        for (FreeFolder* const folder : view_->RootFolder().WithBelow())
+            view_->SelectFolder(*folder, folders.count(folder) != 0);
+        selectedContainers_.swap(containers);
+    } else {
+        selects ? selection.Select(items) : selection.Deselect(items);
+        for (FreeFolder* const folder : folders) view_->SelectFolder(*folder, selects);
+        for (const std::uint32_t index : containers) {
+            selects ? static_cast<void>(selectedContainers_.insert(index))
+                    : static_cast<void>(selectedContainers_.erase(index));
+        }
+    }
+    Tell(RowChange::Selection);
+}
+
+void RowModel::SetSingle(bool single) {
+    const Change change(*this);
+    if (!change) return;
+    single_ = single;
+    if (!single || view_->Selected().Size() <= 1) return;
+    znBrowserDataItems items;
+    view_->Selected().AppendTo(items);
+    znBrowserDataItems first;
+    first.Append(items.runs.front().source, items.rows.front());
+    view_->Selected().Replace(first);
+}
+
+void RowModel::SelectRelated(const znBrowserDataItems& items, bool parents) {
+    const Change change(*this);
+    if (!change) return;
+    std::map<const znIBrowserDataSourceSimple*, std::vector<std::int64_t>> rows;
+    items.ForEach([&rows](const znBrowserDataItem& item) { rows[item.source].push_back(item.row); });
+    znBrowserDataItems related;
+    std::vector<std::int64_t> found;
+    const auto append = [&](RowSource& source) {
+        for (const std::int64_t row : found) related.Append(source.GetSource(), row);
+    };
+    for (const RowLink& link : plan_.AllLinks()) {
+        const auto from = rows.find((parents ? link.child : link.parent)->GetSource());
+        if (from == rows.end()) continue;
+        if (parents) {
+            link.child->Parents(link, from->second, found);
+            append(*link.parent);
+            continue;
+        }
+        for (const std::int64_t row : from->second) {
+            RowQuery query;
+            query.link = &link;
+            query.parent = row;
+            link.child->List(query, found);
+            append(*link.child);
+        }
+    }
+    view_->Selected().Replace(related);
+}
+
+/// The link along which items of `child` lie below those of the block; null, with the reason, when there is
+/// none.
+const RowLink* RowModel::FindLink(const RowContent& block, RowSource* child, std::string& error) const {
+    for (const RowLink& link : block.scope->links) {
+        if (link.parent == block.source && link.child == child) return &link;
+    }
+    error = "No data reference leads from " + NameOf(log_, child->GetSource()) + " to " +
+            NameOf(log_, block.source->GetSource());
+    return nullptr;
+}
+
+bool RowModel::Drop(std::uint32_t target, const std::vector<std::uint32_t>& indices, std::string& error) {
+    const Change change(*this);
+    const Row onto = change ? tree_.Find(target) : Row();
+    if (!onto) return false;
+    std::map<RowSource*, std::vector<std::int64_t>> dropped;
+    for (const std::uint32_t index : indices) {
+        const Row row = tree_.Find(index);
+        if (!row) return false;
+        if (!row.IsItem() || !onto.IsItem()) {
+            error = "Only items can be dropped, and only on items";
+            return false;
+        }
+        dropped[row.Content().source].push_back(row.Number());
+    }
+    std::vector<const RowLink*> links;
+    for (const auto& entry : dropped) {
+        links.push_back(FindLink(onto.Content(), entry.first, error));
+        if (!links.back()) return false;
+    }
+    const std::int64_t parent = onto.Number();
+    for (const RowLink* const link : links) {
+        if (!link->child->MoveBelow(*link, dropped[link->child], parent, error)) return false;
+    }
+    return true;
+}
+
+} // namespace znhost
