@@ -1,0 +1,73 @@
+# What the tests of windows share: a fresh model for each test, and short ways to ask.
+package require tcltest 2.5
+namespace import ::tcltest::*
+
+interp alias {} zn {} znbrowsermanager
+
+# A model of one view, "v", with a current column, without windows and without GUI maps of scripts.
+proc freshModel {} {
+    zn app journal off
+    foreach {family names} [list window [zn window names] view [zn view names] {window map} [zn window map names]] {
+        foreach name $names {
+            if {[string match default_*map $name]} continue
+            zn {*}$family current $name
+            zn {*}$family delete
+        }
+    }
+    zn view create v
+    zn view column current Name
+}
+
+# The same with a window, "w", on the view.
+proc freshWindow {} {
+    freshModel
+    zn window create w
+}
+
+# The message of a command that is refused; all of its answer when it is not.
+proc refusal {args} {
+    set answer [zn {*}$args]
+    return [expr {[regexp {^\[Command\] [^\n]*\n\t\[Error\] (.*)$} $answer -> message] ? $message : "not: $answer"}]
+}
+
+# The host calls that a script makes and whose operations match the pattern.
+proc hostCalls {pattern script} {
+    zn app journal clear
+    zn app journal on
+    uplevel 1 $script
+    zn app journal off
+    return [lmap call [zn app journal] {expr {[string match $pattern [lindex $call 0]] ? $call : [continue]}}]
+}
+
+proc firstLine {text} {return [lindex [split $text \n] 0]}
+
+# Tests from a table of answers and the lists of words that get them: a message, or "not: " and a result.
+proc answers {title setup prefix table} {
+    foreach {answer wordLists} $table {
+        foreach words $wordLists {
+            test answer-$title-$words "\"$prefix $words\" $title" -setup $setup -body "refusal $prefix $words" \
+                -result $answer
+        }
+    }
+}
+
+# One test for each list of words that answers the usage text of a level.
+proc usages {setup prefix usage wordLists} {
+    foreach words $wordLists {
+        test usage-$prefix-$words "\"$prefix $words\" answers the usage text" -setup $setup \
+            -body "firstLine \[zn $prefix $words\]" -result "    znbrowsermanager $usage \[action\] "
+    }
+}
+
+# One test for each host operation that is refused, the words that call it, and the message. What the script
+# `state` gives must stay as it was.
+proc refusals {setup prefix state table} {
+    foreach {operation words message} $table {
+        test refused-$operation-$words "a refused $operation answers \"$message\", and nothing changes" \
+            -setup $setup -body "
+                set before \[$state\]
+                zn app refuse znIBrowser$operation {not now}
+                list \[refusal $prefix $words\] \[expr {\[$state\] eq \$before}\]
+            " -result [list $message 1]
+    }
+}
