@@ -1,6 +1,7 @@
 // The host's own words, as one table. To add a word, write its answer and give it a row.
 #include "model/app_commands.h"
 
+#include "model/data_app_commands.h"
 #include "model/data_sources.h"
 #include "rows/row_commands.h"
 #include "store/data_ctrl.h"
@@ -164,6 +165,9 @@ constexpr AppWord appWords[] = {
     {"datactrl names", "", "lists the data controls", 0, 0, DataCtrlNames},
     {"draw", "WINDOW", "draws what a window shows, as a table", 1, 1, AnswerDraw},
     {"help", "", "lists these words", 0, 0, Help},
+    {"inputfield create", "DATACTRL NAME TYPE",
+     "adds a user input field: bool, unsigned, integer, double or string", 3, 3, AppCreateInputField},
+    {"inputfield delete", "DATACTRL NAME", "deletes a user input field", 2, 2, AppDeleteInputField},
     {"journal", "", "lists the host calls recorded", 0, 0, Journal},
     {"journal clear", "", "empties the record of host calls", 0, 0, JournalClear},
     {"journal off", "", "stops recording host calls", 0, 0, JournalOff},

@@ -1,9 +1,9 @@
 // The data sources of a view: connecting, sharing, refreshing.
 #include "host/znIBrowserDataCtrl.h"
-#include "host/znIBrowserDataOperation.h"
 #include "model/browser.h"
 #include "model/data_sources.h"
 #include "model/view.h"
+#include "store/data_operation.h"
 
 namespace znhost {
 
@@ -71,7 +71,7 @@ bool Browser::PerformDataOperation(znIBrowserDataOperation* operation) {
 }
 
 bool Browser::RunDataOperation(znIBrowserDataOperation& operation) {
-    return Fail("The data operation \"" + NameOf(log_, &operation) + "\" is unknown");
+    return static_cast<DataOperation&>(operation).Run();
 }
 
 } // namespace znhost

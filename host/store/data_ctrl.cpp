@@ -1,154 +1,256 @@
 #include "store/data_ctrl.h"
 
-#include "host/znIBrowserDataOperation.h"
-#include "host/znIBrowserDataSourceSimple.h"
-#include "host/znIBrowserView.h"
 #include "model/application.h"
+#include "model/data_sources.h"
 
 namespace znhost {
 
 std::shared_ptr<DataCtrl> DataCtrl::Open(Application& application, const std::string& name,
                                          const std::string& file, std::string& error) {
-    if (!file.empty()) {
-        error = "no database can be opened";
-        return nullptr;
-    }
-    return std::make_shared<DataCtrl>(application, name);
+    std::unique_ptr<Database> database =
+        file.empty() ? Database::OpenMemory(error) : Database::OpenFile(file, error);
+    if (!database) return nullptr;
+    return std::make_shared<DataCtrl>(application, name, std::move(database));
 }
 
-DataCtrl::DataCtrl(Application& application, std::string name)
-    : HostObject(application.Log()), name_(std::move(name)) {}
+DataCtrl::DataCtrl(Application& application, std::string name, std::unique_ptr<Database> database)
+    : HostObject(application.Log()), application_(application), name_(std::move(name)),
+      database_(std::move(database)), schema_(*database_), copies_(*database_) {}
 
-bool DataCtrl::RunSql(const std::string& /*statement*/, const std::vector<std::string>& /*values*/,
+DataCtrl::~DataCtrl() = default;
+
+Browser& DataCtrl::Model() const { return application_.Model(); }
+
+bool DataCtrl::RunSql(const std::string& statement, const std::vector<std::string>& values,
                       std::vector<std::vector<std::string>>& rows, std::string& error) {
-    rows.clear();
-    error = "The data control \"" + name_ + "\" has no database";
+    std::vector<Value> bound;
+    for (const std::string& value : values) bound.push_back(ValueOfWord(value));
+    Database::Stamp before;
+    Database::Stamp after;
+    std::string ignored;
+    const bool known = database_->ReadStamp(before, ignored);
+    const bool done = database_->Run(statement, bound, rows, error);
+    if (!known || !database_->ReadStamp(after, ignored) || !after.SameRows(before)) ItemsChanged();
+    return done;
+}
+
+void DataCtrl::ItemsChanged() {
+    indexes_.Clear();
+    Model().DataChanged(*this, VIEW_ROWS | VIEW_CELLS);
+}
+
+// ---- What the tables give
+
+bool DataCtrl::Refresh(std::string& error) {
+    Database::Stamp now;
+    if (!database_->ReadStamp(now, error)) return false;
+    if (now.SameTables(stamp_)) return true;
+    if (!schema_.Refresh(error)) return false;
+    TakeOverTables();
+    stamp_ = now;
+    return true;
+}
+
+void DataCtrl::TakeOverTables() {
+    for (BaseSource* const base : bases_) base->SetTable(nullptr);
+    bases_.clear();
+    references_.clear();
+    for (const auto& known : knownReferences_) known.second->SetKey(nullptr, {});
+    for (const Schema::TablePtr& table : schema_.Tables()) {
+        std::shared_ptr<BaseSource>& base = knownBases_[table->name];
+        if (!base) base = std::make_shared<BaseSource>(*this, table->name);
+        base->SetTable(table);
+        bases_.push_back(base.get());
+        TakeOverReferences(*table);
+    }
+}
+
+/// A reference is named by the table and the first column of its key. Keys that begin with the same column
+/// are told apart by a number.
+void DataCtrl::TakeOverReferences(const Table& table) {
+    for (const ForeignKey& key : table.foreignKeys) {
+        const std::string plain = table.name + "." + key.from.front();
+        std::string name = plain;
+        for (int number = 2; knownReferences_[name] && knownReferences_[name]->IsThere(); ++number) {
+            name = plain + "#" + std::to_string(number);
+        }
+        std::shared_ptr<DataReference>& reference = knownReferences_[name];
+        if (!reference) reference = std::make_shared<DataReference>(log_, name);
+        reference->SetKey(&table, key);
+        references_.push_back(reference.get());
+    }
+}
+
+SimpleSource* DataCtrl::FindSimple(const std::string& name) {
+    if (CustomSource* const custom = custom_.Find(name)) return custom;
+    std::string ignored; // what was there last is the best answer then
+    Refresh(ignored);
+    const auto found = knownBases_.find(name);
+    return found != knownBases_.end() && found->second->Table() ? found->second.get() : nullptr;
+}
+
+const std::vector<DataReference*>& DataCtrl::References() {
+    std::string ignored;
+    Refresh(ignored);
+    return references_;
+}
+
+DataReference* DataCtrl::FindReference(const std::string& name) {
+    std::string ignored;
+    Refresh(ignored);
+    const auto found = knownReferences_.find(name);
+    return found != knownReferences_.end() && found->second->IsThere() ? found->second.get() : nullptr;
+}
+
+bool DataCtrl::Uses(SimpleSource& source) const {
+    if (Model().Uses(source.Facet())) return true;
+    for (const auto& hierarchical : hierarchical_) {
+        if (hierarchical->Has(source)) return true;
+    }
+    for (const auto& custom : custom_) {
+        for (const SimpleSource* const base : custom->Bases()) {
+            if (base == &source) return true;
+        }
+    }
     return false;
 }
+
+// ---- Sources
 
 const char* DataCtrl::GetName() const {
     if (Refused("znIBrowserDataCtrl::GetName")) return nullptr;
     return name_.c_str();
 }
 
+// A table whose name a custom source has already is not listed beside it.
 void DataCtrl::GetDataSourcesSimple(std::vector<znIBrowserDataSourceSimple*>& sources) {
     sources.clear();
-    static_cast<void>(Refused("znIBrowserDataCtrl::GetDataSourcesSimple"));
+    if (Refused("znIBrowserDataCtrl::GetDataSourcesSimple")) return;
+    std::string ignored;
+    Refresh(ignored);
+    for (BaseSource* const base : bases_) {
+        if (!custom_.Find(base->Name())) sources.push_back(base);
+    }
+    for (const auto& custom : custom_) sources.push_back(custom.get());
 }
 
 znIBrowserDataSourceSimple* DataCtrl::FindDataSourceSimple(const char* name) {
-    static_cast<void>(Refused("znIBrowserDataCtrl::FindDataSourceSimple", name));
-    return nullptr;
+    if (Refused("znIBrowserDataCtrl::FindDataSourceSimple", name)) return nullptr;
+    return FindSimple(TextOf(name));
+}
+
+bool DataCtrl::CheckNewSource(const std::string& name) {
+    if (name.empty()) return Fail("A data source needs a name");
+    if (!FindSimple(name) && !FindHierarchical(name)) return true;
+    return Fail("The data control \"" + name_ + "\" already has a data source \"" + name + "\"");
 }
 
 bool DataCtrl::CreateDataSourceSimple(const char* name, const char* caption, const char* description) {
     if (Refused("znIBrowserDataCtrl::CreateDataSourceSimple", name, caption, description)) return false;
-    return Fail("The data control \"" + name_ + "\" has no database");
+    const std::string newName = TextOf(name);
+    if (!CheckNewSource(newName)) return false;
+    CustomSource& source = custom_.Add(std::make_shared<CustomSource>(*this, newName));
+    if (!TextOf(caption).empty()) source.SetCaption(caption);
+    return true;
 }
 
 bool DataCtrl::DeleteDataSourceSimple(const char* name) {
     if (Refused("znIBrowserDataCtrl::DeleteDataSourceSimple", name)) return false;
-    return Fail("The data control \"" + name_ + "\" has no database");
+    const std::string doomedName = TextOf(name);
+    CustomSource* const doomed = custom_.Find(doomedName);
+    if (!doomed) {
+        return Fail(FindSimple(doomedName)
+                        ? "The data source \"" + doomedName + "\" is a base data source: it cannot be deleted"
+                        : "The data control \"" + name_ + "\" has no data source \"" + doomedName + "\"");
+    }
+    const std::shared_ptr<CustomSource> hold = custom_.Remove(*doomed);
+    for (const auto& hierarchical : hierarchical_) hierarchical->Forget(*doomed);
+    Model().Forget(doomed->Facet());
+    for (const auto& property : doomed->CreatedProperties()) Model().Forget(*property);
+    indexes_.Clear();
+    return true;
 }
 
 void DataCtrl::GetDataSourcesHierarchical(std::vector<znIBrowserDataSourceHierarchical*>& sources) {
     sources.clear();
-    static_cast<void>(Refused("znIBrowserDataCtrl::GetDataSourcesHierarchical"));
+    if (Refused("znIBrowserDataCtrl::GetDataSourcesHierarchical")) return;
+    hierarchical_.CopyTo(sources);
 }
 
 znIBrowserDataSourceHierarchical* DataCtrl::FindDataSourceHierarchical(const char* name) {
-    static_cast<void>(Refused("znIBrowserDataCtrl::FindDataSourceHierarchical", name));
-    return nullptr;
+    if (Refused("znIBrowserDataCtrl::FindDataSourceHierarchical", name)) return nullptr;
+    return FindHierarchical(TextOf(name));
 }
 
+// The booleans and the texts mean nothing to this host.
 bool DataCtrl::CreateDataSourceHierarchical(const char* name, bool first, bool second, const char* text1,
                                             const char* text2) {
     if (Refused("znIBrowserDataCtrl::CreateDataSourceHierarchical", name, first, second, text1, text2))
         return false;
-    return Fail("The data control \"" + name_ + "\" has no database");
-}
-
-bool DataCtrl::CreateDataOperation(const char* name) {
-    if (Refused("znIBrowserDataCtrl::CreateDataOperation", name)) return false;
-    return Fail("The data control \"" + name_ + "\" has no database");
-}
-
-void DataCtrl::GetDataOperations(std::vector<znIBrowserDataOperation*>& operations) {
-    operations.clear();
-    static_cast<void>(Refused("znIBrowserDataCtrl::GetDataOperations"));
-}
-
-znIBrowserDataOperation* DataCtrl::FindDataOperation(const char* name) {
-    static_cast<void>(Refused("znIBrowserDataCtrl::FindDataOperation", name));
-    return nullptr;
+    const std::string newName = TextOf(name);
+    if (!CheckNewSource(newName)) return false;
+    hierarchical_.Add(std::make_shared<HierarchicalSource>(*this, newName));
+    return true;
 }
 
 bool DataCtrl::SetDataSourceSimpleCaption(znIBrowserDataSourceSimple* source, const char* caption) {
     if (Refused("znIBrowserDataCtrl::SetDataSourceSimpleCaption", source, caption)) return false;
-    return Fail("The data control \"" + name_ + "\" has no database");
+    if (!source) return Fail("No data source to set the caption of");
+    SourceOf(source)->SetCaption(TextOf(caption));
+    Model().DataChanged(*this, VIEW_CELLS);
+    return true;
 }
 
 bool DataCtrl::SetDataSourceSimpleFilterCaption(znIBrowserDataSourceSimple* source, const char* caption) {
     if (Refused("znIBrowserDataCtrl::SetDataSourceSimpleFilterCaption", source, caption)) return false;
-    return Fail("The data control \"" + name_ + "\" has no database");
-}
-
-znIBrowserDataSource* DataCtrl::FindDataSource(const char* name) {
-    static_cast<void>(Refused("znIBrowserDataCtrl::FindDataSource", name));
-    return nullptr;
-}
-
-bool DataCtrl::GetDataReferences(std::vector<znIBrowserDataReference*>& references) {
-    references.clear();
-    if (Refused("znIBrowserDataCtrl::GetDataReferences")) return false;
+    if (!source) return Fail("No data source to set the filter caption of");
+    SourceOf(source)->SetFilterCaption(TextOf(caption));
     return true;
 }
 
-znIBrowserDataReference* DataCtrl::FindDataReference(const char* name) {
-    static_cast<void>(Refused("znIBrowserDataCtrl::FindDataReference", name));
-    return nullptr;
+znIBrowserDataSource* DataCtrl::FindDataSource(const char* name) {
+    if (Refused("znIBrowserDataCtrl::FindDataSource", name)) return nullptr;
+    const std::string wanted = TextOf(name);
+    if (SimpleSource* const simple = FindSimple(wanted)) return &simple->Facet();
+    HierarchicalSource* const hierarchical = FindHierarchical(wanted);
+    return hierarchical ? &hierarchical->Facet() : nullptr;
 }
 
 bool DataCtrl::GetDataSources(std::vector<znIBrowserDataSource*>& sources) {
     sources.clear();
     if (Refused("znIBrowserDataCtrl::GetDataSources")) return false;
+    std::vector<znIBrowserDataSourceSimple*> simple;
+    {
+        const CallLog::Quiet quiet(log_);
+        GetDataSourcesSimple(simple);
+    }
+    for (znIBrowserDataSourceSimple* const source : simple) sources.push_back(&SourceOf(source)->Facet());
+    for (const auto& hierarchical : hierarchical_) sources.push_back(&hierarchical->Facet());
     return true;
 }
 
+// ---- References, states
+
+bool DataCtrl::GetDataReferences(std::vector<znIBrowserDataReference*>& references) {
+    references.clear();
+    if (Refused("znIBrowserDataCtrl::GetDataReferences")) return false;
+    references.assign(References().begin(), References().end());
+    return true;
+}
+
+znIBrowserDataReference* DataCtrl::FindDataReference(const char* name) {
+    if (Refused("znIBrowserDataCtrl::FindDataReference", name)) return nullptr;
+    return FindReference(TextOf(name));
+}
+
+// Nothing here depends on the view that scripts work on.
 void DataCtrl::SetCurrentView(znIBrowserView* view) {
     static_cast<void>(Refused("znIBrowserDataCtrl::SetCurrentView", view));
-}
-
-znIBrowserInputField* DataCtrl::CreateInputField(const char* name, const char* type, int& status) {
-    status = 1;
-    static_cast<void>(Refused("znIBrowserDataCtrl::CreateInputField", name, type));
-    return nullptr;
-}
-
-bool DataCtrl::DeleteInputField(const char* name) {
-    if (Refused("znIBrowserDataCtrl::DeleteInputField", name)) return false;
-    return Fail("The data control \"" + name_ + "\" has no database");
-}
-
-bool DataCtrl::GetInputFields(std::vector<znIBrowserInputField*>& fields) {
-    fields.clear();
-    if (Refused("znIBrowserDataCtrl::GetInputFields")) return false;
-    return true;
-}
-
-znIBrowserInputField* DataCtrl::FindInputField(const char* name) {
-    static_cast<void>(Refused("znIBrowserDataCtrl::FindInputField", name));
-    return nullptr;
 }
 
 znIBrowserStateContainer* DataCtrl::GetStateContainer() {
     static_cast<void>(Refused("znIBrowserDataCtrl::GetStateContainer"));
     return nullptr;
-}
-
-bool DataCtrl::DeleteDataOperation(znIBrowserDataOperation* operation) {
-    if (Refused("znIBrowserDataCtrl::DeleteDataOperation", operation)) return false;
-    return Fail("The data control \"" + name_ + "\" has no database");
 }
 
 } // namespace znhost

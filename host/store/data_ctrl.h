@@ -1,30 +1,67 @@
-// A data control of the embedded host.
+// A data control of the embedded host: one SQLite database, and what scripts make on it.
 #ifndef ZN_HOST_DATA_CTRL_H
 #define ZN_HOST_DATA_CTRL_H
 
 #include "host/znIBrowserDataCtrl.h"
 #include "model/host_call.h"
+#include "model/named_list.h"
+#include "store/base_source.h"
+#include "store/custom_source.h"
+#include "store/data_operation.h"
+#include "store/data_reference.h"
+#include "store/hierarchical_source.h"
+#include "store/input_field.h"
+#include "store/link_index.h"
+#include "store/row_copies.h"
 
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace znhost {
 
 class Application;
+class Browser;
 
+/// Base sources and references follow the tables of the database: each question looks whether they changed.
+/// What has gone is not listed any more, but its object stays, and is the one listed when it comes back.
 class DataCtrl final : public znIBrowserDataCtrl, public HostObject {
 public:
     /// Opens the database `file`, made when missing, or one in memory when `file` is "". Null, with the
     /// reason in `error`, when that cannot be done.
     static std::shared_ptr<DataCtrl> Open(Application& application, const std::string& name,
                                           const std::string& file, std::string& error);
-    DataCtrl(Application& application, std::string name);
+    DataCtrl(Application& application, std::string name, std::unique_ptr<Database> database);
+    ~DataCtrl() override;
 
     const std::string& Name() const { return name_; }
+    Application& App() const { return application_; }
+    Browser& Model() const;
+    Database& Db() { return *database_; }
+    RowCopies& Copies() { return copies_; }
+    LinkIndexes& Indexes() { return indexes_; }
+
     /// Runs one SQL statement, the values bound to its `?`. @return false with SQLite's reason in `error`.
     bool RunSql(const std::string& statement, const std::vector<std::string>& values,
                 std::vector<std::vector<std::string>>& rows, std::string& error);
+    /// Brings sources and references up to date with the tables. @return false, with the reason, when the
+    /// database cannot be read at present: they stay as they were.
+    bool Refresh(std::string& error);
+    /// Tells the views that items came, went or changed.
+    void ItemsChanged();
+    /// Whether a view shows the source or another source is made of it.
+    bool Uses(SimpleSource& source) const;
+
+    SimpleSource* FindSimple(const std::string& name);
+    HierarchicalSource* FindHierarchical(const std::string& name) { return hierarchical_.Find(name); }
+    DataReference* FindReference(const std::string& name);
+    /// The references of the database, in the order of the tables and their keys.
+    const std::vector<DataReference*>& References();
+
+    // Input fields. @return null, false: with the reason as the browser object's error text.
+    InputField* AddInputField(const std::string& name, const std::string& type);
+    bool RemoveInputField(const std::string& name);
 
     const char* GetName() const override;
     void GetDataSourcesSimple(std::vector<znIBrowserDataSourceSimple*>& sources) override;
@@ -53,7 +90,28 @@ public:
     bool DeleteDataOperation(znIBrowserDataOperation* operation) override;
 
 private:
+    bool CheckNewSource(const std::string& name);
+    void TakeOverTables();
+    void TakeOverReferences(const Table& table);
+
+    Application& application_;
     const std::string name_;
+    const std::unique_ptr<Database> database_;
+    Schema schema_;
+    RowCopies copies_;
+    Database::Stamp stamp_; // of the tables when the sources were last brought up to date
+
+    // All that there ever was, and what there is now.
+    std::unordered_map<std::string, std::shared_ptr<BaseSource>> knownBases_;
+    std::unordered_map<std::string, std::shared_ptr<DataReference>> knownReferences_;
+    std::vector<BaseSource*> bases_;
+    std::vector<DataReference*> references_;
+
+    NamedList<CustomSource> custom_;
+    NamedList<HierarchicalSource> hierarchical_;
+    NamedList<DataOperation> operations_;
+    NamedList<InputField> inputFields_;
+    LinkIndexes indexes_;
 };
 
 } // namespace znhost

@@ -11,7 +11,7 @@ namespace {
 template <class Wanted, class Piece>
 std::string Join(const Table& table, const char* separator, Wanted wanted, Piece piece) {
     std::string joined;
-    for (const Column& column : table.columns) {
+    for (const TableColumn& column : table.columns) {
         if (!wanted(column)) continue;
         if (!joined.empty()) joined += separator;
         joined += piece(Database::Quoted(column.name));
@@ -19,7 +19,7 @@ std::string Join(const Table& table, const char* separator, Wanted wanted, Piece
     return joined;
 }
 
-bool InKey(const Column& column) { return column.primaryKey > 0; }
+bool InKey(const TableColumn& column) { return column.primaryKey > 0; }
 
 /// What makes an empty copy in place of the one that was there. The index is there for `ON CONFLICT`, and to
 /// find what is gone.
@@ -46,7 +46,7 @@ std::vector<std::string> UpdateOf(const Table& table, const std::string& origina
     });
     if (same.empty()) return {"DELETE FROM " + table.rows, fill};
     const std::string changes = Join(
-        table, ", ", [](const Column& column) { return !InKey(column); },
+        table, ", ", [](const TableColumn& column) { return !InKey(column); },
         [](const std::string& name) { return name + " = excluded." + name; });
     return {"DELETE FROM " + table.rows + " AS copy WHERE NOT EXISTS (SELECT 1 FROM " + original +
                 " AS original WHERE " + same + ")",
@@ -56,7 +56,7 @@ std::vector<std::string> UpdateOf(const Table& table, const std::string& origina
 /// All that the form of the copy depends on.
 std::string DefinitionOf(const Table& table) {
     std::string definition;
-    for (const Column& column : table.columns) {
+    for (const TableColumn& column : table.columns) {
         definition += Database::Quoted(column.name) + " " + column.declaredType + " " +
                       std::to_string(column.primaryKey) + ", ";
     }

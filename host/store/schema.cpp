@@ -45,7 +45,7 @@ public:
         Statement columns = Ask("SELECT name, type, \"notnull\", pk FROM pragma_table_xinfo(?, 'main') WHERE "
                                 "hidden <> 1 ORDER BY cid");
         while (columns.Next()) {
-            Column& column = table_.columns.emplace_back();
+            TableColumn& column = table_.columns.emplace_back();
             column.name = columns.Text(0);
             column.declaredType = columns.Text(1);
             column.type = TypeOfDeclaration(column.declaredType);
@@ -86,7 +86,7 @@ public:
     }
 
     void FindRowidColumn() {
-        const auto isKey = [](const Column& column) { return column.primaryKey > 0; };
+        const auto isKey = [](const TableColumn& column) { return column.primaryKey > 0; };
         if (keyHasIndex_ || std::count_if(table_.columns.begin(), table_.columns.end(), isKey) != 1) return;
         const auto key = std::find_if(table_.columns.begin(), table_.columns.end(), isKey);
         // A key of any other type is an ordinary column with an index, also INT; so is INTEGER ... DESC.
@@ -100,7 +100,7 @@ public:
             if ((table_.displayColumn = table_.FindColumn(name))) return;
         }
         const auto text = std::find_if(table_.columns.begin(), table_.columns.end(),
-                                       [](const Column& column) { return column.text; });
+                                       [](const TableColumn& column) { return column.text; });
         if (text != table_.columns.end()) {
             table_.displayColumn = static_cast<std::size_t>(text - table_.columns.begin());
         }
@@ -138,7 +138,8 @@ std::string ReadTable(Database& database, Table& table) {
     if (!reader.ReadColumns(error)) return error;
     if (!table.view && !reader.ReadForeignKeys(error)) return error;
     if (table.copied) {
-        for (Column& column : table.columns) column.indexed = column.primaryKey == 1; // all that the copy has
+        for (TableColumn& column : table.columns)
+            column.indexed = column.primaryKey == 1; // all that the copy has
     } else {
         if (!reader.ReadIndexes(error)) return error;
         reader.FindRowidColumn();
@@ -158,7 +159,7 @@ bool Resolve(ForeignKey& key, const Table& from, const TablesByName& tables) {
     key.table = target.name;
     if (key.to.empty()) {
         for (int position = 1; position <= static_cast<int>(key.from.size()); ++position) {
-            for (const Column& column : target.columns) {
+            for (const TableColumn& column : target.columns) {
                 if (column.primaryKey == position) key.to.push_back(column.name);
             }
         }
@@ -190,7 +191,7 @@ ZNBROWSER_DATA_TYPE TypeOfDeclaration(std::string_view declaredType) {
 
 std::optional<std::size_t> Table::FindColumn(std::string_view column) const {
     const auto found = std::find_if(columns.begin(), columns.end(),
-                                    [column](const Column& one) { return SameName(one.name, column); });
+                                    [column](const TableColumn& one) { return SameName(one.name, column); });
     if (found == columns.end()) return std::nullopt;
     return static_cast<std::size_t>(found - columns.begin());
 }

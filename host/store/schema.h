@@ -9,7 +9,7 @@
 
 namespace znhost {
 
-struct Column {
+struct TableColumn {
     std::string name;
     std::string declaredType; ///< as written in the table's definition, may be empty
     /// BOOL for BOOL and BOOLEAN; INT and DOUBLE where SQLite's rules give the column that affinity; else
@@ -42,7 +42,7 @@ struct Table {
     bool copied = false;
     std::string rows; ///< what stands behind FROM
     std::string key;  ///< the expression for the row number
-    std::vector<Column> columns;
+    std::vector<TableColumn> columns;
     std::vector<ForeignKey>
         foreignKeys; ///< in the order of their declaration; only those that lead somewhere
     /// The column that names a row: "name", "title", "label", "caption" or "number", else the first text

@@ -39,25 +39,25 @@ struct Values {
     znStlVector<znString> strings;
 };
 
+/// Appends the word at `position`, read by one of the call's readers. @return false when it cannot be read
 template <class Read, class List>
-bool Keep(bool isRead, Read value, List& list) {
-    if (isRead) list.push_back(static_cast<typename List::value_type>(value));
-    return isRead;
+bool Append(const Call& call, int position, bool (Call::*reader)(int, Read&) const, List& list) {
+    Read value{};
+    if (!(call.*reader)(position, value)) return false;
+    list.push_back(static_cast<typename List::value_type>(value));
+    return true;
 }
 
 /// Reads the type word at `position` and the value after it. @return false when either is no good
 bool ReadPair(const Call& call, int position, Values& values) {
-    bool truth = false;
-    long natural = 0;
-    int integer = 0;
-    double real = 0;
-    if (!call.Has(position) || !call.Has(position + 1)) return false;
+    const int next = position + 1;
+    if (!call.Has(position) || !call.Has(next)) return false;
     switch (DataTypeFromWord(call.Text(position))) {
-    case ZNBROWSER_DATA_BOOL: return Keep(call.Boolean(position + 1, truth), truth, values.bools);
-    case ZNBROWSER_DATA_UNSIGNED: return Keep(call.Long(position + 1, natural), natural, values.unsigneds);
-    case ZNBROWSER_DATA_INT: return Keep(call.Integer(position + 1, integer), integer, values.ints);
-    case ZNBROWSER_DATA_DOUBLE: return Keep(call.Double(position + 1, real), real, values.doubles);
-    case ZNBROWSER_DATA_STRING: return Keep(true, call.Text(position + 1), values.strings);
+    case ZNBROWSER_DATA_BOOL: return Append(call, next, &Call::Boolean, values.bools);
+    case ZNBROWSER_DATA_UNSIGNED: return Append(call, next, &Call::Long, values.unsigneds);
+    case ZNBROWSER_DATA_INT: return Append(call, next, &Call::Integer, values.ints);
+    case ZNBROWSER_DATA_DOUBLE: return Append(call, next, &Call::Double, values.doubles);
+    case ZNBROWSER_DATA_STRING: values.strings.emplace_back(call.Text(next)); return true;
     default: return false;
     }
 }

@@ -36,13 +36,15 @@ void Connected(Call& call) {
     znIBrowserView* const view = call.manager.GetCurrentViewPtr();
     if (!view) return call.Answer("No current view available");
     znString names;
-    call.AnswerOutcome((call.manager.*list)(view, names), names.c_str());
+    const bool listed = (call.manager.*list)(view, names);
+    call.AnswerOutcome(listed, names.c_str());
 }
 
 template <bool (Manager::*list)(znString&, bool)>
 void Selected(Call& call) {
     znString values;
-    call.AnswerOutcome((call.manager.*list)(values, call.Is(5, Keyword::Recursive)), values.c_str());
+    const bool listed = (call.manager.*list)(values, call.Is(5, Keyword::Recursive));
+    call.AnswerOutcome(listed, values.c_str());
 }
 
 constexpr CommandRow hierarchicalRows[] = {

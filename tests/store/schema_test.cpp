@@ -18,7 +18,7 @@ std::string TableNames(Schema& schema) {
 }
 
 std::string IndexedColumns(const Table& table) {
-    return Names(table.columns, [](const Column& column) { return column.indexed ? column.name : "-"; });
+    return Names(table.columns, [](const TableColumn& column) { return column.indexed ? column.name : "-"; });
 }
 
 std::string ForeignKeys(const Table& table) {

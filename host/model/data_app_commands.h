@@ -1,0 +1,16 @@
+// The host's own words about data: "znbrowsermanager app inputfield ...".
+#ifndef ZN_HOST_DATA_APP_COMMANDS_H
+#define ZN_HOST_DATA_APP_COMMANDS_H
+
+namespace znhost {
+
+class AppCall;
+
+/// DATACTRL NAME TYPE: makes an input field. Answers the name.
+int AppCreateInputField(AppCall& call);
+/// DATACTRL NAME
+int AppDeleteInputField(AppCall& call);
+
+} // namespace znhost
+
+#endif

@@ -1,0 +1,89 @@
+#include "store/base_source.h"
+
+#include "store/data_ctrl.h"
+
+namespace znhost {
+
+void BaseSource::SetTable(Schema::TablePtr table) {
+    table_ = std::move(table);
+    valueSql_.clear();
+}
+
+std::vector<RowPart> BaseSource::Parts() {
+    std::string error;
+    if (!Control().Refresh(error)) {
+        FailWith(error);
+        return {};
+    }
+    if (!table_) {
+        FailWith("There is no table \"" + Name() + "\" any more");
+        return {};
+    }
+    if (!Control().Copies().Refresh(*table_, error)) {
+        FailWith(error);
+        return {};
+    }
+    return {RowPart{0, table_, {}, {}}};
+}
+
+Schema::TablePtr BaseSource::TableOfAttributes() {
+    std::string ignored; // the table last known will do
+    Control().Refresh(ignored);
+    return table_;
+}
+
+DataProperty& BaseSource::PropertyOf(const TableColumn& column) {
+    std::shared_ptr<DataProperty>& property = columnProperties_[column.name];
+    if (!property) property = std::make_shared<ColumnProperty>(*this, column.name);
+    return *property;
+}
+
+std::vector<DataProperty*> BaseSource::ColumnProperties() {
+    std::vector<DataProperty*> properties;
+    if (!TableOfAttributes()) return properties;
+    for (const TableColumn& column : table_->columns) properties.push_back(&PropertyOf(column));
+    return properties;
+}
+
+DataProperty* BaseSource::FindColumnProperty(std::string_view name) {
+    if (!TableOfAttributes()) return nullptr;
+    const auto column = table_->FindColumn(name);
+    if (!column || table_->columns[*column].name != name) return nullptr;
+    return &PropertyOf(table_->columns[*column]);
+}
+
+bool BaseSource::TryRead(std::int64_t row, std::size_t column, const std::function<void(Statement&)>& take,
+                         bool& found, std::string& error) {
+    if (!Control().Copies().Refresh(*table_, error)) return false;
+    if (valueSql_.empty()) valueSql_.resize(table_->columns.size() + 1);
+    std::string& sql = valueSql_[column];
+    if (sql.empty()) {
+        const bool isRowNumber = column == table_->columns.size();
+        sql = "SELECT " + (isRowNumber ? table_->key : Database::Quoted(table_->columns[column].name)) +
+              " FROM " + table_->rows + " WHERE " + table_->key + " = ?";
+    }
+    Statement statement = Control().Db().Prepare(sql);
+    statement.Bind(1, row);
+    found = statement.Next();
+    if (found) take(statement);
+    return statement.Finish(error);
+}
+
+// The table is taken as it was last seen, which saves a look at the database for each value. When that fails
+// it may have changed.
+bool BaseSource::ReadValue(std::int64_t row, std::size_t column,
+                           const std::function<void(Statement&)>& take) {
+    bool found = false;
+    std::string error;
+    const Schema::TablePtr seen = table_;
+    if (seen && column <= seen->columns.size() && TryRead(row, column, take, found, error)) return found;
+    Control().Refresh(error);
+    if (table_ == seen || !table_ || column > table_->columns.size()) {
+        if (!error.empty()) FailWith(error);
+        return false;
+    }
+    if (!TryRead(row, column, take, found, error)) FailWith(error);
+    return found;
+}
+
+} // namespace znhost

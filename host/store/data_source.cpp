@@ -1,0 +1,147 @@
+#include "store/data_source.h"
+
+#include "host/znBrowserDataItems.h"
+#include "model/application.h"
+#include "model/data_sources.h"
+#include "store/data_ctrl.h"
+#include "store/view_items.h"
+
+#include <charconv>
+#include <set>
+
+namespace znhost {
+
+namespace {
+
+/// Takes the texts that are equal to one of the values: as numbers, where the property is a number.
+class ValueSet {
+public:
+    ValueSet(const std::vector<znString>& values, bool numbers) : isNumeric_(numbers) {
+        for (const znString& value : values) {
+            double number = 0;
+            texts_.insert(value.Str());
+            if (numbers && Parse(value.View(), number)) numbers_.insert(number);
+        }
+    }
+    bool Has(std::string_view text) const {
+        double number = 0;
+        return texts_.count(text) || (isNumeric_ && Parse(text, number) && numbers_.count(number));
+    }
+
+private:
+    static bool Parse(std::string_view text, double& number) {
+        const char* const end = text.data() + text.size();
+        const std::from_chars_result result = std::from_chars(text.data(), end, number);
+        return result.ec == std::errc() && result.ptr == end;
+    }
+
+    const bool isNumeric_;
+    std::set<std::string, std::less<>> texts_;
+    std::set<double> numbers_;
+};
+
+} // namespace
+
+DataSource::DataSource(SimpleSource& simple)
+    : HostObject(simple.Log()), simple_(&simple), hierarchical_(nullptr) {}
+
+DataSource::DataSource(HierarchicalSource& hierarchical)
+    : HostObject(hierarchical.Log()), simple_(nullptr), hierarchical_(&hierarchical) {}
+
+const std::string& DataSource::Name() const { return simple_ ? simple_->Name() : hierarchical_->Name(); }
+
+znString DataSource::GetName() const {
+    if (Refused("znIBrowserDataSource::GetName")) return {};
+    return Name();
+}
+
+znIBrowserDataSourceSimple* DataSource::GetSimple() {
+    if (Refused("znIBrowserDataSource::GetSimple")) return nullptr;
+    return simple_;
+}
+
+znIBrowserDataSourceHierarchical* DataSource::GetHierarchical() {
+    if (Refused("znIBrowserDataSource::GetHierarchical")) return nullptr;
+    return hierarchical_;
+}
+
+znIBrowserDataProperty* DataSource::FindDataProperty(const char* name) {
+    if (Refused("znIBrowserDataSource::FindDataProperty", name)) return nullptr;
+    if (simple_) return simple_->FindProperty(TextOf(name));
+    for (SimpleSource* const member : hierarchical_->Members()) {
+        if (DataProperty* const property = member->FindProperty(TextOf(name))) return property;
+    }
+    return nullptr;
+}
+
+bool DataSource::Select(znIBrowserView* view, bool select, bool recursive, const Conditions& conditions) {
+    if (!view) return Fail("No view to select items in");
+    View& owner = *static_cast<View*>(view);
+    SimpleSource* const source = simple_ ? simple_ : hierarchical_->Top();
+    if (!source) return Fail("The data source \"" + Name() + "\" has no parent");
+    if (!Contains(owner.ShowableSources(), static_cast<znIBrowserDataSourceSimple*>(source))) {
+        return Fail("The view \"" + owner.Name() + "\" does not show the data source \"" + Name() + "\"");
+    }
+    ViewItems items(*source);
+    if (recursive) items.AddBelow(hierarchical_ ? hierarchical_->Links() : LinksOf(owner));
+    znBrowserDataItems chosen;
+    for (SimpleSource* const each : items.Sources()) {
+        RowQuery query;
+        if (!conditions(*each, query.conditions)) continue;
+        for (const std::int64_t row : items.List(*each, query)) chosen.Append(each, row);
+    }
+    if (select) {
+        owner.Selected().Select(chosen);
+    } else {
+        owner.Selected().Deselect(chosen);
+    }
+    return true;
+}
+
+bool DataSource::SelectByProperty(znIBrowserView* view, znIBrowserViewProperty* property, bool select,
+                                  bool recursive, const std::vector<znString>* values) {
+    if (!property) return Fail("No view property to select items by");
+    ViewProperty& shown = *static_cast<ViewProperty*>(property);
+    return Select(view, select, recursive, [&](SimpleSource& source, std::vector<RowCondition>& conditions) {
+        RowCondition condition;
+        condition.property = shown.DataProperty(&source);
+        if (!condition.property) return false;
+        condition.accept = [](std::string_view) { return true; };
+        if (values) {
+            const CallLog::Quiet quiet(log_);
+            const auto set = std::make_shared<ValueSet>(*values, IsNumber(condition.property->GetType()));
+            condition.accept = [set](std::string_view text) { return set->Has(text); };
+        }
+        conditions.push_back(std::move(condition));
+        return true;
+    });
+}
+
+bool DataSource::SelectItems(znIBrowserView* view, bool select, bool recursive) {
+    if (Refused("znIBrowserDataSource::SelectItems", view, select, recursive)) return false;
+    return Select(view, select, recursive, [](SimpleSource&, std::vector<RowCondition>&) { return true; });
+}
+
+bool DataSource::SelectItemsByProperty(znIBrowserView* view, znIBrowserViewProperty* property, bool select,
+                                       bool recursive) {
+    if (Refused("znIBrowserDataSource::SelectItemsByProperty", view, property, select, recursive))
+        return false;
+    return SelectByProperty(view, property, select, recursive, nullptr);
+}
+
+bool DataSource::SelectItemsByValue(znIBrowserView* view, znIBrowserViewProperty* property, const char* value,
+                                    bool select, bool recursive) {
+    if (Refused("znIBrowserDataSource::SelectItemsByValue", view, property, value, select, recursive))
+        return false;
+    const std::vector<znString> values{znString(TextOf(value))};
+    return SelectByProperty(view, property, select, recursive, &values);
+}
+
+bool DataSource::SelectItemsByValues(znIBrowserView* view, znIBrowserViewProperty* property,
+                                     const std::vector<znString>& values, bool select, bool recursive) {
+    if (Refused("znIBrowserDataSource::SelectItemsByValues", view, property, values, select, recursive))
+        return false;
+    return SelectByProperty(view, property, select, recursive, &values);
+}
+
+} // namespace znhost

@@ -1,0 +1,218 @@
+#include "store/link_reader.h"
+
+#include "model/row_set.h"
+#include "store/data_ctrl.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace znhost {
+
+namespace {
+
+/// Above so many rows one look at all pairs is cheaper than a question for each.
+constexpr std::size_t manyRows = 256;
+
+LinkEnd Opposite(LinkEnd end) { return end == LINK_PARENT ? LINK_CHILD : LINK_PARENT; }
+
+std::string Columns(const std::vector<std::string>& names) {
+    std::string columns;
+    for (const std::string& name : names) columns += (columns.empty() ? "" : ", ") + Database::Quoted(name);
+    return columns;
+}
+
+/// The columns as one operand of a comparison.
+std::string Operand(const std::vector<std::string>& names) {
+    return names.size() == 1 ? Columns(names) : "(" + Columns(names) + ")";
+}
+
+/// The rows of one end with their columns under plain names: item, c0, c1, ...
+std::string PairSide(const LinkJoint& joint, LinkEnd end) {
+    std::string columns;
+    for (std::size_t i = 0; i < joint.columns[end].size(); ++i) {
+        columns += ", " + Database::Quoted(joint.columns[end][i]) + " AS c" + std::to_string(i);
+    }
+    return "(" + joint.part[end].Select(" AS item" + columns) + ")";
+}
+
+std::string PairsSql(const LinkJoint& joint) {
+    std::string sql = "SELECT p.item, c.item FROM " + PairSide(joint, LINK_PARENT) + " AS p JOIN " +
+                      PairSide(joint, LINK_CHILD) + " AS c ON ";
+    for (std::size_t i = 0; i < joint.columns[LINK_CHILD].size(); ++i) {
+        const std::string column = ".c" + std::to_string(i);
+        sql += (i == 0 ? "p" : " AND p") + column + " = c" + column;
+    }
+    return sql;
+}
+
+/// Which end of the reference the tables are; none when they are not linked by it.
+std::optional<bool> ChildHolds(const std::string& parent, const std::string& child,
+                               const DataReference& reference) {
+    if (!reference.IsThere()) return std::nullopt;
+    if (child == reference.HoldingTable() && parent == reference.Key().table) return true;
+    if (parent == reference.HoldingTable() && child == reference.Key().table) return false;
+    return std::nullopt;
+}
+
+} // namespace
+
+bool CanLink(SimpleSource& parent, SimpleSource& child, const DataReference& reference) {
+    for (const BaseSource* const above : parent.Bases()) {
+        for (const BaseSource* const below : child.Bases()) {
+            if (ChildHolds(above->Name(), below->Name(), reference)) return true;
+        }
+    }
+    return false;
+}
+
+LinkReader::LinkReader(const RowLink& link)
+    : link_(link), source_{&SourceOf(*link.parent), &SourceOf(*link.child)},
+      reference_(static_cast<const DataReference*>(link.reference)) {
+    const std::vector<RowPart> parents = source_[LINK_PARENT]->Parts();
+    const std::vector<RowPart> children = link.parent == link.child ? parents : source_[LINK_CHILD]->Parts();
+    for (const RowPart& parent : parents) {
+        for (const RowPart& child : children) {
+            const auto childHolds = ChildHolds(parent.table->name, child.table->name, *reference_);
+            if (!childHolds) continue;
+            const ForeignKey& key = reference_->Key();
+            joints_.push_back({{parent, child},
+                               {*childHolds ? key.to : key.from, *childHolds ? key.from : key.to},
+                               *childHolds});
+        }
+    }
+}
+
+bool LinkReader::NeedsIndex(LinkEnd end) const {
+    return std::any_of(joints_.begin(), joints_.end(), [end](const LinkJoint& joint) {
+        const Table& table = *joint.part[end].table;
+        const auto column = table.FindColumn(joint.columns[end].front());
+        return !column || !table.columns[*column].indexed;
+    });
+}
+
+template <class Visit>
+bool LinkReader::ForEachPair(Visit&& visit) {
+    DataCtrl& control = source_[LINK_CHILD]->Control();
+    for (const LinkJoint& joint : joints_) {
+        const RowPart& parent = joint.part[LINK_PARENT];
+        const RowPart& child = joint.part[LINK_CHILD];
+        Statement statement = control.Db().Prepare(PairsSql(joint));
+        child.Bind(statement, parent.Bind(statement));
+        while (statement.Next()) {
+            visit(source_[LINK_PARENT]->RowOf({parent.slot, statement.Integer(0)}),
+                  source_[LINK_CHILD]->RowOf({child.slot, statement.Integer(1)}));
+        }
+        std::string error;
+        if (!statement.Finish(error)) return source_[LINK_CHILD]->FailWith(error);
+    }
+    return true;
+}
+
+bool LinkReader::FillIndex(LinkEnd end, LinkIndexes::Pairs& pairs) {
+    const bool down = end == LINK_CHILD;
+    const bool filled = ForEachPair([&](std::int64_t parent, std::int64_t child) {
+        pairs.emplace_back(down ? parent : child, down ? child : parent);
+    });
+    std::sort(pairs.begin(), pairs.end());
+    return filled;
+}
+
+// A reader keeps the index that it began with: the rows of one walk through a tree fit together.
+bool LinkReader::RelatedByIndex(LinkEnd end, std::int64_t other, Rows& rows) {
+    if (!index_[end]) {
+        DataCtrl& control = source_[end]->Control();
+        Database::Stamp now;
+        std::string error;
+        if (!control.Db().ReadStamp(now, error)) return source_[end]->FailWith(error);
+        index_[end] = control.Indexes().Find(link_, end == LINK_CHILD, now);
+        if (!index_[end]) {
+            const auto pairs = std::make_shared<LinkIndexes::Pairs>();
+            if (!FillIndex(end, *pairs)) return false;
+            control.Indexes().Keep(link_, end == LINK_CHILD, now, pairs);
+            index_[end] = pairs;
+        }
+    }
+    constexpr std::int64_t lowest = std::numeric_limits<std::int64_t>::min();
+    for (auto pair = std::lower_bound(index_[end]->begin(), index_[end]->end(), std::pair(other, lowest));
+         pair != index_[end]->end() && pair->first == other; ++pair) {
+        rows.push_back(pair->second);
+    }
+    return true;
+}
+
+bool LinkReader::RelatedBySql(LinkEnd end, std::int64_t other, Rows& rows, bool firstOnly) {
+    const LinkEnd otherEnd = Opposite(end);
+    const RowPlace place = source_[otherEnd]->PlaceOf(other);
+    DataCtrl& control = source_[end]->Control();
+    for (const LinkJoint& joint : joints_) {
+        const RowPart& from = joint.part[otherEnd];
+        const RowPart& to = joint.part[end];
+        if (from.slot != place.slot) continue;
+        Statement statement = control.Db().Prepare(
+            to.Select({}, Operand(joint.columns[end]) + " = (SELECT " + Columns(joint.columns[otherEnd]) +
+                              " FROM " + from.From() + " WHERE " + from.table->key + " = ?)") +
+            " ORDER BY " + to.table->key);
+        statement.Bind(to.Bind(statement), place.row);
+        while (statement.Next()) {
+            rows.push_back(source_[end]->RowOf({to.slot, statement.Integer(0)}));
+            if (firstOnly) return true;
+        }
+        std::string error;
+        if (!statement.Finish(error)) return source_[end]->FailWith(error);
+    }
+    return true;
+}
+
+bool LinkReader::Related(LinkEnd end, std::int64_t other, Rows& rows, bool firstOnly) {
+    rows.clear();
+    return NeedsIndex(end) ? RelatedByIndex(end, other, rows) : RelatedBySql(end, other, rows, firstOnly);
+}
+
+bool LinkReader::HasChildren(std::int64_t parent) {
+    Rows rows;
+    return Related(LINK_CHILD, parent, rows, true) && !rows.empty();
+}
+
+bool LinkReader::RelatedToAny(LinkEnd end, const Rows& others, Rows& rows) {
+    RowSet found;
+    if (others.size() <= manyRows) {
+        Rows some;
+        for (const std::int64_t other : others) {
+            if (!Related(end, other, some, false)) return false;
+            found.Add(some);
+        }
+    } else {
+        RowSet wanted;
+        wanted.Add(others);
+        Rows all;
+        const bool read = ForEachPair([&](std::int64_t parent, std::int64_t child) {
+            if (wanted.Has(end == LINK_CHILD ? parent : child)) {
+                all.push_back(end == LINK_CHILD ? child : parent);
+            }
+        });
+        if (!read) return false;
+        found.Add(std::move(all));
+    }
+    rows.clear();
+    found.ForEach([&rows](std::int64_t row) { rows.push_back(row); });
+    return true;
+}
+
+std::string LinkReader::TopCondition(const RowPart& part, std::vector<Value>& values) const {
+    std::string condition;
+    for (const LinkJoint& joint : joints_) {
+        const RowPart& parent = joint.part[LINK_PARENT];
+        if (joint.part[LINK_CHILD].slot != part.slot) continue;
+        if (!condition.empty()) condition += joint.childHolds ? " AND " : " OR ";
+        condition += "(" + Operand(joint.columns[LINK_CHILD]) + " IN (SELECT " +
+                     Columns(joint.columns[LINK_PARENT]) + " FROM " + parent.From() + parent.Where() + "))" +
+                     (joint.childHolds ? " IS NOT TRUE" : "");
+        values.insert(values.end(), parent.values.begin(), parent.values.end());
+    }
+    if (!condition.empty()) return "(" + condition + ")";
+    const bool parentHolds = reference_->IsThere() && part.table->name == reference_->Key().table &&
+                             part.table->name != reference_->HoldingTable();
+    return parentHolds ? "0" : "";
+}
+
+} // namespace znhost

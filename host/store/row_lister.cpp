@@ -1,0 +1,233 @@
+#include "store/row_lister.h"
+
+#include "host/znBrowserDataItems.h"
+#include "host/znIBrowserDataProperty.h"
+#include "store/data_ctrl.h"
+#include "store/link_reader.h"
+
+#include <algorithm>
+#include <charconv>
+#include <numeric>
+
+namespace znhost {
+
+namespace {
+
+std::optional<double> NumberOf(std::string_view text) {
+    double number = 0;
+    const char* const end = text.data() + text.size();
+    const std::from_chars_result result = std::from_chars(text.data(), end, number);
+    if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
+    return number;
+}
+
+double RealOf(const Value& value) {
+    const std::int64_t* const integer = std::get_if<std::int64_t>(&value);
+    return integer ? static_cast<double>(*integer) : std::get<double>(value);
+}
+
+bool IsText(const Value& value) { return std::holds_alternative<std::string>(value); }
+
+bool IsNothing(const Value& value) { return std::holds_alternative<std::monostate>(value); }
+
+char Folded(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+
+bool LessText(const std::string& a, const std::string& b) {
+    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char one, char two) {
+        return static_cast<unsigned char>(Folded(one)) < static_cast<unsigned char>(Folded(two));
+    });
+}
+
+/// Nothing before numbers, numbers before texts.
+bool ComesBefore(const Value& a, const Value& b) {
+    const int kindOfA = IsNothing(a) ? 0 : IsText(a) ? 2 : 1;
+    const int kindOfB = IsNothing(b) ? 0 : IsText(b) ? 2 : 1;
+    if (kindOfA != kindOfB) return kindOfA < kindOfB;
+    if (kindOfA == 0) return false;
+    if (kindOfA == 2) return LessText(std::get<std::string>(a), std::get<std::string>(b));
+    if (a.index() == b.index() && std::holds_alternative<std::int64_t>(a)) {
+        return std::get<std::int64_t>(a) < std::get<std::int64_t>(b);
+    }
+    return RealOf(a) < RealOf(b);
+}
+
+/// Columns of a statement that list a field of each of them.
+constexpr int noPlace = -1;
+
+} // namespace
+
+RowLister::Field::Field(znIBrowserDataProperty* wanted) : property(wanted) {
+    if (!property) return;
+    DataProperty* const own = dynamic_cast<DataProperty*>(property);
+    computed = !own || own->IsComputed();
+    if (!computed) column = own;
+    number = own && IsNumber(own->Type());
+}
+
+std::optional<std::size_t> RowLister::Field::ColumnIn(const Table& table) const {
+    if (column) return column->ColumnIn(table);
+    if (property) return std::nullopt;
+    return table.displayColumn ? *table.displayColumn : table.columns.size();
+}
+
+RowLister::RowLister(SimpleSource& source, const RowQuery& query) : source_(source), query_(query) {
+    for (const RowCondition& condition : query.conditions) fields_.emplace_back(condition.property);
+    if (IsSorted()) fields_.emplace_back(query.order.property);
+    const CallLog::Quiet quiet(source.Log());
+    for (Field& field : fields_) {
+        if (field.computed) field.number = IsNumber(field.property->GetType());
+    }
+}
+
+bool RowLister::Run(std::vector<std::int64_t>& rows) {
+    rows.clear();
+    if (query_.link && query_.link->child != static_cast<RowSource*>(&source_)) return true;
+    bool read = true;
+    if (query_.link && !query_.top) {
+        byRow_ = true;
+        read = ReadChildren(rows);
+    } else {
+        for (const RowPart& part : source_.Parts()) read = ReadPart(part, rows) && read;
+    }
+    if (!read) {
+        rows.clear();
+        return false;
+    }
+    Compute(rows);
+    Sort(rows);
+    return true;
+}
+
+bool RowLister::ReadChildren(std::vector<std::int64_t>& rows) {
+    LinkReader reader(*query_.link);
+    if (!reader.Children(query_.parent, rows)) return false;
+    if (IsSorted()) keys_.resize(rows.size());
+    return true;
+}
+
+bool RowLister::ReadPart(const RowPart& part, std::vector<std::int64_t>& rows) {
+    std::string columns;
+    std::vector<int> places;
+    int count = 0;
+    for (const Field& field : fields_) {
+        const auto column = field.computed ? std::nullopt : field.ColumnIn(*part.table);
+        places.push_back(column ? ++count : noPlace);
+        if (!column) continue;
+        const bool isRowNumber = *column == part.table->columns.size();
+        columns +=
+            ", " + (isRowNumber ? part.table->key : Database::Quoted(part.table->columns[*column].name));
+    }
+    std::vector<Value> values;
+    const std::string top = query_.link ? LinkReader(*query_.link).TopCondition(part, values) : std::string();
+    Statement statement =
+        source_.Control().Db().Prepare(part.Select(columns, top) + " ORDER BY " + part.table->key);
+    int position = part.Bind(statement);
+    for (const Value& value : values) statement.Bind(position++, value);
+    while (statement.Next()) {
+        if (!TakesRow(statement, places)) continue;
+        rows.push_back(source_.RowOf({part.slot, statement.Integer(0)}));
+        if (!IsSorted()) continue;
+        const Field& field = fields_.back();
+        keys_.push_back(field.computed ? Cell() : CellOf(field, statement, places.back()));
+    }
+    std::string error;
+    return statement.Finish(error) || source_.FailWith(error);
+}
+
+RowLister::Cell RowLister::CellOf(const Field& field, const Statement& statement, int place) const {
+    if (place == noPlace || statement.IsNull(place)) return {};
+    if (field.number) return statement.Get(place);
+    return std::string(statement.Text(place));
+}
+
+RowLister::Cell RowLister::CellOfText(const Field& field, std::string_view text) {
+    const auto number = field.number ? NumberOf(text) : std::nullopt;
+    return number ? Cell(*number) : Cell(std::string(text));
+}
+
+bool RowLister::TakesRow(const Statement& statement, const std::vector<int>& places) const {
+    for (std::size_t i = 0; i < query_.conditions.size(); ++i) {
+        const RowCondition& condition = query_.conditions[i];
+        const Field& field = fields_[i];
+        if (field.computed) continue;
+        if (condition.compare == RowCondition::Compare::Accept) {
+            const bool has = places[i] != noPlace && !statement.IsNull(places[i]);
+            if (!has || !condition.accept(statement.Text(places[i]))) return false;
+        } else if (!Fulfils(condition, field, CellOf(field, statement, places[i]))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool RowLister::Fulfils(const RowCondition& condition, const Field& field, const Cell& cell) {
+    if (IsNothing(cell)) return false;
+    const Cell wanted = CellOfText(field, condition.value);
+    if (IsText(cell) != IsText(wanted)) return false;
+    switch (condition.compare) {
+    case RowCondition::Compare::Less: return ComesBefore(cell, wanted);
+    case RowCondition::Compare::More: return ComesBefore(wanted, cell);
+    default: return IsText(cell) ? cell == wanted : RealOf(cell) == RealOf(wanted);
+    }
+}
+
+RowLister::Cell RowLister::ComputedCell(const Field& field, std::int64_t row) const {
+    znString value;
+    std::string text;
+    bool has = false;
+    if (!field.property) {
+        has = source_.GetText(row, text);
+    } else if (DataProperty* const own = dynamic_cast<DataProperty*>(field.property)) {
+        has = own->ReadText(row, text);
+    } else {
+        const CallLog::Quiet quiet(source_.Log());
+        has = field.property->GetValueString({&source_, row}, 0, value);
+        text = value.Str();
+    }
+    return has ? CellOfText(field, text) : Cell();
+}
+
+/// What was not read together with the rows.
+void RowLister::Compute(std::vector<std::int64_t>& rows) {
+    const auto isLeft = [this](const Field& field) { return byRow_ || field.computed; };
+    if (std::none_of(fields_.begin(), fields_.end(), isLeft)) return;
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        bool takes = true;
+        for (std::size_t c = 0; takes && c < query_.conditions.size(); ++c) {
+            if (!isLeft(fields_[c])) continue;
+            const RowCondition& condition = query_.conditions[c];
+            const Cell cell = ComputedCell(fields_[c], rows[i]);
+            takes = condition.compare == RowCondition::Compare::Accept
+                        ? IsText(cell) && condition.accept(std::get<std::string>(cell))
+                        : Fulfils(condition, fields_[c], cell);
+        }
+        if (!takes) continue;
+        rows[kept] = rows[i];
+        if (IsSorted()) {
+            keys_[kept] =
+                isLeft(fields_.back()) ? ComputedCell(fields_.back(), rows[i]) : std::move(keys_[i]);
+        }
+        ++kept;
+    }
+    rows.resize(kept);
+    if (IsSorted()) keys_.resize(kept);
+}
+
+void RowLister::Sort(std::vector<std::int64_t>& rows) {
+    if (!IsSorted()) return;
+    std::vector<std::size_t> order(rows.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    const bool descending = query_.order.descending;
+    std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+        return descending ? ComesBefore(keys_[b], keys_[a]) : ComesBefore(keys_[a], keys_[b]);
+    });
+    std::vector<std::int64_t> sorted;
+    sorted.reserve(rows.size());
+    for (const std::size_t place : order) sorted.push_back(rows[place]);
+    rows = std::move(sorted);
+}
+
+} // namespace znhost

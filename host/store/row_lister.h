@@ -1,0 +1,60 @@
+// The rows that a query asks for.
+#ifndef ZN_HOST_ROW_LISTER_H
+#define ZN_HOST_ROW_LISTER_H
+
+#include "store/row_part.h"
+#include "store/row_source.h"
+
+#include <optional>
+
+namespace znhost {
+
+class DataProperty;
+class SimpleSource;
+
+/// Lists the rows of one query. Conditions and order by columns are read together with the rows; values that
+/// have to be computed are asked for afterwards, when no statement is open any more: computing may change
+/// the model.
+class RowLister {
+public:
+    RowLister(SimpleSource& source, const RowQuery& query);
+
+    /// @return false, with the reason noted in the source, when the database failed
+    bool Run(std::vector<std::int64_t>& rows);
+
+private:
+    /// A value that the query needs of each row.
+    struct Field {
+        explicit Field(znIBrowserDataProperty* wanted);
+
+        znIBrowserDataProperty* property; ///< null: the item's text
+        DataProperty* column = nullptr;   ///< the property, when it is one that columns hold
+        bool computed = false;
+        bool number = false;
+        /// The column of that table; none: it has no values.
+        std::optional<std::size_t> ColumnIn(const Table& table) const;
+    };
+    /// A value as it is compared: a number, a text, or nothing.
+    using Cell = Value;
+
+    bool ReadPart(const RowPart& part, std::vector<std::int64_t>& rows);
+    bool ReadChildren(std::vector<std::int64_t>& rows);
+    bool TakesRow(const Statement& statement, const std::vector<int>& places) const;
+    void Compute(std::vector<std::int64_t>& rows);
+    void Sort(std::vector<std::int64_t>& rows);
+    Cell CellOf(const Field& field, const Statement& statement, int place) const;
+    Cell ComputedCell(const Field& field, std::int64_t row) const;
+    static Cell CellOfText(const Field& field, std::string_view text);
+    static bool Fulfils(const RowCondition& condition, const Field& field, const Cell& cell);
+    bool IsSorted() const { return query_.order.sorted; }
+
+    SimpleSource& source_;
+    const RowQuery& query_;
+    std::vector<Field> fields_; // of the conditions, then of the order
+    std::vector<Cell> keys_;    // by which the rows are sorted, row by row
+    bool byRow_ = false;        // all fields are still to be read, row by row
+};
+
+} // namespace znhost
+
+#endif

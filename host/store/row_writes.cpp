@@ -1,0 +1,173 @@
+// What a window changes in the rows of a data source. Each change is one transaction.
+#include "model/row_set.h"
+#include "store/data_ctrl.h"
+#include "store/link_reader.h"
+#include "store/simple_source.h"
+#include "store/transaction.h"
+
+#include <algorithm>
+
+namespace znhost {
+
+namespace {
+
+/// The WHERE that finds the row of a row number in the table itself; "" when it cannot be found there: the
+/// rows of a view come from elsewhere, and copies of tables without a key have nothing that leads back.
+std::string RowInTable(const Table& table) {
+    if (!table.copied) return " WHERE " + table.key + " = ?";
+    std::string key;
+    for (const TableColumn& column : table.columns) {
+        if (column.primaryKey > 0) key += (key.empty() ? "" : ", ") + Database::Quoted(column.name);
+    }
+    if (key.empty() || table.view) return {};
+    const bool single = key.find(", ") == std::string::npos;
+    return " WHERE " + (single ? key : "(" + key + ")") + " = (SELECT " + key + " FROM " + table.rows +
+           " WHERE " + table.key + " = ?)";
+}
+
+std::string UpdateOf(const Table& table, const std::string& assignment) {
+    return "UPDATE main." + Database::Quoted(table.name) + " SET " + assignment + RowInTable(table);
+}
+
+const RowPart* PartAt(const std::vector<RowPart>& parts, std::size_t slot) {
+    const auto part =
+        std::find_if(parts.begin(), parts.end(), [slot](const RowPart& one) { return one.slot == slot; });
+    return part == parts.end() ? nullptr : &*part;
+}
+
+/// Runs a statement that changes one row. @return false with the reason when it did not
+bool ChangeRow(Database& database, Statement& statement, std::string& error) {
+    const std::int64_t before = database.RowsChanged();
+    while (statement.Next()) {
+    }
+    if (!statement.Finish(error)) return false;
+    if (database.RowsChanged() == before) error = "the item does not exist any more";
+    return database.RowsChanged() != before;
+}
+
+} // namespace
+
+bool SimpleSource::WriteBoolean(znIBrowserDataProperty& property, std::int64_t row, bool value,
+                                std::string& error) {
+    const RowPlace place = PlaceOf(row);
+    const std::vector<RowPart> parts = Parts();
+    const RowPart* const part = PartAt(parts, place.slot);
+    const DataProperty* const own = dynamic_cast<const DataProperty*>(&property);
+    const auto column = part && own ? own->ColumnIn(*part->table) : std::nullopt;
+    if (!column || RowInTable(*part->table).empty()) {
+        error = "only a column of a table can be changed";
+        return FailWith(error);
+    }
+    Transaction transaction(control_.Db());
+    if (!transaction.Begin(error)) return FailWith(error);
+    {
+        Statement statement = control_.Db().Prepare(
+            UpdateOf(*part->table, Database::Quoted(part->table->columns[*column].name) + " = ?"));
+        statement.Bind(1, value ? 1 : 0);
+        statement.Bind(2, place.row);
+        if (!ChangeRow(control_.Db(), statement, error)) return FailWith(error);
+    }
+    if (!transaction.Commit(error)) return FailWith(error);
+    control_.ItemsChanged();
+    return true;
+}
+
+namespace {
+
+/// Puts rows below another by their foreign keys.
+class Mover {
+public:
+    Mover(const RowLink& link, std::int64_t parent)
+        : reader_(link), parentSource_(SourceOf(*link.parent)), childSource_(SourceOf(*link.child)),
+          isSelf_(link.parent == link.child), parent_(parent), parentPlace_(parentSource_.PlaceOf(parent)) {}
+
+    bool CheckAll(const std::vector<std::int64_t>& rows, std::string& error) {
+        if (!parentSource_.HasRow(parent_)) {
+            error = "the item to move below does not exist any more";
+        } else if (isSelf_ && IsBelow(rows)) {
+            error = "an item cannot be moved below itself";
+        } else {
+            return true;
+        }
+        return false;
+    }
+
+    bool Move(std::int64_t row, std::string& error) {
+        const RowPlace place = childSource_.PlaceOf(row);
+        const LinkJoint* const joint = JointOf(place.slot);
+        if (!joint) {
+            error = "the items do not refer to those that they are moved below";
+            return false;
+        }
+        const RowPart& parent = joint->part[LINK_PARENT];
+        const Table& child = *joint->part[LINK_CHILD].table;
+        std::string from;
+        std::string to;
+        for (std::size_t i = 0; i < joint->columns[LINK_CHILD].size(); ++i) {
+            from += (i == 0 ? "" : ", ") + Database::Quoted(joint->columns[LINK_PARENT][i]);
+            to += (i == 0 ? "" : ", ") + Database::Quoted(joint->columns[LINK_CHILD][i]);
+        }
+        const bool single = joint->columns[LINK_CHILD].size() == 1;
+        Database& database = childSource_.Control().Db();
+        Statement statement = database.Prepare(
+            UpdateOf(child, (single ? to : "(" + to + ")") + " = (SELECT " + from + " FROM " + parent.From() +
+                                " WHERE " + parent.table->key + " = ?)"));
+        statement.Bind(1, parentPlace_.row);
+        statement.Bind(2, place.row);
+        return ChangeRow(database, statement, error);
+    }
+
+private:
+    const LinkJoint* JointOf(std::size_t childSlot) const {
+        for (const LinkJoint& joint : reader_.Joints()) {
+            if (joint.childHolds && joint.part[LINK_CHILD].slot == childSlot &&
+                joint.part[LINK_PARENT].slot == parentPlace_.slot &&
+                !RowInTable(*joint.part[LINK_CHILD].table).empty()) {
+                return &joint;
+            }
+        }
+        return nullptr;
+    }
+
+    /// Whether the new parent is one of the rows or lies below one.
+    bool IsBelow(const std::vector<std::int64_t>& rows) {
+        RowSet moved;
+        moved.Add(rows);
+        RowSet seen; // the items above may go round in a circle
+        std::vector<std::int64_t> above{parent_};
+        while (!above.empty() && seen.Add(above.front())) {
+            if (moved.Has(above.front())) return true;
+            reader_.RelatedToAny(LINK_PARENT, {above.front()}, above);
+        }
+        return false;
+    }
+
+    LinkReader reader_;
+    SimpleSource& parentSource_;
+    SimpleSource& childSource_;
+    const bool isSelf_;
+    const std::int64_t parent_;
+    const RowPlace parentPlace_;
+};
+
+} // namespace
+
+bool SimpleSource::MoveBelow(const RowLink& link, const std::vector<std::int64_t>& rows, std::int64_t parent,
+                             std::string& error) {
+    if (link.child != static_cast<RowSource*>(this)) {
+        error = "the items belong to another data source";
+        return FailWith(error);
+    }
+    Transaction transaction(control_.Db());
+    if (!transaction.Begin(error)) return FailWith(error);
+    Mover mover(link, parent);
+    if (!mover.CheckAll(rows, error)) return FailWith(error);
+    for (const std::int64_t row : rows) {
+        if (!mover.Move(row, error)) return FailWith(error);
+    }
+    if (!transaction.Commit(error)) return FailWith(error);
+    control_.ItemsChanged();
+    return true;
+}
+
+} // namespace znhost

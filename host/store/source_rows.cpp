@@ -1,0 +1,76 @@
+// The rows of a simple data source: listed, counted, linked, named.
+#include "host/znBrowserDataItems.h"
+#include "store/data_ctrl.h"
+#include "store/link_reader.h"
+#include "store/row_lister.h"
+#include "store/simple_source.h"
+
+namespace znhost {
+
+RowSource* GetRowSource(znIBrowserDataSourceSimple* source) { return SourceOf(source); }
+
+// Computing a value may delete the source, so it is held as long.
+void SimpleSource::List(const RowQuery& query, std::vector<std::int64_t>& rows) {
+    const std::shared_ptr<SimpleSource> self = shared_from_this();
+    RowLister(*this, query).Run(rows);
+}
+
+std::int64_t SimpleSource::Count(const RowQuery& query) {
+    if (query.link || !query.conditions.empty()) {
+        RowQuery unsorted = query;
+        unsorted.order = {};
+        std::vector<std::int64_t> rows;
+        List(unsorted, rows);
+        return static_cast<std::int64_t>(rows.size());
+    }
+    std::int64_t count = 0;
+    for (const RowPart& part : Parts()) {
+        Statement statement = control_.Db().Prepare("SELECT COUNT(*) FROM " + part.From() + part.Where());
+        part.Bind(statement);
+        if (statement.Next()) count += statement.Integer(0);
+        std::string error;
+        if (!statement.Finish(error)) FailWith(error);
+    }
+    return count;
+}
+
+bool SimpleSource::HasChildren(const RowLink& link, std::int64_t parent) {
+    return LinkReader(link).HasChildren(parent);
+}
+
+void SimpleSource::Parents(const RowLink& link, const std::vector<std::int64_t>& children,
+                           std::vector<std::int64_t>& parents) {
+    parents.clear();
+    LinkReader(link).RelatedToAny(LINK_PARENT, children, parents);
+}
+
+bool SimpleSource::HasRow(std::int64_t row) {
+    const RowPlace place = PlaceOf(row);
+    for (const RowPart& part : Parts()) {
+        if (part.slot != place.slot) continue;
+        Statement statement = control_.Db().Prepare(part.Select({}, part.table->key + " = ?"));
+        statement.Bind(part.Bind(statement), place.row);
+        const bool found = statement.Next();
+        std::string error;
+        return statement.Finish(error) ? found : FailWith(error);
+    }
+    return false;
+}
+
+bool SimpleSource::GetText(std::int64_t row, std::string& text) {
+    const RowPlace place = PlaceOf(row);
+    const BaseSource* const base = BaseAt(place.slot);
+    if (!base || !base->Table()) return false;
+    const Table& table = *base->Table();
+    return ReadColumn(place, table.displayColumn.value_or(table.columns.size()),
+                      [&text](Statement& statement) { text = statement.Text(0); });
+}
+
+void SimpleSource::GetDataItems(znBrowserDataItems& items) {
+    items.Clear();
+    if (Refused("znIBrowserDataSourceSimple::GetDataItems")) return;
+    List({}, items.rows);
+    if (!items.rows.empty()) items.runs.push_back({this, 0});
+}
+
+} // namespace znhost
