@@ -178,13 +178,14 @@ CallArgument Argument(CallLog& log, const znBrowserDataItem* const& item);
 /// What every host object is: a receiver of calls that can be seen and refused.
 class HostObject {
 public:
+    virtual ~HostObject() = default;
+    HostObject(const HostObject&) = delete;
+    HostObject& operator=(const HostObject&) = delete;
+
     CallLog& Log() const { return log_; }
 
 protected:
     explicit HostObject(CallLog& log) : log_(log) {}
-    virtual ~HostObject() = default;
-    HostObject(const HostObject&) = delete;
-    HostObject& operator=(const HostObject&) = delete;
 
     /// Every operation of an interface begins with this, giving its own name and what it was called with;
     /// where the answer is true it returns false, null or nothing. Costs one branch while nobody watches.
