@@ -15,7 +15,7 @@ const void* KeyOf(const RowContent& content) {
     return content.kind == RowKind::Folder ? static_cast<const void*>(content.folder.get()) : content.source;
 }
 
-RowPart MakePart(const RowContent& content, const RowPlan& plan) {
+TreePart MakePart(const RowContent& content, const RowPlan& plan) {
     return content.kind == RowKind::Item ? RowTree::MakeBlock(content, plan.List(content))
                                          : RowTree::MakeNode(content);
 }
@@ -28,7 +28,7 @@ RowPart MakePart(const RowContent& content, const RowPlan& plan) {
 /// Makes what stands in a container. False when there is nothing, or the work must be given up.
 bool RowModel::Fill(RowNode& node) {
     const Row row = RowTree::RowOf(node);
-    std::vector<RowPart> parts;
+    std::vector<TreePart> parts;
     for (const RowContent& content :
          node.block ? plan_.Below(row.Content(), row.Number()) : plan_.Below(node.content)) {
         parts.push_back(MakePart(content, plan_));
@@ -50,7 +50,7 @@ void RowModel::FillAndExpand(RowNode& top) {
 }
 
 void RowModel::ExpandAsCreated(RowNode& node, int depth, std::vector<std::pair<RowNode*, int>>& open) {
-    for (const RowPart& part : node.parts) {
+    for (const TreePart& part : node.parts) {
         const RowContent& content = part.node ? part.node->content : part.block->content;
         if (content.kind == RowKind::Folder && content.folder->IsExpanded())
             open.emplace_back(part.node.get(), 0);
@@ -129,7 +129,7 @@ void RowModel::ExpandBelow(RowNode& top) {
             open.push_back({&node, true});
         }
         if (!node.expanded && !Fill(node)) continue;
-        for (const RowPart& part : node.parts) {
+        for (const TreePart& part : node.parts) {
             if (part.node) {
                 open.push_back({part.node.get(), false});
                 continue;
@@ -152,7 +152,7 @@ void RowModel::ExpandAll() {
 
 void RowModel::CollapseInside(RowNode& node) {
     const RowTree::ManyChanges many(tree_, node);
-    for (const RowPart& part : node.parts) {
+    for (const TreePart& part : node.parts) {
         if (part.node && part.node->expanded) tree_.Collapse(*part.node);
         while (part.block && !part.block->children.empty())
             tree_.Collapse(*part.block->children.begin()->second);
@@ -190,7 +190,7 @@ void RowModel::CollapseSelected() {
 RowNode* RowModel::FindContainer(const FreeFolder& folder, const znIBrowserDataSourceSimple* list) {
     if (!list && tree_.Root().content.folder.get() == &folder) return &tree_.Root();
     for (RowNode* const node : RowTree::Expanded(tree_.Root())) {
-        for (const RowPart& part : node->parts) {
+        for (const TreePart& part : node->parts) {
             if (!part.node || part.node->content.folder.get() != &folder) continue;
             const RowContent& content = part.node->content;
             const bool isList = content.kind == RowKind::List && !content.link.reference;
@@ -226,7 +226,7 @@ bool RowModel::Reveal(const std::vector<RowStep>& path) {
     for (const RowStep& step : path) {
         if (!node->expanded && !(ExpandRow(RowTree::RowOf(*node)))) return false;
         const auto part =
-            std::find_if(node->parts.begin(), node->parts.end(), [&step](const RowPart& candidate) {
+            std::find_if(node->parts.begin(), node->parts.end(), [&step](const TreePart& candidate) {
                 return (candidate.node ? candidate.node->content : candidate.block->content)
                     .IsSame(step.content);
             });
@@ -264,7 +264,7 @@ void RowModel::Refresh() {
         RowNode& node = *open.back();
         open.pop_back();
         RefreshNode(node);
-        for (const RowPart& part : node.parts) {
+        for (const TreePart& part : node.parts) {
             if (part.node && part.node->expanded) open.push_back(part.node.get());
             if (!part.block) continue;
             for (const auto& child : part.block->children) open.push_back(child.second.get());
@@ -274,16 +274,16 @@ void RowModel::Refresh() {
 
 void RowModel::RefreshNode(RowNode& node) {
     const Row row = RowTree::RowOf(node);
-    std::unordered_multimap<const void*, RowPart*> old;
-    for (RowPart& part : node.parts)
+    std::unordered_multimap<const void*, TreePart*> old;
+    for (TreePart& part : node.parts)
         old.emplace(KeyOf(part.node ? part.node->content : part.block->content), &part);
-    std::vector<RowPart> parts;
+    std::vector<TreePart> parts;
     std::vector<std::pair<RowNode*, int>> fresh;
     for (const RowContent& content :
          node.block ? plan_.Below(row.Content(), row.Number()) : plan_.Below(node.content)) {
         const auto range = old.equal_range(KeyOf(content));
         const auto known = std::find_if(range.first, range.second, [&content](const auto& entry) {
-            const RowPart& part = *entry.second;
+            const TreePart& part = *entry.second;
             return (part.node || part.block) &&
                    (part.node ? part.node->content : part.block->content).IsSame(content);
         });
@@ -298,7 +298,7 @@ void RowModel::RefreshNode(RowNode& node) {
 }
 
 /// The same thing as before, but with the present links and filter, and the present rows.
-void RowModel::RefreshContent(RowPart& part, const RowContent& content) {
+void RowModel::RefreshContent(TreePart& part, const RowContent& content) {
     if (part.node) {
         part.node->content = content;
     } else {

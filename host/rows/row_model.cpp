@@ -117,7 +117,7 @@ std::vector<RowLook> RowModel::ReadBelow(std::uint32_t index, std::int64_t first
     std::vector<RowLook> looks;
     const Row above = index == RowChange::root ? Row{&tree_.Root(), nullptr, 0} : tree_.Find(index);
     if (!above.node || first < 0) return looks;
-    for (const RowPart& part : above.node->parts) {
+    for (const TreePart& part : above.node->parts) {
         const auto size = part.node ? std::int64_t{1} : static_cast<std::int64_t>(part.block->rows.size());
         for (; first < size && count > 0 && !stopped_; ++first, --count) {
             looks.push_back(Look(part.node

@@ -168,7 +168,7 @@ private:
     void ExpandBelow(RowNode& top);
     void Refresh();
     void RefreshNode(RowNode& node);
-    void RefreshContent(RowPart& part, const RowContent& content);
+    void RefreshContent(TreePart& part, const RowContent& content);
     RowNode* FindContainer(const FreeFolder& folder, const znIBrowserDataSourceSimple* list);
     void CollapseInside(RowNode& node);
     void Select(Selecting how, const std::vector<Row>& rows);

@@ -12,12 +12,12 @@ bool RowContent::IsSame(const RowContent& other) const {
            parent == other.parent && top == other.top;
 }
 
-RowPart::RowPart() = default;
-RowPart::RowPart(RowPart&& other) noexcept = default;
-RowPart& RowPart::operator=(RowPart&& other) noexcept = default;
-RowPart::~RowPart() = default;
+TreePart::TreePart() = default;
+TreePart::TreePart(TreePart&& other) noexcept = default;
+TreePart& TreePart::operator=(TreePart&& other) noexcept = default;
+TreePart::~TreePart() = default;
 
-std::int64_t RowPart::Size() const { return node ? 1 + node->visible : block->Size(); }
+std::int64_t TreePart::Size() const { return node ? 1 + node->visible : block->Size(); }
 
 std::uint32_t RowBlock::SlotAt(std::size_t position) const {
     return slotAt.empty() ? static_cast<std::uint32_t>(position) : slotAt[position];
@@ -49,7 +49,7 @@ Row RowTree::At(std::int64_t position) const {
     for (;;) {
         const std::size_t place = node->sums.Find(position);
         position -= node->sums.Before(place);
-        const RowPart& part = node->parts[place];
+        const TreePart& part = node->parts[place];
         if (part.node) {
             if (position == 0) return {part.node.get(), nullptr, 0};
             --position;
@@ -70,7 +70,7 @@ Row RowTree::At(std::int64_t position) const {
 /// The first row of a part and those after it; no row when all are empty.
 Row RowTree::FirstFrom(const RowNode& node, std::size_t place) {
     for (; place < node.parts.size(); ++place) {
-        const RowPart& part = node.parts[place];
+        const TreePart& part = node.parts[place];
         if (part.node) return {part.node.get(), nullptr, 0};
         if (!part.block->rows.empty()) return ItemAt(*part.block, 0);
     }
@@ -147,25 +147,25 @@ RowNode& RowTree::NodeOf(const Row& item) {
     return *child;
 }
 
-RowPart RowTree::MakeNode(RowContent content) {
-    RowPart part;
+TreePart RowTree::MakeNode(RowContent content) {
+    TreePart part;
     part.node = std::make_unique<RowNode>();
     part.node->content = std::move(content);
     return part;
 }
 
-RowPart RowTree::MakeBlock(RowContent content, std::vector<std::int64_t> rows) {
-    RowPart part;
+TreePart RowTree::MakeBlock(RowContent content, std::vector<std::int64_t> rows) {
+    TreePart part;
     part.block = std::make_unique<RowBlock>();
     part.block->content = std::move(content);
     part.block->rows = std::move(rows);
     return part;
 }
 
-void RowTree::SetParts(RowNode& node, std::vector<RowPart> parts) {
+void RowTree::SetParts(RowNode& node, std::vector<TreePart> parts) {
     ReleaseParts(node);
     node.expanded = true;
-    for (RowPart& part : parts) {
+    for (TreePart& part : parts) {
         if (!part.node && part.block->rows.empty()) continue;
         node.parts.push_back(std::move(part));
         Attach(node, node.parts.back());
@@ -175,7 +175,7 @@ void RowTree::SetParts(RowNode& node, std::vector<RowPart> parts) {
 }
 
 /// Makes a part, old or new, the last one of the container.
-void RowTree::Attach(RowNode& node, RowPart& part) {
+void RowTree::Attach(RowNode& node, TreePart& part) {
     const auto place = static_cast<std::uint32_t>(node.parts.size() - 1);
     if (part.node) {
         part.node->parent = &node;
@@ -209,13 +209,13 @@ void RowTree::Collapse(RowNode& node) {
 }
 
 /// Takes parts apart and gives their indices back. Not by recursion: there is no limit to the depth.
-void RowTree::Release(std::vector<RowPart> parts) {
+void RowTree::Release(std::vector<TreePart> parts) {
     const auto takeBelow = [&parts](RowNode& node) {
         std::move(node.parts.begin(), node.parts.end(), std::back_inserter(parts));
         node.parts.clear();
     };
     while (!parts.empty()) {
-        const RowPart part = std::move(parts.back());
+        const TreePart part = std::move(parts.back());
         parts.pop_back();
         if (part.node) {
             indices_.Release(part.node->index);
@@ -269,7 +269,7 @@ void RowTree::MakeSums(RowBlock& block) {
 std::int64_t RowTree::MakeSums(RowNode& node) {
     std::vector<std::int64_t> sizes;
     sizes.reserve(node.parts.size());
-    for (const RowPart& part : node.parts) sizes.push_back(part.Size());
+    for (const TreePart& part : node.parts) sizes.push_back(part.Size());
     const std::int64_t visible = std::accumulate(sizes.begin(), sizes.end(), std::int64_t{0});
     node.sums.Assign(std::move(sizes));
     return visible;
@@ -299,7 +299,7 @@ std::vector<RowNode*> RowTree::Expanded(RowNode& node) {
     std::vector<RowNode*> found;
     if (node.expanded) found.push_back(&node);
     for (std::size_t i = 0; i < found.size(); ++i) {
-        for (const RowPart& part : found[i]->parts) {
+        for (const TreePart& part : found[i]->parts) {
             if (part.node && part.node->expanded) found.push_back(part.node.get());
             if (!part.block) continue;
             for (const auto& child : part.block->children) found.push_back(child.second.get());
@@ -314,7 +314,7 @@ RowTree::ManyChanges::~ManyChanges() {
     const std::int64_t before = top_.visible;
     const std::vector<RowNode*> nodes = Expanded(top_);
     for (auto node = nodes.rbegin(); node != nodes.rend(); ++node) {
-        for (const RowPart& part : (*node)->parts) {
+        for (const TreePart& part : (*node)->parts) {
             if (part.block) MakeSums(*part.block);
         }
         (*node)->visible = MakeSums(**node);

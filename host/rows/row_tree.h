@@ -44,14 +44,14 @@ struct RowBlock;
 struct RowNode;
 
 /// One piece of the content of an expanded container: another container, or a block of items.
-struct RowPart {
+struct TreePart {
     std::unique_ptr<RowNode> node;
     std::unique_ptr<RowBlock> block;
 
-    RowPart();
-    RowPart(RowPart&& other) noexcept;
-    RowPart& operator=(RowPart&& other) noexcept;
-    ~RowPart();
+    TreePart();
+    TreePart(TreePart&& other) noexcept;
+    TreePart& operator=(TreePart&& other) noexcept;
+    ~TreePart();
     /// How many visible rows the part makes.
     std::int64_t Size() const;
 };
@@ -66,9 +66,9 @@ struct RowNode {
     std::uint32_t index = 0;   ///< its Tk index; 0 for an item, whose block knows
     std::uint32_t level = 0;   ///< how deep the rows in it lie: 0 in the root
     bool expanded = false;
-    std::vector<RowPart> parts; ///< empty unless expanded
-    RowSums sums;               ///< of the parts' sizes
-    std::int64_t visible = 0;   ///< all visible rows below
+    std::vector<TreePart> parts; ///< empty unless expanded
+    RowSums sums;                ///< of the parts' sizes
+    std::int64_t visible = 0;    ///< all visible rows below
 };
 
 /// Items of one source that stand one after the other: their row numbers, and no more. An item's slot is its
@@ -143,11 +143,11 @@ public:
     /// The item's node, made when it has none.
     RowNode& NodeOf(const Row& item);
 
-    static RowPart MakeNode(RowContent content);
-    static RowPart MakeBlock(RowContent content, std::vector<std::int64_t> rows);
+    static TreePart MakeNode(RowContent content);
+    static TreePart MakeBlock(RowContent content, std::vector<std::int64_t> rows);
     /// Replaces what the container holds and marks it expanded. Parts taken out of it before may be among
     /// `parts`; blocks without rows are left out.
-    void SetParts(RowNode& node, std::vector<RowPart> parts);
+    void SetParts(RowNode& node, std::vector<TreePart> parts);
     /// Collapses: nothing is left below. An item's node is gone then.
     void Collapse(RowNode& node);
     /// Replaces the rows of a block: those that stay keep their Tk indices and what lies below them.
@@ -175,8 +175,8 @@ public:
 
 private:
     static Row FirstFrom(const RowNode& node, std::size_t place);
-    void Attach(RowNode& node, RowPart& part);
-    void Release(std::vector<RowPart> parts);
+    void Attach(RowNode& node, TreePart& part);
+    void Release(std::vector<TreePart> parts);
     void ReleaseParts(RowNode& node) { Release(std::exchange(node.parts, {})); }
     bool TakeIndices(RowBlock& block, std::uint32_t firstSlot, std::uint32_t count);
     static void MakeSums(RowBlock& block);

@@ -19,7 +19,7 @@ RowContent Items() {
 
 /// What the tree should show, by a plain walk over its parts.
 void Walk(RowNode& node, std::uint32_t depth, std::vector<std::pair<Row, std::uint32_t>>& rows) {
-    for (const RowPart& part : node.parts) {
+    for (const TreePart& part : node.parts) {
         if (part.node) {
             rows.push_back({RowTree::RowOf(*part.node), depth});
             Walk(*part.node, depth + 1, rows);
@@ -67,7 +67,7 @@ protected:
     }
 
     void Fill(RowNode& node) {
-        std::vector<RowPart> parts;
+        std::vector<TreePart> parts;
         for (std::size_t i = Below(4); i; --i) {
             parts.push_back(Below(2) ? RowTree::MakeNode({}) : RowTree::MakeBlock(Items(), Rows()));
         }
@@ -76,8 +76,8 @@ protected:
 
     /// Keeps some of the parts, in another order, between new ones.
     void Refill(RowNode& node) {
-        std::vector<RowPart> parts;
-        for (RowPart& part : node.parts) {
+        std::vector<TreePart> parts;
+        for (TreePart& part : node.parts) {
             if (Below(3)) parts.push_back(std::move(part));
         }
         if (Below(2)) parts.push_back(RowTree::MakeBlock(Items(), Rows()));
@@ -150,7 +150,7 @@ TEST(RowTree, TakesAChainOfAnyDepthApart) {
     {
         const RowTree::ManyChanges many(tree, tree.Root());
         for (int depth = 0; depth < 200000; ++depth) {
-            std::vector<RowPart> parts;
+            std::vector<TreePart> parts;
             parts.push_back(RowTree::MakeBlock(Items(), {depth}));
             tree.SetParts(*node, std::move(parts));
             node = &tree.NodeOf(RowTree::ItemAt(*node->parts[0].block, 0));
