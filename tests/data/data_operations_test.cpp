@@ -1,10 +1,12 @@
-// What the data families' operations do with null names and without anything to work on.
+// What C++ clients reach of the data families: null names, missing objects, and operations without a command.
+#include "host/model/embedded_host.h"
 #include "tests/frame/fake_application.h"
 
 #include "znBrowserManagerTcl.h"
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -92,10 +94,82 @@ TEST_F(EmptyModel, ConnectingAnOperationSaysInTheResultWhatIsMissing) {
     EXPECT_TRUE(manager_.GetState());
 }
 
-TEST_F(EmptyModel, UnconnectedReferencesFollowWhatTheBufferHolds) {
+/// Two views, `other` and the current `mine`, on a data control with one table and a hierarchical source.
+class SmallModel : public testing::Test {
+protected:
+    SmallModel() {
+        Tcl_Eval(interp_,
+                 "proc zn args {znbrowsermanager {*}$args}; zn app datactrl create c;"
+                 "zn app sql c {CREATE TABLE part (id INTEGER PRIMARY KEY, up REFERENCES part, mass REAL)};"
+                 "zn datactrl current c; zn view create other; zn view datactrl connect;"
+                 "zn view create mine; zn view datactrl connect;"
+                 "zn datasource hierarchical create tree 0 0; zn datasource simple create all;"
+                 "zn datasource simple connect part; zn datasource simple current part");
+    }
+    ~SmallModel() override {
+        host_.reset();
+        Tcl_DeleteInterp(interp_);
+    }
+
+    Tcl_Interp* interp_ = Tcl_CreateInterp();
+    std::unique_ptr<znhost::EmbeddedHost> host_ = std::make_unique<znhost::EmbeddedHost>(interp_);
+    Manager& manager_ = host_->Manager();
+    znString out_;
+};
+
+TEST_F(SmallModel, ListsThatNoCommandGives) {
+    EXPECT_TRUE(manager_.GetDataSourcesNames(out_));
+    EXPECT_EQ(out_.Str(), "part   all   tree  ");
+    EXPECT_TRUE(manager_.GetPropertyNames(out_));
+    EXPECT_EQ(out_.Str(), "id   up   mass");
+    EXPECT_TRUE(manager_.DataSourceSimpleConnected("all", out_));
+    EXPECT_EQ(out_.Str(), "part");
+    EXPECT_EQ(manager_.FindDataSourceSimple("part"), manager_.GetCurrentDataSourceSimplePtr());
+    ZNBROWSER_DATA_TYPE type = ZNBROWSER_DATA_UNDEFINED;
+    EXPECT_TRUE(manager_.GetDataType("mass", type));
+    EXPECT_EQ(type, ZNBROWSER_DATA_DOUBLE);
+    EXPECT_EQ(Outcome(manager_, manager_.GetDataType("nosuch", type)), "Cannot find field name :  nosuch");
+}
+
+TEST_F(SmallModel, SharesTellOfUnknownNamesInTheBufferOnly) {
+    const struct {
+        const char* source;
+        const char* view;
+        const char* outcome;
+        const char* buffer;
+    } cases[] = {
+        {"", "other", "", ""},
+        {"tree", nullptr, "", ""},
+        {"tree", "v", "true", "View: \" v \" does not exist"},
+        {"t", "other", "true", "Data Source Hierarchical: \" t \" does not exist"},
+        {"tree", "other", "true", ""},
+    };
+    for (const auto& [source, view, outcome, buffer] : cases) {
+        EXPECT_EQ(Outcome(manager_, manager_.CreateDataSourceHierarchicalShare(source, view)), outcome);
+        EXPECT_STREQ(manager_.GetBuff(), buffer);
+    }
+    EXPECT_TRUE(manager_.GetDataSourceHierarchicalSharedNames(out_));
+    EXPECT_EQ(out_.Str(), "Shared DSH(s):  \" tree \" with  \" other \" view");
+}
+
+TEST_F(SmallModel, WhatIsDeletedIsCurrentNoMore) {
+    EXPECT_EQ(Outcome(manager_, manager_.DeleteDataOperation()),
+              "Cannot get name of the current dataoperation");
+    EXPECT_TRUE(manager_.CreateDataOperation("paint"));
+    EXPECT_TRUE(manager_.DeleteDataOperation());
+    EXPECT_EQ(manager_.GetCurrentDataOperationPtr(), nullptr);
+    EXPECT_TRUE(manager_.GetDataOperationNames(out_));
+    EXPECT_EQ(out_.Str(), "");
+    EXPECT_TRUE(manager_.SetCurrentDataSourceSimple("all"));
+    manager_.SetCurrentList(manager_.GetCurrentDataSourceSimplePtr());
+    EXPECT_TRUE(manager_.DeleteDataSourceSimple("all"));
+    EXPECT_EQ(manager_.GetCurrentListPtr(), nullptr);
+}
+
+TEST_F(SmallModel, ReferenceMessagesFollowWhatTheBufferHolds) {
     manager_.AppendToBuff("before", false, false);
-    EXPECT_EQ(Outcome(manager_, manager_.ConnectDataReference("r")), "Current View object is not set");
-    EXPECT_STREQ(manager_.GetBuff(), "before");
+    EXPECT_EQ(Outcome(manager_, manager_.ConnectDataReference("r")),
+              "before Cannot find data reference :  r");
 }
 
 } // namespace
