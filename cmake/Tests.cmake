@@ -7,6 +7,7 @@ zn_find_sources(sources tests/*_test.cpp)
 if(sources AND TARGET zn_objects AND TARGET znbrowserhost)
     add_executable(znbrowsertest ${sources})
     target_include_directories(znbrowsertest PRIVATE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/src")
+    target_compile_definitions(znbrowsertest PRIVATE ZN_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     # g++ 12 takes the temporaries of brace lists in long test bodies for uninitialized
     target_compile_options(znbrowsertest PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_link_libraries(znbrowsertest PRIVATE

@@ -67,7 +67,7 @@ public:
     ~znBrowserManagerTcl() override;
     /// Registers the command and makes the current objects, the browser info and the helpers anew.
     void Init();
-    /// Makes every current object and both helper pointers null, without releasing anything.
+    /// Makes every current object null and gives up this manager's hold on the helpers.
     void InitVars();
     /// Releases this manager's hold on the browser info and the view helper.
     void CleanUp();
@@ -776,6 +776,9 @@ public:
 
 private:
     friend class znBrowserManagerViewTcl;
+
+    /// Gives up this manager's hold on the view helper; the last hold takes the helper with it.
+    void LeaveViewHelper();
 
     // How operations begin and end.
     /// Clears the error state and empties the result buffer.

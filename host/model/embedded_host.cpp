@@ -69,6 +69,8 @@ znBrowserManagerTcl& EmbeddedHost::Manager() { return *parts_->manager; }
 
 Application& EmbeddedHost::App() { return parts_->application; }
 
+CallLog& EmbeddedHost::Calls() { return parts_->log; }
+
 bool EmbeddedHost::CreateDataCtrl(const std::string& name, const std::string& file, std::string& error) {
     return App().AddDataCtrl(name, file, error);
 }

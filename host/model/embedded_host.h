@@ -12,6 +12,7 @@ struct Tcl_Interp;
 namespace znhost {
 
 class Application;
+class CallLog;
 
 /// A host with its own model, and a manager on it: after the constructor the interpreter has the command
 /// "znbrowsermanager". The interpreter may be deleted before the host; its memory is kept as long.
@@ -31,6 +32,8 @@ public:
     std::vector<std::string> GetObjectNames() const;
     znBrowserManagerTcl& Manager();
     Application& App();
+    /// The record of host calls: watch them, or let one fail.
+    CallLog& Calls();
 
 private:
     struct Parts;

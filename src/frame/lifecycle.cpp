@@ -61,12 +61,16 @@ void znBrowserManagerTcl::Init() {
 void znBrowserManagerTcl::InitVars() {
     SetOk();
     current_ = {};
-    viewHelper_.reset();
+    LeaveViewHelper();
     collectorHelper_.reset();
 }
 
 void znBrowserManagerTcl::CleanUp() {
     DestroyBrowserInfo();
+    LeaveViewHelper();
+}
+
+void znBrowserManagerTcl::LeaveViewHelper() {
     // A copy that keeps the helper must not reach this manager through it.
     if (viewHelper_ && *viewHelper_) (*viewHelper_)->Leave(this);
     viewHelper_.reset();

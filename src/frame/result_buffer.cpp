@@ -6,7 +6,6 @@
 #include "znBrowserManagerTcl.h"
 
 #include <cstdio>
-#include <cstring>
 
 bool znBrowserManagerTcl::_AppendToBuff(const char* text, bool quoted, bool separate,
                                         bool braceIfBlank) const {
@@ -46,29 +45,12 @@ const char* znBrowserManagerTcl::GetBuff() const { return buffer_.c_str(); }
 
 void znBrowserManagerTcl::SetCommand(int objc, Tcl_Obj* const objv[]) {
     ResetBuff();
-    // Every command passes here: short words are gathered first, and reach the buffer together.
-    char gathered[256];
-    std::size_t size = 0;
-    bool first = true;
     for (int i = 0; i < objc; ++i) {
         const std::string_view word = WordText(objv[i]);
         if (!word.data()) continue;
-        if (word.size() >= sizeof gathered - size) {
-            buffer_ += std::string_view(gathered, size);
-            size = 0;
-        }
-        if (!first) gathered[size++] = ' ';
-        first = false;
-        if (word.size() >= sizeof gathered - size) {
-            buffer_ += std::string_view(gathered, size);
-            buffer_ += word;
-            size = 0;
-            continue;
-        }
-        std::memcpy(gathered + size, word.data(), word.size());
-        size += word.size();
+        if (!buffer_.empty()) buffer_ += ' ';
+        buffer_ += word;
     }
-    buffer_ += std::string_view(gathered, size);
     SetErrCommand(buffer_);
     ResetBuff();
 }

@@ -1,8 +1,7 @@
 // The type conversions that the manager offers to the host.
 #include "frame/data_types.h"
+#include "frame/word_text.h"
 #include "znBrowserManagerTcl.h"
-
-#include <tcl.h>
 
 ZNBROWSER_DATA_TYPE znBrowserManagerTcl::ConvertStringToViewPropertyType(const char* word) {
     return word ? ViewPropertyTypeFromWord(word) : ZNBROWSER_DATA_UNDEFINED;
@@ -20,5 +19,8 @@ bool znBrowserManagerTcl::GetZnBrowserDataTypeString(ZNBROWSER_DATA_TYPE type, z
 void znBrowserManagerTcl::GetStringListFromTclArgs(int objc, Tcl_Obj* const objv[], unsigned int first,
                                                    std::vector<znString> list) {
     list.clear();
-    for (int i = static_cast<int>(first); i < objc; ++i) list.emplace_back(Tcl_GetString(objv[i]));
+    const auto count = static_cast<unsigned int>(objc > 0 ? objc : 0);
+    for (unsigned int i = first; i < count; ++i) {
+        if (const char* const text = WordText(objv[i]).data()) list.emplace_back(text);
+    }
 }

@@ -76,8 +76,7 @@ bool znBrowserManagerTcl::SetCurrentView(const char* name) {
 bool znBrowserManagerTcl::GetViewNames(znString& out) {
     BeginOperation();
     znIBrowser* const browser = GetBrowser();
-    return browser &&
-           NameList(EntryForm::Braced).AddNames(Views(*browser), NullName::IsLeftOut).Give(*this, out);
+    return browser && NameList().AddNames(Views(*browser), NullName::IsLeftOut).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::RedrawAllViews() {

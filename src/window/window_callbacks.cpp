@@ -109,7 +109,8 @@ bool znBrowserManagerTcl::SetCurrentWindowCallbackActionWindow(const char* windo
     if (!current_.windowCallback) return Fail(noCallback);
     znIBrowserWindowAccess* const window = FindWindowAccess(windowName);
     if (!window) return FailWith({"Cannot find window called : ", windowName});
-    return HostAnswer(GetBrowser()->SetCallbackActionWindow(current_.windowCallback, window));
+    znIBrowser* const browser = GetBrowser();
+    return HostAnswer(browser && browser->SetCallbackActionWindow(current_.windowCallback, window));
 }
 
 bool znBrowserManagerTcl::GetCurrentWindowCallbackActionWindow(znString& out) {

@@ -52,7 +52,8 @@ bool znBrowserManagerTcl::DeleteWindowAccess(const char* name) {
     znIBrowserWindowAccess* const window = FindWindowAccess(name);
     if (!window) return FailWith({"Window : ", name, " not found"});
     const znBrowserCurrentObjects doomed = CurrentsInside(window);
-    if (!GetBrowser()->DeleteWindowAccess(window)) return FailWithHostError();
+    znIBrowser* const browser = GetBrowser();
+    if (!browser || !browser->DeleteWindowAccess(window)) return FailWithHostError();
     Forget(doomed);
     const std::vector<znIBrowserWindowAccess*> remaining = Windows(GetBrowser());
     SetCurrentWindowAccess(remaining.empty() ? nullptr : remaining.front());
