@@ -163,7 +163,7 @@ bool znBrowserManagerTcl::GetColumnNames(znString& out) {
     if (!current_.view) return Fail(noViewHandle);
     std::vector<znIBrowserViewColumn*> columns;
     if (!current_.view->GetColumns(columns)) return Fail("Cannot get list of view columns");
-    return NameList(EntryForm::Braced).AddNames(columns, NullName::IsLeftOut).Give(*this, out);
+    return NameList().AddNames(columns, NullName::IsLeftOut).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::GetColumnCaption(znString& out) {
