@@ -24,6 +24,13 @@ proc freshWindow {} {
     zn window create w
 }
 
+# Two windows, "w" and "w2", on a view each; the second is current.
+proc freshTwo {} {
+    freshWindow
+    zn view create v2
+    zn window create w2
+}
+
 # The message of a command that is refused; all of its answer when it is not.
 proc refusal {args} {
     set answer [zn {*}$args]
