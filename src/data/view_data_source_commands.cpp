@@ -10,13 +10,13 @@ const char* const znBrowserTclMessages::VIEW_DATASOURCE =
     "    \thierarchical connected                       Returns the hierarchical datasources of the current "
     "view.\n"
     "    \thierarchical disconnect <datasource_name>    Disconnects the datasource from the current view.\n"
-    "    \thierarchical selected [recursive]            Returns the selected dataitems of the current\n"
-    "    \t                                             hierarchical datasource.\n"
+    "    \thierarchical selected [recursive]            Returns the hierarchical datasources that have\n"
+    "    \t                                             selected dataitems.\n"
     "    \tsimple connect <datasource_name>             Connects the simple datasource to the current view.\n"
     "    \tsimple connected                             Returns the simple datasources of the current view.\n"
     "    \tsimple disconnect <datasource_name>          Disconnects the datasource from the current view.\n"
-    "    \tsimple selected [recursive]                  Returns the selected dataitems of the current\n"
-    "    \t                                             simple datasource.\n\n";
+    "    \tsimple selected [recursive]                  Returns the simple datasources that have\n"
+    "    \t                                             selected dataitems.\n\n";
 
 namespace {
 

@@ -31,24 +31,25 @@ znIBrowserViewItemFreeFolder* FindFolder(znIBrowserViewItemFreeFolder& start,
 
 } // namespace
 
+// What the host shows anew may run scripts: a folder is touched only while it is still the current one.
 bool znBrowserManagerTcl::CreateFreeFolder(const char* name) {
     BeginOperation();
     if (!name) return Fail(nullName);
     znIBrowserViewItemFreeFolder* const parent = current_.freeFolder;
-    znIBrowser* const browser = GetBrowser();
     if (!parent) return Fail(noFolderName);
     znIBrowserViewItemFreeFolder* child = parent->FindChildFolder(name);
     if (!child) {
         if (!AskBrowser(*this, &znIBrowser::CreateFreeFolder, parent, name)) return false;
-        child = parent->FindChildFolder(name);
+        child = current_.freeFolder == parent ? parent->FindChildFolder(name) : nullptr;
     }
     if (!child) return true;
+    znIBrowser* const browser = GetBrowser();
     if (!browser) return false;
     const bool groupLeafs = browser->GetFreeFolderGroupLeafs(parent);
     const bool style = browser->GetFreeFolderStyle(parent);
     SetCurrentFreeFolder(child);
-    return HostAnswer(browser->SetFreeFolderGroupLeafs(child, groupLeafs)) &&
-           HostAnswer(browser->SetFreeFolderStyle(child, style));
+    if (!HostAnswer(browser->SetFreeFolderGroupLeafs(child, groupLeafs))) return false;
+    return current_.freeFolder != child || HostAnswer(browser->SetFreeFolderStyle(child, style));
 }
 
 bool znBrowserManagerTcl::DestroyFreeFolder(const char* name, bool recursive) {

@@ -19,8 +19,8 @@ bool znBrowserManagerTcl::CreateViewProperty(const char* name) {
     if (!name) return Fail(view_messages::nullName);
     if (current_.view->FindViewProperty(name)) return FailWith({"View property ", name, " already exists"});
     if (!AskBrowser(*this, &znIBrowser::CreateViewProperty, current_.view, name)) return false;
-    if (znIBrowserViewProperty* const property = current_.view->FindViewProperty(name))
-        SetCurrentViewProperty(property);
+    znIBrowserViewProperty* const property = current_.view ? current_.view->FindViewProperty(name) : nullptr;
+    if (property) SetCurrentViewProperty(property);
     return true;
 }
 
