@@ -1,6 +1,8 @@
 #include "completion.h"
 
+#include "model/embedded_host.h"
 #include "znBrowserTclCommandTree.h"
+#include "znBrowserTclKeywords.h"
 
 #include <tcl.h>
 
@@ -10,6 +12,7 @@
 namespace {
 
 constexpr std::string_view HELP_WORD = "help";
+constexpr std::string_view HOST_WORD = "app";
 constexpr std::string_view SHELL_WORDS[] = {"exit", HELP_WORD, "znbrowsermanager"};
 
 /// True for the words behind which our command words stand.
@@ -25,6 +28,14 @@ bool BeginsWith(std::string_view text, std::string_view beginning) {
                                                          [](char a, char b) { return Fold(a) == Fold(b); });
 }
 
+/// True when `word` is `plain` in some spelling: letter case, or an abbreviation that the command accepts.
+bool IsSpelling(std::string_view word, std::string_view plain) {
+    if (word.size() == plain.size() && BeginsWith(word, plain)) return true;
+    constexpr znBrowserTclKeywords keywords(true);
+    const ZNBROWSER_TCLAPI_KEYWORD keyword = keywords.GetZnBrowserTclApiEnum(plain);
+    return keyword != ZNBROWSER_TCLAPI_KEYWORD::Unknown && keyword == keywords.GetZnBrowserTclApiEnum(word);
+}
+
 std::string AsListElement(const std::string& name) {
     int flags = 0;
     const int length = static_cast<int>(name.size());
@@ -34,61 +45,98 @@ std::string AsListElement(const std::string& name) {
     return element;
 }
 
+/// The command in which the typing stands: its finished words, and what is known of the next one.
+struct TypedCommand {
+    char opener = '\0'; ///< '[' or '{'; none for the outermost
+    bool inWord = false;
+    bool quoted = false;
+    bool known = true; ///< false when the next word holds what a command in brackets will give
+    std::size_t wordStart = 0;
+    std::string partial; ///< the next word, its quotes and backslashes taken off
+    std::vector<std::string> words;
+};
+
 /// Walks over typed text and keeps the commands that are open in it, the innermost last.
 class TypedScanner {
 public:
+    explicit TypedScanner(std::string_view text) : text_(text) {
+        for (; at_ < text_.size(); ++at_) Add(text_[at_]);
+        if (TypedCommand& last = commands_.back(); !last.inWord) last.wordStart = at_ - (escaped_ ? 1 : 0);
+    }
+
+    /// The readings of the text, the likelier first. What stands behind an opening brace may be a name, a
+    /// word of the outer command, or the beginning of a script.
+    std::vector<TypedCommand> Readings() const {
+        std::vector<TypedCommand> readings;
+        if (commands_.back().opener == '{') {
+            readings.push_back(commands_[commands_.size() - 2]);
+            readings.back().partial = text_.substr(readings.back().wordStart + 1);
+        }
+        readings.push_back(commands_.back());
+        return readings;
+    }
+
+private:
     void Add(char c) {
+        TypedCommand& command = commands_.back();
         if (escaped_) {
             escaped_ = false;
-            AddToWord(c);
+            c == '\n' ? EndWord() : AddToWord(c, 1);
         } else if (c == '\\') {
             escaped_ = true;
-        } else if (c == '"' && (quoted_ || !inWord_)) {
-            quoted_ = !quoted_;
-            inWord_ = true;
-        } else if (c == '[' || (c == '{' && !inWord_ && !quoted_)) {
-            Open();
-        } else if ((c == ']' || c == '}') && commands_.size() > 1) {
+        } else if (c == '"' && (command.quoted || !command.inWord)) {
+            BeginWord(0);
+            command.quoted = !command.quoted;
+        } else if (c == '[' || (c == '{' && !command.inWord)) {
+            Open(c);
+        } else if ((c == ']' && command.opener == '[') || (c == '}' && command.opener == '{')) {
             Close();
-        } else if (!quoted_ && (c == ' ' || c == '\t')) {
+        } else if (!command.quoted && (c == ' ' || c == '\t')) {
             EndWord();
-        } else if (!quoted_ && (c == '\n' || c == ';')) {
+        } else if (!command.quoted && (c == '\n' || c == ';')) {
             EndWord();
-            commands_.back() = {};
+            command.words.clear();
         } else {
-            AddToWord(c);
+            AddToWord(c, 0);
         }
     }
 
-    TypedCommand Get() const { return commands_.back(); }
-
-private:
-    void AddToWord(char c) {
-        inWord_ = true;
+    /// The word begins `before` characters before this one.
+    void BeginWord(std::size_t before) {
+        TypedCommand& command = commands_.back();
+        if (!command.inWord) command.wordStart = at_ - before;
+        command.inWord = true;
+    }
+    void AddToWord(char c, std::size_t before) {
+        BeginWord(before);
         commands_.back().partial += c;
     }
     void EndWord() {
-        if (!inWord_) return;
         TypedCommand& command = commands_.back();
+        if (!command.inWord) return;
         command.words.push_back(std::move(command.partial));
         command.partial.clear();
-        inWord_ = false;
+        command.inWord = command.quoted = false;
+        command.known = true;
     }
-    void Open() {
+    void Open(char opener) {
+        BeginWord(0);
         commands_.emplace_back();
-        inWord_ = quoted_ = false;
+        commands_.back().opener = opener;
     }
-    // The closed command stands for part of a word of the outer one; what it would give is not known.
+    // Braces hold their text; what a command in brackets would give is not known.
     void Close() {
+        const bool braced = commands_.back().opener == '{';
         commands_.pop_back();
-        inWord_ = true;
-        quoted_ = false;
+        TypedCommand& outer = commands_.back();
+        outer.known = outer.known && braced;
+        if (braced) outer.partial = text_.substr(outer.wordStart + 1, at_ - outer.wordStart - 1);
     }
 
-    std::vector<TypedCommand> commands_{TypedCommand()};
-    bool inWord_ = false;
-    bool quoted_ = false;
+    std::string_view text_;
+    std::size_t at_ = 0;
     bool escaped_ = false;
+    std::vector<TypedCommand> commands_{TypedCommand()};
 };
 
 /// Keeps the texts that begin with `beginning`.
@@ -98,38 +146,84 @@ void Narrow(std::vector<std::string>& texts, const std::string& beginning) {
                 texts.end());
 }
 
-} // namespace
-
-TypedCommand FindTypedCommand(std::string_view text) {
-    TypedScanner scanner;
-    for (const char c : text) scanner.Add(c);
-    return scanner.Get();
-}
-
-std::vector<std::string> FindCompletions(const TypedCommand& typed,
-                                         const std::function<std::vector<std::string>()>& objectNames) {
+/// The words that may stand for the next one, plain; sorted, each once.
+std::vector<std::string> FindWords(const TypedCommand& typed, const ObjectNames& objectNames) {
     std::vector<std::string> found;
-    bool areNames = false;
+    if (!typed.known) return found;
     if (typed.words.empty()) {
         found.assign(std::begin(SHELL_WORDS), std::end(SHELL_WORDS));
     } else if (const std::string& command = typed.words.front(); IsOurs(command)) {
-        znBrowserTclCommandTree::GetNextWords({typed.words.begin() + 1, typed.words.end()}, found);
-        areNames = found.empty() && command != HELP_WORD;
+        found = FindNextWords({typed.words.begin() + 1, typed.words.end()});
+        if (found.empty() && command != HELP_WORD) found = objectNames();
     }
-    if (areNames) found = objectNames();
     Narrow(found, typed.partial);
-    if (areNames) std::transform(found.begin(), found.end(), found.begin(), AsListElement);
     std::sort(found.begin(), found.end());
     found.erase(std::unique(found.begin(), found.end()), found.end());
     return found;
 }
 
+bool IsInsideCharacter(std::string_view text, std::size_t position) {
+    return position < text.size() && (static_cast<unsigned char>(text[position]) & 0xC0) == 0x80;
+}
+
+/// The longest text, in whole characters, with which all of `texts` begin; there is at least one of them.
 std::string CommonBeginning(const std::vector<std::string>& texts) {
-    if (texts.empty()) return "";
-    std::string_view common = texts.front();
+    const std::string& first = texts.front();
+    std::size_t length = first.size();
     for (const std::string& text : texts) {
-        const auto ends = std::mismatch(common.begin(), common.end(), text.begin(), text.end());
-        common = common.substr(0, static_cast<std::size_t>(ends.first - common.begin()));
+        const auto end = first.begin() + static_cast<std::ptrdiff_t>(length);
+        const auto ends = std::mismatch(first.begin(), end, text.begin(), text.end());
+        length = static_cast<std::size_t>(ends.first - first.begin());
     }
-    return std::string(common);
+    while (IsInsideCharacter(first, length)) --length;
+    return first.substr(0, length);
+}
+
+/// The beginning of a word that is still to be typed on: a brace that it needs stays open.
+std::string AsOpenElement(const std::string& beginning) {
+    std::string element = AsListElement(beginning);
+    if (element != beginning && element.front() == '{') element.pop_back();
+    return element;
+}
+
+} // namespace
+
+std::vector<std::string> FindNextWords(const std::vector<std::string>& words) {
+    if (!words.empty() && IsSpelling(words.front(), HOST_WORD)) {
+        return znhost::EmbeddedHost::GetAppWords({words.begin() + 1, words.end()});
+    }
+    std::vector<std::string> next;
+    znBrowserTclCommandTree::GetNextWords(words, next);
+    return next;
+}
+
+std::optional<std::string> FindUnknownWord(const std::vector<std::string>& words) {
+    std::vector<std::string> known;
+    for (const std::string& word : words) {
+        const std::vector<std::string> next = FindNextWords(known);
+        if (next.empty()) return std::nullopt;
+        const auto isWord = [&](const std::string& other) { return IsSpelling(word, other); };
+        if (std::none_of(next.begin(), next.end(), isWord)) return word;
+        known.push_back(word);
+    }
+    return std::nullopt;
+}
+
+Completion CompleteTyped(std::string_view text, const ObjectNames& objectNames) {
+    for (const TypedCommand& typed : TypedScanner(text).Readings()) {
+        std::vector<std::string> words = FindWords(typed, objectNames);
+        if (words.empty()) continue;
+        Completion completion;
+        completion.replaced = text.substr(typed.wordStart);
+        const std::string common = CommonBeginning(words);
+        if (words.size() == 1) {
+            completion.replacement = AsListElement(common) + ' ';
+        } else if (common.size() > typed.partial.size()) {
+            completion.replacement = AsOpenElement(common);
+        }
+        std::transform(words.begin(), words.end(), words.begin(), AsListElement);
+        completion.choices = std::move(words);
+        return completion;
+    }
+    return {};
 }

@@ -1,27 +1,36 @@
-// What TAB offers at the prompt. Reads the typed text only: nothing is evaluated.
+// What TAB and help offer at the prompt. Reads the typed text only: nothing is evaluated.
 #ifndef SHELL_COMPLETION_H
 #define SHELL_COMPLETION_H
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-/// The command in which the typing stands: its finished words, and the beginning of the next one.
-struct TypedCommand {
-    std::vector<std::string> words;
-    std::string partial;
+/// Gives the names that may stand where znbrowsermanager takes free arguments.
+using ObjectNames = std::function<std::vector<std::string>()>;
+
+/// What TAB does to the typed text.
+struct Completion {
+    /// The end of the typed text: the word begun, with its opening quote or brace and its backslashes.
+    std::string replaced;
+    /// What stands in its place; empty when nothing more is certain.
+    std::string replacement;
+    /// What the word may be, as list elements, sorted, each once; empty when nothing is known of it.
+    std::vector<std::string> choices;
 };
 
-/// Finds the innermost command at the end of `text`: after the last separator, opening bracket or brace.
-TypedCommand FindTypedCommand(std::string_view text);
+/// Completes the last word of `text`, a word of the command that is still open there: command words of the
+/// shell, of znbrowsermanager and of the host, and behind these the names.
+Completion CompleteTyped(std::string_view text, const ObjectNames& objectNames);
 
-/// What may stand for the partial word: command words of the shell and of znbrowsermanager, and where
-/// these take free arguments, the names that `objectNames` gives, quoted as list elements. Sorted, each once.
-std::vector<std::string> FindCompletions(const TypedCommand& typed,
-                                         const std::function<std::vector<std::string>()>& objectNames);
+/// The words that may follow "znbrowsermanager WORD ...", the host's own words included; empty where free
+/// arguments stand, or where the words lead nowhere.
+std::vector<std::string> FindNextWords(const std::vector<std::string>& words);
 
-/// The longest text with which all of `texts` begin; empty when there are none.
-std::string CommonBeginning(const std::vector<std::string>& texts);
+/// The first of the words behind "znbrowsermanager" that is none; nothing when all are, or stand where free
+/// arguments do.
+std::optional<std::string> FindUnknownWord(const std::vector<std::string>& words);
 
 #endif

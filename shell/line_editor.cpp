@@ -1,18 +1,23 @@
 #include "line_editor.h"
 
-#include "completion.h"
-
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
+#include <cstdlib>
 #include <cwchar>
 
 namespace {
 
 constexpr std::size_t SCREEN_WIDTH = 80;
+
+/// The editor counts in characters of the locale, the text in bytes.
+int CountCharacters(const std::string& text) {
+    const std::size_t count = std::mbstowcs(nullptr, text.c_str(), 0);
+    return static_cast<int>(count == static_cast<std::size_t>(-1) ? text.size() : count);
+}
 
 /// Prints the words below the line, in columns.
 void ListWords(const std::vector<std::string>& words) {
@@ -86,18 +91,15 @@ int LineEditor::ReadCharacter(EditLine* editor, wchar_t* character) {
     return 1;
 }
 
-// Types what all completions share, a blank after the only one, and lists them when that is nothing new.
+// Types what is certain of the word; lists what it may be when that is nothing new.
 unsigned char LineEditor::Complete(EditLine* editor, int) {
     const LineInfo* const info = el_line(editor);
-    std::string partial;
-    const std::vector<std::string> words =
-        Self(editor).services_.complete(std::string(info->buffer, info->cursor), partial);
-    if (words.empty()) return CC_REFRESH_BEEP;
-    const std::string common = words.size() == 1 ? words.front() + ' ' : CommonBeginning(words);
-    if (common.size() > partial.size()) {
-        el_deletestr(editor, static_cast<int>(partial.size()));
-        return el_insertstr(editor, common.c_str()) == 0 ? CC_REFRESH : CC_ERROR;
+    const Completion completion = Self(editor).services_.complete(std::string(info->buffer, info->cursor));
+    if (completion.choices.empty()) return CC_REFRESH_BEEP;
+    if (!completion.replacement.empty()) {
+        el_deletestr(editor, CountCharacters(completion.replaced));
+        return el_insertstr(editor, completion.replacement.c_str()) == 0 ? CC_REFRESH : CC_ERROR;
     }
-    ListWords(words);
+    ListWords(completion.choices);
     return CC_REDISPLAY;
 }

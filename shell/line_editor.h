@@ -2,6 +2,7 @@
 #ifndef SHELL_LINE_EDITOR_H
 #define SHELL_LINE_EDITOR_H
 
+#include "completion.h"
 #include "history.h"
 
 #include <histedit.h>
@@ -19,7 +20,7 @@ public:
         /// Waits until standard input can be read (true) or the user interrupts (false).
         std::function<bool()> wait;
         /// What may be typed next after `text`.
-        std::function<std::vector<std::string>(const std::string& text, std::string& partial)> complete;
+        std::function<Completion(const std::string& text)> complete;
     };
 
     explicit LineEditor(Services services);

@@ -6,7 +6,8 @@ namespace {
 
 const char* const FOOTER = R"(
 With a SCRIPT, znbrowsersh runs it, with ARG ... in "argv". Without one it gives a
-prompt, or runs the script that is piped into its standard input.
+prompt, or runs the script that is piped into its standard input. "--" ends the
+options: the word behind it is the SCRIPT even when it begins with "-".
 
 Exit codes: 0 done, 1 the script failed, or it or a database cannot be opened, 2 bad
 usage; "exit N" in a script gives N.)";
@@ -28,6 +29,17 @@ std::vector<DatabaseOption> SplitDatabases(const std::vector<std::string>& words
         databases.push_back({word.substr(0, equals), word.substr(equals + 1)});
     }
     return databases;
+}
+
+/// What bad usage prints. The parser's own words for a value that is missing, or is one too many, are
+/// obscure; they begin with the option.
+std::string DescribeFailure(const CLI::App*, const CLI::Error& error) {
+    std::string text = error.what();
+    if (error.get_name() == "ArgumentMismatch") {
+        const std::string option = text.substr(0, text.find_first_of(": "));
+        text = option == "--db" ? "--db: expected NAME=FILE" : "--" + option + " takes no value";
+    }
+    return "znbrowsersh: " + text + "\nRun with --help for more information.\n";
 }
 
 /// What follows the options: the script and its arguments. A word that still looks like an option is none
@@ -52,11 +64,14 @@ std::optional<ExitCode> ParseOptions(int argc, const char* const* argv, Options&
         "znbrowsersh");
     app.formatter(std::make_shared<HelpFormatter>());
     app.footer(FOOTER);
-    app.add_option("--db", databases, "Add the data control NAME on a SQLite file, created when missing")
+    app.failure_message(DescribeFailure);
+    app.add_option("--db", databases,
+                   "Add the data control NAME on a SQLite file, created when missing; NAME= is in memory")
         ->type_name("NAME=FILE")
         ->allow_extra_args(false);
     app.add_flag("--strict", options.strict,
-                 "Make each error banner a Tcl error, errorCode {ZNBROWSER ERROR ...}");
+                 "Make each error banner a Tcl error, errorCode {ZNBROWSER ERROR ...}")
+        ->disable_flag_override();
     app.set_version_flag("--version", "znbrowsersh " ZN_VERSION);
     app.prefix_command(); // stop at the script: the options behind it are the script's own
     options.program = argv[0];

@@ -1,7 +1,6 @@
 #include "prompt.h"
 
 #include "completion.h"
-#include "znBrowserTclCommandTree.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -50,10 +49,8 @@ void MarkReadable(ClientData flag, int) { *static_cast<bool*>(flag) = true; }
 Prompt::Prompt(Session& session)
     : session_(session), interp_(session.GetInterp()),
       editor_({[this] { return WaitForInput(); },
-               [this](const std::string& text, std::string& partial) {
-                   const TypedCommand typed = FindTypedCommand(text);
-                   partial = typed.partial;
-                   return FindCompletions(typed, [this] { return session_.GetObjectNames(); });
+               [this](const std::string& text) {
+                   return CompleteTyped(text, [this] { return session_.GetObjectNames(); });
                }}) {
     if (pipe2(wakePipe, O_CLOEXEC | O_NONBLOCK) != 0) wakePipe[0] = wakePipe[1] = -1;
     cancelHandler = Tcl_AsyncCreate(CancelCommand, this);
@@ -97,12 +94,13 @@ void Prompt::Execute(const std::string& command) {
     TakeInterrupt();
     executing_ = true;
     const int code = Tcl_RecordAndEval(interp_, command.c_str(), TCL_EVAL_GLOBAL);
-    executing_ = false;
-    TakeInterrupt();
     Tcl_Obj* const result = Tcl_GetObjResult(interp_);
     int length = 0;
     Tcl_GetStringFromObj(result, &length);
     if (length > 0) PrintLine(code == TCL_OK ? TCL_STDOUT : TCL_STDERR, result);
+    session_.ServePending();
+    executing_ = false;
+    TakeInterrupt();
 }
 
 // "help" is a word of the prompt, not a command: a script may define its own, which then is the one called.
@@ -116,10 +114,12 @@ bool Prompt::AnswerHelp(const std::string& command) const {
         return true;
     }
     words.erase(words.begin());
-    std::vector<std::string> next;
-    znBrowserTclCommandTree::GetNextWords(words, next);
+    if (const std::optional<std::string> unknown = FindUnknownWord(words)) {
+        PrintLine(TCL_STDOUT, "unknown word \"" + *unknown + "\"");
+        return true;
+    }
     std::string answer;
-    for (const std::string& word : next) answer += (answer.empty() ? "" : " ") + word;
+    for (const std::string& word : FindNextWords(words)) answer += (answer.empty() ? "" : " ") + word;
     PrintLine(TCL_STDOUT, answer.empty() ? "no further command words" : answer);
     return true;
 }

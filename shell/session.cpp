@@ -100,17 +100,39 @@ ExitCode Session::RunStandardInput() {
 }
 
 ExitCode Session::Finish(int code) {
-    if (code == TCL_OK || code == TCL_RETURN) return EXIT_DONE;
+    const bool failed = code != TCL_OK && code != TCL_RETURN;
+    if (failed) PrintFailure(code);
+    ServePending();
+    return failed ? EXIT_FAILED : EXIT_DONE;
+}
+
+// An error from within a script has its place in errorInfo; without one, the script could not be read, and
+// the text is ours.
+void Session::PrintFailure(int code) {
     Tcl_Obj* const options = Tcl_GetReturnOptions(interp_, code);
     Tcl_IncrRefCount(options);
     Tcl_Obj* const key = Tcl_NewStringObj("-errorinfo", -1);
     Tcl_IncrRefCount(key);
     Tcl_Obj* errorInfo = nullptr;
     Tcl_DictObjGet(nullptr, options, key, &errorInfo);
-    PrintLine(TCL_STDERR, errorInfo ? errorInfo : Tcl_GetObjResult(interp_));
+    const std::string result = Tcl_GetString(Tcl_GetObjResult(interp_));
+    if (!errorInfo) {
+        PrintLine(TCL_STDERR, result);
+    } else if (result == Tcl_GetString(errorInfo)) {
+        PrintLine(TCL_STDERR, "znbrowsersh: " + result);
+    } else {
+        PrintLine(TCL_STDERR, errorInfo);
+    }
     Tcl_DecrRefCount(key);
     Tcl_DecrRefCount(options);
-    return EXIT_FAILED;
+}
+
+// One call runs the timers that are due, one the idle scripts; both may leave background errors, which are
+// idle scripts as well. No loop: an idle script may ask for itself again.
+void Session::ServePending() {
+    Tcl_DoOneEvent(TCL_TIMER_EVENTS | TCL_DONT_WAIT);
+    Tcl_DoOneEvent(TCL_IDLE_EVENTS | TCL_DONT_WAIT);
+    Tcl_DoOneEvent(TCL_IDLE_EVENTS | TCL_DONT_WAIT);
 }
 
 std::vector<std::string> Session::GetObjectNames() const {

@@ -27,10 +27,15 @@ public:
     /// Returns false, with the reason on standard error, when one of them fails.
     bool Start(const Options& options);
 
-    /// Runs a script file, with `info script` set. An uncaught error's errorInfo goes to standard error.
+    /// Runs a script file, with `info script` set, and then what it left pending. An uncaught error's
+    /// errorInfo goes to standard error.
     ExitCode RunScript(const std::string& file);
     /// Runs the script that standard input holds, up to its end.
     ExitCode RunStandardInput();
+
+    /// Runs what is due in the event loop, background errors above all: without waiting, and what that
+    /// puts off in its turn is not run.
+    void ServePending();
 
     Tcl_Interp* GetInterp() const { return interp_; }
     /// The names of the host's objects as they are now.
@@ -40,6 +45,7 @@ private:
     bool AddDatabases(const std::vector<DatabaseOption>& databases);
     void SetArguments(const Options& options);
     ExitCode Finish(int code);
+    void PrintFailure(int code);
     static void CloseAtExit(ClientData session);
 
     Tcl_Interp* interp_;

@@ -204,16 +204,8 @@ int WordsTaken(const AppWord& row, const std::string& first, const std::string& 
     return !second.empty() && first + ' ' + second == row.words ? 2 : 0;
 }
 
-/// The second words that may follow a first one, or the first words, as "a, b or c".
-std::string Expected(const std::string& first) {
-    std::vector<std::string> words;
-    for (const AppWord& row : appWords) {
-        const std::string all = row.words;
-        const std::size_t blank = all.find(' ');
-        const bool fits = first.empty() || (all.substr(0, blank) == first && blank != std::string::npos);
-        const std::string word = first.empty() ? all.substr(0, blank) : all.substr(blank + 1);
-        if (fits && !Contains(words, word)) words.push_back(word);
-    }
+/// The words as "a, b or c".
+std::string AsChoice(const std::vector<std::string>& words) {
     std::string text;
     for (std::size_t i = 0; i < words.size(); ++i) {
         text += (i == 0 ? "" : i + 1 == words.size() ? " or " : ", ") + words[i];
@@ -221,18 +213,37 @@ std::string Expected(const std::string& first) {
     return text;
 }
 
-int FailUnknown(const AppCall& call, const std::string& first, const std::string& second) {
-    const std::string seconds = first.empty() ? std::string() : Expected(first);
-    if (seconds.empty()) {
-        const std::string what = first.empty() ? "missing app word" : "unknown app word \"" + first + "\"";
-        return call.Fail(what + ": must be " + Expected(""), "WORD", first);
+int FailUnknown(const AppCall& call) {
+    const std::string first = call.Text(0);
+    const std::string second = call.Text(1);
+    const std::vector<std::string> seconds = NextAppWords({first});
+    if (call.Count() == 0 || seconds.empty()) {
+        const std::string what =
+            call.Count() == 0 ? "missing app word" : "unknown app word \"" + first + "\"";
+        return call.Fail(what + ": must be " + AsChoice(NextAppWords({})), "WORD", first);
     }
-    const std::string what = second.empty() ? "missing word after \"app " + first + "\""
-                                            : "unknown word \"" + second + "\" after \"app " + first + "\"";
-    return call.Fail(what + ": must be " + seconds, "WORD", second);
+    const std::string what = call.Count() == 1
+                                 ? "missing word after \"app " + first + "\""
+                                 : "unknown word \"" + second + "\" after \"app " + first + "\"";
+    return call.Fail(what + ": must be " + AsChoice(seconds), "WORD", second);
 }
 
 } // namespace
+
+std::vector<std::string> NextAppWords(const std::vector<std::string>& words) {
+    std::vector<std::string> next;
+    if (words.size() > 1) return next;
+    for (const AppWord& row : appWords) {
+        const std::string all = row.words;
+        const std::size_t blank = all.find(' ');
+        const bool hasSecond = blank != std::string::npos;
+        const std::string first = all.substr(0, blank);
+        if (!words.empty() && (!hasSecond || first != words.front())) continue;
+        const std::string word = words.empty() ? first : all.substr(blank + 1);
+        if (!Contains(next, word)) next.push_back(word);
+    }
+    return next;
+}
 
 int Application::EvalAppCommand(int objc, Tcl_Obj* const objv[]) {
     const AppCall whole(*this, objc, objv);
@@ -247,9 +258,8 @@ int Application::EvalAppCommand(int objc, Tcl_Obj* const objv[]) {
         taken = words;
     }
     const std::size_t count = chosen ? static_cast<std::size_t>(objc - taken) : 0;
-    if (!chosen) return FailUnknown(whole, first, second);
-    if (taken == 1 && count > chosen->most && !Expected(first).empty())
-        return FailUnknown(whole, first, second);
+    if (!chosen) return FailUnknown(whole);
+    if (taken == 1 && count > chosen->most && !NextAppWords({first}).empty()) return FailUnknown(whole);
     AppCall call(*this, objc - taken, objv + taken);
     if (count >= chosen->fewest && count <= chosen->most) return chosen->answer(call);
     return whole.Fail(std::string("wrong # args: should be \"znbrowsermanager app ") + chosen->words +

@@ -54,6 +54,10 @@ struct AppWord {
     int (*answer)(AppCall& call);
 };
 
+/// The words that may follow "app WORD ...", in the order of the table; empty where arguments stand, or where
+/// the words lead nowhere.
+std::vector<std::string> NextAppWords(const std::vector<std::string>& words);
+
 } // namespace znhost
 
 #endif

@@ -33,11 +33,11 @@ Application::~Application() = default;
 
 bool Application::AddDataCtrl(const std::string& name, const std::string& file, std::string& error) {
     if (name.empty()) {
-        error = "A data control needs a name";
+        error = "a data control needs a name";
         return false;
     }
     if (dataControls_.Find(name)) {
-        error = "A data control \"" + name + "\" already exists";
+        error = "a data control \"" + name + "\" already exists";
         return false;
     }
     std::shared_ptr<DataCtrl> control = DataCtrl::Open(*this, name, file, error);

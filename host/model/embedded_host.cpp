@@ -1,6 +1,7 @@
 #include "model/embedded_host.h"
 
 #include "host/znIBrowserDataCtrl.h"
+#include "model/app_commands.h"
 #include "model/application.h"
 #include "model/data_sources.h"
 #include "model/window_list.h"
@@ -73,6 +74,10 @@ CallLog& EmbeddedHost::Calls() { return parts_->log; }
 
 bool EmbeddedHost::CreateDataCtrl(const std::string& name, const std::string& file, std::string& error) {
     return App().AddDataCtrl(name, file, error);
+}
+
+std::vector<std::string> EmbeddedHost::GetAppWords(const std::vector<std::string>& words) {
+    return NextAppWords(words);
 }
 
 std::vector<std::string> EmbeddedHost::GetObjectNames() const {

@@ -30,6 +30,9 @@ public:
     /// The names of what scripts name most: views, windows, data controls, their data sources, and the
     /// columns, properties and folders of views; sorted, each once.
     std::vector<std::string> GetObjectNames() const;
+    /// The host's own words that may follow "znbrowsermanager app WORD ...", for completion and help; empty
+    /// where arguments stand, or where the words lead nowhere.
+    static std::vector<std::string> GetAppWords(const std::vector<std::string>& words);
     znBrowserManagerTcl& Manager();
     Application& App();
     /// The record of host calls: watch them, or let one fail.
