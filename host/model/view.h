@@ -29,7 +29,7 @@ struct TextFilter {
     bool matchWord = false;
 };
 
-class View final : public znIBrowserView, public HostObject {
+class View final : public znIBrowserView, public HostObject, public std::enable_shared_from_this<View> {
 public:
     using Share = std::pair<znIBrowserDataSourceHierarchical*, znIBrowserView*>;
 

@@ -6,6 +6,7 @@
 #include "host/znIBrowserViewProperty.h"
 #include "model/host_call.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -33,7 +34,9 @@ private:
 };
 
 /// A named, typed value that a view shows, connected to at most one data property per data source.
-class ViewProperty final : public znIBrowserViewProperty, public HostObject {
+class ViewProperty final : public znIBrowserViewProperty,
+                           public HostObject,
+                           public std::enable_shared_from_this<ViewProperty> {
 public:
     ViewProperty(View& view, std::string name);
 

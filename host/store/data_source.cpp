@@ -102,6 +102,9 @@ bool DataSource::SelectByProperty(znIBrowserView* view, znIBrowserViewProperty* 
                                   bool recursive, const std::vector<znString>* values) {
     if (!property) return Fail("No view property to select items by");
     ViewProperty& shown = *static_cast<ViewProperty*>(property);
+    // A script that computes values may delete what is at work here.
+    const std::shared_ptr<View> holdView = shown.Owner().shared_from_this();
+    const std::shared_ptr<ViewProperty> holdProperty = shown.shared_from_this();
     return Select(view, select, recursive, [&](SimpleSource& source, std::vector<RowCondition>& conditions) {
         RowCondition condition;
         condition.property = shown.DataProperty(&source);
