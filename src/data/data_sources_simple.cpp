@@ -3,6 +3,7 @@
 #include "data/item_values.h"
 #include "frame/messages.h"
 #include "host/znBrowserDataItems.h"
+#include "host/znIBrowserCriteria.h"
 #include "host/znIBrowserDataCtrl.h"
 #include "host/znIBrowserDataProperty.h"
 #include "host/znIBrowserDataSource.h"
@@ -11,12 +12,25 @@
 #include "znBrowserManagerTcl.h"
 
 #include <algorithm>
+#include <cstring>
 
 using namespace data_messages;
 
 namespace {
 
 constexpr char noCurrentSource[] = "Cannot get handle to current datasource simple";
+
+/// The source of that name among current ones of a data control: for a host that does not tell when asked.
+znIBrowserDataSourceSimple* FindAmongCurrents(const znBrowserCurrentObjects& current, const char* name) {
+    znIBrowserDataSourceSimple* const ofCriteria =
+        current.criteria ? current.criteria->GetDataSource() : nullptr;
+    for (znIBrowserDataSourceSimple* const source : {current.dataSourceSimple, current.list, ofCriteria}) {
+        const char* const ownName = source ? source->GetName() : nullptr;
+        if (ownName && name && std::strcmp(ownName, name) == 0 && source->GetDataCtrl() == current.dataCtrl)
+            return source;
+    }
+    return nullptr;
+}
 
 } // namespace
 
@@ -35,9 +49,10 @@ bool znBrowserManagerTcl::DeleteDataSourceSimple(const char* name) {
     znIBrowserDataSourceSimple* const source = FindDataSourceSimple(name);
     if (source && source->IsBase()) return FailWith({"Cannot delete datasource: ", name});
     if (source && source->IsConnected()) return FailWith({"Cannot delete connected datasource: ", name});
-    const znBrowserCurrentObjects doomed = source ? CurrentsInside(source) : znBrowserCurrentObjects();
+    znIBrowserDataSourceSimple* const dying = source ? source : FindAmongCurrents(current_, name);
+    const znBrowserCurrentObjects doomed = dying ? CurrentsInside(dying) : znBrowserCurrentObjects();
     if (name) current_.dataCtrl->DeleteDataSourceSimple(name);
-    if (FindDataSourceSimple(name) != source) Forget(doomed);
+    if (FindDataSourceSimple(name) != dying) Forget(doomed);
     return GetState();
 }
 
