@@ -12,7 +12,7 @@ if(sources AND TARGET zn_objects AND TARGET znbrowserhost)
     target_compile_options(znbrowsertest PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_link_libraries(znbrowsertest PRIVATE
         zn_objects znbrowserhost zn_tcl "${ZN_TCL_STUB_LIBRARY}" GTest::gtest_main)
-    gtest_discover_tests(znbrowsertest DISCOVERY_MODE PRE_TEST)
+    gtest_discover_tests(znbrowsertest DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES)
 endif()
 
 if(TARGET znbrowsersh)
