@@ -3,6 +3,7 @@
 
 #include "model/data_app_commands.h"
 #include "model/data_sources.h"
+#include "model/state_app_commands.h"
 #include "rows/row_commands.h"
 #include "store/data_ctrl.h"
 
@@ -178,6 +179,9 @@ constexpr AppWord appWords[] = {
      AnswerRows},
     {"sql", "NAME STATEMENT ?VALUE ...?", "runs one SQL statement, the values bound to its ?s", 2, anyNumber,
      Sql},
+    {"state create", "DATACTRL NAME", "adds a state in which nothing is saved yet", 2, 2, AppCreateState},
+    {"state delete", "DATACTRL NAME", "deletes a saved state", 2, 2, AppDeleteState},
+    {"state entities", "DATACTRL NAME", "lists the entities kept with a state", 2, 2, AppStateEntities},
 };
 
 int Help(AppCall& call) {

@@ -59,6 +59,11 @@ void FreeFolder::RemoveList(const FolderList& list) {
     Changed(VIEW_ROWS);
 }
 
+void FreeFolder::SetLists(std::vector<FolderList> lists) {
+    lists_ = std::move(lists);
+    Changed(VIEW_ROWS);
+}
+
 SimpleSources FreeFolder::Sources() const {
     SimpleSources sources;
     if (tree_.source) sources = MembersOf(log_, *tree_.source);

@@ -110,6 +110,8 @@ public:
     FolderList* FindList(const znIBrowserDataSourceSimple* source);
     void AddList(znIBrowserDataSourceSimple& source, bool flag);
     void RemoveList(const FolderList& list);
+    /// Exactly these, each of another source.
+    void SetLists(std::vector<FolderList> lists);
     znIBrowserDataSourceHierarchical* DropSource() const { return dropSource_; }
     /// The simple data sources shown in the folder itself: its lists', and its tree's.
     std::vector<znIBrowserDataSourceSimple*> Sources() const;

@@ -45,6 +45,14 @@ struct RowStep {
     std::int64_t row = 0;
 };
 
+/// An expanded row by what it is, so that another process finds it again.
+struct KeptRow {
+    std::size_t above = 0; ///< the row in which it lies: its place in the list, counted from 1; 0: the top
+    RowKind kind = RowKind::Item;
+    std::string name;     ///< of the folder, or of the data source
+    std::int64_t row = 0; ///< an item's number
+};
+
 /// The rows that a window shows of its view, top to bottom. They are made when they are needed: what is not
 /// expanded costs nothing. Changes of the view are taken over with the next question asked.
 ///
@@ -96,6 +104,12 @@ public:
     /// Makes an item visible by expanding what it lies in: the contents and rows on the way to it, from the
     /// top.
     bool Reveal(const std::vector<RowStep>& path);
+
+    /// The expanded rows, each before those below it.
+    std::vector<KeptRow> Expanded();
+    /// Expands exactly these rows. Answers the places in `rows` of those that do not exist (any more); what
+    /// would lie below them is not mentioned.
+    std::vector<std::size_t> SetExpanded(const std::vector<KeptRow>& rows);
 
     // Selection: of items and folders it is the view's; that of trees and lists is the window's own.
     enum class Selecting { Add, Remove, Replace };
@@ -169,6 +183,11 @@ private:
     void Refresh();
     void RefreshNode(RowNode& node);
     void RefreshContent(TreePart& part, const RowContent& content);
+    struct WantedRows;
+    using OpenRows = std::vector<std::pair<RowNode*, std::size_t>>;
+    void ExpandExactly(RowNode& node, WantedRows& wanted, OpenRows& open);
+    void ExpandExactly(RowBlock& block, WantedRows& wanted, OpenRows& open);
+    bool ExpandWanted(RowNode& node, const Row& row);
     RowNode* FindContainer(const FreeFolder& folder, const znIBrowserDataSourceSimple* list);
     void CollapseInside(RowNode& node);
     void Select(Selecting how, const std::vector<Row>& rows);

@@ -15,7 +15,8 @@ std::shared_ptr<DataCtrl> DataCtrl::Open(Application& application, const std::st
 
 DataCtrl::DataCtrl(Application& application, std::string name, std::unique_ptr<Database> database)
     : HostObject(application.Log()), application_(application), name_(std::move(name)),
-      database_(std::move(database)), schema_(*database_), copies_(*database_) {}
+      database_(std::move(database)), schema_(*database_), copies_(*database_),
+      states_(*database_, application.Log()) {}
 
 DataCtrl::~DataCtrl() = default;
 
@@ -249,8 +250,8 @@ void DataCtrl::SetCurrentView(znIBrowserView* view) {
 }
 
 znIBrowserStateContainer* DataCtrl::GetStateContainer() {
-    static_cast<void>(Refused("znIBrowserDataCtrl::GetStateContainer"));
-    return nullptr;
+    if (Refused("znIBrowserDataCtrl::GetStateContainer")) return nullptr;
+    return &states_;
 }
 
 } // namespace znhost

@@ -13,6 +13,7 @@
 #include "store/input_field.h"
 #include "store/link_index.h"
 #include "store/row_copies.h"
+#include "store/state_container.h"
 
 #include <memory>
 #include <string>
@@ -41,6 +42,7 @@ public:
     Database& Db() { return *database_; }
     RowCopies& Copies() { return copies_; }
     LinkIndexes& Indexes() { return indexes_; }
+    StateContainer& States() { return states_; }
 
     /// Runs one SQL statement, the values bound to its `?`. @return false with SQLite's reason in `error`.
     bool RunSql(const std::string& statement, const std::vector<std::string>& values,
@@ -112,6 +114,7 @@ private:
     NamedList<DataOperation> operations_;
     NamedList<InputField> inputFields_;
     LinkIndexes indexes_;
+    StateContainer states_;
 };
 
 } // namespace znhost

@@ -3,22 +3,13 @@
 #define ZN_HOST_STATE_STORE_H
 
 #include "store/database.h"
+#include "store/setting.h"
 
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace znhost {
-
-/// One thing that a state remembers. `kind` says what (the visibility of parts, say), `subject` whose it is
-/// (the part's name); what the other two texts mean goes with the kind.
-struct Setting {
-    std::string kind;
-    std::string subject;
-    std::string key;
-    std::string value;
-};
-using Settings = std::vector<Setting>;
 
 /// The states in one database, and the only picture of them: every question is answered from the tables, so
 /// that what other processes save shows at once. Every change is one transaction; who is killed in the middle

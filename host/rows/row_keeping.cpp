@@ -1,0 +1,140 @@
+// Which rows are expanded, by what they are: taken down, and brought back.
+#include "host/znIBrowserDataSourceHierarchical.h"
+#include "host/znIBrowserDataSourceSimple.h"
+#include "model/view.h"
+#include "rows/row_model.h"
+
+#include <algorithm>
+#include <map>
+#include <unordered_map>
+
+namespace znhost {
+
+namespace {
+
+std::string NameOf(CallLog& log, const RowContent& content) {
+    switch (content.kind) {
+    case RowKind::Folder: return content.folder->Name();
+    case RowKind::Tree: return znhost::NameOf(log, content.scope->tree);
+    default: return znhost::NameOf(log, content.source->GetSource());
+    }
+}
+
+} // namespace
+
+std::vector<KeptRow> RowModel::Expanded() {
+    const Answering answering(*this);
+    std::vector<KeptRow> kept;
+    std::unordered_map<const RowNode*, std::size_t> numbers;
+    for (RowNode* const node : RowTree::Expanded(tree_.Root())) {
+        if (const Row row = RowTree::RowOf(*node)) {
+            const RowContent& content = row.Content();
+            kept.push_back({numbers[node->parent], content.kind, NameOf(log_, content),
+                            row.IsItem() ? row.Number() : 0});
+        }
+        numbers[node] = kept.size();
+    }
+    return kept;
+}
+
+// ---- Bringing back ----
+
+/// What is to be expanded directly below one row, by its place in the list: containers by what they are,
+/// items by data source and row number. What is found is taken out.
+struct RowModel::WantedRows {
+    using Items = std::unordered_map<std::int64_t, std::size_t>;
+
+    std::multimap<std::pair<RowKind, std::string>, std::size_t> containers;
+    std::map<std::string, Items> items;
+
+    void Add(const KeptRow& row, std::size_t place) {
+        if (row.kind == RowKind::Item) {
+            items[row.name].emplace(row.row, place);
+        } else {
+            containers.emplace(std::make_pair(row.kind, row.name), place);
+        }
+    }
+    void AppendTo(std::vector<std::size_t>& places) const {
+        for (const auto& container : containers) places.push_back(container.second);
+        for (const auto& [source, rows] : items) {
+            for (const auto& item : rows) places.push_back(item.second);
+        }
+    }
+};
+
+/// False when there is nothing below the row, or the work must be given up.
+bool RowModel::ExpandWanted(RowNode& node, const Row& row) {
+    if (!node.expanded && HasRows(row)) FillAndExpand(node);
+    return node.expanded && !stopped_;
+}
+
+/// Expands the wanted ones of the rows directly below, and collapses the others.
+/// @param open  receives the wanted ones and their places in the list.
+void RowModel::ExpandExactly(RowNode& node, WantedRows& wanted, OpenRows& open) {
+    for (const TreePart& part : node.parts) {
+        if (stopped_) return;
+        if (part.block) {
+            ExpandExactly(*part.block, wanted, open);
+            continue;
+        }
+        RowNode& below = *part.node;
+        const auto found = wanted.containers.find({below.content.kind, NameOf(log_, below.content)});
+        if (found == wanted.containers.end()) {
+            if (below.expanded) tree_.Collapse(below);
+            continue;
+        }
+        if (ExpandWanted(below, RowTree::RowOf(below))) open.emplace_back(&below, found->second);
+        wanted.containers.erase(found);
+    }
+}
+
+void RowModel::ExpandExactly(RowBlock& block, WantedRows& wanted, OpenRows& open) {
+    WantedRows::Items none;
+    const auto known = wanted.items.find(NameOf(log_, block.content));
+    WantedRows::Items& items = known == wanted.items.end() ? none : known->second;
+    std::vector<RowNode*> unwanted;
+    for (const auto& child : block.children) {
+        if (!items.count(RowTree::RowOf(*child.second).Number())) unwanted.push_back(child.second.get());
+    }
+    for (RowNode* const node : unwanted) tree_.Collapse(*node);
+    for (std::uint32_t i = 0; i < block.rows.size() && !items.empty() && !stopped_; ++i) {
+        const auto item = items.find(block.rows[i]);
+        if (item == items.end()) continue;
+        const Row row = RowTree::ItemAt(block, i);
+        if (row.IsExpanded() || HasRows(row)) {
+            RowNode& node = tree_.NodeOf(row);
+            if (ExpandWanted(node, row)) open.emplace_back(&node, item->second);
+        }
+        items.erase(item);
+    }
+}
+
+std::vector<std::size_t> RowModel::SetExpanded(const std::vector<KeptRow>& rows) {
+    std::vector<std::vector<std::size_t>> below(rows.size() + 1); // by the number of the row above
+    for (std::size_t place = 0; place < rows.size(); ++place) {
+        if (rows[place].above <= place) below[rows[place].above].push_back(place);
+    }
+    std::vector<std::size_t> missing;
+    const Change change(*this);
+    if (!change) return below[0];
+    RowNode& root = tree_.Root();
+    {
+        const RowTree::ManyChanges many(tree_, root);
+        OpenRows open{{&root, 0}};
+        while (!open.empty() && !stopped_) {
+            const auto [node, number] = open.back();
+            open.pop_back();
+            WantedRows wanted;
+            for (const std::size_t place : below[number]) wanted.Add(rows[place], place);
+            OpenRows found;
+            ExpandExactly(*node, wanted, found);
+            for (const auto& [expanded, place] : found) open.emplace_back(expanded, place + 1);
+            wanted.AppendTo(missing);
+        }
+    }
+    std::sort(missing.begin(), missing.end());
+    Tell(RowChange::AllFilled);
+    return missing;
+}
+
+} // namespace znhost
