@@ -127,6 +127,8 @@ bool Window::WriteValue(ViewProperty& property, const znBrowserDataItem& item, c
     znIBrowserDataProperty* const data = property.DataProperty(item.source);
     RowSource* const source = GetRowSource(item.source);
     if (!data || !source) return Fail("The property \"" + property.Name() + "\" has no value for the item");
+    if (property.Type() != ZNBROWSER_DATA_BOOL)
+        return Fail("The property \"" + property.Name() + "\" is no boolean");
     std::string error;
     if (!source->WriteBoolean(*data, item.row, value == "true", error)) return Fail(error);
     if (view_ && view_->DataControl()) browser_.DataChanged(*view_->DataControl(), VIEW_CELLS);

@@ -99,9 +99,13 @@ struct DrawnColumn {
     }
 };
 
-std::string TreeText(const RowLook& look, const std::string& text) {
-    const char* const mark = look.expanded ? "▾ " : look.hasRows ? "▸ " : "  ";
-    return std::string(2 * std::size_t{look.depth}, ' ') + mark + text;
+/// The text of a row, below and to the right of what it lies in.
+DrawnText TreeText(const RowLook& look, const std::string& text) {
+    DrawnText drawn(text);
+    const std::size_t indent = 2 * std::size_t{look.depth};
+    drawn.text.insert(0, std::string(indent, ' ') + (look.expanded ? "▾ " : look.hasRows ? "▸ " : "  "));
+    drawn.places += indent + 2;
+    return drawn;
 }
 
 void AddRow(const RowLook& look, std::vector<DrawnColumn>& columns) {
@@ -113,7 +117,7 @@ void AddRow(const RowLook& look, std::vector<DrawnColumn>& columns) {
         if (drawn.column->Kind() != ColumnKind::BuiltIn) {
             drawn.Add(DrawnText(text));
         } else {
-            drawn.Add(DrawnText(TreeText(look, look.kind == RowKind::Item ? text : look.text)));
+            drawn.Add(TreeText(look, look.kind == RowKind::Item ? text : look.text));
         }
     }
 }

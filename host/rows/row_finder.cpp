@@ -193,29 +193,33 @@ std::vector<RowStep> RowFinder::PathTo(std::size_t hit) const {
     return path;
 }
 
+/// The hit after or before the first selected item that leads to one; not that item again, where it is shown
+/// twice.
+std::size_t RowFinder::NextToSelected(bool forward, const View& view) const {
+    const std::size_t count = hits_.size();
+    const auto selected = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) {
+        const RowContent& content = contents_[entry.content];
+        return content.kind == RowKind::Item &&
+               view.Selected().IsSelected(content.source->GetSource(), entry.row);
+    });
+    if (selected == entries_.end()) return forward ? 0 : count - 1;
+    const auto at = static_cast<std::uint32_t>(selected - entries_.begin());
+    const auto hit = forward ? std::upper_bound(hits_.begin(), hits_.end(), at)
+                             : std::lower_bound(hits_.begin(), hits_.end(), at);
+    const std::size_t step = forward ? 1 : count - 1;
+    std::size_t next = (static_cast<std::size_t>(hit - hits_.begin()) + (forward ? 0 : count - 1)) % count;
+    for (std::size_t tries = 1; tries < count && view.Selected().IsSelected(Item(next)); ++tries) {
+        next = (next + step) % count;
+    }
+    return next;
+}
+
 std::size_t RowFinder::Next(bool forward, const View& view) {
     const std::size_t count = hits_.size();
-    std::size_t next = forward ? 0 : count - 1;
-    if (hasLast_ && view.Selected().IsSelected(Item(last_))) {
-        next = (last_ + (forward ? 1 : count - 1)) % count;
-    } else {
-        const auto selected = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) {
-            const RowContent& content = contents_[entry.content];
-            return content.kind == RowKind::Item &&
-                   view.Selected().IsSelected(content.source->GetSource(), entry.row);
-        });
-        const auto at = static_cast<std::uint32_t>(selected - entries_.begin());
-        const auto after = std::upper_bound(hits_.begin(), hits_.end(), at);
-        const auto from = std::lower_bound(hits_.begin(), hits_.end(), at);
-        if (selected != entries_.end()) {
-            next = static_cast<std::size_t>((forward ? after : from) - hits_.begin()) +
-                   (forward ? 0 : count - 1);
-            next %= count;
-        }
-    }
-    last_ = next;
+    const bool goesOn = hasLast_ && view.Selected().IsSelected(Item(last_));
+    last_ = goesOn ? (last_ + (forward ? 1 : count - 1)) % count : NextToSelected(forward, view);
     hasLast_ = true;
-    return next;
+    return last_;
 }
 
 } // namespace znhost

@@ -63,6 +63,7 @@ private:
         std::pair<const RowSource*, std::int64_t> item{nullptr, 0};
     };
 
+    std::size_t NextToSelected(bool forward, const View& view) const;
     bool Prepare(const View& view);
     bool ConditionsFor(RowSource& source, std::vector<RowCondition>& conditions) const;
     void Walk();
