@@ -43,4 +43,27 @@ std::string ValueText(const znVariant& value) {
     }
 }
 
+namespace {
+
+template <class Number>
+bool ReadWhole(const std::string& text, Number& number) {
+    const char* const end = text.data() + text.size();
+    const auto [last, code] = std::from_chars(text.data(), end, number);
+    return code == std::errc() && last == end;
+}
+
+} // namespace
+
+znVariant ReadValue(const std::string& text, ZNBROWSER_DATA_TYPE type) {
+    std::int64_t whole = 0;
+    double real = 0;
+    int truth = 0;
+    const bool isWhole = type == ZNBROWSER_DATA_INT || type == ZNBROWSER_DATA_UNSIGNED;
+    if (isWhole && ReadWhole(text, whole)) return whole;
+    if ((isWhole || type == ZNBROWSER_DATA_DOUBLE) && ReadWhole(text, real)) return real;
+    if (type == ZNBROWSER_DATA_BOOL && Tcl_GetBoolean(nullptr, text.c_str(), &truth) == TCL_OK)
+        return truth != 0;
+    return znString(text);
+}
+
 } // namespace znhost

@@ -4,6 +4,8 @@
 
 #include "host/znutl/znVariant.h"
 
+#include "znBrowserTypes.h"
+
 #include <string>
 
 namespace znhost {
@@ -17,6 +19,8 @@ bool IsTrue(const znVariant& value);
 /// Booleans as "true" and "false", real numbers so that they read back as the same.
 std::string ValueText(const znVariant& value);
 std::string ValueText(double number);
+/// The value of that type that a text stands for; the text itself where it is none.
+znVariant ReadValue(const std::string& text, ZNBROWSER_DATA_TYPE type);
 
 } // namespace znhost
 

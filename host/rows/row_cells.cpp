@@ -18,82 +18,97 @@ std::string RowCell::Text() const {
     return text;
 }
 
-std::vector<RowCell> RowCells::Read(const RowContent& block, std::int64_t row) {
-    const std::shared_ptr<const Layouts> layouts =
-        LayoutsOf(block); // held: a scripted value may change the view
-    std::vector<RowCell> cells;
-    for (const Layout& layout : *layouts) {
-        if (layout.column->IsShown()) cells.push_back(ReadCell(layout, block, row));
+std::vector<ItemCells> RowCells::Read(const RowContent& block, const std::vector<std::int64_t>& rows,
+                                      const std::function<bool()>& isStopped) {
+    const std::shared_ptr<const Layout> layout = LayoutOf(block);
+    std::vector<std::optional<std::string>> texts;
+    block.source->ReadTexts(rows, layout->stored, texts);
+    std::vector<ItemCells> items;
+    for (std::size_t i = 0; i < rows.size() && !isStopped(); ++i) {
+        const Item item{block, rows[i], texts.data() + i * layout->stored.size(), isStopped};
+        items.emplace_back();
+        for (const ColumnLayout& column : layout->columns) {
+            RowCell cell = ReadCell(column, item);
+            if (column.column->Kind() == ColumnKind::BuiltIn) items.back().name = cell.Text();
+            if (column.column->IsShown()) items.back().cells.push_back(std::move(cell));
+        }
     }
-    return cells;
+    return items;
 }
 
-std::string RowCells::Name(const RowContent& block, std::int64_t row) {
-    const std::shared_ptr<const Layouts> layouts = LayoutsOf(block);
-    for (const Layout& layout : *layouts) {
-        if (layout.column->Kind() == ColumnKind::BuiltIn) return ReadCell(layout, block, row).Text();
-    }
-    return {};
-}
+// ---- What is looked up
+// --------------------------------------------------------------------------------------
 
-std::shared_ptr<const RowCells::Layouts> RowCells::LayoutsOf(const RowContent& block) {
-    std::shared_ptr<const Layouts>& known = layouts_[{block.folder.get(), block.source}];
+std::shared_ptr<const RowCells::Layout> RowCells::LayoutOf(const RowContent& block) {
+    std::shared_ptr<const Layout>& known = layouts_[{block.folder.get(), block.source}];
     if (!known) {
-        const auto layouts = std::make_shared<Layouts>();
-        for (const std::shared_ptr<Column>& column : view_.Columns())
-            layouts->push_back(MakeLayout(column, block));
-        known = layouts;
+        const auto layout = std::make_shared<Layout>();
+        for (const std::shared_ptr<Column>& column : view_.Columns()) {
+            if (column->IsShown() || column->Kind() == ColumnKind::BuiltIn) AddColumn(column, block, *layout);
+        }
+        known = layout;
     }
     return known;
 }
 
-RowCells::Layout RowCells::MakeLayout(const std::shared_ptr<Column>& column, const RowContent& block) const {
-    Layout layout;
-    layout.column = column;
+void RowCells::AddColumn(const std::shared_ptr<Column>& column, const RowContent& block,
+                         Layout& layout) const {
+    ColumnLayout made;
+    made.column = column;
     const Style* const style = block.folder->ItemStyleIn(*column, block.source->GetSource());
-    ViewProperty* property = nullptr;
+    ViewProperty* property = plan_.PropertyOf(*column, style);
     if (style) {
         for (const std::shared_ptr<StyleElement>& element : style->Elements()) {
             // An element that has only a map shows the property before it.
             if (ViewProperty* const own = view_.Properties().Find(element->PropertyName())) property = own;
-            if (!property) property = plan_.PropertyOf(*column, style);
-            if (property) layout.elements.push_back(MakeElement(property, element.get(), block));
+            if (property) made.elements.push_back(MakeElement(*property, element.get(), block, layout));
         }
     }
-    if (layout.elements.empty()) property = plan_.PropertyOf(*column, style);
-    if (layout.elements.empty() && property) layout.elements.push_back(MakeElement(property, nullptr, block));
-    return layout;
+    if (made.elements.empty() && property)
+        made.elements.push_back(MakeElement(*property, nullptr, block, layout));
+    if (made.elements.empty() && column->Kind() == ColumnKind::BuiltIn) {
+        made.text = layout.stored.size();
+        layout.stored.push_back(nullptr);
+    }
+    layout.columns.push_back(std::move(made));
 }
 
-RowCells::Element RowCells::MakeElement(ViewProperty* property, const StyleElement* element,
-                                        const RowContent& block) const {
+RowCells::Element RowCells::MakeElement(ViewProperty& property, const StyleElement* element,
+                                        const RowContent& block, Layout& layout) const {
     Element made;
-    made.property = property->DataProperty(block.source->GetSource());
-    made.isBoolean = property->Type() == ZNBROWSER_DATA_BOOL;
+    made.property = property.shared_from_this();
+    if (znIBrowserDataProperty* const data = property.DataProperty(block.source->GetSource());
+        data && block.source->IsStored(data)) {
+        made.stored = layout.stored.size();
+        layout.stored.push_back(data);
+    }
     if (!element) return made;
     made.name = element->Name();
     made.map = view_.Owner().GuiMaps().Share(element->MapName());
     return made;
 }
 
-RowCell RowCells::ReadCell(const Layout& layout, const RowContent& block, std::int64_t row) const {
+// ---- What is read
+// -------------------------------------------------------------------------------------------
+
+RowCell RowCells::ReadCell(const ColumnLayout& column, const Item& item) {
     RowCell cell;
-    cell.column = layout.column.get();
-    for (const Element& element : layout.elements) {
+    cell.column = column.column.get();
+    for (const Element& element : column.elements) {
         CellElement shown;
-        if (ReadElement(element, block, row, shown)) cell.elements.push_back(std::move(shown));
+        if (ReadElement(element, item, shown)) cell.elements.push_back(std::move(shown));
     }
-    if (!layout.elements.empty()) return cell;
+    if (!column.elements.empty()) return cell;
     CellElement shown;
-    switch (layout.column->Kind()) {
-    case ColumnKind::BuiltIn: block.source->GetText(row, shown.text); break;
+    switch (column.column->Kind()) {
+    case ColumnKind::BuiltIn: shown.text = item.texts[column.text].value_or(""); break;
     case ColumnKind::Icon:
         shown.kind = CellElement::Icon;
-        shown.text = layout.column->Icon();
+        shown.text = column.column->Icon();
         break;
     case ColumnKind::Button:
         shown.kind = CellElement::Button;
-        shown.text = layout.column->Caption();
+        shown.text = column.column->Caption();
         break;
     case ColumnKind::TextBox: break;
     }
@@ -101,15 +116,31 @@ RowCell RowCells::ReadCell(const Layout& layout, const RowContent& block, std::i
     return cell;
 }
 
+/// False when the item has no value. One that is computed is asked for through the view property, which knows
+/// whether there still is something to ask.
+bool RowCells::ReadText(const Element& element, const Item& item, std::string& text) {
+    if (element.stored != computed) {
+        const std::optional<std::string>& stored = item.texts[element.stored];
+        if (stored) text = *stored;
+        return stored.has_value();
+    }
+    if (item.isStopped()) return false;
+    znIBrowserDataSourceSimple* const source = item.block.source->GetSource();
+    znIBrowserDataProperty* const property = element.property->DataProperty(source);
+    znString value;
+    if (!property || !property->GetValueString({source, item.row}, 0, value)) return false;
+    text = value.Str();
+    return true;
+}
+
 /// False when there is nothing to see.
-bool RowCells::ReadElement(const Element& element, const RowContent& block, std::int64_t row,
-                           CellElement& out) {
-    if (!element.property) return false;
-    const znBrowserDataItem item{block.source->GetSource(), row};
+bool RowCells::ReadElement(const Element& element, const Item& item, CellElement& out) {
+    std::string text;
+    if (!ReadText(element, item, text)) return false;
     out.name = element.name;
-    const GuiMapRecord* const record =
-        element.map ? element.map->Find(element.property->GetValue(item)) : nullptr;
-    const GuiMapShows shows = record ? element.map->Shows() : GuiMapShows::Nothing;
+    const ZNBROWSER_DATA_TYPE type = element.property->Type();
+    const GuiMapRecord* const record = element.map ? element.map->Find(ReadValue(text, type)) : nullptr;
+    const GuiMapShows shows = element.map ? element.map->Shows() : GuiMapShows::Nothing;
     if (record && shows != GuiMapShows::Colour) {
         out.text = record->value;
         if (shows == GuiMapShows::Icon)
@@ -117,18 +148,13 @@ bool RowCells::ReadElement(const Element& element, const RowContent& block, std:
         if (shows == GuiMapShows::Button) out.kind = CellElement::Button;
         return true;
     }
-    if (element.map && !record && element.map->Shows() == GuiMapShows::Icon) return false;
+    if (!record && shows == GuiMapShows::Icon) return false;
     if (record) out.colour = record->value;
-    if (element.isBoolean && !element.map) {
-        const znVariant value = element.property->GetValue(item);
-        if (value.GetType() == znVariant::Undefined) return false;
+    out.text = std::move(text);
+    if (type == ZNBROWSER_DATA_BOOL && !element.map) {
         out.kind = CellElement::CheckBox;
-        out.text = IsTrue(value) ? "true" : "false";
-        return true;
+        out.text = IsTrue(ReadValue(out.text, type)) ? "true" : "false";
     }
-    znString value;
-    if (!element.property->GetValueString(item, 0, value)) return false;
-    out.text = value.Str();
     return true;
 }
 

@@ -4,8 +4,10 @@
 
 #include "rows/row_plan.h"
 
+#include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -36,47 +38,66 @@ struct RowCell {
     std::string Text() const;
 };
 
-/// Reads the cells of items: column, style, elements, view properties, data properties and GUI maps are
-/// looked up once for each kind of item, so that a cell costs no more than its values.
+/// What an item shows: its name, which is its cell in the built-in column, and the cells of the shown
+/// columns.
+struct ItemCells {
+    std::string name;
+    std::vector<RowCell> cells;
+};
+
+/// Reads the cells of items. Column, style, elements, view properties, data properties and GUI maps are
+/// looked up once for each kind of item, and what stands in the database is read with one look at each item.
 class RowCells {
 public:
     RowCells(View& view, const RowPlan& plan) : view_(view), plan_(plan) {}
 
-    /// Forgets what was looked up: something in the view changed.
+    /// Forgets what was looked up: something in the view may have changed.
     void Forget() { layouts_.clear(); }
-    /// The cells of the shown columns, in their order.
-    std::vector<RowCell> Read(const RowContent& block, std::int64_t row);
-    /// What the item is called: its cell in the built-in column.
-    std::string Name(const RowContent& block, std::int64_t row);
+    /// What these items of the block show. Values may come from scripts that delete anything: `isStopped`
+    /// tells when no more is to be read, and fewer items are given then.
+    std::vector<ItemCells> Read(const RowContent& block, const std::vector<std::int64_t>& rows,
+                                const std::function<bool()>& isStopped);
 
     /// The view property of an element, by its name; with an unknown one, the property that the column shows.
     /// Null when there is none.
     ViewProperty* PropertyOf(const RowContent& block, const Column& column, const std::string& element) const;
 
 private:
+    static constexpr std::size_t computed = static_cast<std::size_t>(-1);
+
     struct Element {
         std::string name;
-        znIBrowserDataProperty* property = nullptr;
-        bool isBoolean = false;
+        std::shared_ptr<ViewProperty> property;
         std::shared_ptr<GuiMap> map;
+        std::size_t stored = computed; ///< its place among the stored properties
+    };
+    struct ColumnLayout {
+        std::shared_ptr<Column> column;
+        std::vector<Element> elements; ///< none: what the column always shows
+        std::size_t text = computed;   ///< the place of the item's text, where that is shown
     };
     struct Layout {
-        std::shared_ptr<Column> column;
-        std::vector<Element>
-            elements; ///< none: the item's text in the built-in column, else what the column always shows
+        std::vector<ColumnLayout> columns;
+        std::vector<znIBrowserDataProperty*> stored;
     };
-    using Layouts = std::vector<Layout>;
+    struct Item {
+        const RowContent& block;
+        std::int64_t row;
+        const std::optional<std::string>* texts; ///< of the stored properties
+        const std::function<bool()>& isStopped;
+    };
 
-    std::shared_ptr<const Layouts> LayoutsOf(const RowContent& block);
-    Layout MakeLayout(const std::shared_ptr<Column>& column, const RowContent& block) const;
-    Element MakeElement(ViewProperty* property, const StyleElement* element, const RowContent& block) const;
-    RowCell ReadCell(const Layout& layout, const RowContent& block, std::int64_t row) const;
-    static bool ReadElement(const Element& element, const RowContent& block, std::int64_t row,
-                            CellElement& out);
+    std::shared_ptr<const Layout> LayoutOf(const RowContent& block);
+    void AddColumn(const std::shared_ptr<Column>& column, const RowContent& block, Layout& layout) const;
+    Element MakeElement(ViewProperty& property, const StyleElement* element, const RowContent& block,
+                        Layout& layout) const;
+    static RowCell ReadCell(const ColumnLayout& column, const Item& item);
+    static bool ReadElement(const Element& element, const Item& item, CellElement& out);
+    static bool ReadText(const Element& element, const Item& item, std::string& text);
 
     View& view_;
     const RowPlan& plan_;
-    std::map<std::pair<const FreeFolder*, const RowSource*>, std::shared_ptr<const Layouts>> layouts_;
+    std::map<std::pair<const FreeFolder*, const RowSource*>, std::shared_ptr<const Layout>> layouts_;
 };
 
 } // namespace znhost

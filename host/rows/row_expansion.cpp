@@ -66,9 +66,9 @@ void RowModel::ExpandAsCreated(RowNode& node, int depth, std::vector<std::pair<R
         const int own = goesOn ? 0 : content.folder->CreateExpandedDepth(content.source->GetSource());
         const int left = std::max(own, depth);
         if (left <= 0) continue;
-        for (std::uint32_t i = 0; i < part.block->rows.size(); ++i) {
-            const Row row = RowTree::ItemAt(*part.block, i);
-            if (HasRows(row)) open.emplace_back(&tree_.NodeOf(row), left - 1);
+        const std::vector<bool> have = plan_.HaveRows(content, part.block->rows);
+        for (std::uint32_t i = 0; i < have.size(); ++i) {
+            if (have[i]) open.emplace_back(&tree_.NodeOf(RowTree::ItemAt(*part.block, i)), left - 1);
         }
     }
 }
@@ -134,10 +134,11 @@ void RowModel::ExpandBelow(RowNode& top) {
                 open.push_back({part.node.get(), false});
                 continue;
             }
-            for (std::uint32_t i = 0; i < part.block->rows.size(); ++i) {
-                const Row row = RowTree::ItemAt(*part.block, i);
-                const Item item{part.block->content.source, row.Number()};
-                if (!way.count(item) && HasRows(row)) open.push_back({&tree_.NodeOf(row), false});
+            const std::vector<bool> have = plan_.HaveRows(part.block->content, part.block->rows);
+            for (std::uint32_t i = 0; i < have.size(); ++i) {
+                const Item item{part.block->content.source, part.block->rows[i]};
+                if (!have[i] || way.count(item)) continue;
+                open.push_back({&tree_.NodeOf(RowTree::ItemAt(*part.block, i)), false});
             }
         }
     }

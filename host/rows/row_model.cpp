@@ -7,6 +7,7 @@
 #include "model/view.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace znhost {
 
@@ -104,29 +105,26 @@ std::int64_t RowModel::Count() {
 
 std::vector<RowLook> RowModel::Read(std::int64_t first, std::int64_t count) {
     const Answering answering(*this);
-    std::vector<RowLook> looks;
-    if (first < 0 || first >= tree_.Count()) return looks;
-    for (Row row = tree_.At(first); row && count > 0 && !stopped_; row = tree_.Next(row), --count) {
-        looks.push_back(Look(row));
-    }
-    return looks;
+    std::vector<Row> rows;
+    if (first < 0 || first >= tree_.Count()) return {};
+    for (Row row = tree_.At(first); row && count > 0; row = tree_.Next(row), --count) rows.push_back(row);
+    return LooksOf(rows);
 }
 
 std::vector<RowLook> RowModel::ReadBelow(std::uint32_t index, std::int64_t first, std::int64_t count) {
     const Answering answering(*this);
-    std::vector<RowLook> looks;
+    std::vector<Row> rows;
     const Row above = index == RowChange::root ? Row{&tree_.Root(), nullptr, 0} : tree_.Find(index);
-    if (!above.node || first < 0) return looks;
+    if (!above.node || first < 0) return {};
     for (const TreePart& part : above.node->parts) {
         const auto size = part.node ? std::int64_t{1} : static_cast<std::int64_t>(part.block->rows.size());
-        for (; first < size && count > 0 && !stopped_; ++first, --count) {
-            looks.push_back(Look(part.node
-                                     ? RowTree::RowOf(*part.node)
-                                     : RowTree::ItemAt(*part.block, static_cast<std::uint32_t>(first))));
+        for (; first < size && count > 0; ++first, --count) {
+            rows.push_back(part.node ? RowTree::RowOf(*part.node)
+                                     : RowTree::ItemAt(*part.block, static_cast<std::uint32_t>(first)));
         }
         first = std::max<std::int64_t>(first - size, 0);
     }
-    return looks;
+    return LooksOf(rows);
 }
 
 bool RowModel::Has(std::uint32_t index) { return HasAll({index}); }
@@ -177,23 +175,45 @@ bool RowModel::IsSelected(const Row& row) const {
     return selectedContainers_.count(row.Index()) != 0;
 }
 
-RowLook RowModel::Look(const Row& row) {
-    RowLook look = row.IsItem() ? RowLook() : LookOf(row.Content());
-    look.index = row.Index();
-    if (const Row above = RowTree::RowOf(row.Owner())) look.parent = above.Index();
-    look.depth = row.Depth();
-    look.expanded = row.IsExpanded();
-    look.selected = IsSelected(row);
-    look.hasRows = look.expanded || HasRows(row);
-    if (!row.IsItem()) return look;
-    const RowContent content = row.Content();
-    const std::int64_t number = row.Number();
-    look.cells = cells_.Read(content, number);
-    const auto name = std::find_if(look.cells.begin(), look.cells.end(), [](const RowCell& cell) {
-        return cell.column->Kind() == ColumnKind::BuiltIn;
-    });
-    look.text = name != look.cells.end() ? name->Text() : cells_.Name(content, number);
-    return look;
+/// How the rows look, those of each block at once. Fewer when the work had to be given up.
+std::vector<RowLook> RowModel::LooksOf(const std::vector<Row>& rows) {
+    std::vector<RowLook> looks(rows.size());
+    std::unordered_map<const RowBlock*, std::vector<std::size_t>> places;
+    if (!view_) return {};
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const Row& row = rows[i];
+        if (row.IsItem()) {
+            places[row.block].push_back(i);
+        } else {
+            looks[i] = LookOf(row.Content());
+            looks[i].hasRows = row.IsExpanded() || plan_.HasRows(row.Content());
+        }
+        looks[i].index = row.Index();
+        if (const Row above = RowTree::RowOf(row.Owner())) looks[i].parent = above.Index();
+        looks[i].depth = row.Depth();
+        looks[i].expanded = row.IsExpanded();
+        looks[i].selected = IsSelected(row);
+    }
+    for (const auto& [block, inBlock] : places) {
+        if (!stopped_) LookAtItems(*block, inBlock, rows, looks);
+    }
+    if (stopped_) looks.clear();
+    return looks;
+}
+
+void RowModel::LookAtItems(const RowBlock& block, const std::vector<std::size_t>& places,
+                           const std::vector<Row>& rows, std::vector<RowLook>& looks) {
+    std::vector<std::int64_t> numbers;
+    numbers.reserve(places.size());
+    for (const std::size_t place : places) numbers.push_back(rows[place].Number());
+    const std::vector<bool> have = plan_.HaveRows(block.content, numbers);
+    std::vector<ItemCells> items = cells_.Read(block.content, numbers, [this] { return stopped_; });
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        RowLook& look = looks[places[i]];
+        look.hasRows = look.expanded || have[i];
+        look.text = std::move(items[i].name);
+        look.cells = std::move(items[i].cells);
+    }
 }
 
 /// What a container shows of itself.

@@ -169,7 +169,9 @@ private:
 
     void TakeOver();
     void Deliver();
-    RowLook Look(const Row& row);
+    std::vector<RowLook> LooksOf(const std::vector<Row>& rows);
+    void LookAtItems(const RowBlock& block, const std::vector<std::size_t>& places,
+                     const std::vector<Row>& rows, std::vector<RowLook>& looks);
     RowLook LookOf(const RowContent& container) const;
     bool HasRows(const Row& row) const;
     bool IsSelected(const Row& row) const;

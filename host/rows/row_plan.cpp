@@ -244,11 +244,18 @@ bool RowPlan::HasRows(const RowContent& block, const RowLink& link, std::int64_t
     return filter ? filter->KeepsBelow(link, row) : link.child->HasChildren(link, row);
 }
 
-bool RowPlan::HasRows(const RowContent& block, std::int64_t row) const {
-    const std::vector<RowLink>& links = block.scope->links;
-    return std::any_of(links.begin(), links.end(), [&](const RowLink& link) {
-        return link.parent == block.source && HasRows(block, link, row);
-    });
+std::vector<bool> RowPlan::HaveRows(const RowContent& block, const std::vector<std::int64_t>& rows) const {
+    std::vector<bool> have(rows.size(), false);
+    const RowFilter* const filter = block.scope->filter.get();
+    for (const RowLink& link : block.scope->links) {
+        if (link.parent != block.source) continue;
+        std::vector<bool> along;
+        if (!filter) link.child->HaveChildren(link, rows, along);
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            if (filter ? filter->KeepsBelow(link, rows[i]) : along[i]) have[i] = true;
+        }
+    }
+    return have;
 }
 
 std::int64_t RowPlan::Count(const RowContent& container) const {

@@ -47,7 +47,8 @@ public:
 
     // Whether there is anything below, and how many rows directly below.
     bool HasRows(const RowContent& container) const;
-    bool HasRows(const RowContent& block, std::int64_t row) const;
+    bool HasRows(const RowContent& block, std::int64_t row) const { return HaveRows(block, {row})[0]; }
+    std::vector<bool> HaveRows(const RowContent& block, const std::vector<std::int64_t>& rows) const;
     std::int64_t Count(const RowContent& container) const;
     std::int64_t Count(const RowContent& block, std::int64_t row) const;
 

@@ -24,6 +24,7 @@ class DataProperty : public znIBrowserDataProperty,
                      public std::enable_shared_from_this<DataProperty> {
 public:
     const std::string& Name() const { return name_; }
+    SimpleSource& Owner() const { return owner_; }
     virtual ZNBROWSER_DATA_TYPE Type() const = 0;
     /// The column of that table which holds the values; none: the table has no values of the property.
     virtual std::optional<std::size_t> ColumnIn(const Table& table) const = 0;

@@ -140,6 +140,16 @@ bool LinkReader::RelatedByIndex(LinkEnd end, std::int64_t other, Rows& rows) {
     return true;
 }
 
+/// The rows at that end that are linked to the row `?` at the other end.
+std::string LinkReader::RelatedSql(const LinkJoint& joint, LinkEnd end) const {
+    const LinkEnd otherEnd = Opposite(end);
+    const RowPart& from = joint.part[otherEnd];
+    const RowPart& to = joint.part[end];
+    return to.Select({}, Operand(joint.columns[end]) + " = (SELECT " + Columns(joint.columns[otherEnd]) +
+                             " FROM " + from.From() + " WHERE " + from.table->key + " = ?)") +
+           " ORDER BY " + to.table->key;
+}
+
 bool LinkReader::RelatedBySql(LinkEnd end, std::int64_t other, Rows& rows, bool firstOnly) {
     const LinkEnd otherEnd = Opposite(end);
     const RowPlace place = source_[otherEnd]->PlaceOf(other);
@@ -148,10 +158,7 @@ bool LinkReader::RelatedBySql(LinkEnd end, std::int64_t other, Rows& rows, bool 
         const RowPart& from = joint.part[otherEnd];
         const RowPart& to = joint.part[end];
         if (from.slot != place.slot) continue;
-        Statement statement = control.Db().Prepare(
-            to.Select({}, Operand(joint.columns[end]) + " = (SELECT " + Columns(joint.columns[otherEnd]) +
-                              " FROM " + from.From() + " WHERE " + from.table->key + " = ?)") +
-            " ORDER BY " + to.table->key);
+        Statement statement = control.Db().Prepare(RelatedSql(joint, end));
         statement.Bind(to.Bind(statement), place.row);
         while (statement.Next()) {
             rows.push_back(source_[end]->RowOf({to.slot, statement.Integer(0)}));
@@ -171,6 +178,29 @@ bool LinkReader::Related(LinkEnd end, std::int64_t other, Rows& rows, bool first
 bool LinkReader::HasChildren(std::int64_t parent) {
     Rows rows;
     return Related(LINK_CHILD, parent, rows, true) && !rows.empty();
+}
+
+bool LinkReader::HaveChildren(const Rows& parents, std::vector<bool>& have) {
+    have.assign(parents.size(), false);
+    if (NeedsIndex(LINK_CHILD)) {
+        for (std::size_t i = 0; i < parents.size(); ++i) have[i] = HasChildren(parents[i]);
+        return true;
+    }
+    for (const LinkJoint& joint : joints_) {
+        const RowPart& children = joint.part[LINK_CHILD];
+        Statement statement = source_[LINK_CHILD]->Control().Db().Prepare(RelatedSql(joint, LINK_CHILD));
+        const int parameter = children.Bind(statement);
+        for (std::size_t i = 0; i < parents.size(); ++i) {
+            const RowPlace place = source_[LINK_PARENT]->PlaceOf(parents[i]);
+            if (have[i] || place.slot != joint.part[LINK_PARENT].slot) continue;
+            statement.Bind(parameter, place.row);
+            have[i] = statement.Next();
+            statement.Rewind();
+        }
+        std::string error;
+        if (!statement.Finish(error)) return source_[LINK_CHILD]->FailWith(error);
+    }
+    return true;
 }
 
 bool LinkReader::RelatedToAny(LinkEnd end, const Rows& others, Rows& rows) {

@@ -34,6 +34,8 @@ public:
     /// The rows below one row, in the order of the source.
     bool Children(std::int64_t parent, Rows& rows) { return Related(LINK_CHILD, parent, rows, false); }
     bool HasChildren(std::int64_t parent);
+    /// An answer for each: `HasChildren`, with one statement for all.
+    bool HaveChildren(const Rows& parents, std::vector<bool>& have);
     /// The rows at that end that are linked to one of `others` at the other end; each once, in any order.
     bool RelatedToAny(LinkEnd end, const Rows& others, Rows& rows);
 
@@ -46,6 +48,7 @@ private:
     bool Related(LinkEnd end, std::int64_t other, Rows& rows, bool firstOnly);
     bool RelatedByIndex(LinkEnd end, std::int64_t other, Rows& rows);
     bool RelatedBySql(LinkEnd end, std::int64_t other, Rows& rows, bool firstOnly);
+    std::string RelatedSql(const LinkJoint& joint, LinkEnd end) const;
     bool NeedsIndex(LinkEnd end) const;
     /// Calls `visit(parent, child)` for each pair of linked rows.
     template <class Visit>

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -87,6 +88,9 @@ public:
     /// index, or from a structure of the store's own where the table has none; the user's database is never
     /// changed.
     virtual bool HasChildren(const RowLink& link, std::int64_t parent) = 0;
+    /// `HasChildren` for many items at once: replaces what `have` holds by an answer for each.
+    virtual void HaveChildren(const RowLink& link, const std::vector<std::int64_t>& parents,
+                              std::vector<bool>& have) = 0;
     /// Replaces what `parents` holds by the rows of the link's parent source that have one of `children`
     /// (rows of this source) below them; in any order, each once.
     virtual void Parents(const RowLink& link, const std::vector<std::int64_t>& children,
@@ -97,6 +101,15 @@ public:
     /// The item's text: what the built-in column "Name" shows of it (the display column of the table: its
     /// "name" column, else its first text column, else its row number). False when there is no such row.
     virtual bool GetText(std::int64_t row, std::string& text) = 0;
+    /// Whether the values of the property stand in the database; else something computes them, and may do
+    /// anything meanwhile. The item's text (null) does.
+    virtual bool IsStored(znIBrowserDataProperty* property) = 0;
+    /// Replaces what `texts` holds by the values of stored properties, row by row, as `GetValueString` and
+    /// `GetText` give them, and none where an item has no value: a page of a window, with one look at each
+    /// row.
+    virtual void ReadTexts(const std::vector<std::int64_t>& rows,
+                           const std::vector<znIBrowserDataProperty*>& properties,
+                           std::vector<std::optional<std::string>>& texts) = 0;
 
     /// Writes a boolean value, in a transaction. False with the reason in `error` when the property is not a
     /// column of a table (scripted, a column of a database view, ...) or the database refuses.

@@ -86,10 +86,16 @@ public:
     void List(const RowQuery& query, std::vector<std::int64_t>& rows) override;
     std::int64_t Count(const RowQuery& query) override;
     bool HasChildren(const RowLink& link, std::int64_t parent) override;
+    void HaveChildren(const RowLink& link, const std::vector<std::int64_t>& parents,
+                      std::vector<bool>& have) override;
     void Parents(const RowLink& link, const std::vector<std::int64_t>& children,
                  std::vector<std::int64_t>& parents) override;
     bool HasRow(std::int64_t row) override;
     bool GetText(std::int64_t row, std::string& text) override;
+    bool IsStored(znIBrowserDataProperty* property) override;
+    void ReadTexts(const std::vector<std::int64_t>& rows,
+                   const std::vector<znIBrowserDataProperty*>& properties,
+                   std::vector<std::optional<std::string>>& texts) override;
     bool WriteBoolean(znIBrowserDataProperty& property, std::int64_t row, bool value,
                       std::string& error) override;
     bool MoveBelow(const RowLink& link, const std::vector<std::int64_t>& rows, std::int64_t parent,

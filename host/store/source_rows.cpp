@@ -1,6 +1,7 @@
 // The rows of a simple data source: listed, counted, linked, named.
 #include "host/znBrowserDataItems.h"
 #include "store/data_ctrl.h"
+#include "store/data_property.h"
 #include "store/link_reader.h"
 #include "store/row_lister.h"
 #include "store/simple_source.h"
@@ -38,6 +39,11 @@ bool SimpleSource::HasChildren(const RowLink& link, std::int64_t parent) {
     return LinkReader(link).HasChildren(parent);
 }
 
+void SimpleSource::HaveChildren(const RowLink& link, const std::vector<std::int64_t>& parents,
+                                std::vector<bool>& have) {
+    LinkReader(link).HaveChildren(parents, have);
+}
+
 void SimpleSource::Parents(const RowLink& link, const std::vector<std::int64_t>& children,
                            std::vector<std::int64_t>& parents) {
     parents.clear();
@@ -64,6 +70,51 @@ bool SimpleSource::GetText(std::int64_t row, std::string& text) {
     const Table& table = *base->Table();
     return ReadColumn(place, table.displayColumn.value_or(table.columns.size()),
                       [&text](Statement& statement) { text = statement.Text(0); });
+}
+
+bool SimpleSource::IsStored(znIBrowserDataProperty* property) {
+    const ColumnProperty* const column = dynamic_cast<ColumnProperty*>(property);
+    return !property || (column && &column->Owner() == this);
+}
+
+namespace {
+
+/// What a stored property reads from the table; NULL when that has no such column.
+std::string ColumnSql(const Table& table, znIBrowserDataProperty* property) {
+    if (!property && !table.displayColumn) return table.key;
+    const auto column =
+        property ? static_cast<DataProperty*>(property)->ColumnIn(table) : table.displayColumn;
+    return column ? Database::Quoted(table.columns[*column].name) : "NULL";
+}
+
+} // namespace
+
+void SimpleSource::ReadTexts(const std::vector<std::int64_t>& rows,
+                             const std::vector<znIBrowserDataProperty*>& properties,
+                             std::vector<std::optional<std::string>>& texts) {
+    texts.assign(rows.size() * properties.size(), std::nullopt);
+    if (properties.empty()) return;
+    for (const RowPart& part : Parts()) {
+        std::string columns;
+        for (znIBrowserDataProperty* const property : properties) {
+            columns += (columns.empty() ? "" : ", ") + ColumnSql(*part.table, property);
+        }
+        Statement statement = control_.Db().Prepare("SELECT " + columns + " FROM " + part.table->rows +
+                                                    " WHERE " + part.table->key + " = ?");
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            const RowPlace place = PlaceOf(rows[i]);
+            if (place.slot != part.slot) continue;
+            statement.Bind(1, place.row);
+            const bool found = statement.Next();
+            for (std::size_t j = 0; found && j < properties.size(); ++j) {
+                const int column = static_cast<int>(j);
+                if (!statement.IsNull(column)) texts[i * properties.size() + j] = statement.Text(column);
+            }
+            statement.Rewind();
+        }
+        std::string error;
+        if (!statement.Finish(error)) FailWith(error);
+    }
 }
 
 void SimpleSource::GetDataItems(znBrowserDataItems& items) {
