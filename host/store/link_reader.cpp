@@ -140,14 +140,19 @@ bool LinkReader::RelatedByIndex(LinkEnd end, std::int64_t other, Rows& rows) {
     return true;
 }
 
-/// The rows at that end that are linked to the row `?` at the other end.
+/// The rows at that end that are linked to the row `?` at the other end. Where the row number itself is what
+/// they refer to, the row need not be looked at.
 std::string LinkReader::RelatedSql(const LinkJoint& joint, LinkEnd end) const {
     const LinkEnd otherEnd = Opposite(end);
     const RowPart& from = joint.part[otherEnd];
     const RowPart& to = joint.part[end];
-    return to.Select({}, Operand(joint.columns[end]) + " = (SELECT " + Columns(joint.columns[otherEnd]) +
-                             " FROM " + from.From() + " WHERE " + from.table->key + " = ?)") +
-           " ORDER BY " + to.table->key;
+    const std::vector<std::string>& columns = joint.columns[otherEnd];
+    const bool isRowNumber = from.table->rowidColumn && columns.size() == 1 &&
+                             from.table->FindColumn(columns.front()) == from.table->rowidColumn;
+    const std::string value =
+        "(SELECT " + Columns(columns) + " FROM " + from.From() + " WHERE " + from.table->key + " = ?)";
+    return to.Select({}, Operand(joint.columns[end]) + " = " + (isRowNumber ? "?" : value)) + " ORDER BY " +
+           to.table->key;
 }
 
 bool LinkReader::RelatedBySql(LinkEnd end, std::int64_t other, Rows& rows, bool firstOnly) {

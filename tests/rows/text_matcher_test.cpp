@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+#include <string>
+
 namespace znhost {
 namespace {
 
@@ -11,6 +14,10 @@ struct Case {
     const char* options; ///< letters: c match case, w match word, r regular expression, g glob
     bool matches;
 };
+
+void PrintTo(const Case& shown, std::ostream* out) {
+    *out << '"' << shown.pattern << "\" in \"" << shown.text << '"';
+}
 
 class Matching : public ::testing::TestWithParam<Case> {};
 
