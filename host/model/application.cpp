@@ -24,6 +24,20 @@ private:
     const Tcl_InterpState state_;
 };
 
+/// A list of the words, in the form in which it stands between double quotes: nothing in it is substituted.
+std::string QuotedList(const std::vector<std::string>& words) {
+    std::vector<const char*> texts;
+    for (const std::string& word : words) texts.push_back(word.c_str());
+    char* const list = Tcl_Merge(static_cast<int>(texts.size()), texts.data());
+    std::string quoted;
+    for (const char* character = list; *character; ++character) {
+        if (std::string_view("\\\"$[").find(*character) != std::string_view::npos) quoted += '\\';
+        quoted += *character;
+    }
+    Tcl_Free(list);
+    return quoted;
+}
+
 } // namespace
 
 Application::Application(Tcl_Interp* interp, CallLog& log)
@@ -74,6 +88,21 @@ bool Application::CallProcedure(const std::vector<std::string>& words, std::stri
     Tcl_DecrRefCount(command);
     result = Tcl_GetStringResult(interp_);
     return code == TCL_OK;
+}
+
+bool Application::ComputeValue(const std::string& procedure, const std::vector<std::string>& item,
+                               std::string& value) {
+    if (!manager_ || Tcl_InterpDeleted(interp_)) return false;
+    const KeptResult kept(interp_);
+    Tcl_ResetResult(interp_);
+    znString result;
+    const bool computed = manager_->GetStringFromScript(procedure.c_str(), result, QuotedList(item));
+    if (computed) {
+        value = result.Str();
+    } else {
+        Tcl_BackgroundException(interp_, TCL_ERROR);
+    }
+    return computed;
 }
 
 znIBrowserDataCtrl* Application::FindDataCtrl(const char* name) {

@@ -41,6 +41,10 @@ public:
     /// Calls a Tcl procedure: its name and arguments, each a word. `result` receives its result or, when the
     /// answer is false, the error message.
     bool CallProcedure(const std::vector<std::string>& words, std::string& result);
+    /// Calls a Tcl procedure by the manager's script service, with one argument: `item` as a list. An error
+    /// goes to the interpreter's background error handler. @return false, and `value` is as it was, when the
+    /// procedure failed
+    bool ComputeValue(const std::string& procedure, const std::vector<std::string>& item, std::string& value);
 
     znIBrowserDataCtrl* FindDataCtrl(const char* name) override;
     void GetDataCtrls(std::vector<znIBrowserDataCtrl*>& controls) override;

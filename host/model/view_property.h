@@ -27,6 +27,8 @@ public:
     ZNBROWSER_DATA_TYPE GetType() const override;
     znVariant GetValue(const znBrowserDataItem& item) override;
 
+    const ViewProperty& Property() const { return property_; }
+
 private:
     bool Compute(const znBrowserDataItem& item, std::string& value) const;
 

@@ -1,7 +1,7 @@
 #include "store/data_property.h"
 
 #include "host/znBrowserDataItems.h"
-#include "model/script_value.h"
+#include "model/application.h"
 #include "store/base_source.h"
 #include "store/data_ctrl.h"
 
@@ -25,6 +25,18 @@ znVariant VariantOf(ZNBROWSER_DATA_TYPE type, Statement& statement) {
     default: return znVariant(znString(statement.Text(0)));
     }
 }
+
+/// True as long as it lives.
+class Marked {
+public:
+    explicit Marked(bool& mark) : mark_(mark) { mark_ = true; }
+    ~Marked() { mark_ = false; }
+    Marked(const Marked&) = delete;
+    Marked& operator=(const Marked&) = delete;
+
+private:
+    bool& mark_;
+};
 
 } // namespace
 
@@ -104,11 +116,8 @@ bool ScriptedProperty::ReadText(std::int64_t row, std::string& text) {
     if (computing_) return owner_.FailWith("The property \"" + Name() + "\" needs its own values");
     const std::shared_ptr<DataProperty> self = shared_from_this();
     const std::shared_ptr<SimpleSource> owner = owner_.shared_from_this();
-    computing_ = true;
-    const bool computed =
-        CallScript(owner->Control().App(), script_, {base->Name(), std::to_string(place.row)}, text);
-    computing_ = false;
-    return computed;
+    const Marked computing(computing_);
+    return owner->Control().App().ComputeValue(script_, {base->Name(), std::to_string(place.row)}, text);
 }
 
 znVariant ScriptedProperty::ReadVariant(std::int64_t row) {

@@ -6,6 +6,7 @@
 #include "store/data_ctrl.h"
 #include "store/view_items.h"
 
+#include <algorithm>
 #include <charconv>
 #include <set>
 
@@ -39,6 +40,9 @@ private:
     std::set<std::string, std::less<>> texts_;
     std::set<double> numbers_;
 };
+
+/// Whether the source has not been deleted by a script meanwhile.
+bool IsThere(SimpleSource& source) { return source.Control().FindSimple(source.Name()) == &source; }
 
 } // namespace
 
@@ -84,11 +88,18 @@ bool DataSource::Select(znIBrowserView* view, bool select, bool recursive, const
     }
     ViewItems items(*source);
     if (recursive) items.AddBelow(hierarchical_ ? hierarchical_->Links() : LinksOf(owner));
+    std::vector<std::shared_ptr<SimpleSource>> sources;
+    for (SimpleSource* const each : items.Sources()) sources.push_back(each->shared_from_this());
     znBrowserDataItems chosen;
-    for (SimpleSource* const each : items.Sources()) {
+    for (const std::shared_ptr<SimpleSource>& each : sources) {
         RowQuery query;
-        if (!conditions(*each, query.conditions)) continue;
-        for (const std::int64_t row : items.List(*each, query)) chosen.Append(each, row);
+        if (!IsThere(*each) || !conditions(*each, query.conditions)) continue;
+        const std::vector<std::int64_t> rows = items.List(*each, query);
+        for (const std::int64_t row : rows) chosen.Append(each.get(), row);
+    }
+    const auto isGone = [](const auto& each) { return !IsThere(*each); };
+    if (std::any_of(sources.begin(), sources.end(), isGone)) {
+        return Fail("A script deleted the data source whose items were to be selected");
     }
     if (select) {
         owner.Selected().Select(chosen);

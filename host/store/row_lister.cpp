@@ -2,6 +2,7 @@
 
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserDataProperty.h"
+#include "model/view.h"
 #include "store/data_ctrl.h"
 #include "store/link_reader.h"
 
@@ -64,6 +65,16 @@ RowLister::Field::Field(znIBrowserDataProperty* wanted) : property(wanted) {
     computed = !own || own->IsComputed();
     if (!computed) column = own;
     number = own && IsNumber(own->Type());
+    Hold();
+}
+
+void RowLister::Field::Hold() {
+    if (DataProperty* const own = dynamic_cast<DataProperty*>(property)) {
+        holds.push_back(own->shared_from_this());
+    } else if (const ScriptedValue* const script = dynamic_cast<const ScriptedValue*>(property)) {
+        holds.push_back(script->Property().Owner().shared_from_this());
+        holds.push_back(script->Property().shared_from_this());
+    }
 }
 
 std::optional<std::size_t> RowLister::Field::ColumnIn(const Table& table) const {

@@ -26,11 +26,13 @@ private:
     /// A value that the query needs of each row.
     struct Field {
         explicit Field(znIBrowserDataProperty* wanted);
+        void Hold();
 
         znIBrowserDataProperty* property; ///< null: the item's text
         DataProperty* column = nullptr;   ///< the property, when it is one that columns hold
         bool computed = false;
         bool number = false;
+        std::vector<std::shared_ptr<const void>> holds; ///< what scripts may delete while they compute
         /// The column of that table; none: it has no values.
         std::optional<std::size_t> ColumnIn(const Table& table) const;
     };
