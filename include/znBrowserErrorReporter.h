@@ -39,6 +39,10 @@ protected:
     /// Takes over the text of the command that starts, up to its first NUL.
     virtual void SetErrCommand(const znString& command);
 
+    /// The command text itself, so that whoever makes one can build it in place and then hand it to
+    /// `SetErrCommand`.
+    znString& ErrCommand() { return commandText_; }
+
 private:
     bool ok_ = true;
     znString errorText_;

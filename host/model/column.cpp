@@ -59,7 +59,7 @@ const char* Column::GetCaption() const {
 
 bool Column::SetCaption(const char* caption) {
     if (Refused("znIBrowserViewColumn::SetCaption", caption)) return false;
-    caption_ = TextOf(caption);
+    caption_.assign(caption ? caption : "");
     return Changed(VIEW_COLUMNS);
 }
 

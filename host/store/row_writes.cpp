@@ -51,6 +51,10 @@ bool SimpleSource::WriteBoolean(znIBrowserDataProperty& property, std::int64_t r
                                 std::string& error) {
     const RowPlace place = PlaceOf(row);
     const std::vector<RowPart> parts = Parts();
+    if (parts.empty()) { // and why stands in the source's error text
+        error = error_;
+        return false;
+    }
     const RowPart* const part = PartAt(parts, place.slot);
     const DataProperty* const own = dynamic_cast<const DataProperty*>(&property);
     const auto column = part && own ? own->ColumnIn(*part->table) : std::nullopt;

@@ -1,25 +1,13 @@
 #include "frame/call.h"
 
-#include "frame/shared_keywords.h"
-#include "frame/word_text.h"
-
 #include <tcl.h>
 
 Call::Call(znBrowserManagerTcl& callManager, int objc, Tcl_Obj* const objv[])
     : manager(callManager), interp_(callManager.GetTclInterp()), objc_(objc), objv_(objv), code_(TCL_OK) {}
 
-const char* Call::Text(int position) const {
-    return position < objc_ ? WordText(objv_[position]).data() : nullptr;
-}
-
 const char* Call::TextOr(int position, const char* fallback) const {
     const char* const text = Text(position);
     return text ? text : fallback;
-}
-
-Keyword Call::Word(int position) const {
-    if (position >= objc_) return Keyword::Unknown;
-    return SharedKeywords().GetZnBrowserTclApiEnum(WordText(objv_[position]));
 }
 
 bool Call::Integer(int position, int& value) const {

@@ -2,6 +2,8 @@
 #ifndef CALL_H
 #define CALL_H
 
+#include "frame/shared_keywords.h"
+#include "frame/word_text.h"
 #include "znBrowserManagerTcl.h"
 
 #include <string_view>
@@ -28,11 +30,16 @@ public:
     /// Whether there is a word at that position, with a text.
     bool Has(int position) const { return Text(position) != nullptr; }
     /// The word's text; null when there is none.
-    const char* Text(int position) const;
+    const char* Text(int position) const {
+        return position < objc_ ? WordText(objv_[position]).data() : nullptr;
+    }
     /// The word's text, or `fallback` when there is no such word.
     const char* TextOr(int position, const char* fallback) const;
     /// The keyword that the word stands for; unknown when there is no such word.
-    Keyword Word(int position) const;
+    Keyword Word(int position) const {
+        if (position >= objc_) return Keyword::Unknown;
+        return SharedKeywords().GetZnBrowserTclApiEnum(WordText(objv_[position]));
+    }
     bool Is(int position, Keyword keyword) const { return Word(position) == keyword; }
     /// Numbers and booleans as Tcl reads them. @return false when the word is missing or is none, silently.
     bool Integer(int position, int& value) const;

@@ -7,11 +7,14 @@ const CommandRow* CommandLevel::Find(Keyword keyword) const {
     return nullptr;
 }
 
-void RunWord(Call& call, const CommandLevel& level, int position, Keyword keyword) {
-    const CommandRow* const row = level.Find(keyword);
-    if (!row) return call.Answer(*level.unknownUsage);
-    if (row->answer) return row->answer(call);
-    RunLevel(call, *row->level, position + 1);
+void RunWord(Call& call, const CommandLevel& first, int position, Keyword keyword) {
+    for (const CommandLevel* level = &first;; keyword = call.Word(position)) {
+        const CommandRow* const row = level->Find(keyword);
+        if (!row) return call.Answer(*level->unknownUsage);
+        if (row->answer) return row->answer(call);
+        level = row->level;
+        if (!call.Has(++position)) return call.Answer(*level->missingUsage);
+    }
 }
 
 void RunLevel(Call& call, const CommandLevel& level, int position) {

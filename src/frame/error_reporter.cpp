@@ -21,7 +21,7 @@ void znBrowserErrorReporter::SetError(const char* message) {
 
 const char* znBrowserErrorReporter::GetError() {
     spare_.assign("[Command] ");
-    spare_ += commandText_;
+    spare_ += commandText_.c_str(); // up to its first NUL
     spare_ += "\n\t[Error] ";
     if (errorText_.empty()) {
         spare_ += "Unknown error";
@@ -33,4 +33,6 @@ const char* znBrowserErrorReporter::GetError() {
     return errorText_.empty() ? "Couldn't establish the error" : errorText_.c_str();
 }
 
-void znBrowserErrorReporter::SetErrCommand(const znString& command) { commandText_.assign(command.c_str()); }
+void znBrowserErrorReporter::SetErrCommand(const znString& command) {
+    if (&command != &commandText_) commandText_.assign(command.View());
+}

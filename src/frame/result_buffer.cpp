@@ -6,6 +6,33 @@
 #include "znBrowserManagerTcl.h"
 
 #include <cstdio>
+#include <cstring>
+
+namespace {
+
+/// Copies a word, which is short nearly always: a call of the library's copy would cost more than the copy.
+/// @return behind the copy
+char* CopyBytes(std::string_view word, char* to) {
+    const char* const from = word.data();
+    const std::size_t size = word.size();
+    if (size > 32) {
+        std::memcpy(to, from, size);
+    } else if (size >= 16) {
+        std::memcpy(to, from, 16);
+        std::memcpy(to + size - 16, from + size - 16, 16);
+    } else if (size >= 8) {
+        std::memcpy(to, from, 8);
+        std::memcpy(to + size - 8, from + size - 8, 8);
+    } else if (size >= 4) {
+        std::memcpy(to, from, 4);
+        std::memcpy(to + size - 4, from + size - 4, 4);
+    } else {
+        for (std::size_t i = 0; i < size; ++i) to[i] = from[i];
+    }
+    return to + size;
+}
+
+} // namespace
 
 bool znBrowserManagerTcl::_AppendToBuff(const char* text, bool quoted, bool separate,
                                         bool braceIfBlank) const {
@@ -44,14 +71,19 @@ void znBrowserManagerTcl::_ResetBuff() const { ResetBuff(); }
 const char* znBrowserManagerTcl::GetBuff() const { return buffer_.c_str(); }
 
 void znBrowserManagerTcl::SetCommand(int objc, Tcl_Obj* const objv[]) {
-    ResetBuff();
+    std::size_t room = 0;
+    for (int i = 0; i < objc; ++i) room += WordText(objv[i]).size() + 1;
+    znString& command = ErrCommand();
+    char* const begin = command.Resize(room);
+    char* end = begin;
     for (int i = 0; i < objc; ++i) {
         const std::string_view word = WordText(objv[i]);
         if (!word.data()) continue;
-        if (!buffer_.empty()) buffer_ += ' ';
-        buffer_ += word;
+        if (end != begin) *end++ = ' ';
+        end = CopyBytes(word, end);
     }
-    SetErrCommand(buffer_);
+    command.Resize(static_cast<std::size_t>(end - begin));
+    SetErrCommand(command);
     ResetBuff();
 }
 

@@ -1,5 +1,5 @@
 // Data sources: what scripts do not see of them.
-#include "store/host_testing.h"
+#include "host_testing.h"
 
 #include "host/znBrowserDataItems.h"
 
@@ -64,8 +64,8 @@ TEST_F(DataSourceTest, AnAttributeOfACustomSourceReadsTheItemsOwnTable) {
 }
 
 TEST_F(DataSourceTest, TheItemReachesTheProcedureUnharmed) {
-    Sql("CREATE TABLE \"a [exit 3] $x \\\"\" (name)");
-    Sql("INSERT INTO \"a [exit 3] $x \\\"\" VALUES ('n')");
+    Sql("CREATE TABLE \"a [exit 3] $x \\\" (name)");
+    Sql("INSERT INTO \"a [exit 3] $x \\\" VALUES ('n')");
     SimpleSource& odd = Source("a [exit 3] $x \\");
     Eval("proc table {item} {lindex $item 0}");
     ASSERT_TRUE(odd.CreateDataPropertyScript("table", "table"));

@@ -1,6 +1,8 @@
 // The rows of data sources as the windows ask for them.
-#include "store/host_testing.h"
-#include "store/store_testing.h"
+#include "host_testing.h"
+#include "store_testing.h"
+
+#include "host/znBrowserDataItems.h"
 
 namespace znhost {
 namespace {

@@ -34,6 +34,13 @@ public:
         null_ = false;
         text_.clear();
     }
+    /// Makes the text `size` bytes long, for the caller to fill; what it had stays as far as there is room.
+    /// @return where they begin
+    char* Resize(std::size_t size) {
+        null_ = false;
+        text_.resize(size);
+        return text_.data();
+    }
     /// Replaces the text, reusing the storage; a null pointer leaves the string without text storage.
     znString& operator=(const char* text) {
         null_ = text == nullptr;
