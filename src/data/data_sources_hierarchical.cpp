@@ -108,7 +108,8 @@ bool znBrowserManagerTcl::GetDataItemsFromCurrentDSH(znString& out) {
     znBrowserDataItems items;
     if (current_.dataSourceHierarchical)
         current_.dataSourceHierarchical->GetDataItems(nullptr, items, false, true);
-    return GiveCurrentPropertyValues(*this, items, out);
+    ItemProperty property(*this);
+    return GiveItemValues(*this, items, {&property}, out);
 }
 
 bool znBrowserManagerTcl::DataSourceHierarchicalPropertyNames(znString&) { return false; }

@@ -8,7 +8,6 @@
 #include "host/znIBrowserDataProperty.h"
 #include "host/znIBrowserDataSource.h"
 #include "host/znIBrowserDataSourceSimple.h"
-#include "host/znIBrowserViewProperty.h"
 #include "znBrowserManagerTcl.h"
 
 #include <algorithm>
@@ -145,9 +144,10 @@ bool znBrowserManagerTcl::GetDataItemsFromCurrentDSS(znString& out) {
     if (!current_.view) return Fail(noView);
     // One message for both: scripts know it so.
     if (!current_.viewProperty || !current_.dataSourceSimple) return Fail(noViewProperty);
-    if (!current_.viewProperty->GetDataProperty(current_.dataSourceSimple))
+    ItemProperty property(*this);
+    if (!property.Of(current_.dataSourceSimple))
         return Fail("Cannot get data property for current datasource");
     znBrowserDataItems items;
     current_.dataSourceSimple->GetDataItems(items);
-    return GiveCurrentPropertyValues(*this, items, out);
+    return GiveItemValues(*this, items, {&property}, out);
 }

@@ -1,4 +1,5 @@
 // znbrowsermanager ...: the action words, the words answered without a family, and the host's own words.
+#include "frame/command_count.h"
 #include "frame/command_table.h"
 #include "frame/event_commands.h"
 #include "host/znIBrowserApplication.h"
@@ -170,6 +171,7 @@ constexpr CommandLevel topLevel(topRows, Messages::GENERAL);
 
 int znBrowserManagerTcl::EvalTclCommand(int objc, Tcl_Obj* const objv[]) {
     if (ProcessingCommand()) return TCL_OK;
+    ++commandsBegun;
     SetCommand(objc, objv);
     Call call(*this, objc, objv);
     const Keyword action = call.Word(1);

@@ -60,11 +60,13 @@ constexpr Selectors hierarchical = {
     &Messages::VIEW_DATAITEM_HIERARCHICAL,
 };
 
-/// Whatever the kind of data source, a count that is none gets the usage text of the simple form.
+/// Whatever the kind of data source, a count that is none gets the usage text of the simple form. A negative
+/// one asks for no values.
 void SelectByValues(Call& call, const Selectors& selectors, bool select) {
     constexpr int firstValue = 7;
     int count = 0;
-    if (!call.Integer(6, count) || count < 0) return call.Answer(Messages::VIEW_DATAITEM_SIMPLE);
+    if (!call.Has(6)) return call.Answer(*selectors.usage);
+    if (!call.Integer(6, count)) return call.Answer(Messages::VIEW_DATAITEM_SIMPLE);
     if (call.Count() - firstValue < count) return call.Answer(Messages::VIEW);
     call.AnswerOutcome((call.manager.*selectors.byValues)(count, call.TextsFrom(firstValue), select, true));
 }
@@ -99,6 +101,7 @@ void Selected(Call& call) {
     if (view && view->UsesNewConnections()) return AnswerByViewHelper(call);
     const bool all = call.Is(4, Keyword::All);
     const bool recursive = call.Is(all ? 5 : 4, Keyword::Recursive);
+    if (call.Has(4) && !all && !recursive) return call.Answer(Messages::HELPER_DATAITEM);
     znString values;
     const bool listed = all ? call.manager.DataItemsSelectedAll(values, false, recursive)
                             : call.manager.DataItemsSelected(values, false, recursive);

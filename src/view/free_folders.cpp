@@ -15,9 +15,26 @@ using namespace view_messages;
 
 namespace {
 
+using Folders = std::vector<znIBrowserViewItemFreeFolder*>;
+
 bool IsListed(znIBrowserViewItemFreeFolder& folder, const znIBrowserDataSourceSimple* source) {
     std::vector<znIBrowserDataSourceSimple*> lists;
     return folder.GetLists(lists) && std::find(lists.begin(), lists.end(), source) != lists.end();
+}
+
+/// Whether a folder, or one below it, lists a data source.
+bool IsListedWithin(znIBrowserViewItemFreeFolder* top, const znIBrowserDataSourceSimple* source) {
+    Folders waiting{top};
+    Folders children;
+    while (!waiting.empty()) {
+        znIBrowserViewItemFreeFolder* const folder = waiting.back();
+        waiting.pop_back();
+        if (!folder) continue;
+        if (IsListed(*folder, source)) return true;
+        if (folder->GetChildFolders(children))
+            waiting.insert(waiting.end(), children.begin(), children.end());
+    }
+    return false;
 }
 
 /// A folder below `start`, or the root folder itself: it has no parent in which it could be found by name.
@@ -48,8 +65,10 @@ bool znBrowserManagerTcl::CreateFreeFolder(const char* name) {
     const bool groupLeafs = browser->GetFreeFolderGroupLeafs(parent);
     const bool style = browser->GetFreeFolderStyle(parent);
     SetCurrentFreeFolder(child);
-    if (!HostAnswer(browser->SetFreeFolderGroupLeafs(child, groupLeafs))) return false;
-    return current_.freeFolder != child || HostAnswer(browser->SetFreeFolderStyle(child, style));
+    const bool grouped = HostAnswer(browser->SetFreeFolderGroupLeafs(child, groupLeafs));
+    if (current_.freeFolder != child || browser->SetFreeFolderStyle(child, style)) return grouped;
+    // The text of the first refusal stays.
+    return grouped && FailWithHostError();
 }
 
 bool znBrowserManagerTcl::DestroyFreeFolder(const char* name, bool recursive) {
@@ -59,12 +78,12 @@ bool znBrowserManagerTcl::DestroyFreeFolder(const char* name, bool recursive) {
     znIBrowserViewItemFreeFolder* const child = name ? folder->FindChildFolder(name) : nullptr;
     if (!child)
         return FailWith({"Cannot find folder: ", name, " in the current folder: ", folder->GetName()});
-    const znBrowserCurrentObjects doomed = CurrentsInside(child);
+    znBrowserCurrentObjects doomed = CurrentsInside(child);
+    // The current list goes with the folder that lists it, unless the current folder lists it as well.
+    if (current_.list && IsListedWithin(child, current_.list) && !IsListed(*folder, current_.list))
+        doomed.list = current_.list;
     if (!AskBrowser(*this, &znIBrowser::DestroyFreeFolder, child, recursive)) return false;
     Forget(doomed);
-    // The current list may have been one of a deleted folder.
-    if (current_.list && current_.freeFolder && !IsListed(*current_.freeFolder, current_.list))
-        ResetCurrentList();
     return true;
 }
 
@@ -95,7 +114,7 @@ bool znBrowserManagerTcl::GetFreeFolderName(znIBrowserViewItemFreeFolder* folder
 bool znBrowserManagerTcl::GetChildrenFreeFolderNames(znString& out) {
     BeginOperation();
     if (!current_.freeFolder) return Fail(noFolderName);
-    std::vector<znIBrowserViewItemFreeFolder*> folders;
+    Folders folders;
     if (!current_.freeFolder->GetChildFolders(folders))
         return Fail("Cannot get names of the current free folder children");
     return NameList(EntryForm::Braced).AddNames(folders, NullName::IsLeftOut).Give(*this, out);
@@ -123,5 +142,6 @@ bool znBrowserManagerTcl::GetFreeFolderSelection(znString& out) {
     if (!current_.viewProperty) return Fail(noPropertyName);
     znBrowserDataItems items;
     if (!current_.freeFolder->GetSelection(items)) return FailWithHostError();
-    return GiveCurrentPropertyValues(*this, items, out);
+    ItemProperty property(*this);
+    return GiveItemValues(*this, items, {&property}, out);
 }

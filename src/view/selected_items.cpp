@@ -1,55 +1,29 @@
 // What is selected in the current view: the values of its items, and its data sources.
 #include "data/item_values.h"
 #include "host/znBrowserDataItems.h"
-#include "host/znIBrowserDataProperty.h"
 #include "host/znIBrowserDataSource.h"
 #include "host/znIBrowserDataSourceHierarchical.h"
 #include "host/znIBrowserDataSourceSimple.h"
 #include "host/znIBrowserView.h"
-#include "host/znIBrowserViewProperty.h"
 #include "view/view_messages.h"
 
 #include <unordered_set>
 
 using namespace view_messages;
 
-namespace {
-
-/// The value of a property of the current view. The property is found by name each time: a script that
-/// computed the value before may have deleted it.
-bool ValueOf(const znBrowserManagerTcl& manager, const char* property, const znBrowserDataItem& item,
-             znString& value) {
-    znIBrowserView* const view = manager.GetCurrentViewPtr();
-    znIBrowserViewProperty* const found = view && property ? view->FindViewProperty(property) : nullptr;
-    znIBrowserDataProperty* const data = found && item.source ? found->GetDataProperty(item.source) : nullptr;
-    return data && data->GetValueString(item, 0, value);
-}
-
-/// The first value that one of two properties has for each item.
-NameList ValuesOf(const znBrowserManagerTcl& manager, const char* property, const char* second,
-                  const znBrowserDataItems& items) {
-    NameList values(EntryForm::Quoted);
-    znString value;
-    items.ForEach([&](const znBrowserDataItem& item) {
-        if (ValueOf(manager, property, item, value) || ValueOf(manager, second, item, value))
-            values.Add(value);
-    });
-    return values;
-}
-
-} // namespace
-
 bool znBrowserManagerTcl::DataItemsSelected(znString& out, bool children, bool recursive) {
     BeginOperation();
     if (!current_.view) return Fail(noView);
-    if (!current_.dataSourceSimple) return Fail("Cannot get the current datasource simple");
+    znIBrowserDataSource* const source =
+        current_.dataSourceSimple ? current_.dataSourceSimple->GetDataSource() : nullptr;
+    if (!source) return Fail("Cannot get the current datasource simple");
     if (!current_.viewProperty) return Fail(noPropertyName);
-    if (!current_.viewProperty->GetDataProperty(current_.dataSourceSimple))
+    ItemProperty property(*this);
+    if (!property.Of(current_.dataSourceSimple))
         return Fail("Cannot get the data property for current datasource");
     znBrowserDataItems items;
-    znIBrowserDataSource* const source = current_.dataSourceSimple->GetDataSource();
     if (!current_.view->GetSelectedItems(source, children || recursive, items)) return FailWithHostError();
-    return GiveCurrentPropertyValues(*this, items, out);
+    return GiveItemValues(*this, items, {&property}, out);
 }
 
 bool znBrowserManagerTcl::DataItemsSelectedAll(znString& out, bool children, bool recursive) {
@@ -58,7 +32,8 @@ bool znBrowserManagerTcl::DataItemsSelectedAll(znString& out, bool children, boo
     if (!current_.viewProperty) return Fail(noPropertyName);
     znBrowserDataItems items;
     if (!current_.view->GetAllSelectedItems(children || recursive, items)) return FailWithHostError();
-    return GiveCurrentPropertyValues(*this, items, out);
+    ItemProperty property(*this);
+    return GiveItemValues(*this, items, {&property}, out);
 }
 
 bool znBrowserManagerTcl::DataSourceSimpleSelected(znString& out, bool recursive) {
@@ -82,6 +57,7 @@ bool znBrowserManagerTcl::DataSourceHierarchicalSelected(znString& out, bool rec
     NameList names(EntryForm::Braced);
     znBrowserDataItems items;
     for (znIBrowserDataSourceHierarchical* const source : sources) {
+        if (!source) continue;
         items.Clear();
         if (!current_.view->GetSelectedItems(source->GetDataSource(), recursive, items))
             return FailWithHostError();
@@ -106,7 +82,7 @@ bool znBrowserManagerTcl::GetSelectedDataItemValues(const char* property, const 
         return FailWith({"Unable to find view property: ", property, " or ", second});
     znBrowserDataItems items;
     if (!current_.view->GetAllSelectedItems(false, items)) return FailWithHostError();
-    NameList values = ValuesOf(*this, property, second, items);
-    SetOk(); // whatever the scripts that computed values left behind
-    return values.Give(*this, out);
+    ItemProperty first(*this, property);
+    ItemProperty other(*this, second);
+    return GiveItemValues(*this, items, {&first, &other}, out);
 }

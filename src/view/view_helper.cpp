@@ -1,5 +1,6 @@
 #include "view/view_helper.h"
 
+#include "data/item_values.h"
 #include "frame/data_types.h"
 #include "frame/messages.h"
 #include "frame/name_list.h"
@@ -9,7 +10,6 @@
 #include "host/znIBrowserDataSource.h"
 #include "host/znIBrowserView.h"
 #include "host/znIBrowserViewItemFreeFolder.h"
-#include "host/znIBrowserViewProperty.h"
 #include "view/view_messages.h"
 
 #include <algorithm>
@@ -18,13 +18,8 @@ using namespace view_messages;
 
 namespace {
 
-/// The value of the current view property for an item, as text. It is asked for anew with each item: a script
-/// that computed a value before may have deleted what there was.
-bool ValueOf(const znBrowserManagerTcl& manager, const znBrowserDataItem& item, znString& text) {
-    znIBrowserViewProperty* const property = manager.GetCurrentViewPropertyPtr();
-    znIBrowserDataProperty* const data =
-        property && item.source ? property->GetDataProperty(item.source) : nullptr;
-    return data && VariantToText(data->GetValue(item), text);
+bool ReadValueText(znIBrowserDataProperty& property, const znBrowserDataItem& item, znString& text) {
+    return VariantToText(property.GetValue(item), text);
 }
 
 } // namespace
@@ -71,8 +66,9 @@ bool znBrowserManagerViewTcl::SetCurrentDataSource(const char* name) {
 }
 
 bool znBrowserManagerViewTcl::GetCurrentDataSource(znString& out) {
-    if (!RequireSource(false)) return false;
-    out = CurrentDataSource()->GetName();
+    znIBrowserDataSource* const source = RequireSource(false);
+    if (!source) return false;
+    out = source->GetName();
     return true;
 }
 
@@ -129,20 +125,22 @@ bool znBrowserManagerViewTcl::SetFolderDataSourceStyle(bool style) {
 bool znBrowserManagerViewTcl::GetCurrentItem(znString& out) {
     owner_->BeginOperation();
     out = "";
-    if (item_) ValueOf(*owner_, *item_, out);
+    znIBrowserDataProperty* const property = item_ ? ItemProperty(*owner_).Of(item_->source) : nullptr;
+    if (property) ReadValueText(*property, *item_, out);
     return true;
 }
 
 bool znBrowserManagerViewTcl::GetSelectedItems(znString& out, bool recursive) {
-    if (!RequireSource(true)) return false;
-    znIBrowserDataSource* const source = CurrentDataSource();
+    znIBrowserDataSource* const source = RequireSource(true);
+    if (!source) return false;
     znIBrowserDataSourceSimple* const simple = source->GetSimple();
-    if (simple && !owner_->GetCurrentViewPropertyPtr()->GetDataProperty(simple))
+    ItemProperty property(*owner_);
+    if (simple && !property.Of(simple))
         return owner_->Fail("Cannot get data property for current datasource");
     znBrowserDataItems items;
     if (!owner_->GetCurrentViewPtr()->GetSelectedItems(source, recursive, items))
         return owner_->FailWithHostError();
-    return GiveValues(items, out);
+    return GiveItemValues(*owner_, items, {&property}, out, ReadValueText);
 }
 
 bool znBrowserManagerViewTcl::GetAllSelectedItems(znString& out, bool recursive) {
@@ -152,21 +150,22 @@ bool znBrowserManagerViewTcl::GetAllSelectedItems(znString& out, bool recursive)
     if (!owner_->GetCurrentViewPropertyPtr()) return owner_->Fail(noPropertyName);
     znBrowserDataItems items;
     if (!view->GetAllSelectedItems(recursive, items)) return owner_->FailWithHostError();
-    return GiveValues(items, out);
+    ItemProperty property(*owner_);
+    return GiveItemValues(*owner_, items, {&property}, out, ReadValueText);
 }
 
 bool znBrowserManagerViewTcl::SelectItems(bool select, bool recursive) {
-    if (!RequireSource(false)) return false;
-    znIBrowserView* const view = owner_->GetCurrentViewPtr();
-    return owner_->HostAnswer(CurrentDataSource()->SelectItems(view, select, recursive));
+    znIBrowserDataSource* const source = RequireSource(false);
+    if (!source) return false;
+    return owner_->HostAnswer(source->SelectItems(owner_->GetCurrentViewPtr(), select, recursive));
 }
 
 bool znBrowserManagerViewTcl::SelectItemsByValue(const char* value, bool select, bool recursive) {
-    if (!RequireSource(true)) return false;
+    znIBrowserDataSource* const source = RequireSource(true);
+    if (!source) return false;
     znIBrowserView* const view = owner_->GetCurrentViewPtr();
     znIBrowserViewProperty* const property = owner_->GetCurrentViewPropertyPtr();
-    return owner_->HostAnswer(
-        CurrentDataSource()->SelectItemsByValue(view, property, value, select, recursive));
+    return owner_->HostAnswer(source->SelectItemsByValue(view, property, value, select, recursive));
 }
 
 znIBrowserDataSource* znBrowserManagerViewTcl::CurrentDataSource() const {
@@ -176,20 +175,14 @@ znIBrowserDataSource* znBrowserManagerViewTcl::CurrentDataSource() const {
     return std::find(sources.begin(), sources.end(), dataSource_) != sources.end() ? dataSource_ : nullptr;
 }
 
-bool znBrowserManagerViewTcl::RequireSource(bool property) {
+znIBrowserDataSource* znBrowserManagerViewTcl::RequireSource(bool property) {
     owner_->BeginOperation();
-    if (!owner_->GetCurrentViewPtr()) return owner_->Fail(noViewName);
-    if (property && !owner_->GetCurrentViewPropertyPtr()) return owner_->Fail(noPropertyName);
-    return CurrentDataSource() || owner_->Fail(noDataSourceName);
-}
-
-bool znBrowserManagerViewTcl::GiveValues(const znBrowserDataItems& items, znString& out) {
-    znBrowserManagerTcl& manager = *owner_;
-    NameList values(EntryForm::Quoted);
-    znString text;
-    items.ForEach([&](const znBrowserDataItem& item) {
-        if (ValueOf(manager, item, text)) values.Add(text);
-    });
-    manager.SetOk(); // whatever the scripts that computed values left behind
-    return values.Give(manager, out);
+    znIBrowserDataSource* source = nullptr;
+    if (!owner_->GetCurrentViewPtr())
+        owner_->Fail(noViewName);
+    else if (property && !owner_->GetCurrentViewPropertyPtr())
+        owner_->Fail(noPropertyName);
+    else if (source = CurrentDataSource(); !source)
+        owner_->Fail(noDataSourceName);
+    return source;
 }

@@ -5,7 +5,6 @@
 #include "host/znutl/znString.h"
 
 struct znBrowserDataItem;
-struct znBrowserDataItems;
 class znBrowserManagerTcl;
 class znIBrowserDataSource;
 class znIBrowserView;
@@ -51,9 +50,9 @@ public:
 private:
     /// The helper's current source as long as the current view has it, else null: it may be dead otherwise.
     znIBrowserDataSource* CurrentDataSource() const;
-    /// Whether the current view, its current source and, with `property`, a view property are there.
-    bool RequireSource(bool property);
-    bool GiveValues(const znBrowserDataItems& items, znString& out);
+    /// The helper's current source; null, and an error, when the current view, the source or, with
+    /// `property`, a view property is missing.
+    znIBrowserDataSource* RequireSource(bool property);
 
     const znBrowserDataItem* item_ = nullptr;
     znIBrowserDataSource* dataSource_ = nullptr;
