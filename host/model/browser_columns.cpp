@@ -3,6 +3,7 @@
 #include "model/column.h"
 #include "model/view.h"
 
+#include <algorithm>
 #include <charconv>
 #include <string_view>
 
@@ -17,10 +18,12 @@ struct JustifyWord {
 constexpr JustifyWord justifyWords[] = {
     {"left", Justify::Left}, {"center", Justify::Center}, {"right", Justify::Right}};
 
-/// A number of pixels; false when the text is none.
+/// A number of pixels, with blanks and a plus sign before it or without; false when the text is none.
 bool ReadWidth(const std::string& text, int& pixels) {
     const char* const end = text.data() + text.size();
-    const std::from_chars_result read = std::from_chars(text.data(), end, pixels);
+    const char* begin = text.data() + std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size());
+    if (begin != end && *begin == '+') ++begin;
+    const std::from_chars_result read = std::from_chars(begin, end, pixels);
     return read.ec == std::errc() && read.ptr == end && pixels >= 0;
 }
 

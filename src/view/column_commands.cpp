@@ -85,8 +85,9 @@ void Width(Call& call) {
     if (call.Has(4) && !IsWidth(call.Text(4))) return call.Answer(Messages::VIEW_COLUMN);
     if (!RequireColumn(call)) return;
     const znString name = ColumnName(call);
-    call.AnswerOutcome(call.Has(4) ? call.manager.SetViewColumnWidth(name.GetText(), call.Text(4))
-                                   : call.manager.GetViewColumnWidth(name.GetText()));
+    if (call.Has(4)) return call.AnswerOutcome(call.manager.SetViewColumnWidth(name.GetText(), call.Text(4)));
+    call.KeepResult(); // the window puts its report there
+    call.AnswerOutcome(call.manager.GetViewColumnWidth(name.GetText()));
 }
 
 void Names(Call& call) { call.AnswerValue(&Manager::GetColumnNames); }

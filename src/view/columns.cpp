@@ -44,12 +44,6 @@ znIBrowserViewColumn* RequireScriptedColumn(znBrowserManagerTcl& manager, const 
     return nullptr;
 }
 
-/// Makes a column current, and with it its first style.
-void TakeColumn(znBrowserManagerTcl& manager, znIBrowserViewColumn* column) {
-    manager.SetCurrentColumn(column);
-    manager.UpdateCurrentStyle(column);
-}
-
 /// Asks the browser object for a new column in the current view, and makes it current.
 template <class... Parameters, class... Arguments>
 bool CreateColumn(znBrowserManagerTcl& manager,
@@ -64,7 +58,8 @@ bool CreateColumn(znBrowserManagerTcl& manager,
     }
     if (!AskBrowser(manager, request, view, name, arguments...)) return false;
     znIBrowserViewColumn* const column = FindColumn(manager.GetCurrentViewPtr(), name);
-    if (column) TakeColumn(manager, column);
+    // A new column has no style yet: the current one stays as it is.
+    if (column) manager.SetCurrentColumn(column);
     return true;
 }
 
@@ -105,7 +100,7 @@ bool znBrowserManagerTcl::DeleteScriptedColumn(const char* name) {
     const znBrowserCurrentObjects doomed = CurrentsInside(column);
     if (!AskBrowser(*this, &znIBrowser::DeleteColumn, column)) return false;
     Forget(doomed);
-    TakeColumn(*this, current_.view ? current_.view->GetDefaultColumn() : nullptr);
+    SetCurrentColumn(current_.view ? current_.view->GetDefaultColumn() : nullptr);
     return true;
 }
 
@@ -147,7 +142,8 @@ bool znBrowserManagerTcl::SetCurrentColumn(const char* name) {
     if (!current_.view) return Fail(noViewHandle);
     znIBrowserViewColumn* const column = FindColumn(current_.view, name);
     if (!column) return FailWith({"Unable to find column: ", name});
-    TakeColumn(*this, column);
+    SetCurrentColumn(column);
+    UpdateCurrentStyle(column);
     return GetState();
 }
 

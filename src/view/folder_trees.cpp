@@ -36,6 +36,13 @@ znIBrowserDataReference* FindDataReference(znIBrowserDataCtrl* control, const ch
     return control && name ? control->FindDataReference(name) : nullptr;
 }
 
+/// Whether a folder has a tree of any kind: of a hierarchical data source, or built from references.
+bool HasTree(znIBrowserViewItemFreeFolder& folder) {
+    std::vector<znString> names;
+    return !TreesOf(folder).empty() || (folder.GetTreeToplevelNames(names) && !names.empty()) ||
+           (folder.GetTreeParentChildNames(names) && !names.empty());
+}
+
 /// Whether a data control still holds a tree that it held under that name.
 bool Holds(znIBrowserDataCtrl* control, const znIBrowserDataSourceHierarchical* tree, const znString& name) {
     return control && control->FindDataSourceHierarchical(name.c_str()) == tree;
@@ -65,7 +72,7 @@ bool znBrowserManagerTcl::DeleteTree(const char* name) {
     znIBrowserViewItemFreeFolder* const folder = current_.freeFolder;
     if (!folder) return Fail(noFolderName);
     znIBrowserDataSourceHierarchical* const tree = FindTree(current_.view, name);
-    if (!tree) return FailWith({"Cannot find the p_dsh :", name});
+    if (!tree) return Fail("Cannot find the p_dsh :");
     const Trees trees = TreesOf(*folder);
     if (std::find(trees.begin(), trees.end(), tree) == trees.end())
         return FailWith({"Tree of: ", name, "(s) not found in the folder: ", folder->GetName()});
@@ -105,14 +112,14 @@ bool znBrowserManagerTcl::SetShowChildType(const char* type, bool show) {
         const char* const name = type ? type : current_.dataSourceSimple->GetName();
         return Fail((std::string("Cannot find the dataitemtype : ") + (name ? name : "")).c_str());
     }
-    if (TreesOf(*folder).empty()) return Fail(noDataSourceName);
+    if (!HasTree(*folder)) return Fail(noDataSourceName);
     return AskBrowser(*this, &znIBrowser::SetChildTypeShown, folder, source, show);
 }
 
 bool znBrowserManagerTcl::GetShownChildrenTypes(znString& out) {
     BeginOperation();
     if (!current_.freeFolder) return Fail(noFolderName);
-    if (TreesOf(*current_.freeFolder).empty()) return Fail(noDataSourceName);
+    if (!HasTree(*current_.freeFolder)) return Fail(noDataSourceName);
     std::vector<znString> names;
     if (!current_.freeFolder->GetShownChildTypes(names)) return Fail(noDataItemType);
     return NameList(EntryForm::Braced).AddTexts(names).Give(*this, out);
@@ -160,12 +167,14 @@ bool znBrowserManagerTcl::GetFolderTreeParentChildNames(znString& out) {
     return NameList(EntryForm::Braced).AddTexts(names).Give(*this, out);
 }
 
+// The host's answer is passed on as it is, without its text.
 bool znBrowserManagerTcl::UpdateTreeDataSource(const znString& name) {
     BeginOperation();
     if (!current_.freeFolder) return Fail("Cannot find current freefolder");
     znIBrowserDataSource* const source = FindDataSource(current_.dataCtrl, name.GetText());
     if (!source) return Fail("Cannot find data source parent");
-    return AskBrowser(*this, &znIBrowser::UpdateTreeDataSource, current_.freeFolder, source);
+    znIBrowser* const browser = GetBrowser();
+    return browser && browser->UpdateTreeDataSource(current_.freeFolder, source);
 }
 
 bool znBrowserManagerTcl::SetDropItemDataSourceHierarchical(const char* name) {

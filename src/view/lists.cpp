@@ -45,6 +45,7 @@ bool AddListNames(znIBrowserViewItemFreeFolder* top, bool recursive, NameList& n
     while (!waiting.empty()) {
         znIBrowserViewItemFreeFolder* const folder = waiting.back();
         waiting.pop_back();
+        if (!folder) continue;
         if (!folder->GetLists(lists)) return false;
         names.AddNames(lists, NullName::IsLeftOut);
         if (recursive && folder->GetChildFolders(children))

@@ -52,10 +52,9 @@ bool znBrowserManagerTcl::DeleteStyleElement(const char* name) {
     znIBrowserStyleElement* const element = FindElement(*current_.style, name);
     if (!element)
         return FailWith({"Element: ", name, " not found in the current style: ", current_.style->GetName()});
-    const bool isCurrent = current_.styleElement == element;
     if (!current_.style->DeleteElement(element))
         return FailWith({"View style element \"", name, "\" cannot be deleted"});
-    if (isCurrent) ResetCurrentStyleElement();
+    if (current_.styleElement == element) ResetCurrentStyleElement();
     return true;
 }
 

@@ -15,12 +15,6 @@ znIBrowserStyle* FindStyle(znIBrowserViewColumn* column, const char* name) {
     return column && name ? column->FindStyle(name) : nullptr;
 }
 
-/// Makes a style current, and with it its first element.
-void TakeStyle(znBrowserManagerTcl& manager, znIBrowserStyle* style) {
-    manager.SetCurrentStyle(style);
-    manager.UpdateCurrentStyleElement(style);
-}
-
 } // namespace
 
 bool znBrowserManagerTcl::CreateViewStyle(const char* name) {
@@ -30,8 +24,8 @@ bool znBrowserManagerTcl::CreateViewStyle(const char* name) {
     if (!existing && !current_.column->CreateStyle(name)) return false;
     znIBrowserStyle* const style = existing ? existing : FindStyle(current_.column, name);
     if (!style) return false;
-    TakeStyle(*this, style);
-    current_.column->SetStyle(style);
+    SetCurrentStyle(style);
+    if (current_.column) current_.column->SetStyle(style);
     // One that exists is taken into use all the same.
     return !existing || FailWith({"Can't Create, Style already exists: ", name});
 }
@@ -56,7 +50,8 @@ bool znBrowserManagerTcl::SetCurrentStyle(const char* name) {
     if (!current_.view) return Fail(noViewHandle);
     znIBrowserStyle* const style = FindStyle(current_.column, name);
     if (!style) return FailWith({"Cannot not find style: ", name, " in the current column"});
-    TakeStyle(*this, style);
+    SetCurrentStyle(style);
+    UpdateCurrentStyleElement(style);
     return GetState();
 }
 

@@ -54,5 +54,6 @@ bool znBrowserManagerTcl::PerformViewOperation() {
     // Its script may delete everything, the operation included, and may leave an error behind: neither
     // counts.
     current_.viewOperation->Perform();
+    SetOk();
     return true;
 }

@@ -30,10 +30,9 @@ bool znBrowserManagerTcl::DeleteViewProperty(const char* name) {
     znIBrowserViewProperty* const property = name ? current_.view->FindViewProperty(name) : nullptr;
     if (!property) return FailWith({"View property ", name, " does not exist, therefore cannot be deleted."});
     znIBrowser* const browser = GetBrowser();
-    const bool isCurrent = current_.viewProperty == property;
     if (!browser || !browser->DeleteViewProperty(current_.view, property))
         return FailWith({"View property \"", name, "\" cannot be deleted"});
-    if (isCurrent) ResetCurrentViewProperty();
+    if (current_.viewProperty == property) ResetCurrentViewProperty();
     return true;
 }
 
