@@ -15,6 +15,7 @@ class znIBrowserManagerTcl;
 namespace znhost {
 
 class DataCtrl;
+class WindowDisplay;
 
 class Application final : public znIBrowserApplication, public HostObject {
 public:
@@ -27,6 +28,10 @@ public:
     /// The scripting layer; null before it is there and after it has gone.
     znIBrowserManagerTcl* Manager() const { return manager_; }
     void SetManager(znIBrowserManagerTcl* manager) { manager_ = manager; }
+
+    /// What shows the windows on a screen; null when nothing does. It is not owned.
+    WindowDisplay* Display() const { return display_; }
+    void SetDisplay(WindowDisplay* display) { display_ = display; }
 
     NamedList<DataCtrl>& DataControls() { return dataControls_; }
     /// Adds a data control on a database file, made when missing, or on one in memory when `file` is "".
@@ -57,6 +62,7 @@ public:
 private:
     Tcl_Interp* const interp_;
     znIBrowserManagerTcl* manager_ = nullptr;
+    WindowDisplay* display_ = nullptr;
     znSignal<single_threaded, const char*> windowReselected_;
     // The browser goes first: what it holds points into the data controls.
     NamedList<DataCtrl> dataControls_;

@@ -95,7 +95,8 @@ bool Browser::DeleteWindowPart(znIBrowserWindowPart* part) {
 bool Browser::SetWindowPartShown(znIBrowserWindowPart* part, bool shown) {
     if (Refused("znIBrowser::SetWindowPartShown", part, shown)) return false;
     if (!part) return Fail("There is no such window part");
-    static_cast<WindowPart&>(*part).SetShown(shown);
+    WindowPart& own = static_cast<WindowPart&>(*part);
+    own.Owner().ShowPart(own, shown);
     return true;
 }
 

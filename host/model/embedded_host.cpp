@@ -6,6 +6,7 @@
 #include "model/data_sources.h"
 #include "model/window_list.h"
 #include "store/data_ctrl.h"
+#include "tk/tk_windows.h"
 #include "znBrowserManagerTcl.h"
 
 #include <set>
@@ -33,6 +34,7 @@ struct PreservedInterp {
 struct EmbeddedHost::Parts : PreservedInterp {
     explicit Parts(Tcl_Interp* tcl) : PreservedInterp(tcl), application(interp, log) {}
     ~Parts() {
+        windows.reset();
         if (command) Tcl_DeleteCommandFromToken(interp, command);
         application.SetManager(nullptr);
         if (manager) manager->DeleteBrowserManagerCollectorTcl();
@@ -56,6 +58,7 @@ struct EmbeddedHost::Parts : PreservedInterp {
     CallLog log;
     Application application;
     std::unique_ptr<znBrowserManagerTcl> manager;
+    std::unique_ptr<TkWindows> windows;
 };
 
 EmbeddedHost::EmbeddedHost(Tcl_Interp* interp) : parts_(std::make_unique<Parts>(interp)) {
@@ -75,6 +78,13 @@ CallLog& EmbeddedHost::Calls() { return parts_->log; }
 bool EmbeddedHost::CreateDataCtrl(const std::string& name, const std::string& file, std::string& error) {
     return App().AddDataCtrl(name, file, error);
 }
+
+bool EmbeddedHost::ShowWindows(std::string& error) {
+    if (!parts_->windows) parts_->windows = TkWindows::Load(App(), error);
+    return parts_->windows != nullptr;
+}
+
+std::size_t EmbeddedHost::OpenWindows() const { return parts_->windows ? parts_->windows->Count() : 0; }
 
 std::vector<std::string> EmbeddedHost::GetAppWords(const std::vector<std::string>& words) {
     return NextAppWords(words);

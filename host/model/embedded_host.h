@@ -33,6 +33,12 @@ public:
     /// The host's own words that may follow "znbrowsermanager app WORD ...", for completion and help; empty
     /// where arguments stand, or where the words lead nowhere.
     static std::vector<std::string> GetAppWords(const std::vector<std::string>& words);
+    /// Loads Tk: from now on each posted window stands on the display. Once it answered true, calling it
+    /// again changes nothing. @return false, with the reason in `error`, when there is no display or Tk or
+    /// its tree widget is not installed; windows stay without a face then
+    bool ShowWindows(std::string& error);
+    /// How many windows stand on the display. While there are any, Tcl's events must be served.
+    std::size_t OpenWindows() const;
     znBrowserManagerTcl& Manager();
     Application& App();
     /// The record of host calls: watch them, or let one fail.

@@ -29,7 +29,7 @@ void RestoreParts(Restoring& restoring, const Settings& settings) {
             restoring.Skip("window part", setting.subject);
             continue;
         }
-        part->SetShown(IsOn(setting));
+        restoring.Target().ShowPart(*part, IsOn(setting));
         if (!parent && !setting.key.empty()) continue;
         if (part->Parent() != parent && !(parent && part->Holds(*parent))) part->MoveBelow(parent);
         if (part->Parent() == parent) part->MoveTo(placed[parent]++);

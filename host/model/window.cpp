@@ -3,6 +3,7 @@
 
 #include "model/application.h"
 #include "model/browser.h"
+#include "model/window_display.h"
 #include "rows/row_finder.h"
 
 #include <algorithm>
@@ -21,6 +22,7 @@ Window::~Window() { Close(); }
 void Window::Close() {
     if (closed_) return;
     closed_ = true;
+    if (WindowDisplay* const display = browser_.Owner().Display()) display->Close(*this);
     finder_.reset();
     if (view_) view_->RemoveObserver(*this);
     view_ = nullptr;
@@ -105,24 +107,55 @@ void Window::RunWindowOperation(Window& target, ZNBROWSER_CALLBACK_OPERATION ope
 void Window::Post(bool posted) {
     if (posted == posted_) return;
     const std::shared_ptr<Window> self = shared_from_this();
+    WindowDisplay* const display = browser_.Owner().Display();
     posted_ = posted;
-    std::vector<std::vector<std::string>> calls;
-    const auto add = [&calls](const WindowPart& part, const WindowPart::Procedure& procedure) {
-        if (procedure.name.empty()) return;
-        calls.push_back({procedure.name, part.FramePath()});
-        if (!procedure.argument.empty()) calls.back().push_back(procedure.argument);
-    };
-    if (posted) {
-        const std::vector<WindowPart*> parts = AllParts();
-        for (const WindowPart* const part : parts) add(*part, part->CreateProcedure());
-        for (const WindowPart* const part : parts) {
-            if (part->IsShown()) add(*part, part->PackProcedure());
-        }
-    }
-    for (const std::vector<std::string>& call : calls) {
-        if (!closed_) Call(call);
-    }
+    if (display) posted ? display->Open(*this) : display->Close(*this);
+    if (posted) FillParts();
     Fire(posted ? EventKind::Posted : EventKind::Unposted);
+}
+
+void Window::CallForPart(const WindowPart::Procedure& procedure, const std::string& frame) {
+    if (procedure.name.empty()) return;
+    std::vector<std::string> words{procedure.name, frame};
+    if (!procedure.argument.empty()) words.push_back(procedure.argument);
+    Call(words);
+}
+
+/// Calls the create procedures of all parts, then the pack procedures of those that are shown. What is to be
+/// called is noted first: the procedures may change the parts.
+void Window::FillParts() {
+    struct Step {
+        WindowPart::Procedure procedure;
+        std::string frame;
+        bool packs;
+    };
+    std::vector<Step> steps;
+    const std::vector<WindowPart*> parts = AllParts();
+    for (const WindowPart* const part : parts)
+        steps.push_back({part->CreateProcedure(), part->FramePath(), false});
+    for (const WindowPart* const part : parts) {
+        if (part->IsShown()) steps.push_back({part->PackProcedure(), part->FramePath(), true});
+    }
+    for (const Step& step : steps) {
+        const auto display = [this] { return posted_ && !closed_ ? browser_.Owner().Display() : nullptr; };
+        if (closed_) return;
+        CallForPart(step.procedure, step.frame);
+        if (!display()) continue;
+        step.packs ? display()->PackPart(*this, step.frame) : display()->MakePart(step.frame);
+    }
+}
+
+void Window::ShowPart(WindowPart& part, bool shown) {
+    const std::shared_ptr<Window> self = shared_from_this();
+    WindowDisplay* const display = browser_.Owner().Display();
+    const WindowPart::Procedure pack = part.PackProcedure();
+    const std::string frame = part.FramePath();
+    const bool changes = part.IsShown() != shown;
+    part.SetShown(shown);
+    if (!changes || !display || !posted_) return;
+    if (!shown) return display->HidePart(frame);
+    CallForPart(pack, frame);
+    if (posted_ && !closed_) display->PackPart(*this, frame);
 }
 
 // ---- Parts

@@ -39,6 +39,8 @@ public:
     void SetTkFrame(std::string frame) { tkFrame_ = std::move(frame); }
     /// Posting fills the parts: their create procedures are called, then their pack procedures.
     void Post(bool posted);
+    /// Shows or hides a part.
+    void ShowPart(WindowPart& part, bool shown);
     bool HasStripes() const { return stripes_; }
     void SetStripes(bool on);
     const std::string& Background() const { return background_; }
@@ -119,6 +121,8 @@ private:
     std::vector<WindowPart*> AllParts() const;
     void Fire(EventKind kind);
     void Call(const std::vector<std::string>& words);
+    void CallForPart(const WindowPart::Procedure& procedure, const std::string& frame);
+    void FillParts();
     void RunWindowOperation(Window& target, ZNBROWSER_CALLBACK_OPERATION operation);
     void TellSelectedFolders();
     Column* FindColumn(const char* name) const;

@@ -148,6 +148,20 @@ std::int64_t RowModel::PositionOf(std::uint32_t index) {
     return row ? tree_.PositionOf(row) : -1;
 }
 
+std::vector<std::uint32_t> RowModel::SelectedRows() {
+    const Answering answering(*this);
+    return view_ ? SelectedIndices() : std::vector<std::uint32_t>();
+}
+
+std::vector<std::uint32_t> RowModel::IndicesFrom(std::int64_t first, std::int64_t count) {
+    const Answering answering(*this);
+    std::vector<std::uint32_t> indices;
+    if (first < 0 || first >= tree_.Count()) return indices;
+    for (Row row = tree_.At(first); row && count > 0; row = tree_.Next(row), --count)
+        indices.push_back(row.Index());
+    return indices;
+}
+
 bool RowModel::GetItem(std::uint32_t index, znBrowserDataItem& item) {
     const Answering answering(*this);
     const Row row = tree_.Find(index);

@@ -84,6 +84,10 @@ public:
     std::int64_t CountBelow(std::uint32_t index);
     /// The row's position from the top; -1 for an unknown index.
     std::int64_t PositionOf(std::uint32_t index);
+    /// The indices of the selected rows that are visible, top to bottom.
+    std::vector<std::uint32_t> SelectedRows();
+    /// The Tk indices of at most `count` rows from position `first` on.
+    std::vector<std::uint32_t> IndicesFrom(std::int64_t first, std::int64_t count);
     /// False when the row is not an item's.
     bool GetItem(std::uint32_t index, znBrowserDataItem& item);
     /// The view property behind an element of an item's cell; null when there is none.

@@ -1,0 +1,202 @@
+# Drawing rows: each cell has a style of the tree widget, made for the kinds of elements that it shows.
+
+# What every style is made of. More elements follow as cells need them.
+proc ::znbrowser::prepareCells {n} {
+    upvar #0 ::znbrowser::window$n w
+    foreach state {chosen odd drop hover current expanded expandable} {$w(tree) state define $state}
+    $w(tree) element create back rect -outline [list [colour focus] current] -outlinewidth 1 -open we
+    $w(tree) element create indent rect -height 1
+    $w(tree) element create expander image -width 16 -image \
+        [list znbrowser::image::opened expanded znbrowser::image::closed expandable]
+    $w(tree) element create icon image
+    set w(elements) {}
+    set w(styles) {}
+}
+
+# The style for elements of these kinds; in the column of the tree with what shows the depth of the row.
+proc ::znbrowser::styleFor {n inTree kinds} {
+    upvar #0 ::znbrowser::window$n w
+    set key [list $inTree $kinds]
+    if {[dict exists $w(styles) $key]} {return [dict get $w(styles) $key]}
+    set style style[dict size $w(styles)]
+    dict set w(styles) $key $style
+    $w(tree) style create $style
+    set parts {back}
+    if {$inTree} {lappend parts indent expander}
+    if {[lindex $kinds 0] eq "image"} {lappend parts icon}
+    set place 0
+    foreach kind $kinds {
+        lappend parts {*}[elementsFor $n $kind $place]
+        incr place
+    }
+    $w(tree) style elements $style $parts
+    layoutStyle $n $style $parts
+    return $style
+}
+
+# The elements of the tree widget that draw the element at that place of a cell.
+proc ::znbrowser::elementsFor {n kind place} {
+    upvar #0 ::znbrowser::window$n w
+    set kinds [dict get {text text  icon image  disabled image  check image  button {rect text}  image {}} $kind]
+    set names [lmap type $kinds {string cat $kind $place [expr {$kind eq "button" && $type eq "text" ? "t" : ""}]}]
+    foreach name $names type $kinds {
+        if {$name in $w(elements)} continue
+        lappend w(elements) $name
+        $w(tree) element create $name $type
+        if {$type eq "text"} {
+            $w(tree) element configure $name -lines 1 -wrap none -fill [colour text] -font znBrowser00
+        } elseif {$type eq "rect"} {
+            $w(tree) element configure $name -fill [colour button] -outline [colour buttonLine] \
+                -outlinewidth 1 -rx 3
+        }
+    }
+    return $names
+}
+
+proc ::znbrowser::layoutStyle {n style parts} {
+    upvar #0 ::znbrowser::window$n w
+    foreach part $parts {
+        switch -regexp $part {
+            {^back$} {$w(tree) style layout $style back -detach yes -iexpand xy}
+            {^indent$} {$w(tree) style layout $style indent -padx {4 0}}
+            {^expander$} {$w(tree) style layout $style expander -padx {0 2} -expand ns}
+            {^button\d+$} {
+                $w(tree) style layout $style $part -union ${part}t -ipadx 8 -ipady 1 -padx 4
+            }
+            {^button\d+t$} {$w(tree) style layout $style $part -expand ns -squeeze x}
+            {^text} {$w(tree) style layout $style $part -padx 4 -expand ns -squeeze x}
+            default {$w(tree) style layout $style $part -padx 3 -expand ns}
+        }
+    }
+}
+
+# ---- Rows
+
+# Draws a row in a slot. What a slot shows already is not drawn again.
+proc ::znbrowser::drawRow {n slot row} {
+    upvar #0 ::znbrowser::window$n w
+    set odd [expr {($w(first) + $slot) % 2}]
+    set drawn [list $row $odd [expr {[lindex $row 0] == $w(active)}]]
+    if {[info exists w(drawn,$slot)] && $w(drawn,$slot) eq $drawn} return
+    if {![info exists w(item,$slot)]} {
+        set w(item,$slot) [$w(tree) item create -parent root -visible yes]
+        set w(slot,$w(item,$slot)) $slot
+    } elseif {![info exists w(drawn,$slot)]} {
+        $w(tree) item configure $w(item,$slot) -visible yes
+    }
+    set w(drawn,$slot) $drawn
+    drawState $n $slot $row $odd
+    lassign $row index parent depth kind
+    set cells [lindex $row 11]
+    foreach number $w(shown) {
+        set inTree [dict get [lindex $w(columns) $number] tree]
+        if {$kind ne "item"} {
+            drawContainer $n $slot $number $inTree $row
+        } else {
+            set cell [lsearch -exact -integer -inline -index 0 $cells $number]
+            drawCell $n $slot $number $inTree $depth [lrange $cell 1 end]
+        }
+    }
+}
+
+proc ::znbrowser::drawState {n slot row odd} {
+    upvar #0 ::znbrowser::window$n w
+    set expanded [lindex $row 5]
+    set states {}
+    foreach {state on} [list chosen [lindex $row 6] odd $odd expanded $expanded \
+            expandable [expr {!$expanded && [lindex $row 7]}] current [expr {[lindex $row 0] == $w(active)}]] {
+        lappend states [expr {$on ? $state : "!$state"}]
+    }
+    $w(tree) item state set $w(item,$slot) $states
+}
+
+# A folder, tree or list: its name and icon, in the column of the tree.
+proc ::znbrowser::drawContainer {n slot number inTree row} {
+    upvar #0 ::znbrowser::window$n w
+    if {!$inTree} {
+        setStyle $n $slot $number [styleFor $n 0 {}]
+        return
+    }
+    lassign $row index parent depth kind text expanded selected hasRows bold italic icon
+    set item $w(item,$slot)
+    set column $w(column,$number)
+    setStyle $n $slot $number [styleFor $n 1 {image text}]
+    $w(tree) item element configure $item $column indent -width [indentOf $depth]
+    $w(tree) item element configure $item $column icon -image [imageNamed $icon]
+    $w(tree) item element configure $item $column text1 -text [oneLine $text] -font [fontOf $bold $italic] \
+        -fill {}
+}
+
+# A cell of an item: the elements that it shows, each a list of kind, text, colour and name.
+proc ::znbrowser::drawCell {n slot number inTree depth elements} {
+    upvar #0 ::znbrowser::window$n w
+    set item $w(item,$slot)
+    set column $w(column,$number)
+    set italic [dict get [lindex $w(columns) $number] italic]
+    setStyle $n $slot $number [styleFor $n $inTree [lmap element $elements {lindex $element 0}]]
+    if {$inTree} {$w(tree) item element configure $item $column indent -width [indentOf $depth]}
+    set place 0
+    foreach element $elements {
+        lassign $element kind text colour
+        switch $kind {
+            text {
+                $w(tree) item element configure $item $column text$place -text [oneLine $text] \
+                    -font [fontOf 0 $italic] -fill [colourOr $colour ""]
+            }
+            button {
+                $w(tree) item element configure $item $column button${place}t -text [oneLine $text]
+            }
+            check {$w(tree) item element configure $item $column check$place -image [checkImage $text]}
+            icon - disabled {
+                $w(tree) item element configure $item $column $kind$place -image \
+                    [fileImage $text [expr {$kind eq "disabled"}]]
+            }
+        }
+        incr place
+    }
+}
+
+proc ::znbrowser::setStyle {n slot number style} {
+    upvar #0 ::znbrowser::window$n w
+    if {[info exists w(style,$slot,$number)] && $w(style,$slot,$number) eq $style} return
+    set w(style,$slot,$number) $style
+    $w(tree) item style set $w(item,$slot) $w(column,$number) $style
+}
+
+proc ::znbrowser::indentOf {depth} {return [expr {min($depth, 60) * 18}]}
+
+# A text as one line; more of it than any screen has room for is not looked at.
+proc ::znbrowser::oneLine {text} {
+    return [string map {\n " " \r " " \t " " \v " " \f " "} [string range $text 0 999]]
+}
+
+# Nothing is drawn from that slot on.
+proc ::znbrowser::clearSlots {n slot} {
+    upvar #0 ::znbrowser::window$n w
+    for {} {[info exists w(item,$slot)]} {incr slot} {
+        if {![info exists w(drawn,$slot)]} continue
+        unset w(drawn,$slot)
+        $w(tree) item configure $w(item,$slot) -visible no
+    }
+}
+
+# The columns are others: every slot is drawn anew.
+proc ::znbrowser::forgetSlots {n} {
+    upvar #0 ::znbrowser::window$n w
+    foreach slot [array names w drawn,*] {unset w($slot)}
+    foreach style [array names w style,*] {unset w($style)}
+    foreach key [array names w item,*] {$w(tree) item configure $w($key) -visible no}
+}
+
+# The tree widget's name of the element at that place of a cell.
+proc ::znbrowser::elementNamed {name tkIndex column place} {
+    set n [number $name]
+    upvar #0 ::znbrowser::window$n w
+    if {$place eq "expander"} {return expander}
+    foreach cell [lindex [lindex $w(page) [slotOf $n $tkIndex]] 11] {
+        if {[dict get [lindex $w(columns) [lindex $cell 0]] name] eq $column} {
+            return [lindex $cell [expr {$place + 1}] 0]$place
+        }
+    }
+    return text1
+}

@@ -1,0 +1,125 @@
+# Columns: their headers, and the menu that chooses which are shown.
+
+proc ::znbrowser::prepareColumns {n} {
+    upvar #0 ::znbrowser::window$n w
+    set w(layout) {}
+    $w(tree) header dragconfigure -enable yes
+    foreach {event detail} {Header invoke ColumnDrag receive} {
+        $w(tree) notify install <$event-$detail>
+    }
+    $w(tree) notify bind $w(tree) <Header-invoke> [list ::znbrowser::sortBy $n %C]
+    $w(tree) notify bind $w(tree) <ColumnDrag-receive> [list ::znbrowser::columnDropped $n %C %b]
+}
+
+# Makes the columns of the tree those of the view. Those that only look different stay what they are.
+proc ::znbrowser::drawColumns {n} {
+    upvar #0 ::znbrowser::window$n w
+    set w(columns) [expr {[dict exists $w(look) columns] ? [dict get $w(look) columns] : ""}]
+    set shown {}
+    set number 0
+    foreach column $w(columns) {
+        if {[dict get $column shown]} {lappend shown $number}
+        incr number
+    }
+    set layout [lmap column $w(columns) {list [dict get $column name] [dict get $column shown]}]
+    if {$layout ne $w(layout)} {
+        set w(layout) $layout
+        makeColumns $n $shown
+    }
+    set w(shown) $shown
+    foreach number $shown {configureColumn $n $number}
+    forgetSlots $n
+}
+
+proc ::znbrowser::makeColumns {n shown} {
+    upvar #0 ::znbrowser::window$n w
+    forgetSlots $n
+    $w(tree) column delete all
+    foreach key [array names w column,*] {unset w($key)}
+    foreach key [array names w number,*] {unset w($key)}
+    foreach number $shown {
+        set w(column,$number) [$w(tree) column create -borderwidth 1 -textpadx {8 6} -textpady 5 \
+            -minwidth 24 -background [list [colour headerHot] active [colour line] pressed [colour header] {}]]
+        set w(number,$w(column,$number)) $number
+    }
+    set tail [list [colour header] {}]
+    $w(tree) column configure tail -background $tail -borderwidth 1
+}
+
+proc ::znbrowser::configureColumn {n number} {
+    upvar #0 ::znbrowser::window$n w
+    set column [lindex $w(columns) $number]
+    set arrow [dict get {{} none ascending up descending down} [dict get $column order]]
+    $w(tree) column configure $w(column,$number) -text [oneLine [dict get $column caption]] \
+        -width [expr {max(24, [dict get $column width])}] -arrow $arrow -arrowside right \
+        -justify [dict get $column justify] -itemjustify [dict get $column justify] \
+        -font [fontOf 0 [dict get $column italic]] -button [dict get $column sorts]
+}
+
+# ---- What the mouse does to headers
+
+# A click on a header sorts by the column, and once more the other way round.
+proc ::znbrowser::sortBy {n treeColumn} {
+    upvar #0 ::znbrowser::window$n w
+    set column [lindex $w(columns) $w(number,$treeColumn)]
+    if {![dict get $column sorts]} return
+    set order [expr {[dict get $column order] eq "ascending" ? "descending" : "ascending"}]
+    columnCommand $n [dict get $column name] view sort $order
+}
+
+# A header was dropped in front of another one, or behind the last.
+proc ::znbrowser::columnDropped {n treeColumn before} {
+    upvar #0 ::znbrowser::window$n w
+    set from $w(number,$treeColumn)
+    set to [expr {[info exists w(number,$before)] ? $w(number,$before) : [llength $w(columns)]}]
+    if {$to > $from} {incr to -1}
+    if {$to == $from} return
+    columnCommand $n [dict get [lindex $w(columns) $from] name] view column move $to
+}
+
+# The mouse was let go over the headers: perhaps a column has another width now.
+proc ::znbrowser::columnsResized {n} {
+    upvar #0 ::znbrowser::window$n w
+    if {![info exists w]} return
+    foreach number $w(shown) {
+        set width [$w(tree) column cget $w(column,$number) -width]
+        if {$width eq ""} {set width [$w(tree) column width $w(column,$number)]}
+        set column [lindex $w(columns) $number]
+        if {$width == max(24, [dict get $column width])} continue
+        columnCommand $n [dict get $column name] view column width $width
+        if {![info exists w]} return
+    }
+}
+
+# ---- The chooser
+
+proc ::znbrowser::buildChooser {n bar} {
+    ttk::menubutton $bar.columns -text "Columns" -style Tool.TMenubutton -menu $bar.columns.menu
+    menu $bar.columns.menu -tearoff 0 -postcommand [list ::znbrowser::fillChooser $n $bar.columns.menu]
+    ttk::button $bar.expand -text "Expand all" -style Tool.TButton -takefocus 0 \
+        -command [list ::znbrowser::command $n window expandall]
+    ttk::button $bar.collapse -text "Collapse all" -style Tool.TButton -takefocus 0 \
+        -command [list ::znbrowser::command $n window collapseall]
+    pack $bar.columns $bar.collapse $bar.expand -side right -padx {6 0}
+}
+
+# One line for each column; the one with the tree stays.
+proc ::znbrowser::fillChooser {n menu} {
+    upvar #0 ::znbrowser::window$n w
+    $menu delete 0 end
+    set number -1
+    foreach column $w(columns) {
+        incr number
+        set ::znbrowser::window${n}(show,$number) [dict get $column shown]
+        $menu add checkbutton -label [oneLine [dict get $column caption]] \
+            -variable ::znbrowser::window${n}(show,$number) \
+            -state [expr {[dict get $column tree] ? "disabled" : "normal"}] \
+            -command [list ::znbrowser::choose $n $number]
+    }
+}
+
+proc ::znbrowser::choose {n number} {
+    upvar #0 ::znbrowser::window$n w
+    columnCommand $n [dict get [lindex $w(columns) $number] name] \
+        view column show [expr {$w(show,$number) ? "true" : "false"}]
+}

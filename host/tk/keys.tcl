@@ -1,0 +1,149 @@
+# The keyboard on rows.
+
+proc ::znbrowser::bindKeys {} {
+    foreach {key step} {Up {rows -1} Down {rows 1} Prior {pages -1} Next {pages 1} Home {first 0} End {last 0}} {
+        foreach {modifier how} {{} select Shift- extend Control- move} {
+            bind znBrowserTree <${modifier}Key-$key> "::znbrowser::onTree go %W $how $step; break"
+        }
+    }
+    foreach {key handler} {
+        Right openOrEnter Left closeOrLeave plus openRow KP_Add openRow minus closeRow KP_Subtract closeRow
+        asterisk openBelow KP_Multiply openBelow Return toggleActive space selectActive
+        Control-space toggleSelected Control-a selectAll Control-A selectAll Escape clearSearch
+        Menu menuAtActive Shift-F10 menuAtActive
+    } {
+        set modifiers [lrange [split $key -] 0 end-1]
+        bind znBrowserTree <[join [concat $modifiers Key [lindex [split $key -] end]] -]> \
+            "::znbrowser::onTree $handler %W; break"
+    }
+    bind znBrowserTree <Key> {if {[::znbrowser::onTree typed %W %A %s]} break}
+    bind znBrowserTree <Control-Key-f> {::znbrowser::onTree focusSearch %W; break}
+    foreach sequence {<Tab> <Shift-Tab> <<PrevWindow>> <<NextWindow>>} {bind znBrowserTree $sequence {continue}}
+}
+
+# The position of the row with the focus; where there is none, of the first row on the screen.
+proc ::znbrowser::activePosition {n} {
+    upvar #0 ::znbrowser::window$n w
+    flush $n
+    set position [host position $n $w(active)]
+    return [expr {$position < 0 ? $w(first) : $position}]
+}
+
+proc ::znbrowser::activeRow {n} {return [rowAt $n [activePosition $n]]}
+
+# Moves the focus: and selects that row, or up to that row, or nothing.
+proc ::znbrowser::go {n how unit amount} {
+    upvar #0 ::znbrowser::window$n w
+    set last [expr {[dict get $w(look) rows] - 1}]
+    if {$last < 0} return
+    set known [expr {[host position $n $w(active)] >= 0}]
+    set position [activePosition $n]
+    switch $unit {
+        rows {if {$known} {incr position $amount}}
+        pages {incr position [expr {$amount * max(1, $w(full) - 1)}]}
+        first {set position 0}
+        last {set position $last}
+    }
+    goTo $n $how [expr {max(0, min($position, $last))}]
+}
+
+proc ::znbrowser::goTo {n how position} {
+    upvar #0 ::znbrowser::window$n w
+    set index [host indices $n $position 1]
+    if {$index eq ""} return
+    if {$position < $w(first)} {scrollTo $n $position}
+    if {$position >= $w(first) + $w(full)} {scrollTo $n [expr {$position - $w(full) + 1}]}
+    switch $how {
+        extend {selectTo $n $index}
+        move {setActive $n $index}
+        select {
+            setActive $n $index
+            set w(anchor) $index
+            selectRows $n OnTkTreeRequestSelectionUpdate $index
+        }
+    }
+}
+
+# ---- Opening and closing
+
+proc ::znbrowser::openRow {n} {
+    set row [activeRow $n]
+    if {$row ne "" && ![lindex $row 5]} {toggle $n $row}
+}
+
+proc ::znbrowser::closeRow {n} {
+    set row [activeRow $n]
+    if {$row ne "" && [lindex $row 5]} {toggle $n $row}
+}
+
+proc ::znbrowser::toggleActive {n} {
+    set row [activeRow $n]
+    if {$row ne ""} {toggle $n $row}
+}
+
+proc ::znbrowser::openOrEnter {n} {
+    set row [activeRow $n]
+    if {$row eq ""} return
+    if {[lindex $row 5]} {
+        goTo $n select [expr {[activePosition $n] + 1}]
+    } else {
+        toggle $n $row
+    }
+}
+
+proc ::znbrowser::closeOrLeave {n} {
+    set row [activeRow $n]
+    if {$row eq ""} return
+    if {[lindex $row 5]} {
+        toggle $n $row
+    } elseif {[lindex $row 1] >= 0} {
+        goTo $n select [host position $n [lindex $row 1]]
+    }
+}
+
+# Opens all that lies below the row with the focus.
+proc ::znbrowser::openBelow {n} {
+    upvar #0 ::znbrowser::window$n w
+    set row [activeRow $n]
+    if {$row eq ""} return
+    if {![lindex $row 6]} {selectRows $n OnTkTreeRequestSelectionUpdate [lindex $row 0]}
+    if {[info exists w]} {command $n window expandselected}
+}
+
+# ---- Selecting
+
+proc ::znbrowser::selectActive {n} {goTo $n select [activePosition $n]}
+
+proc ::znbrowser::toggleSelected {n} {
+    set row [activeRow $n]
+    if {$row eq ""} return
+    selectRows $n [expr {[lindex $row 6] ? "OnTkTreeRequestDeselect" : "OnTkTreeRequestSelect"}] [lindex $row 0]
+}
+
+proc ::znbrowser::selectAll {n} {
+    upvar #0 ::znbrowser::window$n w
+    flush $n
+    if {[dict get $w(look) single]} return
+    selectRows $n OnTkTreeRequestSelectionUpdate {*}[host indices $n 0 [dict get $w(look) rows]]
+}
+
+# ---- Typing to find
+
+# Characters typed one soon after the other are the beginning of the text to go to.
+proc ::znbrowser::typed {n character state} {
+    upvar #0 ::znbrowser::window$n w
+    if {$state & 12 || ![string is print -strict $character]} {return header}
+    if {[info exists w(timer,typed)]} {after cancel $w(timer,typed)}
+    set w(timer,typed) [after 1000 [list ::znbrowser::forgetTyped $n]]
+    append w(typed) $character
+    # The first character goes on from the next row; more of them may still mean the same one.
+    set from [expr {[activePosition $n] + ([string length $w(typed)] == 1)}]
+    set position [host find $n $from $w(typed)]
+    if {$position < 0} {set position [host find $n 0 $w(typed)]}
+    if {$position >= 0} {goTo $n select $position}
+}
+
+proc ::znbrowser::forgetTyped {n} {
+    upvar #0 ::znbrowser::window$n w
+    unset -nocomplain w(typed) w(timer,typed)
+}

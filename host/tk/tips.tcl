@@ -1,0 +1,46 @@
+# Tooltips: the whole text of a cell that has no room for it.
+
+proc ::znbrowser::pointTip {n x y rootX rootY} {
+    upvar #0 ::znbrowser::window$n w
+    set text [cutText $n $x $y]
+    if {[info exists w(tip)] && $w(tip) eq $text} return
+    hideTip $n
+    set w(tip) $text
+    if {$text ne ""} {set w(timer,tip) [after 500 [list ::znbrowser::showTip $n $text $rootX $rootY]]}
+}
+
+# The text at a point, if it is cut off; else nothing.
+proc ::znbrowser::cutText {n x y} {
+    upvar #0 ::znbrowser::window$n w
+    $w(tree) identify -array at $x $y
+    if {$at(where) ne "item" || ![string match text* $at(element)]} {return ""}
+    set text [$w(tree) item element cget $at(item) $at(column) $at(element) -text]
+    set font [$w(tree) item element cget $at(item) $at(column) $at(element) -font]
+    if {$font eq ""} {set font znBrowser00}
+    lassign [$w(tree) item bbox $at(item) $at(column) $at(element)] x1 y1 x2 y2
+    return [expr {[font measure $font $text] > $x2 - $x1 + 1 ? $text : ""}]
+}
+
+proc ::znbrowser::showTip {n text rootX rootY} {
+    upvar #0 ::znbrowser::window$n w
+    unset -nocomplain w(timer,tip)
+    set tip $w(path).tip
+    toplevel $tip -background [colour line]
+    wm withdraw $tip
+    wm overrideredirect $tip 1
+    label $tip.text -text $text -background [colour tip] -foreground [colour text] -font znBrowser00 \
+        -justify left -wraplength 600 -padx 6 -pady 3
+    pack $tip.text -padx 1 -pady 1
+    update idletasks
+    set x [expr {max(0, min($rootX + 12, [winfo screenwidth $tip] - [winfo reqwidth $tip]))}]
+    wm geometry $tip +$x+[expr {$rootY + 18}]
+    wm deiconify $tip
+    raise $tip
+}
+
+proc ::znbrowser::hideTip {n} {
+    upvar #0 ::znbrowser::window$n w
+    if {[info exists w(timer,tip)]} {after cancel $w(timer,tip)}
+    unset -nocomplain w(timer,tip) w(tip)
+    destroy $w(path).tip
+}

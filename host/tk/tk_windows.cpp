@@ -1,0 +1,216 @@
+#include "tk/tk_windows.h"
+
+#include "model/application.h"
+#include "model/window.h"
+#include "tk/tk_scripts.h"
+#include "tk/tk_words.h"
+
+#include <tcl.h>
+
+#include <utility>
+
+namespace znhost {
+
+namespace {
+
+constexpr const char* hostCommand = "::znbrowser::host";
+
+enum class OnError { Answer, Report };
+
+/// Evaluates a command at the global level. The result of the command in whose course this happens is as it
+/// was. @return false when it failed; `result` receives the result, or the message.
+bool Evaluate(Tcl_Interp* interp, Tcl_Obj* command, std::string& result, OnError onError) {
+    const Tcl_InterpState state = Tcl_SaveInterpState(interp, TCL_OK);
+    Tcl_IncrRefCount(command);
+    const int code = Tcl_EvalObjEx(interp, command, TCL_EVAL_GLOBAL | TCL_EVAL_DIRECT);
+    Tcl_DecrRefCount(command);
+    result = Tcl_GetStringResult(interp);
+    if (code != TCL_OK && onError == OnError::Report) Tcl_BackgroundException(interp, code);
+    Tcl_RestoreInterpState(interp, state);
+    return code == TCL_OK;
+}
+
+bool Evaluate(Tcl_Interp* interp, std::string_view script, std::string& result) {
+    Tcl_Obj* const text = Tcl_NewStringObj(script.data(), static_cast<int>(script.size()));
+    return Evaluate(interp, text, result, OnError::Answer);
+}
+
+/// Tk takes the options that it knows out of "argv". These are the script's: Tk sees none while one lives.
+class HiddenArguments {
+public:
+    explicit HiddenArguments(Tcl_Interp* interp) : interp_(interp), argv_(Get(interp)) {
+        Tcl_IncrRefCount(argv_);
+        Set(Tcl_NewObj());
+    }
+    ~HiddenArguments() {
+        Set(argv_);
+        Tcl_DecrRefCount(argv_);
+    }
+    HiddenArguments(const HiddenArguments&) = delete;
+    HiddenArguments& operator=(const HiddenArguments&) = delete;
+
+private:
+    static Tcl_Obj* Get(Tcl_Interp* interp) {
+        Tcl_Obj* const argv = Tcl_GetVar2Ex(interp, "argv", nullptr, TCL_GLOBAL_ONLY);
+        return argv ? argv : Tcl_NewObj();
+    }
+    void Set(Tcl_Obj* argv) {
+        int count = 0;
+        Tcl_ListObjLength(nullptr, argv, &count);
+        Tcl_SetVar2Ex(interp_, "argv", nullptr, argv, TCL_GLOBAL_ONLY);
+        Tcl_SetVar2Ex(interp_, "argc", nullptr, Tcl_NewIntObj(count), TCL_GLOBAL_ONLY);
+    }
+
+    Tcl_Interp* const interp_;
+    Tcl_Obj* argv_;
+};
+
+const char* KindName(RowChange::Kind kind) {
+    switch (kind) {
+    case RowChange::Filled: return "filled";
+    case RowChange::Refreshed: return "refreshed";
+    case RowChange::AllFilled: return "allFilled";
+    case RowChange::AllCells: return "allCells";
+    case RowChange::Selection: return "selection";
+    case RowChange::Shown: break;
+    }
+    return "shown";
+}
+
+} // namespace
+
+// ---- An open window
+// ------------------------------------------------------------------------------------------
+
+/// One open window. It gathers what changes, and tells the scripts when Tcl has nothing else to do.
+class TkWindows::Shown final : public RowObserver {
+public:
+    Shown(const TkWindows& owner, Window& window, unsigned number)
+        : owner_(owner), window_(window), number_(number) {
+        window_.Rows().AddObserver(*this);
+    }
+    ~Shown() {
+        Tcl_CancelIdleCall(Tell, this);
+        window_.Rows().RemoveObserver(*this);
+    }
+    Shown(const Shown&) = delete;
+    Shown& operator=(const Shown&) = delete;
+
+    Window& Of() const { return window_; }
+
+    void OnRowsChanged(const std::vector<RowChange>& changes) override {
+        if (changes_.empty()) Tcl_DoWhenIdle(Tell, this);
+        for (const RowChange& change : changes) {
+            // Where to scroll is said by the last; everything else needs to be said once.
+            if (change.kind == RowChange::Shown) changes_.erase(change.kind);
+            changes_.emplace(change.kind, change.index);
+        }
+    }
+
+private:
+    static void Tell(ClientData data) {
+        Shown& self = *static_cast<Shown*>(data);
+        const std::map<RowChange::Kind, std::uint32_t> changes = std::exchange(self.changes_, {});
+        std::vector<std::string> words{"::znbrowser::changed", std::to_string(self.number_)};
+        for (const auto& [kind, index] : changes) {
+            words.emplace_back(KindName(kind));
+            words.push_back(std::to_string(index));
+        }
+        self.owner_.Run(words); // which may close the window: nothing here is touched afterwards
+    }
+
+    const TkWindows& owner_;
+    Window& window_;
+    const unsigned number_;
+    std::map<RowChange::Kind, std::uint32_t> changes_;
+};
+
+// ---- Loading
+// -------------------------------------------------------------------------------------------------
+
+TkWindows::TkWindows(Application& application) : application_(application) {}
+
+std::unique_ptr<TkWindows> TkWindows::Load(Application& application, std::string& error) {
+    Tcl_Interp* const interp = application.Interp();
+    {
+        const HiddenArguments hidden(interp);
+        if (!Evaluate(interp, "package require Tk", error)) return nullptr;
+    }
+    std::unique_ptr<TkWindows> windows(new TkWindows(application));
+    if (!Evaluate(interp, "package require treectrl", error) || !windows->LoadScripts(error)) return nullptr;
+    application.SetDisplay(windows.get());
+    return windows;
+}
+
+bool TkWindows::LoadScripts(std::string& error) {
+    Tcl_Interp* const interp = application_.Interp();
+    if (!Evaluate(interp, "wm withdraw .; namespace eval ::znbrowser {}", error)) return false;
+    Tcl_CreateObjCommand(interp, hostCommand, AnswerTkWord, this, nullptr);
+    for (const TkScript& script : TkScripts()) {
+        if (Evaluate(interp, script.text, error)) continue;
+        error = std::string(script.file) + ": " + error;
+        return false;
+    }
+    return Evaluate(interp, "::znbrowser::prepare", error);
+}
+
+TkWindows::~TkWindows() {
+    while (!shown_.empty()) Close(shown_.begin()->second->Of());
+    if (application_.Display() == this) application_.SetDisplay(nullptr);
+    if (!Tcl_InterpDeleted(application_.Interp())) Tcl_DeleteCommand(application_.Interp(), hostCommand);
+}
+
+// ---- Windows
+// -------------------------------------------------------------------------------------------------
+
+/// Calls a procedure of the scripts, and gives its result. An error goes to the interpreter's background
+/// error handler.
+std::string TkWindows::Run(const std::vector<std::string>& words) const {
+    Tcl_Interp* const interp = application_.Interp();
+    std::string result;
+    if (Tcl_InterpDeleted(interp)) return result;
+    Tcl_Obj* const command = Tcl_NewListObj(0, nullptr);
+    for (const std::string& word : words) {
+        Tcl_ListObjAppendElement(nullptr, command,
+                                 Tcl_NewStringObj(word.data(), static_cast<int>(word.size())));
+    }
+    return Evaluate(interp, command, result, OnError::Report) ? result : std::string();
+}
+
+unsigned TkWindows::NumberOf(const Window& window) const {
+    for (const auto& [number, shown] : shown_) {
+        if (&shown->Of() == &window) return number;
+    }
+    return 0;
+}
+
+std::shared_ptr<Window> TkWindows::Find(unsigned number) const {
+    const auto found = shown_.find(number);
+    return found == shown_.end() ? nullptr : found->second->Of().shared_from_this();
+}
+
+void TkWindows::Open(Window& window) {
+    if (NumberOf(window)) return;
+    const unsigned number = ++opened_;
+    shown_.emplace(number, std::make_unique<Shown>(*this, window, number));
+    const std::string frame =
+        Run({"::znbrowser::open", std::to_string(number), window.Name(), window.TkFrame()});
+    window.SetTkFrame(frame);
+}
+
+void TkWindows::Close(Window& window) {
+    const unsigned number = NumberOf(window);
+    if (!number) return;
+    shown_.erase(number);
+    Run({"::znbrowser::close", std::to_string(number)});
+}
+
+void TkWindows::MakePart(const std::string& frame) { Run({"::znbrowser::makePart", frame}); }
+
+void TkWindows::PackPart(Window& window, const std::string& frame) {
+    Run({"::znbrowser::packPart", std::to_string(NumberOf(window)), frame});
+}
+
+void TkWindows::HidePart(const std::string& frame) { Run({"::znbrowser::hidePart", frame}); }
+
+} // namespace znhost

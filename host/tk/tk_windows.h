@@ -1,0 +1,57 @@
+// The windows on the display: the border between the host and the Tcl scripts that draw them.
+#ifndef ZN_HOST_TK_WINDOWS_H
+#define ZN_HOST_TK_WINDOWS_H
+
+#include "model/window_display.h"
+#include "rows/row_changes.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+struct Tcl_Interp;
+
+namespace znhost {
+
+class Application;
+
+/// Shows each posted window with Tk. The scripts know a window by a number, as no text of a user is fit for a
+/// Tk path; they ask for what they draw with "::znbrowser::host", and hear of changes when Tcl is idle.
+class TkWindows final : public WindowDisplay {
+public:
+    /// Loads Tk, the tree widget and the scripts. Null, with the reason in `error`, when that is impossible.
+    static std::unique_ptr<TkWindows> Load(Application& application, std::string& error);
+    ~TkWindows();
+    TkWindows(const TkWindows&) = delete;
+    TkWindows& operator=(const TkWindows&) = delete;
+
+    Application& App() const { return application_; }
+    /// How many windows are open.
+    std::size_t Count() const { return shown_.size(); }
+    /// The open window of that number; null when there is none.
+    std::shared_ptr<Window> Find(unsigned number) const;
+
+    void Open(Window& window) override;
+    void MakePart(const std::string& frame) override;
+    void PackPart(Window& window, const std::string& frame) override;
+    void HidePart(const std::string& frame) override;
+    void Close(Window& window) override;
+
+private:
+    class Shown;
+
+    explicit TkWindows(Application& application);
+    bool LoadScripts(std::string& error);
+    unsigned NumberOf(const Window& window) const;
+    std::string Run(const std::vector<std::string>& words) const;
+
+    Application& application_;
+    unsigned opened_ = 0;
+    std::map<unsigned, std::unique_ptr<Shown>> shown_;
+};
+
+} // namespace znhost
+
+#endif

@@ -1,0 +1,266 @@
+#include "tk/tk_words.h"
+
+#include "model/application.h"
+#include "model/popup_menu.h"
+#include "model/view.h"
+#include "model/window.h"
+#include "tk/tk_windows.h"
+
+#include <tcl.h>
+
+#include <algorithm>
+#include <unordered_map>
+
+namespace znhost {
+
+namespace {
+
+// ---- Values for Tcl
+// ------------------------------------------------------------------------------------------
+
+Tcl_Obj* NewText(std::string_view text) {
+    return Tcl_NewStringObj(text.data(), static_cast<int>(text.size()));
+}
+
+Tcl_Obj* NewList(std::initializer_list<Tcl_Obj*> objects) {
+    return Tcl_NewListObj(static_cast<int>(objects.size()), objects.begin());
+}
+
+void Append(Tcl_Obj* list, Tcl_Obj* object) { Tcl_ListObjAppendElement(nullptr, list, object); }
+
+void Put(Tcl_Obj* dictionary, const char* key, Tcl_Obj* value) {
+    Tcl_DictObjPut(nullptr, dictionary, Tcl_NewStringObj(key, -1), value);
+}
+
+Tcl_Obj* NewIndices(const std::vector<std::uint32_t>& indices) {
+    Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
+    for (const std::uint32_t index : indices) Append(list, Tcl_NewWideIntObj(index));
+    return list;
+}
+
+const char* KindName(RowKind kind) {
+    switch (kind) {
+    case RowKind::Folder: return "folder";
+    case RowKind::Tree: return "tree";
+    case RowKind::List: return "list";
+    case RowKind::Item: break;
+    }
+    return "item";
+}
+
+const char* KindName(CellElement::Kind kind) {
+    switch (kind) {
+    case CellElement::Icon: return "icon";
+    case CellElement::DisabledIcon: return "disabled";
+    case CellElement::CheckBox: return "check";
+    case CellElement::Button: return "button";
+    case CellElement::Text: break;
+    }
+    return "text";
+}
+
+const char* JustifyName(Justify justify) {
+    return justify == Justify::Right ? "right" : justify == Justify::Center ? "center" : "left";
+}
+
+// ---- Rows and columns
+// ----------------------------------------------------------------------------------------
+
+using ColumnNumbers = std::unordered_map<const Column*, int>;
+
+ColumnNumbers NumberColumns(const Window& window) {
+    ColumnNumbers numbers;
+    if (!window.ShownView()) return numbers;
+    for (const auto& column : window.ShownView()->Columns())
+        numbers.emplace(column.get(), static_cast<int>(numbers.size()));
+    return numbers;
+}
+
+Tcl_Obj* NewCell(const RowCell& cell, int column) {
+    Tcl_Obj* const list = NewList({Tcl_NewIntObj(column)});
+    for (const CellElement& element : cell.elements) {
+        Append(list, NewList({NewText(KindName(element.kind)), NewText(element.text), NewText(element.colour),
+                              NewText(element.name)}));
+    }
+    return list;
+}
+
+Tcl_Obj* NewRow(const RowLook& look, const ColumnNumbers& columns) {
+    Tcl_Obj* const cells = Tcl_NewListObj(0, nullptr);
+    for (const RowCell& cell : look.cells) {
+        const auto column = columns.find(cell.column);
+        if (column != columns.end()) Append(cells, NewCell(cell, column->second));
+    }
+    return NewList({Tcl_NewWideIntObj(look.index), Tcl_NewWideIntObj(look.parent),
+                    Tcl_NewWideIntObj(look.depth), NewText(KindName(look.kind)), NewText(look.text),
+                    Tcl_NewBooleanObj(look.expanded), Tcl_NewBooleanObj(look.selected),
+                    Tcl_NewBooleanObj(look.hasRows), Tcl_NewBooleanObj(look.bold),
+                    Tcl_NewBooleanObj(look.italic), NewText(look.icon), cells});
+}
+
+Tcl_Obj* NewColumn(const View& view, const Column& column) {
+    Tcl_Obj* const dictionary = Tcl_NewDictObj();
+    const bool sorts = view.SortColumn() == &column;
+    Put(dictionary, "name", NewText(column.Name()));
+    Put(dictionary, "caption", NewText(column.Caption()));
+    Put(dictionary, "width", Tcl_NewIntObj(column.Width()));
+    Put(dictionary, "justify", NewText(JustifyName(column.Justification())));
+    Put(dictionary, "shown", Tcl_NewBooleanObj(column.IsShown()));
+    Put(dictionary, "italic", Tcl_NewBooleanObj(column.IsItalic()));
+    Put(dictionary, "tree", Tcl_NewBooleanObj(column.Kind() == ColumnKind::BuiltIn));
+    Put(dictionary, "sorts", Tcl_NewBooleanObj(column.MaySort()));
+    Put(dictionary, "order", NewText(!sorts ? "" : view.SortsAscending() ? "ascending" : "descending"));
+    Put(dictionary, "menu", NewText(column.Popup() ? column.Popup()->Name() : std::string()));
+    return dictionary;
+}
+
+void PutView(Tcl_Obj* dictionary, const View& view) {
+    Tcl_Obj* const columns = Tcl_NewListObj(0, nullptr);
+    for (const auto& column : view.Columns()) Append(columns, NewColumn(view, *column));
+    Tcl_Obj* const operations = Tcl_NewListObj(0, nullptr);
+    for (const auto& operation : view.Operations()) Append(operations, NewText(operation->Name()));
+    Put(dictionary, "view", NewText(view.Name()));
+    Put(dictionary, "columns", columns);
+    Put(dictionary, "operations", operations);
+    Put(dictionary, "filter", NewText(view.Filter().pattern));
+    Put(dictionary, "selected", Tcl_NewWideIntObj(static_cast<Tcl_WideInt>(view.Selected().Size())));
+}
+
+// ---- The words
+// ---------------------------------------------------------------------------------------------
+
+/// A question about a window, whose rows stay as they are until it is answered.
+struct Question {
+    Window& window;
+    std::vector<Tcl_WideInt> numbers;
+    std::string text;
+};
+
+Tcl_Obj* Position(const Question& question) {
+    const Tcl_WideInt index = question.numbers[0];
+    return Tcl_NewWideIntObj(question.window.Rows().PositionOf(static_cast<std::uint32_t>(index)));
+}
+
+Tcl_Obj* Indices(const Question& question) {
+    return NewIndices(question.window.Rows().IndicesFrom(question.numbers[0], question.numbers[1]));
+}
+
+Tcl_Obj* Selected(const Question& question) { return NewIndices(question.window.Rows().SelectedRows()); }
+
+Tcl_Obj* Page(const Question& question) {
+    Tcl_Obj* const rows = Tcl_NewListObj(0, nullptr);
+    const std::vector<RowLook> looks = question.window.Rows().Read(question.numbers[0], question.numbers[1]);
+    const ColumnNumbers columns = NumberColumns(question.window);
+    for (const RowLook& look : looks) Append(rows, NewRow(look, columns));
+    return rows;
+}
+
+Tcl_Obj* Look(const Question& question) {
+    Window& window = question.window;
+    Tcl_Obj* const dictionary = Tcl_NewDictObj();
+    Put(dictionary, "rows", Tcl_NewWideIntObj(window.Rows().Count()));
+    Put(dictionary, "stripes", Tcl_NewBooleanObj(window.HasStripes()));
+    Put(dictionary, "background", NewText(window.Background()));
+    Put(dictionary, "single", Tcl_NewBooleanObj(window.Rows().IsSingle()));
+    Put(dictionary, "scroll", Tcl_NewIntObj(window.ScrollPosition()));
+    if (window.ShownView()) PutView(dictionary, *window.ShownView());
+    return dictionary;
+}
+
+/// Looks for a beginning of a text, letter case aside. It gives up after so many rows that a person waits.
+Tcl_Obj* FindBeginning(const Question& question) {
+    constexpr std::int64_t atOnce = 500;
+    constexpr std::int64_t most = 100000;
+    RowModel& rows = question.window.Rows();
+    const int length = Tcl_NumUtfChars(question.text.c_str(), -1);
+    std::int64_t position = question.numbers[0];
+    for (std::int64_t seen = 0; seen < most; seen += atOnce) {
+        const std::vector<RowLook> looks = rows.Read(position, atOnce);
+        const auto found = std::find_if(looks.begin(), looks.end(), [&](const RowLook& look) {
+            return Tcl_NumUtfChars(look.text.c_str(), -1) >= length &&
+                   Tcl_UtfNcasecmp(look.text.c_str(), question.text.c_str(),
+                                   static_cast<unsigned long>(length)) == 0;
+        });
+        if (found != looks.end()) return Tcl_NewWideIntObj(position + (found - looks.begin()));
+        if (looks.empty()) break;
+        position += atOnce;
+    }
+    return Tcl_NewWideIntObj(-1);
+}
+
+struct TkWord {
+    const char* word;
+    const char* arguments;
+    std::size_t numbers; ///< how many arguments behind the window are whole numbers
+    bool text;           ///< whether a text follows them
+    Tcl_Obj* (*answer)(const Question& question);
+};
+
+constexpr TkWord tkWords[] = {
+    {"find", "NUMBER FIRST TEXT", 1, true, FindBeginning},
+    {"indices", "NUMBER FIRST COUNT", 2, false, Indices},
+    {"look", "NUMBER", 0, false, Look},
+    {"page", "NUMBER FIRST COUNT", 2, false, Page},
+    {"position", "NUMBER INDEX", 1, false, Position},
+    {"selected", "NUMBER", 0, false, Selected},
+};
+
+int Fail(Tcl_Interp* interp, const std::string& message) {
+    Tcl_SetObjResult(interp, NewText(message));
+    return TCL_ERROR;
+}
+
+int AnswerError(CallLog& log, Tcl_Interp* interp) {
+    Tcl_SetObjResult(interp, NewText(log.Error()));
+    log.SetError("");
+    return TCL_OK;
+}
+
+/// The arguments behind the word and the window. False, and the error stands in the interpreter, when they
+/// do not fit.
+bool ReadArguments(Tcl_Interp* interp, const TkWord& word, int objc, Tcl_Obj* const objv[],
+                   Question& question) {
+    const std::size_t count = word.numbers + (word.text ? 1 : 0);
+    if (static_cast<std::size_t>(objc) != 3 + count) {
+        Tcl_WrongNumArgs(interp, 2, objv, word.arguments);
+        return false;
+    }
+    for (std::size_t i = 0; i < word.numbers; ++i) {
+        Tcl_WideInt number = 0;
+        if (Tcl_GetWideIntFromObj(interp, objv[3 + i], &number) != TCL_OK) return false;
+        question.numbers.push_back(number);
+    }
+    if (word.text) question.text = Tcl_GetString(objv[objc - 1]);
+    return true;
+}
+
+} // namespace
+
+int AnswerTkWord(void* windows, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
+    const TkWindows& open = *static_cast<TkWindows*>(windows);
+    if (objc < 2) {
+        Tcl_WrongNumArgs(interp, 1, objv, "WORD ?NUMBER ...?");
+        return TCL_ERROR;
+    }
+    const std::string_view word = Tcl_GetString(objv[1]);
+    if (word == "error") return AnswerError(open.App().Log(), interp);
+    const auto known = std::find_if(std::begin(tkWords), std::end(tkWords),
+                                    [word](const TkWord& row) { return word == row.word; });
+    if (known == std::end(tkWords)) return Fail(interp, "unknown word \"" + std::string(word) + "\"");
+    int number = 0;
+    if (objc < 3 || Tcl_GetIntFromObj(interp, objv[2], &number) != TCL_OK)
+        return Fail(interp, "which window?");
+    const std::shared_ptr<Window> window = open.Find(static_cast<unsigned>(number));
+    if (!window) return Fail(interp, "there is no open window " + std::to_string(number));
+    Question question{*window, {}, {}};
+    if (!ReadArguments(interp, *known, objc, objv, question)) return TCL_ERROR;
+    try {
+        const RowModel::Answering answering(window->Rows());
+        Tcl_SetObjResult(interp, known->answer(question));
+    } catch (const std::exception& failure) {
+        return Fail(interp, failure.what());
+    }
+    return TCL_OK;
+}
+
+} // namespace znhost

@@ -1,0 +1,26 @@
+// What the Tcl scripts of the windows ask the host: "::znbrowser::host WORD NUMBER ...".
+#ifndef ZN_HOST_TK_WORDS_H
+#define ZN_HOST_TK_WORDS_H
+
+struct Tcl_Interp;
+struct Tcl_Obj;
+
+namespace znhost {
+
+/// The command procedure; `windows` is the TkWindows. The words, with the number of an open window first:
+///
+///   position NUMBER INDEX       the position of a row; -1 when there is none
+///   find NUMBER FIRST TEXT      the position of the next row, from FIRST on, that begins with TEXT; or -1
+///   indices NUMBER FIRST COUNT  the Tk indices of rows, by position
+///   look NUMBER                 all but the rows, as a dictionary: columns, operations, counts, settings
+///   page NUMBER FIRST COUNT     rows, each a list: index, parent, depth, kind, text, expanded, selected,
+///                               whether it can be expanded, bold, italic, icon, cells. A cell is a list: the
+///                               number of its column, then its elements, each a list: kind, text, colour,
+///                               name. Columns are counted from 0, hidden ones too.
+///   selected NUMBER             the Tk indices of the selected rows that are visible
+///   error                       why the host refused last; forgets it
+int AnswerTkWord(void* windows, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]);
+
+} // namespace znhost
+
+#endif

@@ -1,0 +1,273 @@
+# Windows: what stands in one, how it opens and closes, and how it hears of changes.
+#
+# The host knows a window by a number; so does everything here. What is known of window 3 stands in the array
+# ::znbrowser::window3, and no name or text of a user is ever part of a path, of a tag or of a script.
+#
+#   name frame path tree  the window's name; the frame in which it stands, its own part of that, and its tree
+#   look                  what the host said last of everything but the rows
+#   first full page       the position of the first row drawn, how many rows fit, and the rows drawn
+#   active anchor         the Tk indices of the row with the focus, and of where a range of rows begins
+
+namespace eval ::znbrowser {
+    variable numberOf ;# the numbers of windows, by their trees and by their frames
+    array set numberOf {}
+}
+
+# ---- For tests and scripts: what stands where
+
+# The numbers of the open windows.
+proc ::znbrowser::windows {} {
+    return [lsort -integer [lmap name [info vars ::znbrowser::window\[0-9\]*] {
+        string range $name [string length ::znbrowser::window] end
+    }]]
+}
+
+# The number of the open window of that name; an error when there is none.
+proc ::znbrowser::number {name} {
+    foreach n [windows] {
+        upvar #0 ::znbrowser::window$n w
+        if {$w(name) eq $name} {return $n}
+    }
+    error "there is no open window \"$name\""
+}
+
+# The TreeCtrl of a window.
+proc ::znbrowser::tree {name} {return [set ::znbrowser::window[number $name](tree)]}
+
+# The frame in which a window stands.
+proc ::znbrowser::frame {name} {return [set ::znbrowser::window[number $name](frame)]}
+
+# The item of the TreeCtrl that draws a row; empty while the row is not on the screen.
+proc ::znbrowser::itemAt {name tkIndex} {
+    set n [number $name]
+    flush $n
+    upvar #0 ::znbrowser::window$n w
+    set slot [slotOf $n $tkIndex]
+    return [expr {$slot < 0 ? "" : $w(item,$slot)}]
+}
+
+# The column of the TreeCtrl that draws a column of the view; empty while it is hidden.
+proc ::znbrowser::columnAt {name column} {
+    set n [number $name]
+    flush $n
+    upvar #0 ::znbrowser::window$n w
+    foreach number $w(shown) {
+        if {[dict get [lindex $w(columns) $number] name] eq $column} {return $w(column,$number)}
+    }
+    return ""
+}
+
+# The box of a row, of a cell of it or of an element in the cell, in the pixels of the tree: x1 y1 x2 y2.
+# Elements are counted from 0; "expander" is what opens and closes a row.
+proc ::znbrowser::boxOf {name tkIndex {column ""} {element ""}} {
+    set item [itemAt $name $tkIndex]
+    if {$item eq ""} {return ""}
+    set words [list $item]
+    if {$column ne ""} {lappend words [columnAt $name $column]}
+    if {$element ne ""} {lappend words [elementNamed $name $tkIndex $column $element]}
+    return [[tree $name] item bbox {*}$words]
+}
+
+# ---- Opening and closing
+
+# Once, as soon as Tk is there.
+proc ::znbrowser::prepare {} {
+    prepareLook
+    prepareImages
+    bindMouse
+    bindKeys
+}
+
+# Opens window `n`, in the frame that it names when there is such a frame, else in a toplevel of its own.
+# Answers the frame.
+proc ::znbrowser::open {n name frame} {
+    variable numberOf
+    upvar #0 ::znbrowser::window$n w
+    array set w [list name $name first 0 full 1 page {} columns {} shown {} active -1 anchor -1 \
+        pending {} reported -1 look [host look $n]]
+    set w(frame) [makeFrame $n $name $frame]
+    set w(path) [expr {$w(frame) eq "." ? "" : $w(frame)}].znbrowser
+    set numberOf($w(frame)) $n
+    build $n
+    set w(first) [dict get $w(look) scroll]
+    set w(reported) $w(first)
+    changed $n allCells 0
+    return $w(frame)
+}
+
+proc ::znbrowser::makeFrame {n name frame} {
+    if {$frame ne "" && [winfo exists $frame]} {
+        if {[winfo toplevel $frame] eq "." && [wm state .] eq "withdrawn"} {wm deiconify .}
+        return $frame
+    }
+    # A name for which there is no parent, or that Tk does not take, is no reason to show nothing.
+    if {![string match .* $frame] || [catch {toplevel $frame -background [colour surface]}]} {
+        set frame .znbrowser$n
+        toplevel $frame -background [colour surface]
+    }
+    wm title $frame $name
+    wm geometry $frame 960x620
+    wm minsize $frame 360 200
+    wm protocol $frame WM_DELETE_WINDOW [list ::znbrowser::unpost $n]
+    return $frame
+}
+
+# What stands in a window: above the tree what searches, below it what counts.
+proc ::znbrowser::build {n} {
+    variable numberOf
+    upvar #0 ::znbrowser::window$n w
+    ttk::frame $w(path) -style Browser.TFrame
+    ttk::frame $w(path).bar -style Browser.TFrame -padding {8 6 8 6}
+    ttk::frame $w(path).body -style Browser.TFrame
+    ttk::frame $w(path).line -style Line.TFrame -height 1
+    ttk::frame $w(path).status -style Browser.TFrame -padding {10 3 10 4}
+    buildTree $n $w(path).body
+    buildSearch $n $w(path).bar
+    buildChooser $n $w(path).bar
+    ttk::label $w(path).status.count -style Status.TLabel -anchor w
+    ttk::label $w(path).status.message -style Message.TLabel -anchor e
+    pack $w(path).status.count -side left
+    pack $w(path).status.message -side right -fill x -expand 1 -padx {16 0}
+    pack $w(path).bar -side top -fill x
+    pack $w(path).status -side bottom -fill x
+    pack $w(path).line -side bottom -fill x
+    pack $w(path).body -side top -fill both -expand 1
+    pack $w(path) -side top -fill both -expand 1
+    set numberOf($w(tree)) $n
+    bind $w(path) <Destroy> [list ::znbrowser::destroyed $n %W]
+    set top [winfo toplevel $w(path)]
+    bind $top <Control-f> [list ::znbrowser::focusSearch $n]
+    focus $w(tree)
+}
+
+# The host closes the window: what is left of it on the screen goes.
+proc ::znbrowser::close {n} {
+    upvar #0 ::znbrowser::window$n w
+    if {![info exists w]} return
+    set frame $w(frame)
+    set path $w(path)
+    forget $n
+    if {[winfo exists $path]} {destroy $path}
+    if {![winfo exists $frame]} return
+    if {[winfo toplevel $frame] eq $frame && $frame ne "."} {
+        destroy $frame
+        return
+    }
+    # A frame of somebody else's stays, but for the parts of the window in it.
+    foreach child [winfo children $frame] {
+        if {[regexp {\.part[0-9]+$} $child]} {destroy $child}
+    }
+}
+
+proc ::znbrowser::forget {n} {
+    variable numberOf
+    upvar #0 ::znbrowser::window$n w
+    foreach timer [array names w timer,*] {after cancel $w($timer)}
+    unset -nocomplain numberOf($w(tree)) numberOf($w(frame))
+    unset w
+}
+
+# Its user closes the window: it is posted no more, and the host closes what is here.
+proc ::znbrowser::unpost {n} {
+    upvar #0 ::znbrowser::window$n w
+    if {[info exists w]} {command $n window post false}
+}
+
+# Somebody destroyed the frame in which the window stood.
+proc ::znbrowser::destroyed {n path} {
+    upvar #0 ::znbrowser::window$n w
+    if {[info exists w] && $w(path) eq $path} {after idle [list ::znbrowser::unpost $n]}
+}
+
+# ---- Parts of windows
+
+# The frame of a part, unless the part's own procedure made it.
+proc ::znbrowser::makePart {path} {
+    if {![winfo exists $path] && [winfo exists [winfo parent $path]]} {ttk::frame $path}
+}
+
+# Parts stand one below the other, unless their own procedures put them elsewhere; the tree takes what is left.
+proc ::znbrowser::packPart {n path} {
+    upvar #0 ::znbrowser::window$n w
+    if {![winfo exists $path]} return
+    if {[winfo manager $path] eq ""} {pack $path -side top -fill x}
+    if {[info exists w] && [winfo manager $w(path)] eq "pack"} {
+        pack forget $w(path)
+        pack $w(path) -side top -fill both -expand 1
+    }
+}
+
+proc ::znbrowser::hidePart {path} {
+    if {![winfo exists $path]} return
+    switch [winfo manager $path] {
+        pack - grid - place {[winfo manager $path] forget $path}
+    }
+}
+
+# ---- Events to the host, and changes from it
+
+# An event of the tree: "OnTkTree..." and its arguments behind the window's name.
+proc ::znbrowser::event {n event args} {
+    upvar #0 ::znbrowser::window$n w
+    return [tell $n [list $event $w(name) {*}$args]]
+}
+
+# Any other command, about the window.
+proc ::znbrowser::command {n args} {
+    upvar #0 ::znbrowser::window$n w
+    if {[tell $n [list window current $w(name)]]} {return [tell $n $args]}
+    return 0
+}
+
+# A command about one of the window's columns; the column that was current stays so.
+proc ::znbrowser::columnCommand {n column args} {
+    upvar #0 ::znbrowser::window$n w
+    if {![tell $n [list window current $w(name)]]} {return 0}
+    set before [znbrowsermanager view column current]
+    set done [expr {[tell $n [list view column current $column]] && [tell $n $args]}]
+    if {[info exists w]} {catch {znbrowsermanager view column current $before}}
+    return $done
+}
+
+# Says it to the manager. What comes back, other than the answer to a question, is why it was refused: then
+# the answer is 0, and the reason stands in the status line. A script that runs may close the window.
+proc ::znbrowser::tell {n words} {
+    host error
+    set failed [catch {znbrowsermanager {*}$words} answer]
+    if {!$failed} {set failed [regexp {^\[Command\] [^\n]*\n\t\[Error\] (.*)$} $answer -> answer]}
+    set refusal [host error]
+    if {![info exists ::znbrowser::window$n]} {return 0}
+    say $n [expr {$failed ? $answer : $refusal}]
+    return [expr {!$failed}]
+}
+
+# The host tells what changed since it told last: pairs of a kind of change and a Tk index.
+proc ::znbrowser::changed {n args} {
+    upvar #0 ::znbrowser::window$n w
+    if {![info exists w]} return
+    foreach {kind index} $args {dict set w(pending) $kind $index}
+    if {![info exists w(timer,draw)]} {set w(timer,draw) [after idle [list ::znbrowser::flush $n]]}
+}
+
+# Draws now what is waiting to be drawn.
+proc ::znbrowser::flush {n} {
+    upvar #0 ::znbrowser::window$n w
+    if {![info exists w]} return
+    if {[info exists w(timer,draw)]} {
+        after cancel $w(timer,draw)
+        unset w(timer,draw)
+    }
+    set changes $w(pending)
+    set w(pending) {}
+    if {$changes eq ""} return
+    set w(look) [host look $n]
+    if {[dict exists $changes allCells] || [dict exists $changes allFilled]} {
+        drawSurface $n
+        drawColumns $n
+        followSearch $n
+    }
+    keepPlace $n
+    if {[dict exists $changes shown]} {reveal $n [dict get $changes shown]}
+    drawPage $n
+    drawStatus $n
+}
