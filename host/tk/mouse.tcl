@@ -236,7 +236,7 @@ proc ::znbrowser::drag {n x y args} {
         dict set w(pressed) later 0
         $w(tree) configure -cursor fleur
     }
-    if {$y < [$w(tree) headerheight]} {scrollTo $n [expr {$w(first) - 1}]}
+    if {$y < [lindex [$w(tree) contentbox] 1]} {scrollTo $n [expr {$w(first) - 1}]}
     if {$y > [winfo height $w(tree)]} {scrollTo $n [expr {$w(first) + 1}]}
     set at [pointed $n $x $y]
     markDrop $n [expr {[dict exists $at slot] ? [dict get $at slot] : -1}]

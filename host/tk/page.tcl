@@ -108,15 +108,20 @@ proc ::znbrowser::yview {n action amount {unit ""}} {
     }
 }
 
-# The tree has another size: another number of rows fits.
+# The tree, or its header, has another size: another number of rows fits.
 proc ::znbrowser::resized {n} {
     upvar #0 ::znbrowser::window$n w
-    set height [expr {[winfo height $w(tree)] - [$w(tree) headerheight]}]
-    set full [expr {max(1, $height / [rowHeight])}]
-    if {$full == $w(full) && $height == [lindex [array get w height] 1]} return
+    if {[measure $n]} {changed $n resized 0}
+}
+
+# How many rows fit; whether that is another number than before.
+proc ::znbrowser::measure {n} {
+    upvar #0 ::znbrowser::window$n w
+    lassign [$w(tree) contentbox] x1 y1 x2 y2
+    set full [expr {$y2 eq "" ? 1 : max(1, ($y2 - $y1) / [rowHeight])}]
+    if {$full == $w(full)} {return 0}
     set w(full) $full
-    set w(height) $height
-    changed $n resized 0
+    return 1
 }
 
 # Draws the rows from `first` on, one more than fit whole, and tells the host where the window stands.

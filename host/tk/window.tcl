@@ -265,6 +265,7 @@ proc ::znbrowser::flush {n} {
         drawSurface $n
         drawColumns $n
         followSearch $n
+        measure $n
     }
     keepPlace $n
     if {[dict exists $changes shown]} {reveal $n [dict get $changes shown]}
