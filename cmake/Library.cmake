@@ -16,10 +16,17 @@ if(sources)
     target_compile_options(zn_objects PRIVATE -fno-semantic-interposition)
     target_include_directories(zn_objects PRIVATE "${PROJECT_SOURCE_DIR}/src")
     target_link_libraries(zn_objects PUBLIC zn_headers PRIVATE zn_tcl_stubs)
+    # A command passes through many small functions of several files: the linker joins them.
+    if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_BUILD_TYPE MATCHES Rel)
+        target_compile_options(zn_objects PRIVATE -flto=auto)
+        target_link_options(zn_objects INTERFACE -flto=auto)
+    endif()
 
     add_library(znBrowserScripting SHARED)
     set_target_properties(znBrowserScripting PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0)
-    target_link_options(znBrowserScripting PRIVATE -Wl,-Bsymbolic-functions)
+    target_link_options(znBrowserScripting PRIVATE -Wl,-Bsymbolic-functions
+        "-Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/library.map")
+    set_target_properties(znBrowserScripting PROPERTIES LINK_DEPENDS "${PROJECT_SOURCE_DIR}/cmake/library.map")
     target_link_libraries(znBrowserScripting PUBLIC zn_headers PRIVATE zn_objects zn_tcl_stubs)
     if(NOT (ZN_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES Clang)) # whose runtime is in the program only
         target_link_options(znBrowserScripting PRIVATE -Wl,-z,defs)

@@ -98,8 +98,17 @@ void Call::AnswerValue(FlagGetter getter) {
 }
 
 void Call::SetThenAnswer(int position, TextSetter setter, Getter getter) {
-    if (Has(position) && !(manager.*setter)(Text(position))) return AnswerError();
-    AnswerValue(getter);
+    if (!Has(position)) return AnswerValue(getter);
+    if (!(manager.*setter)(Text(position))) return AnswerError();
+    znString value;
+    if (!(manager.*getter)(value)) return AnswerError();
+    // What was set is nearly always what is there now: then the word itself is the answer, without a copy.
+    if (!replied_ && value.View() == WordText(objv_[position])) {
+        Tcl_SetObjResult(interp_, objv_[position]);
+        replied_ = true;
+    } else {
+        Answer(value);
+    }
 }
 
 void Call::Raise() { code_ = TCL_ERROR; }

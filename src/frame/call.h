@@ -2,7 +2,7 @@
 #ifndef CALL_H
 #define CALL_H
 
-#include "frame/shared_keywords.h"
+#include "frame/word_keyword.h"
 #include "frame/word_text.h"
 #include "znBrowserManagerTcl.h"
 
@@ -37,8 +37,7 @@ public:
     const char* TextOr(int position, const char* fallback) const;
     /// The keyword that the word stands for; unknown when there is no such word.
     Keyword Word(int position) const {
-        if (position >= objc_) return Keyword::Unknown;
-        return SharedKeywords().GetZnBrowserTclApiEnum(WordText(objv_[position]));
+        return position < objc_ ? WordKeyword(objv_[position]) : Keyword::Unknown;
     }
     bool Is(int position, Keyword keyword) const { return Word(position) == keyword; }
     /// Numbers and booleans as Tcl reads them. @return false when the word is missing or is none, silently.

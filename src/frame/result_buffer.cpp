@@ -26,10 +26,22 @@ char* CopyBytes(std::string_view word, char* to) {
     } else if (size >= 4) {
         std::memcpy(to, from, 4);
         std::memcpy(to + size - 4, from + size - 4, 4);
-    } else {
-        for (std::size_t i = 0; i < size; ++i) to[i] = from[i];
+    } else if (size) {
+        to[0] = from[0];
+        to[size / 2] = from[size / 2];
+        to[size - 1] = from[size - 1];
     }
     return to + size;
+}
+
+/// The size of the words joined by blanks; each word has its string form then. Missing words leave no blank,
+/// nor does an empty one at the beginning.
+std::size_t JoinedSize(int objc, Tcl_Obj* const objv[]) {
+    std::size_t size = 0;
+    for (int i = 0; i < objc; ++i) {
+        if (objv[i]) size += WordText(objv[i]).size() + (size ? 1 : 0);
+    }
+    return size;
 }
 
 } // namespace
@@ -71,18 +83,14 @@ void znBrowserManagerTcl::_ResetBuff() const { ResetBuff(); }
 const char* znBrowserManagerTcl::GetBuff() const { return buffer_.c_str(); }
 
 void znBrowserManagerTcl::SetCommand(int objc, Tcl_Obj* const objv[]) {
-    std::size_t room = 0;
-    for (int i = 0; i < objc; ++i) room += WordText(objv[i]).size() + 1;
     znString& command = ErrCommand();
-    char* const begin = command.Resize(room);
-    char* end = begin;
+    char* end = command.Resize(JoinedSize(objc, objv));
+    const char* const begin = end;
     for (int i = 0; i < objc; ++i) {
-        const std::string_view word = WordText(objv[i]);
-        if (!word.data()) continue;
+        if (!objv[i]) continue;
         if (end != begin) *end++ = ' ';
-        end = CopyBytes(word, end);
+        end = CopyBytes({objv[i]->bytes, static_cast<std::size_t>(objv[i]->length)}, end);
     }
-    command.Resize(static_cast<std::size_t>(end - begin));
     SetErrCommand(command);
     ResetBuff();
 }
