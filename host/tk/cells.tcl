@@ -86,6 +86,7 @@ proc ::znbrowser::drawRow {n slot row} {
     }
     set w(drawn,$slot) $drawn
     drawState $n $slot $row $odd
+    $w(tree) item style set $w(item,$slot) $w(filler) [styleFor $n 0 {}]
     lassign $row index parent depth kind
     set cells [lindex $row 11]
     foreach number $w(shown) {

@@ -38,12 +38,15 @@ proc ::znbrowser::makeColumns {n shown} {
     foreach key [array names w column,*] {unset w($key)}
     foreach key [array names w number,*] {unset w($key)}
     foreach number $shown {
-        set w(column,$number) [$w(tree) column create -borderwidth 1 -textpadx {8 6} -textpady 5 \
-            -minwidth 24 -background [list [colour headerHot] active [colour line] pressed [colour header] {}]]
+        set w(column,$number) [$w(tree) column create -borderwidth 1 -textpadx {5 5} -textpady 5 \
+            -minwidth 24 -arrowpadx {4 6} -arrowpady {2 0} \
+            -arrowimage {znbrowser::image::up up znbrowser::image::down down} -background [list [colour headerHot] active [colour line] pressed [colour header] {}]]
         set w(number,$w(column,$number)) $number
     }
-    set tail [list [colour header] {}]
-    $w(tree) column configure tail -background $tail -borderwidth 1
+    # What is left of the width belongs to a column of nothing, so that rows are marked all the way.
+    set w(filler) [$w(tree) column create -borderwidth 1 -expand yes -minwidth 0 -button no \
+        -resize no -background [list [colour header] {}]]
+    $w(tree) column configure tail -background [list [colour header] {}] -borderwidth 1
 }
 
 proc ::znbrowser::configureColumn {n number} {
@@ -61,6 +64,7 @@ proc ::znbrowser::configureColumn {n number} {
 # A click on a header sorts by the column, and once more the other way round.
 proc ::znbrowser::sortBy {n treeColumn} {
     upvar #0 ::znbrowser::window$n w
+    if {![info exists w(number,$treeColumn)]} return
     set column [lindex $w(columns) $w(number,$treeColumn)]
     if {![dict get $column sorts]} return
     set order [expr {[dict get $column order] eq "ascending" ? "descending" : "ascending"}]
@@ -70,6 +74,7 @@ proc ::znbrowser::sortBy {n treeColumn} {
 # A header was dropped in front of another one, or behind the last.
 proc ::znbrowser::columnDropped {n treeColumn before} {
     upvar #0 ::znbrowser::window$n w
+    if {![info exists w(number,$treeColumn)]} return
     set from $w(number,$treeColumn)
     set to [expr {[info exists w(number,$before)] ? $w(number,$before) : [llength $w(columns)]}]
     if {$to > $from} {incr to -1}
@@ -95,7 +100,7 @@ proc ::znbrowser::columnsResized {n} {
 
 proc ::znbrowser::buildChooser {n bar} {
     ttk::menubutton $bar.columns -text "Columns" -style Tool.TMenubutton -menu $bar.columns.menu
-    menu $bar.columns.menu -tearoff 0 -postcommand [list ::znbrowser::fillChooser $n $bar.columns.menu]
+    makeMenu $bar.columns.menu -postcommand [list ::znbrowser::fillChooser $n $bar.columns.menu]
     ttk::button $bar.expand -text "Expand all" -style Tool.TButton -takefocus 0 \
         -command [list ::znbrowser::command $n window expandall]
     ttk::button $bar.collapse -text "Collapse all" -style Tool.TButton -takefocus 0 \

@@ -62,6 +62,13 @@ proc ::znbrowser::colourOr {wanted other} {
     return [expr {$wanted ne "" && ![catch {winfo rgb . $wanted}] ? $wanted : $other}]
 }
 
+proc ::znbrowser::makeMenu {path args} {
+    menu $path -tearoff 0 -relief solid -borderwidth 1 -activeborderwidth 3 -font znBrowser00 \
+        -background [colour paper] -foreground [colour text] -selectcolor [colour accent] \
+        -activebackground [colour chosen] -activeforeground [colour text] \
+        -disabledforeground [colour buttonLine] {*}$args
+}
+
 proc ::znbrowser::drawSurface {n} {
     upvar #0 ::znbrowser::window$n w
     $w(tree) configure -background [colourOr [dict get $w(look) background] [colour paper]]

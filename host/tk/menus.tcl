@@ -52,7 +52,7 @@ proc ::znbrowser::fillMenu {n row} {
     upvar #0 ::znbrowser::window$n w
     set menu $w(path).popup
     destroy $menu
-    menu $menu -tearoff 0
+    makeMenu $menu
     bind $menu <Unmap> [list ::znbrowser::menuClosed $n]
     foreach operation [dict get $w(look) operations] {
         $menu add command -label [oneLine $operation] \

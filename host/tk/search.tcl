@@ -9,17 +9,18 @@ proc ::znbrowser::buildSearch {n bar} {
     ttk::button $bar.clear -text "Clear" -style Tool.TButton -takefocus 0 \
         -command [list ::znbrowser::clearSearch $n]
     pack $bar.glass $bar.search -side left -padx {0 6}
-    bind $bar.search <KeyRelease> [list ::znbrowser::searchTyped $n]
     bind $bar.search <Return> [list ::znbrowser::findNext $n next]
     bind $bar.search <Shift-Return> [list ::znbrowser::findNext $n previous]
     bind $bar.search <Escape> [list ::znbrowser::clearSearch $n]
     bind $bar.search <Down> [list focus $w(tree)]
-    trace add variable ::znbrowser::window${n}(search) write [list ::znbrowser::showClear $n]
+    trace add variable ::znbrowser::window${n}(search) write [list ::znbrowser::searchChanged $n]
 }
 
-# There is something to clear, or there is not.
-proc ::znbrowser::showClear {n args} {
+# The field has another text: it can be cleared, or not. Filtering waits until the fingers rest.
+proc ::znbrowser::searchChanged {n args} {
     upvar #0 ::znbrowser::window$n w
+    if {[info exists w(timer,search)]} {after cancel $w(timer,search)}
+    set w(timer,search) [after 120 [list ::znbrowser::applySearch $n]]
     set bar [winfo parent $w(searchField)]
     if {$w(search) eq ""} {
         pack forget $bar.clear
@@ -38,13 +39,6 @@ proc ::znbrowser::focusSearch {n} {
     $w(searchField) selection range 0 end
 }
 
-# Filtering waits until the fingers rest.
-proc ::znbrowser::searchTyped {n} {
-    upvar #0 ::znbrowser::window$n w
-    if {[info exists w(timer,search)]} {after cancel $w(timer,search)}
-    set w(timer,search) [after 120 [list ::znbrowser::applySearch $n]]
-}
-
 proc ::znbrowser::applySearch {n} {
     upvar #0 ::znbrowser::window$n w
     if {[info exists w(timer,search)]} {after cancel $w(timer,search)}
@@ -60,7 +54,7 @@ proc ::znbrowser::followSearch {n} {
     upvar #0 ::znbrowser::window$n w
     if {![dict exists $w(look) filter] || [info exists w(timer,search)]} return
     set filter [dict get $w(look) filter]
-    if {$w(search) ne $filter && [focus] ne $w(searchField)} {set w(search) $filter}
+    if {$w(search) ne $filter} {set w(search) $filter}
 }
 
 proc ::znbrowser::clearSearch {n} {
