@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <tcl.h>
+#include <utility>
 
 namespace znhost {
 
@@ -35,6 +36,15 @@ void Window::OnViewDeleted() {
     finder_.reset();
     view_ = nullptr;
     rows_.OnViewDeleted();
+}
+
+// Rows that a text filter hides are collapsed. When it is gone, they are as they were.
+void Window::OnViewChanged(unsigned changes) {
+    const bool filtered = filters_;
+    filters_ = view_ && !view_->Filter().pattern.empty();
+    if (filters_ && !filtered) expanded_ = rows_.Expanded();
+    rows_.OnViewChanged(changes);
+    if (!filters_ && filtered) rows_.ExpandAlso(std::exchange(expanded_, {}));
 }
 
 void Window::OnExpanded(FreeFolder& folder, znIBrowserDataSourceSimple* list, bool expanded, bool recursive) {

@@ -64,7 +64,7 @@ public:
     /// Lets go of another window, which is about to be closed.
     void Forget(const Window& other);
 
-    void OnViewChanged(unsigned changes) override { rows_.OnViewChanged(changes); }
+    void OnViewChanged(unsigned changes) override;
     void OnExpanded(FreeFolder& folder, znIBrowserDataSourceSimple* list, bool expanded,
                     bool recursive) override;
     void OnFolderDeleted(FreeFolder& folder) override { rows_.OnFolderDeleted(folder); }
@@ -144,6 +144,8 @@ private:
     std::vector<std::string> listeners_;
     NamedList<FindRequest> findRequests_;
     RowModel rows_;
+    bool filters_ = false;              ///< whether a text narrows the rows
+    std::vector<KeptRow> expanded_;     ///< what was expanded before it did
     std::unique_ptr<RowFinder> finder_; ///< what was searched last
 };
 

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <map>
+#include <tuple>
 #include <unordered_map>
 
 namespace znhost {
@@ -135,6 +136,23 @@ std::vector<std::size_t> RowModel::SetExpanded(const std::vector<KeptRow>& rows)
     std::sort(missing.begin(), missing.end());
     Tell(RowChange::AllFilled);
     return missing;
+}
+
+void RowModel::ExpandAlso(const std::vector<KeptRow>& rows) {
+    using Key = std::tuple<std::size_t, RowKind, std::string, std::int64_t>;
+    std::vector<KeptRow> all = Expanded();
+    std::map<Key, std::size_t> numbers; // counted from 1, as `above` counts
+    for (std::size_t i = 0; i < all.size(); ++i)
+        numbers.emplace(Key(all[i].above, all[i].kind, all[i].name, all[i].row), i + 1);
+    std::vector<std::size_t> number{0}; // of each of `rows`, in `all`
+    for (KeptRow row : rows) {
+        row.above = number.at(row.above);
+        const auto [known, isNew] =
+            numbers.emplace(Key(row.above, row.kind, row.name, row.row), all.size() + 1);
+        if (isNew) all.push_back(row);
+        number.push_back(known->second);
+    }
+    SetExpanded(all);
 }
 
 } // namespace znhost

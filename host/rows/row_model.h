@@ -114,6 +114,8 @@ public:
     /// Expands exactly these rows. Answers the places in `rows` of those that do not exist (any more); what
     /// would lie below them is not mentioned.
     std::vector<std::size_t> SetExpanded(const std::vector<KeptRow>& rows);
+    /// Expands these rows, as far as they exist, and leaves expanded what is.
+    void ExpandAlso(const std::vector<KeptRow>& rows);
 
     // Selection: of items and folders it is the view's; that of trees and lists is the window's own.
     enum class Selecting { Add, Remove, Replace };

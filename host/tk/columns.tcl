@@ -85,14 +85,14 @@ proc ::znbrowser::columnDropped {n treeColumn before} {
 # The mouse was let go over the headers: perhaps a column has another width now.
 proc ::znbrowser::columnsResized {n} {
     upvar #0 ::znbrowser::window$n w
-    if {![info exists w]} return
+    if {![isOpen $n]} return
     foreach number $w(shown) {
         set width [$w(tree) column cget $w(column,$number) -width]
         if {$width eq ""} {set width [$w(tree) column width $w(column,$number)]}
         set column [lindex $w(columns) $number]
         if {$width == max(24, [dict get $column width])} continue
         columnCommand $n [dict get $column name] view column width $width
-        if {![info exists w]} return
+        if {![isOpen $n]} return
     }
 }
 

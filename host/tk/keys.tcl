@@ -107,7 +107,7 @@ proc ::znbrowser::openBelow {n} {
     set row [activeRow $n]
     if {$row eq ""} return
     if {![lindex $row 6]} {selectRows $n OnTkTreeRequestSelectionUpdate [lindex $row 0]}
-    if {[info exists w]} {command $n window expandselected}
+    if {[isOpen $n]} {command $n window expandselected}
 }
 
 # ---- Selecting

@@ -38,11 +38,11 @@ proc ::znbrowser::openMenu {n row column rootX rootY} {
         set w(anchor) $index
         selectRows $n OnTkTreeRequestSelectionUpdate $index
     }
-    if {![info exists w]} return
+    if {![isOpen $n]} return
     event $n OnTkTreeRightHandClick $column {*}[host selected $n]
-    if {![info exists w]} return
+    if {![isOpen $n]} return
     event $n OnTkTreePopupMenu true
-    if {![info exists w]} return
+    if {![isOpen $n]} return
     flush $n
     fillMenu $n $row
     popupAt $n [popup $w(name)] $rootX $rootY
@@ -69,7 +69,7 @@ proc ::znbrowser::fillMenu {n row} {
 
 proc ::znbrowser::menuClosed {n} {
     upvar #0 ::znbrowser::window$n w
-    if {[info exists w]} {event $n OnTkTreePopupMenu false}
+    if {[isOpen $n]} {event $n OnTkTreePopupMenu false}
 }
 
 proc ::znbrowser::popupAt {n menu rootX rootY} {tk_popup $menu $rootX $rootY}

@@ -80,7 +80,7 @@ proc ::znbrowser::press {n x y state args} {
         button {}
         default {
             pressRow $n $row $state
-            if {![info exists w]} return
+            if {![isOpen $n]} return
             event $n OnTkTreeLeftHandClick [dict get $at column] [dict get $at element] [lindex $row 0]
         }
     }
@@ -152,7 +152,7 @@ proc ::znbrowser::selectRows {n event args} {
     upvar #0 ::znbrowser::window$n w
     if {$args eq ""} return
     event $n $event {*}$args
-    if {[info exists w]} {event $n OnTkTreeSelectionChangeFinished}
+    if {[isOpen $n]} {event $n OnTkTreeSelectionChangeFinished}
 }
 
 # Selects from the anchor to that row.

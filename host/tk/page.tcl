@@ -129,7 +129,7 @@ proc ::znbrowser::drawPage {n} {
     upvar #0 ::znbrowser::window$n w
     if {$w(shown) eq ""} return
     set w(page) [host page $n $w(first) [expr {$w(full) + 1}]]
-    if {![info exists w]} return ;# a script that computed a value closed it
+    if {![isOpen $n]} return ;# a script that computed a value closed it
     set slot 0
     foreach row $w(page) {
         drawRow $n $slot $row

@@ -34,7 +34,7 @@ proc ::znbrowser::searchField {name} {return [set ::znbrowser::window[number $na
 
 proc ::znbrowser::focusSearch {n} {
     upvar #0 ::znbrowser::window$n w
-    if {![info exists w]} return
+    if {![isOpen $n]} return
     focus $w(searchField)
     $w(searchField) selection range 0 end
 }
@@ -45,7 +45,7 @@ proc ::znbrowser::applySearch {n} {
     unset -nocomplain w(timer,search)
     if {$w(search) ne [dict get $w(look) filter]} {
         command $n view filter string current $w(search)
-        if {[info exists w]} {flush $n}
+        if {[isOpen $n]} {flush $n}
     }
 }
 
@@ -61,14 +61,14 @@ proc ::znbrowser::clearSearch {n} {
     upvar #0 ::znbrowser::window$n w
     set w(search) ""
     applySearch $n
-    if {[info exists w]} {focus $w(tree)}
+    if {[isOpen $n]} {focus $w(tree)}
 }
 
 # Goes to the next match, or to the one before: by the window's find request, for the text in the field.
 proc ::znbrowser::findNext {n direction} {
     upvar #0 ::znbrowser::window$n w
     applySearch $n
-    if {![info exists w] || $w(search) eq ""} return
+    if {![isOpen $n] || $w(search) eq ""} return
     foreach words {
         {window find property add Name} {window find property current Name}
     } {

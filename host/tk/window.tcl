@@ -85,9 +85,11 @@ proc ::znbrowser::open {n name frame} {
     upvar #0 ::znbrowser::window$n w
     array set w [list name $name first 0 full 1 page {} columns {} shown {} active -1 anchor -1 \
         pending {} reported -1 look [host look $n]]
-    set w(frame) [makeFrame $n $name $frame]
+    set w(owns) [expr {$frame eq "" || ![winfo exists $frame]}]
+    set w(frame) [expr {$w(owns) ? [makeToplevel $n $name $frame] : $frame}]
     set w(path) [expr {$w(frame) eq "." ? "" : $w(frame)}].znbrowser
     set numberOf($w(frame)) $n
+    if {[winfo toplevel $w(frame)] eq "."} {wm deiconify .}
     build $n
     set w(first) [dict get $w(look) scroll]
     set w(reported) $w(first)
@@ -95,11 +97,7 @@ proc ::znbrowser::open {n name frame} {
     return $w(frame)
 }
 
-proc ::znbrowser::makeFrame {n name frame} {
-    if {$frame ne "" && [winfo exists $frame]} {
-        if {[winfo toplevel $frame] eq "." && [wm state .] eq "withdrawn"} {wm deiconify .}
-        return $frame
-    }
+proc ::znbrowser::makeToplevel {n name frame} {
     # A name for which there is no parent, or that Tk does not take, is no reason to show nothing.
     if {![string match .* $frame] || [catch {toplevel $frame -background [colour surface]}]} {
         set frame .znbrowser$n
@@ -122,8 +120,8 @@ proc ::znbrowser::build {n} {
     ttk::frame $w(path).line -style Line.TFrame -height 1
     ttk::frame $w(path).status -style Browser.TFrame -padding {10 3 10 4}
     buildTree $n $w(path).body
-    buildSearch $n $w(path).bar
     buildChooser $n $w(path).bar
+    buildSearch $n $w(path).bar
     ttk::label $w(path).status.count -style Status.TLabel -anchor w
     ttk::label $w(path).status.message -style Message.TLabel -anchor e
     pack $w(path).status.count -side left
@@ -142,41 +140,48 @@ proc ::znbrowser::build {n} {
 
 # The host closes the window: what is left of it on the screen goes.
 proc ::znbrowser::close {n} {
+    variable numberOf
     upvar #0 ::znbrowser::window$n w
-    if {![info exists w]} return
-    set frame $w(frame)
-    set path $w(path)
-    forget $n
-    if {[winfo exists $path]} {destroy $path}
-    if {![winfo exists $frame]} return
-    if {[winfo toplevel $frame] eq $frame && $frame ne "."} {
+    if {![info exists w(name)]} return
+    foreach timer [array names w timer,*] {after cancel $w($timer)}
+    unset -nocomplain numberOf($w(tree)) numberOf($w(frame))
+    set w(closing) 1
+    if {[winfo exists $w(path)]} {destroy $w(path)}
+    if {[winfo exists $w(frame)]} {clearFrame $w(frame) $w(owns)}
+    unset w ;# last: a field that is still there would make its variable anew
+}
+
+# A toplevel of its own goes with the window. A frame of somebody else's stays, but for the window's parts.
+proc ::znbrowser::clearFrame {frame owns} {
+    if {$owns} {
         destroy $frame
         return
     }
-    # A frame of somebody else's stays, but for the parts of the window in it.
     foreach child [winfo children $frame] {
         if {[regexp {\.part[0-9]+$} $child]} {destroy $child}
     }
 }
 
-proc ::znbrowser::forget {n} {
-    variable numberOf
+# Whether the window is still there: a script that runs, or somebody else's, may close it at any time.
+proc ::znbrowser::isOpen {n} {
     upvar #0 ::znbrowser::window$n w
-    foreach timer [array names w timer,*] {after cancel $w($timer)}
-    unset -nocomplain numberOf($w(tree)) numberOf($w(frame))
-    unset w
+    return [expr {[info exists w(tree)] && ![info exists w(closing)] && [winfo exists $w(tree)]}]
 }
 
 # Its user closes the window: it is posted no more, and the host closes what is here.
 proc ::znbrowser::unpost {n} {
     upvar #0 ::znbrowser::window$n w
-    if {[info exists w]} {command $n window post false}
+    if {![info exists w(name)]} return
+    znbrowsermanager window current $w(name)
+    znbrowsermanager window post false
 }
 
 # Somebody destroyed the frame in which the window stood.
 proc ::znbrowser::destroyed {n path} {
     upvar #0 ::znbrowser::window$n w
-    if {[info exists w] && $w(path) eq $path} {after idle [list ::znbrowser::unpost $n]}
+    if {[info exists w(path)] && $w(path) eq $path && ![info exists w(closing)]} {
+        after idle [list ::znbrowser::unpost $n]
+    }
 }
 
 # ---- Parts of windows
@@ -191,7 +196,7 @@ proc ::znbrowser::packPart {n path} {
     upvar #0 ::znbrowser::window$n w
     if {![winfo exists $path]} return
     if {[winfo manager $path] eq ""} {pack $path -side top -fill x}
-    if {[info exists w] && [winfo manager $w(path)] eq "pack"} {
+    if {[info exists w(path)] && [winfo manager $w(path)] eq "pack"} {
         pack forget $w(path)
         pack $w(path) -side top -fill both -expand 1
     }
@@ -215,8 +220,8 @@ proc ::znbrowser::event {n event args} {
 # Any other command, about the window.
 proc ::znbrowser::command {n args} {
     upvar #0 ::znbrowser::window$n w
-    if {[tell $n [list window current $w(name)]]} {return [tell $n $args]}
-    return 0
+    set name $w(name)
+    return [expr {[tell $n [list window current $name]] && [tell $n $args]}]
 }
 
 # A command about one of the window's columns; the column that was current stays so.
@@ -225,7 +230,7 @@ proc ::znbrowser::columnCommand {n column args} {
     if {![tell $n [list window current $w(name)]]} {return 0}
     set before [znbrowsermanager view column current]
     set done [expr {[tell $n [list view column current $column]] && [tell $n $args]}]
-    if {[info exists w]} {catch {znbrowsermanager view column current $before}}
+    if {$before ne ""} {catch {znbrowsermanager view column current $before}}
     return $done
 }
 
@@ -236,7 +241,7 @@ proc ::znbrowser::tell {n words} {
     set failed [catch {znbrowsermanager {*}$words} answer]
     if {!$failed} {set failed [regexp {^\[Command\] [^\n]*\n\t\[Error\] (.*)$} $answer -> answer]}
     set refusal [host error]
-    if {![info exists ::znbrowser::window$n]} {return 0}
+    if {![isOpen $n]} {return 0}
     say $n [expr {$failed ? $answer : $refusal}]
     return [expr {!$failed}]
 }
@@ -244,7 +249,7 @@ proc ::znbrowser::tell {n words} {
 # The host tells what changed since it told last: pairs of a kind of change and a Tk index.
 proc ::znbrowser::changed {n args} {
     upvar #0 ::znbrowser::window$n w
-    if {![info exists w]} return
+    if {![isOpen $n]} return
     foreach {kind index} $args {dict set w(pending) $kind $index}
     if {![info exists w(timer,draw)]} {set w(timer,draw) [after idle [list ::znbrowser::flush $n]]}
 }
@@ -252,7 +257,7 @@ proc ::znbrowser::changed {n args} {
 # Draws now what is waiting to be drawn.
 proc ::znbrowser::flush {n} {
     upvar #0 ::znbrowser::window$n w
-    if {![info exists w]} return
+    if {![isOpen $n]} return
     if {[info exists w(timer,draw)]} {
         after cancel $w(timer,draw)
         unset w(timer,draw)
