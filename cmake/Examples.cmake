@@ -1,8 +1,9 @@
-# build/examples: the example scripts, and beside them the model databases made from examples/models/*.sql.
+# build/examples: the example scripts and their pictures, and beside them the model databases made from
+# examples/models/*.sql.
 
 find_program(ZN_SQLITE3 sqlite3 REQUIRED)
 
-zn_find_sources(scripts examples/*.tcl)
+zn_find_sources(scripts examples/*.tcl examples/icons/*.png)
 zn_find_sources(models examples/models/*.sql)
 set(ZN_EXAMPLES_DIR "${PROJECT_BINARY_DIR}/examples")
 set(prepared)

@@ -1,5 +1,5 @@
 # Three kinds of tests: *_test.cpp (one GoogleTest program), *.test (a tcltest file each, run in the
-# shell) and the examples whose output is recorded in tests/examples/NAME.out.
+# shell; those in tk/ on a display) and the examples whose output is recorded in tests/examples/NAME.out.
 
 include(GoogleTest)
 
@@ -19,7 +19,11 @@ if(TARGET znbrowsersh)
     zn_find_sources(scripts tests/*.test)
     foreach(script IN LISTS scripts)
         file(RELATIVE_PATH name "${PROJECT_SOURCE_DIR}/tests" "${script}")
-        add_test(NAME "${name}" COMMAND znbrowsersh "${PROJECT_SOURCE_DIR}/tests/all.tcl" "${script}")
+        set(shell $<TARGET_FILE:znbrowsersh>)
+        if(name MATCHES "^tk/") # windows, on a display of their own
+            set(shell "${PROJECT_SOURCE_DIR}/tests/tk/on_display.sh" ${shell} --tk)
+        endif()
+        add_test(NAME "${name}" COMMAND ${shell} "${PROJECT_SOURCE_DIR}/tests/all.tcl" "${script}")
         set_tests_properties("${name}" PROPERTIES TIMEOUT 300)
     endforeach()
 

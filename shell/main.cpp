@@ -12,6 +12,8 @@ ExitCode Run(const Options& options) {
     if (!session.Start(options)) return EXIT_FAILED;
     if (options.script) return session.RunScript(*options.script);
     if (!isatty(STDIN_FILENO)) return session.RunStandardInput();
+    if (options.tk) session.OpenBrowsers();
+    session.DrawWindows();
     return Prompt(session).Run();
 }
 

@@ -9,6 +9,10 @@ With a SCRIPT, znbrowsersh runs it, with ARG ... in "argv". Without one it gives
 prompt, or runs the script that is piped into its standard input. "--" ends the
 options: the word behind it is the SCRIPT even when it begins with "-".
 
+With --tk the windows that a script posts stand on the display, and the program stays
+until the last one is closed. When there is nothing to run, it opens a browser on each
+--db. Without a display it says so and draws the rows of the windows as text.
+
 Exit codes: 0 done, 1 the script failed, or it or a database cannot be opened, 2 bad
 usage; "exit N" in a script gives N.)";
 
@@ -71,6 +75,8 @@ std::optional<ExitCode> ParseOptions(int argc, const char* const* argv, Options&
         ->allow_extra_args(false);
     app.add_flag("--strict", options.strict,
                  "Make each error banner a Tcl error, errorCode {ZNBROWSER ERROR ...}")
+        ->disable_flag_override();
+    app.add_flag("--tk", options.tk, "Open windows on the display; with nothing to run, a browser on each --db")
         ->disable_flag_override();
     app.set_version_flag("--version", "znbrowsersh " ZN_VERSION);
     app.prefix_command(); // stop at the script: the options behind it are the script's own

@@ -2,10 +2,18 @@
 
 #include "model/embedded_host.h"
 #include "strict.h"
+#include "tk/tk_scripts.h"
+
+#include <algorithm>
 
 namespace {
 
 const char* const COMMAND = "znbrowsermanager";
+/// The script that opens a browser on any database, and its procedure.
+const char* const DEFAULT_BROWSER = "default_browser.tcl";
+const char* const BROWSE = "::znbrowser::any::browse";
+/// How many columns of a browser fit a terminal; a window has a scroll bar.
+const int TEXT_COLUMNS = 8;
 
 /// A word of the command line as Tcl keeps text.
 std::string FromNative(const std::string& text) {
@@ -14,6 +22,11 @@ std::string FromNative(const std::string& text) {
     std::string result(Tcl_DStringValue(&converted), static_cast<std::size_t>(Tcl_DStringLength(&converted)));
     Tcl_DStringFree(&converted);
     return result;
+}
+
+bool IsBlank(Tcl_Obj* text) {
+    const std::string_view all = Tcl_GetString(text);
+    return all.find_first_not_of(" \t\r\n") == all.npos;
 }
 
 Tcl_Obj* NewText(const std::string& text) {
@@ -44,7 +57,17 @@ bool Session::Start(const Options& options) {
         PrintLine(TCL_STDERR, std::string("znbrowsersh: the host registered no command ") + COMMAND);
         return false;
     }
-    return AddDatabases(options.databases);
+    if (!AddDatabases(options.databases)) return false;
+    if (options.tk) FindDisplay();
+    return true;
+}
+
+void Session::FindDisplay() {
+    std::string reason;
+    windows_ = host_->ShowWindows(reason) ? Windows::OnDisplay : Windows::AsText;
+    std::replace(reason.begin(), reason.end(), '\n', ' ');
+    if (windows_ == Windows::AsText)
+        PrintLine(TCL_STDERR, "znbrowsersh: no windows, their rows are drawn as text: " + reason);
 }
 
 void Session::SetArguments(const Options& options) {
@@ -68,8 +91,35 @@ bool Session::AddDatabases(const std::vector<DatabaseOption>& databases) {
                       "znbrowsersh: --db " + FromNative(database.name + "=" + database.file) + ": " + error);
             return false;
         }
+        browsed_.push_back(FromNative(database.name));
     }
     return true;
+}
+
+bool Session::OpenBrowsers() {
+    return std::all_of(browsed_.begin(), browsed_.end(), [this](const auto& name) { return Browse(name); });
+}
+
+bool Session::Browse(const std::string& control) {
+    const auto& scripts = znhost::TkScripts();
+    const auto script = std::find_if(scripts.begin(), scripts.end(),
+                                     [](const auto& one) { return one.file == DEFAULT_BROWSER; });
+    const std::string_view text = script->text;
+    int code = Tcl_EvalEx(interp_, text.data(), static_cast<int>(text.size()), TCL_EVAL_GLOBAL);
+    if (code == TCL_OK) {
+        Tcl_Obj* const command = Tcl_NewListObj(0, nullptr);
+        Tcl_IncrRefCount(command);
+        Tcl_ListObjAppendElement(nullptr, command, NewText(BROWSE));
+        Tcl_ListObjAppendElement(nullptr, command, NewText(control));
+        if (windows_ == Windows::AsText)
+            Tcl_ListObjAppendElement(nullptr, command, Tcl_NewIntObj(TEXT_COLUMNS));
+        code = Tcl_EvalObjEx(interp_, command, TCL_EVAL_GLOBAL);
+        Tcl_DecrRefCount(command);
+    }
+    if (code == TCL_OK) return true;
+    const std::string reason = Tcl_GetString(Tcl_GetObjResult(interp_));
+    PrintLine(TCL_STDERR, "znbrowsersh: cannot browse " + control + ": " + reason);
+    return false;
 }
 
 ExitCode Session::RunScript(const std::string& file) {
@@ -88,6 +138,10 @@ ExitCode Session::RunStandardInput() {
     if (input && Tcl_ReadChars(input, script, -1, 0) < 0) {
         Tcl_SetObjResult(interp_, Tcl_ObjPrintf("couldn't read standard input: %s", Tcl_PosixError(interp_)));
         code = TCL_ERROR;
+    } else if (windows_ != Windows::Hidden && IsBlank(script)) {
+        Tcl_DecrRefCount(script);
+        if (!OpenBrowsers()) return EXIT_FAILED;
+        return Finish(TCL_OK);
     } else {
         code = Tcl_EvalObjEx(interp_, script, TCL_EVAL_DIRECT | TCL_EVAL_GLOBAL);
         if (code == TCL_ERROR) { // say where, as Tcl does for a file
@@ -103,7 +157,19 @@ ExitCode Session::Finish(int code) {
     const bool failed = code != TCL_OK && code != TCL_RETURN;
     if (failed) PrintFailure(code);
     ServePending();
-    return failed ? EXIT_FAILED : EXIT_DONE;
+    if (failed) return EXIT_FAILED;
+    ShowToTheEnd();
+    return EXIT_DONE;
+}
+
+void Session::ShowToTheEnd() {
+    DrawWindows();
+    while (windows_ == Windows::OnDisplay && host_->OpenWindows() > 0) Tcl_DoOneEvent(TCL_ALL_EVENTS);
+}
+
+void Session::DrawWindows() const {
+    if (windows_ != Windows::AsText) return;
+    for (const std::string& drawing : host_->DrawWindows()) PrintLine(TCL_STDOUT, drawing);
 }
 
 // An error from within a script has its place in errorInfo; without one, the script could not be read, and

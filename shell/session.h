@@ -23,15 +23,23 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    /// Initializes Tcl, sets argc, argv and argv0, registers the command and adds the data controls.
+    /// Initializes Tcl, sets argc, argv and argv0, registers the command, adds the data controls and, with
+    /// --tk, gives windows a display; that there is none is said on standard error and no failure.
     /// Returns false, with the reason on standard error, when one of them fails.
     bool Start(const Options& options);
 
     /// Runs a script file, with `info script` set, and then what it left pending. An uncaught error's
-    /// errorInfo goes to standard error.
+    /// errorInfo goes to standard error; without one, windows are shown until the last one is closed.
     ExitCode RunScript(const std::string& file);
-    /// Runs the script that standard input holds, up to its end.
+    /// Runs the script that standard input holds, up to its end; with --tk and nothing but blanks there, opens
+    /// the browsers.
     ExitCode RunStandardInput();
+
+    /// Opens the default browser on each data control of the command line.
+    /// @return false, with the reason on standard error, when one cannot be opened
+    bool OpenBrowsers();
+    /// With --tk but without a display: prints the rows of each posted window.
+    void DrawWindows() const;
 
     /// Runs what is due in the event loop, background errors above all: without waiting, and what that
     /// puts off in its turn is not run.
@@ -44,11 +52,19 @@ public:
 private:
     bool AddDatabases(const std::vector<DatabaseOption>& databases);
     void SetArguments(const Options& options);
+    void FindDisplay();
+    bool Browse(const std::string& control);
     ExitCode Finish(int code);
+    void ShowToTheEnd();
     void PrintFailure(int code);
     static void CloseAtExit(ClientData session);
 
+    /// What is to become of windows.
+    enum class Windows { Hidden, OnDisplay, AsText };
+
     Tcl_Interp* interp_;
+    Windows windows_ = Windows::Hidden;
+    std::vector<std::string> browsed_; ///< the data controls of the command line
     std::unique_ptr<znhost::EmbeddedHost> host_;
 };
 

@@ -5,6 +5,7 @@
 #include "model/application.h"
 #include "model/data_sources.h"
 #include "model/window_list.h"
+#include "rows/row_drawing.h"
 #include "store/data_ctrl.h"
 #include "tk/tk_windows.h"
 #include "znBrowserManagerTcl.h"
@@ -88,6 +89,15 @@ std::size_t EmbeddedHost::OpenWindows() const { return parts_->windows ? parts_-
 
 std::vector<std::string> EmbeddedHost::GetAppWords(const std::vector<std::string>& words) {
     return NextAppWords(words);
+}
+
+std::vector<std::string> EmbeddedHost::DrawWindows() const {
+    const CallLog::Quiet quiet(parts_->log);
+    std::vector<std::string> drawings;
+    for (const auto& window : parts_->application.Model().Windows().All()) {
+        if (window->IsPosted()) drawings.push_back(DrawRows(*window));
+    }
+    return drawings;
 }
 
 std::vector<std::string> EmbeddedHost::GetObjectNames() const {

@@ -39,6 +39,8 @@ public:
     bool ShowWindows(std::string& error);
     /// How many windows stand on the display. While there are any, Tcl's events must be served.
     std::size_t OpenWindows() const;
+    /// The rows of each posted window as a text, for who has no display.
+    std::vector<std::string> DrawWindows() const;
     znBrowserManagerTcl& Manager();
     Application& App();
     /// The record of host calls: watch them, or let one fail.

@@ -1,0 +1,35 @@
+# Makes the pictures of the README on the display at hand: znbrowsersh --tk screenshots.tcl EXAMPLES IMAGES
+#   EXAMPLES  the directory of the prepared examples
+#   IMAGES    where the pictures go
+lassign $argv examples images
+
+interp alias {} zn {} znbrowsermanager
+
+# The Tk index of the first row with that text.
+proc rowOf {window text} {
+    foreach row [zn app rows $window] {
+        if {[string match "$text*" [dict get $row text]]} {return [dict get $row index]}
+    }
+    error "no row \"$text\" in the window $window"
+}
+
+# Takes a picture of the current window at that size, once all of it is drawn.
+proc takePicture {size file} {
+    set top [winfo toplevel [zn window frame]]
+    wm geometry $top $size+0+0
+    raise $top
+    update
+    update idletasks
+    exec import -window [winfo id $top] -strip $file
+    zn window post false
+}
+
+source [file join $examples browser.tcl]
+foreach text {{Ball bearing} {Shim}} {zn OnTkTreeRequestSelect gearbox [rowOf gearbox $text]}
+takePicture 1080x640 [file join $images browser.png]
+
+zn app datactrl create shop [file join $examples models shop.db]
+znbrowser::any::browse shop
+zn OnTkTreeRequestExpand shop [rowOf shop "Ciclofficina"]
+zn OnTkTreeRequestSelect shop [rowOf shop "Ciclofficina"]
+takePicture 1080x640 [file join $images any_database.png]

@@ -1,0 +1,286 @@
+# The default browser: a view and a window on any SQLite file, for who has no script of his own.
+#
+# Every table and view of the database is a list of its rows; a table that refers to itself is a folder with its
+# rows nested. Below a row stand the rows that refer to it. The built-in column names a row by the table's own
+# display column; the columns that most tables have, and those to tick, are shown; the rest can be switched on.
+#
+# The names of tables and columns are somebody else's: they go into commands as single words, and into SQL quoted.
+
+namespace eval ::znbrowser::any {
+    variable shownColumns 16   ;# what a window shows at first; a text has no scroll bar, and asks for less
+    variable columnLimit 60    ;# more are not made
+    variable openRows 60       ;# small tables are opened at first, up to so many rows together ...
+    variable openTable 30      ;# ... when they have no more than these
+    variable countedBytes 1e8  ;# in larger files counting all rows takes too long
+}
+
+# Opens a browser on the data control, in a view and a window of its name.
+#   columns: how many are shown at first
+proc ::znbrowser::any::browse {control {columns {}}} {
+    if {$columns eq ""} {set columns $::znbrowser::any::shownColumns}
+    Do datactrl current $control
+    Do view create $control true
+    Do view datactrl connect
+    set tables [ReadTables $control]
+    set references [ReadReferences $control $tables]
+    set nested [FindNested $control $references]
+    Do view column current Name
+    Do view column width 300
+    MakeColumns $tables $columns
+    MakeFolders $control $tables $references $nested
+    Do window create $control
+    ExpandSmall $control [dict keys $tables] $nested
+    Do window post true
+}
+
+# Runs a command; an answer that is an error becomes a Tcl error.
+proc ::znbrowser::any::Do {args} {
+    set answer [znbrowsermanager {*}$args]
+    if {[regexp {^\[Command\] .*?\n\t\[Error\] (.*)$} $answer -> message]} {
+        return -code error -errorcode {ZNBROWSER ERROR} $message
+    }
+    return $answer
+}
+
+proc ::znbrowser::any::Sql {control statement args} {Do app sql $control $statement {*}$args}
+
+proc ::znbrowser::any::Quoted {name} {return "\"[string map {\" \"\"} $name]\""}
+
+# ---- What is in the database -----------------------------------------------------------------------------------
+
+# The tables and views that can be read, now connected to the view: name -> {column type isKey ...}, without the
+# column that names the rows. The others are reported.
+proc ::znbrowser::any::ReadTables {control} {
+    set tables {}
+    foreach row [Sql $control {
+        SELECT name FROM pragma_table_list WHERE schema = 'main' AND type IN ('table', 'view', 'virtual')
+        AND name NOT LIKE 'sqlite!_%' ESCAPE '!' AND name NOT LIKE 'znbrowser!_%' ESCAPE '!' ORDER BY name
+    }] {
+        lassign $row name
+        if {[catch {
+            Sql $control "SELECT 1 FROM [Quoted $name] LIMIT 1"
+            Do view datasource connect $name
+            dict set tables $name [ReadColumns $control $name]
+        } message]} {puts stderr "znbrowsersh: $control: \"$name\" cannot be shown: $message"}
+    }
+    return $tables
+}
+
+proc ::znbrowser::any::ReadColumns {control table} {
+    set keys [lmap row [Sql $control {SELECT "from" FROM pragma_foreign_key_list(?)} $table] {lindex $row 0}]
+    set columns [Sql $control {
+        SELECT name, lower(type), pk FROM pragma_table_xinfo(?, 'main') WHERE hidden <> 1 ORDER BY cid
+    } $table]
+    set named [DisplayColumn $columns]
+    set found {}
+    foreach row $columns {
+        lassign $row column declared primary
+        if {$column eq $named} continue
+        lappend found $column [TypeOf $declared] [expr {$primary || $column in $keys}]
+    }
+    return $found
+}
+
+# The column by which the rows of a table are named.
+proc ::znbrowser::any::DisplayColumn {columns} {
+    foreach wanted {name title label caption number} {
+        foreach row $columns {
+            if {[string equal -nocase [lindex $row 0] $wanted]} {return [lindex $row 0]}
+        }
+    }
+    foreach row $columns {
+        if {[TypeOf [lindex $row 1]] eq "string" && [regexp {char|clob|text} [lindex $row 1]]} {
+            return [lindex $row 0]
+        }
+    }
+    return
+}
+
+# The type of a view property for a column declared so; the rules are SQLite's, but for what is boolean. Empty where
+# nothing is declared, as with what a view computes.
+proc ::znbrowser::any::TypeOf {declared} {
+    switch -regexp -- $declared {
+        {^bool(ean)?$}   {return bool}
+        int              {return integer}
+        char|clob|text   {return string}
+        real|floa|doub   {return double}
+        ^$               {return {}}
+        default          {return string}
+    }
+}
+
+# The references between these tables that lead to columns which exist: a list of {name child parent column}. The host
+# names one after the table and the first column of the key, with a number where that is taken.
+proc ::znbrowser::any::ReadReferences {control tables} {
+    set byName {}
+    foreach table [dict keys $tables] {dict set byName [string tolower $table] $table}
+    set keys {
+        SELECT "table", "from" FROM pragma_foreign_key_list(?1) AS key WHERE seq = 0 AND CASE WHEN "to" IS NULL
+        THEN (SELECT count(*) FROM pragma_foreign_key_list(?1) WHERE id = key.id) =
+            (SELECT count(*) FROM pragma_table_info(key."table") WHERE pk > 0)
+        ELSE "to" COLLATE NOCASE IN (SELECT name FROM pragma_table_xinfo(key."table")) END ORDER BY id DESC
+    }
+    set references {}
+    foreach table [dict keys $tables] {
+        set taken {}
+        foreach row [Sql $control $keys $table] {
+            lassign $row target column
+            if {![dict exists $byName [string tolower $target]]} continue
+            set number [dict get [dict incr taken $column] $column]
+            set name $table.$column[expr {$number > 1 ? "#$number" : ""}]
+            lappend references [list $name $table [dict get $byName [string tolower $target]] $column]
+        }
+    }
+    return $references
+}
+
+# ---- Columns ---------------------------------------------------------------------------------------------------
+
+# A column for each name that columns of the tables have: first those that most tables have, and what can be ticked.
+# What is a key in most says little to a reader: it is not shown. Where tables differ in the type of a column, it
+# holds texts.
+proc ::znbrowser::any::MakeColumns {tables shown} {
+    set types {}
+    dict for {table columns} $tables {
+        if {$table eq "script"} continue ;# as a source of values, the word stands for a Tcl script
+        foreach {column type isKey} $columns {
+            dict lappend users $column $table
+            dict incr ranks $column [expr {$isKey ? -1 : $type eq "bool" ? 2 : 1}]
+            if {![dict exists $types $column]} {dict set types $column $type}
+            dict set types $column [CommonType [dict get $types $column] $type]
+        }
+    }
+    if {![dict size $types]} return
+    set ranked [lsort -stride 2 -index 1 -integer -decreasing $ranks]
+    set made 0
+    foreach {column rank} [lrange $ranked 0 [expr {2 * $::znbrowser::any::columnLimit - 1}]] {
+        if {[catch {MakeColumn $column [dict get $types $column] [dict get $users $column]}]} continue
+        if {[incr made] > $shown || $rank < 0} {Do view column show false}
+    }
+}
+
+proc ::znbrowser::any::CommonType {one other} {
+    if {$one eq $other} {return $one}
+    foreach numbers {integer double} {
+        if {$one in [list {} $numbers] && $other in [list {} $numbers]} {return $numbers}
+    }
+    return [expr {$one in {integer double} && $other in {integer double} ? "double" : "string"}]
+}
+
+proc ::znbrowser::any::MakeColumn {name type tables} {
+    Do view property create $name
+    Do view property type [expr {$type eq "" ? "string" : $type}]
+    foreach table $tables {Do view property connect $table $name}
+    Do view column create $name
+    lassign [dict get {bool {50 center} integer {60 right} double {80 right} string {120 left} {} {80 left}} $type] \
+        width justify
+    Do view column justify $justify
+    Do view column width [expr {max($width, 24 + 8 * min(20, [string length $name]))}]
+}
+
+# ---- Folders and lists -----------------------------------------------------------------------------------------
+
+proc ::znbrowser::any::MakeFolders {control tables references nested} {
+    Do view folder current $control
+    set counts [expr {[Size $control] <= $::znbrowser::any::countedBytes}]
+    Do view folder children count bynumber $counts
+    Do view group children [HasKinds $references]
+    set below [ByParent $references]
+    foreach table [dict keys $tables] {
+        if {![dict exists $nested $table]} {
+            Do view list create $table
+            continue
+        }
+        Do view folder create $table
+        Do view folder children count bynumber $counts
+        Do view folder tree toplevel $table [lindex [dict get $nested $table] 0]
+        foreach link [Reachable $table $below] {Tie $link}
+        Do view folder current $control
+    }
+    foreach reference $references {Tie $reference}
+}
+
+# Lets the rows of the child stand below those that they refer to.
+proc ::znbrowser::any::Tie {reference} {
+    lassign $reference name child parent
+    Do view folder tree parentchild $parent $child $name
+}
+
+proc ::znbrowser::any::Size {control} {
+    return [lindex [Sql $control {SELECT page_count * page_size FROM pragma_page_count, pragma_page_size}] 0 0]
+}
+
+# The tables that refer to themselves: table -> the reference and a condition for the rows at the top. Where no row
+# is at the top, all would be out of sight: such a table counts for flat.
+proc ::znbrowser::any::FindNested {control references} {
+    set nested {}
+    foreach reference $references {
+        lassign $reference name child parent column
+        if {$child ne $parent || [dict exists $nested $child]} continue
+        set condition "WHERE [Quoted $column] IS NULL"
+        if {[CountRows $control $child $condition 1]} {dict set nested $child [list $name $condition]}
+    }
+    return $nested
+}
+
+# Whether rows of more than one kind may stand below a row.
+proc ::znbrowser::any::HasKinds {references} {
+    dict for {parent links} [ByParent $references] {
+        if {[llength [lsort -unique [lmap link $links {lindex $link 1}]]] > 1} {return 1}
+    }
+    return 0
+}
+
+proc ::znbrowser::any::ByParent {references} {
+    set byParent {}
+    foreach reference $references {dict lappend byParent [lindex $reference 2] $reference}
+    return $byParent
+}
+
+# The references along which rows may stand below those of the table, each once.
+proc ::znbrowser::any::Reachable {table below} {
+    set links {}
+    set seen [dict create $table 1]
+    for {set open [list $table]} {[llength $open]} {} {
+        set open [lassign $open parent]
+        if {![dict exists $below $parent]} continue
+        foreach link [dict get $below $parent] {
+            lappend links $link
+            set child [lindex $link 1]
+            if {[dict exists $seen $child]} continue
+            dict set seen $child 1
+            lappend open $child
+        }
+    }
+    return $links
+}
+
+# How many rows of the table meet the condition; one more than `most` when they are more. None, when they cannot
+# be read.
+proc ::znbrowser::any::CountRows {control table condition most} {
+    set statement "SELECT count(*) FROM (SELECT 1 FROM [Quoted $table] $condition LIMIT $most + 1)"
+    if {[catch {Sql $control $statement} rows]} {return 0}
+    return [lindex $rows 0 0]
+}
+
+# Opens the top, and small tables, so that there is something to see.
+proc ::znbrowser::any::ExpandSmall {control tables nested} {
+    variable openRows
+    variable openTable
+    Do view folder expand false
+    set room $openRows
+    foreach table $tables {
+        set condition [expr {[dict exists $nested $table] ? [lindex [dict get $nested $table] 1] : ""}]
+        set count [CountRows $control $table $condition $openTable]
+        if {$count == 0 || $count > min($openTable, $room)} continue
+        incr room -$count
+        if {[dict exists $nested $table]} {
+            Do view folder current $table
+            Do view folder expand false
+            Do view folder current $control
+        } else {
+            Do view list current $table
+            Do view list expand false
+        }
+    }
+}
