@@ -76,7 +76,8 @@ std::optional<ExitCode> ParseOptions(int argc, const char* const* argv, Options&
     app.add_flag("--strict", options.strict,
                  "Make each error banner a Tcl error, errorCode {ZNBROWSER ERROR ...}")
         ->disable_flag_override();
-    app.add_flag("--tk", options.tk, "Open windows on the display; with nothing to run, a browser on each --db")
+    app.add_flag("--tk", options.tk,
+                 "Open windows on the display; with nothing to run, a browser on each --db")
         ->disable_flag_override();
     app.set_version_flag("--version", "znbrowsersh " ZN_VERSION);
     app.prefix_command(); // stop at the script: the options behind it are the script's own

@@ -15,8 +15,8 @@ struct DatabaseOption {
 struct Options {
     std::vector<DatabaseOption> databases;
     bool strict = false;
-    bool tk = false; /// windows stand on the display, or are drawn as text where there is none
-    std::string program;                /// as it was called
+    bool tk = false;     /// windows stand on the display, or are drawn as text where there is none
+    std::string program; /// as it was called
     std::optional<std::string> script;  /// none: the prompt, or the script on standard input
     std::vector<std::string> arguments; /// what follows the script, for the script alone
 };

@@ -31,8 +31,8 @@ public:
     /// Runs a script file, with `info script` set, and then what it left pending. An uncaught error's
     /// errorInfo goes to standard error; without one, windows are shown until the last one is closed.
     ExitCode RunScript(const std::string& file);
-    /// Runs the script that standard input holds, up to its end; with --tk and nothing but blanks there, opens
-    /// the browsers.
+    /// Runs the script that standard input holds, up to its end; with --tk and nothing but blanks there,
+    /// opens the browsers.
     ExitCode RunStandardInput();
 
     /// Opens the default browser on each data control of the command line.

@@ -200,10 +200,10 @@ proc ::znbrowser::any::MakeFolders {control tables references nested} {
     foreach reference $references {Tie $reference}
 }
 
-# Lets the rows of the child stand below those that they refer to.
+# Lets the rows of the child stand below those that they refer to, where the host knows the reference.
 proc ::znbrowser::any::Tie {reference} {
     lassign $reference name child parent
-    Do view folder tree parentchild $parent $child $name
+    catch {Do view folder tree parentchild $parent $child $name}
 }
 
 proc ::znbrowser::any::Size {control} {

@@ -45,7 +45,9 @@ proc ::znbrowser::applySearch {n} {
     unset -nocomplain w(timer,search)
     if {$w(search) ne [dict get $w(look) filter]} {
         command $n view filter string current $w(search)
-        if {[isOpen $n]} {flush $n}
+        if {![isOpen $n]} return
+        dict set w(look) filter $w(search) ;# the host tells of it only when there is nothing else to do
+        flush $n
     }
 }
 

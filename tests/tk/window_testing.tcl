@@ -26,11 +26,18 @@ proc closeWindow {} {
     update
 }
 
-# Waits until the script is true; an error when it does not become so.
-proc await {script} {
+# The same with the tree open down to the parts.
+proc startExpanded {} {
+    startWindow
+    expand tree structure box input output
+    update
+}
+
+# Waits until the condition is true; an error when it does not become so.
+proc await {condition} {
     set end [expr {[clock milliseconds] + 10000}]
-    while {![uplevel 1 $script]} {
-        if {[clock milliseconds] > $end} {error "waited in vain for: $script"}
+    while {![uplevel 1 [list expr $condition]]} {
+        if {[clock milliseconds] > $end} {error "waited in vain for: $condition"}
         after 10 {set ::tick 1}
         vwait ::tick
     }
@@ -44,20 +51,26 @@ proc placeOf {text args} {
     return [list [expr {($x1 + $x2) / 2}] [expr {($y1 + $y2) / 2}]]
 }
 
-proc send {event args} {
+proc mouseOrKey {event args} {
     event generate [znbrowser::tree W] $event {*}$args
     update
 }
-proc clickAt {x y {modifier ""} {button 1}} {
-    send <Motion> -x $x -y $y
-    send <${modifier}ButtonPress-$button> -x $x -y $y
-    send <${modifier}ButtonRelease-$button> -x $x -y $y
+# Presses a button and lets it go; clicks at one place are no double click, unless asked for.
+proc clickAt {x y {modifier ""} {button 1} {times 1}} {
+    incr ::mouseTime 10000
+    mouseOrKey <Motion> -x $x -y $y
+    foreach time [lrepeat $times $::mouseTime] {
+        mouseOrKey <${modifier}ButtonPress-$button> -x $x -y $y -time $time
+        mouseOrKey <${modifier}ButtonRelease-$button> -x $x -y $y -time $time
+    }
 }
 proc click {place {modifier ""} {button 1}} {clickAt {*}[placeOf {*}$place] $modifier $button}
+# A key, perhaps with modifiers: Down, Shift-Down.
 proc key {name} {
     focus -force [znbrowser::tree W]
-    send <KeyPress-$name>
-    send <KeyRelease-$name>
+    set modifiers [string range $name 0 [string last - $name]]
+    set name [string range $name [string length $modifiers] end]
+    foreach event {KeyPress KeyRelease} {mouseOrKey <$modifiers$event-$name>}
 }
 
 # The host calls made to the window while the script runs: each operation, and what it is called with.
@@ -77,11 +90,11 @@ proc calls {script} {
 proc drag {text onto} {
     lassign [placeOf $text Name] x y
     lassign [placeOf $onto Name] toX toY
-    send <ButtonPress-1> -x $x -y $y
+    mouseOrKey <ButtonPress-1> -x $x -y $y
     foreach part {0.3 0.7 1.0} {
-        send <Button1-Motion> -x [expr {int($x + $part * ($toX - $x))}] -y [expr {int($y + $part * ($toY - $y))}]
+        mouseOrKey <Button1-Motion> -x [expr {int($x + $part * ($toX - $x))}] -y [expr {int($y + $part * ($toY - $y))}]
     }
-    send <ButtonRelease-1> -x $toX -y $toY
+    mouseOrKey <ButtonRelease-1> -x $toX -y $toY
 }
 
 # The header of a column: its box, its text, a click on it.
