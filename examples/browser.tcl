@@ -38,7 +38,7 @@ foreach {column caption width justify} {
     pieces   Pieces         60 right
     done     Done           50 center
     diameter "Ø (mm)"       70 right
-    depth    "Depth (mm)"   80 right
+    depth    "Depth (mm)"   90 right
     density  "Density"      70 right
 } {
     zn view column create $column
