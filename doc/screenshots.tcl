@@ -30,6 +30,6 @@ takePicture 1080x640 [file join $images browser.png]
 
 zn app datactrl create shop [file join $examples models shop.db]
 znbrowser::any::browse shop
-zn OnTkTreeRequestExpand shop [rowOf shop "Ciclofficina"]
-zn OnTkTreeRequestSelect shop [rowOf shop "Ciclofficina"]
-takePicture 1080x640 [file join $images any_database.png]
+foreach text {Bicycles "City bicycles" Ciclofficina 2024-103 "order line"} {zn OnTkTreeRequestExpand shop [rowOf shop $text]}
+zn OnTkTreeRequestSelect shop [rowOf shop 2024-103]
+takePicture 1180x640 [file join $images any_database.png]

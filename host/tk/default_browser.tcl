@@ -29,6 +29,7 @@ proc ::znbrowser::any::browse {control {columns {}}} {
     MakeColumns $tables $columns
     MakeFolders $control $tables $references $nested
     Do window create $control
+    Do window stripe true
     ExpandSmall $control [dict keys $tables] $nested
     Do window post true
 }
@@ -172,7 +173,7 @@ proc ::znbrowser::any::MakeColumn {name type tables} {
     Do view property type [expr {$type eq "" ? "string" : $type}]
     foreach table $tables {Do view property connect $table $name}
     Do view column create $name
-    lassign [dict get {bool {50 center} integer {60 right} double {80 right} string {120 left} {} {80 left}} $type] \
+    lassign [dict get {bool {50 center} integer {60 right} double {80 right} string {100 left} {} {80 left}} $type] \
         width justify
     Do view column justify $justify
     Do view column width [expr {max($width, 24 + 8 * min(20, [string length $name]))}]
