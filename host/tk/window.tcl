@@ -188,7 +188,8 @@ proc ::znbrowser::destroyed {n path} {
 
 # The frame of a part, unless the part's own procedure made it.
 proc ::znbrowser::makePart {path} {
-    if {![winfo exists $path] && [winfo exists [winfo parent $path]]} {ttk::frame $path}
+    set parent [string range $path 0 [string last . $path]-1]
+    if {![winfo exists $path] && ($parent eq "" || [winfo exists $parent])} {ttk::frame $path}
 }
 
 # Parts stand one below the other, unless their own procedures put them elsewhere; the tree takes what is left.
