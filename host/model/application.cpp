@@ -1,6 +1,7 @@
 #include "model/application.h"
 
 #include "model/data_sources.h"
+#include "model/long_work.h"
 #include "store/data_ctrl.h"
 #include "znIBrowserManagerTcl.h"
 
@@ -59,6 +60,8 @@ bool Application::AddDataCtrl(const std::string& name, const std::string& file, 
     dataControls_.Add(std::move(control));
     return true;
 }
+
+bool Application::GoesOn() const { return !work_ || work_->GoesOn(); }
 
 // The lambda makes a script that ends with "return" end well; the script itself runs at the global level.
 bool Application::RunScript(const std::string& script) {

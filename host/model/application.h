@@ -16,6 +16,7 @@ namespace znhost {
 
 class DataCtrl;
 class WindowDisplay;
+class LongWork;
 
 class Application final : public znIBrowserApplication, public HostObject {
 public:
@@ -32,6 +33,11 @@ public:
     /// What shows the windows on a screen; null when nothing does. It is not owned.
     WindowDisplay* Display() const { return display_; }
     void SetDisplay(WindowDisplay* display) { display_ = display; }
+
+    /// Whether somebody still waits for what takes long; true when nobody looks after that.
+    bool GoesOn() const;
+    /// It is not owned.
+    void SetWork(LongWork* work) { work_ = work; }
 
     NamedList<DataCtrl>& DataControls() { return dataControls_; }
     /// Adds a data control on a database file, made when missing, or on one in memory when `file` is "".
@@ -63,6 +69,7 @@ private:
     Tcl_Interp* const interp_;
     znIBrowserManagerTcl* manager_ = nullptr;
     WindowDisplay* display_ = nullptr;
+    LongWork* work_ = nullptr;
     znSignal<single_threaded, const char*> windowReselected_;
     // The browser goes first: what it holds points into the data controls.
     NamedList<DataCtrl> dataControls_;

@@ -81,7 +81,7 @@ bool EmbeddedHost::CreateDataCtrl(const std::string& name, const std::string& fi
 }
 
 bool EmbeddedHost::ShowWindows(std::string& error) {
-    if (!parts_->windows) parts_->windows = TkWindows::Load(App(), error);
+    if (!parts_->windows) parts_->windows = TkWindows::Load(App(), &parts_->command, error);
     return parts_->windows != nullptr;
 }
 

@@ -1,4 +1,6 @@
 // Expanding and collapsing, and keeping what is expanded through changes of the view.
+#include "model/application.h"
+#include "model/browser.h"
 #include "model/view.h"
 #include "rows/row_model.h"
 
@@ -25,6 +27,8 @@ TreePart MakePart(const RowContent& content, const RowPlan& plan) {
 // ---- Filling
 // ------------------------------------------------------------------------------------------------
 
+bool RowModel::GoesOn() const { return !view_ || view_->Owner().Owner().GoesOn(); }
+
 /// Makes what stands in a container. False when there is nothing, or the work must be given up.
 bool RowModel::Fill(RowNode& node) {
     const Row row = RowTree::RowOf(node);
@@ -42,7 +46,7 @@ bool RowModel::Fill(RowNode& node) {
 void RowModel::FillAndExpand(RowNode& top) {
     const RowTree::ManyChanges many(tree_, top);
     std::vector<std::pair<RowNode*, int>> open{{&top, 0}};
-    while (!open.empty() && !stopped_) {
+    while (!open.empty() && !stopped_ && GoesOn()) {
         const auto [node, depth] = open.back();
         open.pop_back();
         if (Fill(*node)) ExpandAsCreated(*node, depth, open);
@@ -116,7 +120,7 @@ void RowModel::ExpandBelow(RowNode& top) {
     }
     const RowTree::ManyChanges many(tree_, top);
     std::vector<Step> open{{&top, false}};
-    while (!open.empty() && !stopped_) {
+    while (!open.empty() && !stopped_ && GoesOn()) {
         const Step step = open.back();
         open.pop_back();
         RowNode& node = *step.node;

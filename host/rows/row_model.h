@@ -173,6 +173,7 @@ private:
         Answering answering_;
     };
 
+    bool GoesOn() const;
     void TakeOver();
     void Deliver();
     std::vector<RowLook> LooksOf(const std::vector<Row>& rows);

@@ -16,7 +16,9 @@ std::shared_ptr<DataCtrl> DataCtrl::Open(Application& application, const std::st
 DataCtrl::DataCtrl(Application& application, std::string name, std::unique_ptr<Database> database)
     : HostObject(application.Log()), application_(application), name_(std::move(name)),
       database_(std::move(database)), schema_(*database_), copies_(*database_),
-      states_(*database_, application.Log()) {}
+      states_(*database_, application.Log()) {
+    database_->SetGoesOn([this] { return application_.GoesOn(); });
+}
 
 DataCtrl::~DataCtrl() = default;
 

@@ -4,6 +4,7 @@
 
 #include "store/statement.h"
 
+#include <functional>
 #include <unordered_map>
 #include <vector>
 
@@ -67,6 +68,11 @@ public:
     bool InTransaction() const;
     std::int64_t LastInsertedRow() const;
 
+    // ---- What takes long ----
+    /// Statements that give many rows ask it every now and then; with false they fail.
+    void SetGoesOn(std::function<bool()> goesOn) { goesOn_ = std::move(goesOn); }
+    bool GoesOn() const { return !goesOn_ || goesOn_(); }
+
     /// The connection, for the other files of this folder.
     sqlite3* Handle() const;
 
@@ -89,6 +95,7 @@ private:
     std::unordered_multimap<std::string_view, std::list<PreparedStatement>::iterator> idleBySql_;
     std::int64_t rollbacks_ = 0;
     std::int64_t disregarded_ = 0;
+    std::function<bool()> goesOn_;
 };
 
 } // namespace znhost

@@ -32,6 +32,12 @@ proc ::znbrowser::prepareLook {} {
             -bordercolor [colour buttonLine] -lightcolor [colour paper] -darkcolor [colour paper]
         ttk::style map $style -background [list pressed [colour headerHot] active [colour header]]
     }
+    ttk::style configure Panel.TFrame -background [colour paper] -relief solid -borderwidth 1 \
+        -bordercolor [colour buttonLine]
+    ttk::style configure Panel.TLabel -background [colour paper]
+    ttk::style configure Browser.Horizontal.TProgressbar -background [colour accent] \
+        -troughcolor [colour header] -bordercolor [colour line] -lightcolor [colour accent] \
+        -darkcolor [colour accent]
     foreach style {Vertical.TScrollbar Horizontal.TScrollbar} {
         ttk::style configure $style -gripcount 0 -background [colour line] -troughcolor [colour surface] \
             -bordercolor [colour surface] -lightcolor [colour line] -darkcolor [colour line] \

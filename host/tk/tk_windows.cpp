@@ -128,17 +128,20 @@ private:
 // ---- Loading
 // -------------------------------------------------------------------------------------------------
 
-TkWindows::TkWindows(Application& application) : application_(application) {}
+TkWindows::TkWindows(Application& application, Tcl_Command_* const* command)
+    : application_(application), work_(application.Interp(), command) {}
 
-std::unique_ptr<TkWindows> TkWindows::Load(Application& application, std::string& error) {
+std::unique_ptr<TkWindows> TkWindows::Load(Application& application, Tcl_Command_* const* command,
+                                           std::string& error) {
     Tcl_Interp* const interp = application.Interp();
     {
         const HiddenArguments hidden(interp);
         if (!Evaluate(interp, "package require Tk", error)) return nullptr;
     }
-    std::unique_ptr<TkWindows> windows(new TkWindows(application));
+    std::unique_ptr<TkWindows> windows(new TkWindows(application, command));
     if (!Evaluate(interp, "package require treectrl", error) || !windows->LoadScripts(error)) return nullptr;
     application.SetDisplay(windows.get());
+    application.SetWork(&windows->work_);
     return windows;
 }
 
@@ -156,7 +159,8 @@ bool TkWindows::LoadScripts(std::string& error) {
 
 TkWindows::~TkWindows() {
     while (!shown_.empty()) Close(shown_.begin()->second->Of());
-    if (application_.Display() == this) application_.SetDisplay(nullptr);
+    application_.SetDisplay(nullptr);
+    application_.SetWork(nullptr);
     if (!Tcl_InterpDeleted(application_.Interp())) Tcl_DeleteCommand(application_.Interp(), hostCommand);
 }
 

@@ -4,6 +4,7 @@
 
 #include "model/window_display.h"
 #include "rows/row_changes.h"
+#include "tk/tk_work.h"
 
 #include <cstdint>
 #include <map>
@@ -22,12 +23,15 @@ class Application;
 class TkWindows final : public WindowDisplay {
 public:
     /// Loads Tk, the tree widget and the scripts. Null, with the reason in `error`, when that is impossible.
-    static std::unique_ptr<TkWindows> Load(Application& application, std::string& error);
+    /// @param command  where the manager's command is kept
+    static std::unique_ptr<TkWindows> Load(Application& application, Tcl_Command_* const* command,
+                                           std::string& error);
     ~TkWindows();
     TkWindows(const TkWindows&) = delete;
     TkWindows& operator=(const TkWindows&) = delete;
 
     Application& App() const { return application_; }
+    TkWork& Work() { return work_; }
     /// How many windows are open.
     std::size_t Count() const { return shown_.size(); }
     /// The open window of that number; null when there is none.
@@ -42,12 +46,13 @@ public:
 private:
     class Shown;
 
-    explicit TkWindows(Application& application);
+    TkWindows(Application& application, Tcl_Command_* const* command);
     bool LoadScripts(std::string& error);
     unsigned NumberOf(const Window& window) const;
     std::string Run(const std::vector<std::string>& words) const;
 
     Application& application_;
+    TkWork work_;
     unsigned opened_ = 0;
     std::map<unsigned, std::unique_ptr<Shown>> shown_;
 };

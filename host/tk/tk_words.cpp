@@ -210,10 +210,43 @@ int Fail(Tcl_Interp* interp, const std::string& message) {
     return TCL_ERROR;
 }
 
-int AnswerError(CallLog& log, Tcl_Interp* interp) {
-    Tcl_SetObjResult(interp, NewText(log.Error()));
+// ---- Words that need no window to be there
+
+Tcl_Obj* LastError(TkWindows& windows, int) {
+    CallLog& log = windows.App().Log();
+    Tcl_Obj* const text = NewText(log.Error());
     log.SetError("");
-    return TCL_OK;
+    return text;
+}
+
+Tcl_Obj* Begin(TkWindows& windows, int window) {
+    windows.Work().Begin(window);
+    return Tcl_NewObj();
+}
+
+Tcl_Obj* End(TkWindows& windows, int) { return Tcl_NewBooleanObj(windows.Work().End()); }
+
+Tcl_Obj* Cancel(TkWindows& windows, int) {
+    windows.Work().Cancel();
+    return Tcl_NewObj();
+}
+
+Tcl_Obj* IsBusy(TkWindows& windows, int) { return Tcl_NewBooleanObj(windows.Work().IsServing()); }
+
+struct PlainWord {
+    const char* word;
+    Tcl_Obj* (*answer)(TkWindows& windows, int window);
+};
+
+constexpr PlainWord plainWords[] = {
+    {"begin", Begin}, {"busy", IsBusy}, {"cancel", Cancel}, {"end", End}, {"error", LastError},
+};
+
+template <class Word, std::size_t count>
+const Word* FindWord(const Word (&words)[count], std::string_view word) {
+    const auto found = std::find_if(std::begin(words), std::end(words),
+                                    [word](const Word& row) { return word == row.word; });
+    return found == std::end(words) ? nullptr : found;
 }
 
 /// The arguments behind the word and the window. False, and the error stands in the interpreter, when they
@@ -237,19 +270,21 @@ bool ReadArguments(Tcl_Interp* interp, const TkWord& word, int objc, Tcl_Obj* co
 } // namespace
 
 int AnswerTkWord(void* windows, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
-    const TkWindows& open = *static_cast<TkWindows*>(windows);
+    TkWindows& open = *static_cast<TkWindows*>(windows);
+    int number = 0;
     if (objc < 2) {
         Tcl_WrongNumArgs(interp, 1, objv, "WORD ?NUMBER ...?");
         return TCL_ERROR;
     }
     const std::string_view word = Tcl_GetString(objv[1]);
-    if (word == "error") return AnswerError(open.App().Log(), interp);
-    const auto known = std::find_if(std::begin(tkWords), std::end(tkWords),
-                                    [word](const TkWord& row) { return word == row.word; });
-    if (known == std::end(tkWords)) return Fail(interp, "unknown word \"" + std::string(word) + "\"");
-    int number = 0;
-    if (objc < 3 || Tcl_GetIntFromObj(interp, objv[2], &number) != TCL_OK)
-        return Fail(interp, "which window?");
+    if (objc > 2 && Tcl_GetIntFromObj(interp, objv[2], &number) != TCL_OK) return TCL_ERROR;
+    if (const PlainWord* const plain = FindWord(plainWords, word)) {
+        Tcl_SetObjResult(interp, plain->answer(open, number));
+        return TCL_OK;
+    }
+    const TkWord* const known = FindWord(tkWords, word);
+    if (!known) return Fail(interp, "unknown word \"" + std::string(word) + "\"");
+    if (open.Work().IsServing()) return Fail(interp, "the browser is busy");
     const std::shared_ptr<Window> window = open.Find(static_cast<unsigned>(number));
     if (!window) return Fail(interp, "there is no open window " + std::to_string(number));
     Question question{*window, {}, {}};

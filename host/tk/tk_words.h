@@ -18,6 +18,10 @@ namespace znhost {
 ///                               number of its column, then its elements, each a list: kind, text, colour,
 ///                               name. Columns are counted from 0, hidden ones too.
 ///   selected NUMBER             the Tk indices of the selected rows that are visible
+///   begin NUMBER                what happens from now on is waited for by the user of that window
+///   end                         until now; whether it was cancelled
+///   cancel                      the user does not wait any longer
+///   busy                        whether the display is served while the host works
 ///   error                       why the host refused last; forgets it
 int AnswerTkWord(void* windows, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]);
 

@@ -172,6 +172,10 @@ proc ::znbrowser::isOpen {n} {
 proc ::znbrowser::unpost {n} {
     upvar #0 ::znbrowser::window$n w
     if {![info exists w(name)]} return
+    if {[host busy]} {
+        after 100 [list ::znbrowser::unpost $n]
+        return
+    }
     znbrowsermanager window current $w(name)
     znbrowsermanager window post false
 }
@@ -239,12 +243,19 @@ proc ::znbrowser::columnCommand {n column args} {
 # the answer is 0, and the reason stands in the status line. A script that runs may close the window.
 proc ::znbrowser::tell {n words} {
     host error
+    host begin $n
     set failed [catch {znbrowsermanager {*}$words} answer]
-    if {!$failed} {set failed [regexp {^\[Command\] [^\n]*\n\t\[Error\] (.*)$} $answer -> answer]}
+    if {[regexp {^\[Command\] [^\n]*\n\t\[Error\] (.*)$} $answer -> answer]} {set failed 1}
     set refusal [host error]
-    if {![isOpen $n]} {return 0}
-    say $n [expr {$failed ? $answer : $refusal}]
-    return [expr {!$failed}]
+    finish $n [expr {$failed ? $answer : $refusal}]
+    return [expr {!$failed && [isOpen $n]}]
+}
+
+# The work that began is done, and there is something to say, or nothing.
+proc ::znbrowser::finish {n message} {
+    set cancelled [host end]
+    if {![isOpen $n]} return
+    say $n [expr {$cancelled ? "Cancelled: what is shown is not complete." : $message}]
 }
 
 # The host tells what changed since it told last: pairs of a kind of change and a Tk index.
@@ -263,9 +274,24 @@ proc ::znbrowser::flush {n} {
         after cancel $w(timer,draw)
         unset w(timer,draw)
     }
+    if {[host busy]} {
+        set w(timer,draw) [after 50 [list ::znbrowser::flush $n]]
+        return
+    }
     set changes $w(pending)
     set w(pending) {}
     if {$changes eq ""} return
+    host begin $n
+    try {
+        draw $n $changes
+    } finally {
+        if {[host end] && [isOpen $n]} {say $n "Cancelled: what is shown is not complete."}
+    }
+}
+
+# Draws what changed.
+proc ::znbrowser::draw {n changes} {
+    upvar #0 ::znbrowser::window$n w
     set w(look) [host look $n]
     if {[dict exists $changes allCells] || [dict exists $changes allFilled]} {
         drawSurface $n

@@ -1,0 +1,51 @@
+// What is seen of work that takes long.
+#ifndef ZN_HOST_TK_WORK_H
+#define ZN_HOST_TK_WORK_H
+
+#include "model/long_work.h"
+
+#include <chrono>
+
+struct Tcl_Command_;
+struct Tcl_Interp;
+
+namespace znhost {
+
+/// Shows that the host works, and a way to cancel, in the window for which it does. The display is served
+/// meanwhile, but the manager's command answers nothing but an error: the work must find what it works on.
+class TkWork final : public LongWork {
+public:
+    /// @param command  where the manager's command is kept; null in it when a script has deleted it
+    TkWork(Tcl_Interp* interp, Tcl_Command_* const* command) : interp_(interp), command_(command) {}
+    TkWork(const TkWork&) = delete;
+    TkWork& operator=(const TkWork&) = delete;
+
+    /// What happens from now on is waited for by the user of that window. There must be an `End`.
+    void Begin(int window);
+    /// @return whether it was cancelled
+    bool End();
+    void Cancel() { cancelled_ = true; }
+    /// Whether the display is served at this moment, while the work waits.
+    bool IsServing() const { return serving_; }
+
+    bool GoesOn() override;
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    void Call(const char* procedure) const;
+
+    Tcl_Interp* const interp_;
+    Tcl_Command_* const* const command_;
+    int depth_ = 0;
+    int window_ = 0;
+    Clock::time_point begun_;
+    Clock::time_point served_;
+    bool cancelled_ = false;
+    bool shown_ = false;
+    bool serving_ = false;
+};
+
+} // namespace znhost
+
+#endif
