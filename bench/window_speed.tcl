@@ -6,6 +6,12 @@ interp alias {} zn {} znbrowsermanager
 set rows 1000000
 set failed 0
 
+# Nobody is there to read a dialog.
+proc bgerror {message} {
+    puts stderr $::errorInfo
+    exit 1
+}
+
 proc report {what value unit limit} {
     set holds [expr {$value <= $limit}]
     if {!$holds} {incr ::failed}

@@ -5,6 +5,12 @@ lassign $argv examples images
 
 interp alias {} zn {} znbrowsermanager
 
+# Nobody is there to read a dialog.
+proc bgerror {message} {
+    puts stderr $::errorInfo
+    exit 1
+}
+
 # The Tk index of the first row with that text.
 proc rowOf {window text} {
     foreach row [zn app rows $window] {
@@ -32,4 +38,4 @@ zn app datactrl create shop [file join $examples models shop.db]
 znbrowser::any::browse shop
 foreach text {Bicycles "City bicycles" Ciclofficina 2024-103 "order line"} {zn OnTkTreeRequestExpand shop [rowOf shop $text]}
 zn OnTkTreeRequestSelect shop [rowOf shop 2024-103]
-takePicture 1180x640 [file join $images any_database.png]
+takePicture 1240x640 [file join $images any_database.png]
