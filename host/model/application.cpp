@@ -98,8 +98,9 @@ bool Application::ComputeValue(const std::string& procedure, const std::vector<s
     if (!manager_ || Tcl_InterpDeleted(interp_)) return false;
     const KeptResult kept(interp_);
     Tcl_ResetResult(interp_);
-    znString result;
-    const bool computed = manager_->GetStringFromScript(procedure.c_str(), result, QuotedList(item));
+    znString result; // written when the procedure ended well, though something refused it may be noted then
+    const bool computed =
+        manager_->GetStringFromScript(procedure.c_str(), result, QuotedList(item)) || !result.IsNull();
     if (computed) {
         value = result.Str();
     } else {

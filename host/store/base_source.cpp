@@ -10,26 +10,17 @@ void BaseSource::SetTable(Schema::TablePtr table) {
 }
 
 std::vector<RowPart> BaseSource::Parts() {
-    std::string error;
-    if (!Control().Refresh(error)) {
-        FailWith(error);
-        return {};
-    }
+    if (!LookAgain()) return {};
     if (!table_) {
         FailWith("There is no table \"" + Name() + "\" any more");
         return {};
     }
+    std::string error;
     if (!Control().Copies().Refresh(*table_, error)) {
         FailWith(error);
         return {};
     }
     return {RowPart{0, table_, {}, {}}};
-}
-
-Schema::TablePtr BaseSource::TableOfAttributes() {
-    std::string ignored; // the table last known will do
-    Control().Refresh(ignored);
-    return table_;
 }
 
 DataProperty& BaseSource::PropertyOf(const TableColumn& column) {
@@ -40,13 +31,14 @@ DataProperty& BaseSource::PropertyOf(const TableColumn& column) {
 
 std::vector<DataProperty*> BaseSource::ColumnProperties() {
     std::vector<DataProperty*> properties;
-    if (!TableOfAttributes()) return properties;
+    if (!table_) return properties;
     for (const TableColumn& column : table_->columns) properties.push_back(&PropertyOf(column));
     return properties;
 }
 
 DataProperty* BaseSource::FindColumnProperty(std::string_view name) {
-    if (!TableOfAttributes()) return nullptr;
+    LookAgain(); // the table last known will do
+    if (!table_) return nullptr;
     const auto column = table_->FindColumn(name);
     if (!column || table_->columns[*column].name != name) return nullptr;
     return &PropertyOf(table_->columns[*column]);

@@ -28,7 +28,7 @@ public:
 
 protected:
     bool IsCustomSource() const override { return false; }
-    Schema::TablePtr TableOfAttributes() override;
+    Schema::TablePtr TableOfAttributes() override { return table_; }
     std::vector<DataProperty*> ColumnProperties() override;
     DataProperty* FindColumnProperty(std::string_view name) override;
 

@@ -84,25 +84,35 @@ void DataCtrl::TakeOverReferences(const Table& table) {
     }
 }
 
+bool DataCtrl::LookAgain() {
+    std::string error;
+    return Refresh(error) || Fail(error);
+}
+
 SimpleSource* DataCtrl::FindSimple(const std::string& name) {
     if (CustomSource* const custom = custom_.Find(name)) return custom;
-    std::string ignored; // what was there last is the best answer then
-    Refresh(ignored);
+    LookAgain();
     const auto found = knownBases_.find(name);
     return found != knownBases_.end() && found->second->Table() ? found->second.get() : nullptr;
 }
 
 const std::vector<DataReference*>& DataCtrl::References() {
-    std::string ignored;
-    Refresh(ignored);
+    LookAgain();
     return references_;
 }
 
 DataReference* DataCtrl::FindReference(const std::string& name) {
-    std::string ignored;
-    Refresh(ignored);
+    LookAgain();
     const auto found = knownReferences_.find(name);
     return found != knownReferences_.end() && found->second->IsThere() ? found->second.get() : nullptr;
+}
+
+bool DataCtrl::FailNoSource(const std::string& name) {
+    return LookAgain() && Fail("The data control \"" + name_ + "\" has no data source \"" + name + "\"");
+}
+
+bool DataCtrl::FailNoReference(const std::string& name) {
+    return LookAgain() && Fail("The data control \"" + name_ + "\" has no data reference \"" + name + "\"");
 }
 
 bool DataCtrl::Uses(SimpleSource& source) const {
@@ -126,15 +136,21 @@ const char* DataCtrl::GetName() const {
 }
 
 // A table whose name a custom source has already is not listed beside it.
-void DataCtrl::GetDataSourcesSimple(std::vector<znIBrowserDataSourceSimple*>& sources) {
-    sources.clear();
-    if (Refused("znIBrowserDataCtrl::GetDataSourcesSimple")) return;
-    std::string ignored;
-    Refresh(ignored);
+std::vector<SimpleSource*> DataCtrl::SimpleSources() const {
+    std::vector<SimpleSource*> sources;
     for (BaseSource* const base : bases_) {
         if (!custom_.Find(base->Name())) sources.push_back(base);
     }
     for (const auto& custom : custom_) sources.push_back(custom.get());
+    return sources;
+}
+
+void DataCtrl::GetDataSourcesSimple(std::vector<znIBrowserDataSourceSimple*>& sources) {
+    sources.clear();
+    if (Refused("znIBrowserDataCtrl::GetDataSourcesSimple")) return;
+    LookAgain();
+    const std::vector<SimpleSource*> all = SimpleSources();
+    sources.assign(all.begin(), all.end());
 }
 
 znIBrowserDataSourceSimple* DataCtrl::FindDataSourceSimple(const char* name) {
@@ -144,6 +160,7 @@ znIBrowserDataSourceSimple* DataCtrl::FindDataSourceSimple(const char* name) {
 
 bool DataCtrl::CheckNewSource(const std::string& name) {
     if (name.empty()) return Fail("A data source needs a name");
+    if (!LookAgain()) return false; // a table of that name may be there
     if (!FindSimple(name) && !FindHierarchical(name)) return true;
     return Fail("The data control \"" + name_ + "\" already has a data source \"" + name + "\"");
 }
@@ -162,9 +179,8 @@ bool DataCtrl::DeleteDataSourceSimple(const char* name) {
     const std::string doomedName = TextOf(name);
     CustomSource* const doomed = custom_.Find(doomedName);
     if (!doomed) {
-        return Fail(FindSimple(doomedName)
-                        ? "The data source \"" + doomedName + "\" is a base data source: it cannot be deleted"
-                        : "The data control \"" + name_ + "\" has no data source \"" + doomedName + "\"");
+        if (!FindSimple(doomedName)) return FailNoSource(doomedName);
+        return Fail("The data source \"" + doomedName + "\" is a base data source: it cannot be deleted");
     }
     const std::shared_ptr<CustomSource> hold = custom_.Remove(*doomed);
     for (const auto& hierarchical : hierarchical_) hierarchical->Forget(*doomed);
@@ -222,12 +238,8 @@ znIBrowserDataSource* DataCtrl::FindDataSource(const char* name) {
 bool DataCtrl::GetDataSources(std::vector<znIBrowserDataSource*>& sources) {
     sources.clear();
     if (Refused("znIBrowserDataCtrl::GetDataSources")) return false;
-    std::vector<znIBrowserDataSourceSimple*> simple;
-    {
-        const CallLog::Quiet quiet(log_);
-        GetDataSourcesSimple(simple);
-    }
-    for (znIBrowserDataSourceSimple* const source : simple) sources.push_back(&SourceOf(source)->Facet());
+    if (!LookAgain()) return false;
+    for (SimpleSource* const source : SimpleSources()) sources.push_back(&source->Facet());
     for (const auto& hierarchical : hierarchical_) sources.push_back(&hierarchical->Facet());
     return true;
 }
@@ -237,7 +249,8 @@ bool DataCtrl::GetDataSources(std::vector<znIBrowserDataSource*>& sources) {
 bool DataCtrl::GetDataReferences(std::vector<znIBrowserDataReference*>& references) {
     references.clear();
     if (Refused("znIBrowserDataCtrl::GetDataReferences")) return false;
-    references.assign(References().begin(), References().end());
+    if (!LookAgain()) return false;
+    references.assign(references_.begin(), references_.end());
     return true;
 }
 

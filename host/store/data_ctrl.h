@@ -55,11 +55,17 @@ public:
     /// Whether a view shows the source or another source is made of it.
     bool Uses(SimpleSource& source) const;
 
+    // While the database cannot be read, what was there last is found: the reason becomes the browser
+    // object's error text.
     SimpleSource* FindSimple(const std::string& name);
     HierarchicalSource* FindHierarchical(const std::string& name) { return hierarchical_.Find(name); }
     DataReference* FindReference(const std::string& name);
     /// The references of the database, in the order of the tables and their keys.
     const std::vector<DataReference*>& References();
+    /// Refuses a call because nothing of that name was found: with that, or with the reason why the database
+    /// cannot be read. @return false
+    bool FailNoSource(const std::string& name);
+    bool FailNoReference(const std::string& name);
 
     // Input fields. @return null, false: with the reason as the browser object's error text.
     InputField* AddInputField(const std::string& name, const std::string& type);
@@ -92,7 +98,11 @@ public:
     bool DeleteDataOperation(znIBrowserDataOperation* operation) override;
 
 private:
+    /// As `Refresh`, with the reason as the browser object's error text.
+    bool LookAgain();
     bool CheckNewSource(const std::string& name);
+    /// All that are there, as the tables were when last looked at.
+    std::vector<SimpleSource*> SimpleSources() const;
     void TakeOverTables();
     void TakeOverReferences(const Table& table);
 

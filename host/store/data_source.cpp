@@ -5,41 +5,13 @@
 #include "model/data_sources.h"
 #include "store/data_ctrl.h"
 #include "store/view_items.h"
+#include "store/wanted_values.h"
 
 #include <algorithm>
-#include <charconv>
-#include <set>
 
 namespace znhost {
 
 namespace {
-
-/// Takes the texts that are equal to one of the values: as numbers, where the property is a number.
-class ValueSet {
-public:
-    ValueSet(const std::vector<znString>& values, bool numbers) : isNumeric_(numbers) {
-        for (const znString& value : values) {
-            double number = 0;
-            texts_.insert(value.Str());
-            if (numbers && Parse(value.View(), number)) numbers_.insert(number);
-        }
-    }
-    bool Has(std::string_view text) const {
-        double number = 0;
-        return texts_.count(text) || (isNumeric_ && Parse(text, number) && numbers_.count(number));
-    }
-
-private:
-    static bool Parse(std::string_view text, double& number) {
-        const char* const end = text.data() + text.size();
-        const std::from_chars_result result = std::from_chars(text.data(), end, number);
-        return result.ec == std::errc() && result.ptr == end;
-    }
-
-    const bool isNumeric_;
-    std::set<std::string, std::less<>> texts_;
-    std::set<double> numbers_;
-};
 
 /// Whether the source has not been deleted by a script meanwhile.
 bool IsThere(SimpleSource& source) { return source.Control().FindSimple(source.Name()) == &source; }
@@ -123,8 +95,10 @@ bool DataSource::SelectByProperty(znIBrowserView* view, znIBrowserViewProperty* 
         condition.accept = [](std::string_view) { return true; };
         if (values) {
             const CallLog::Quiet quiet(log_);
-            const auto set = std::make_shared<ValueSet>(*values, IsNumber(condition.property->GetType()));
-            condition.accept = [set](std::string_view text) { return set->Has(text); };
+            const auto wanted =
+                std::make_shared<WantedValues>(*values, IsNumber(condition.property->GetType()));
+            condition.accept = [wanted](std::string_view text) { return wanted->Has(text); };
+            condition.wanted = wanted;
         }
         conditions.push_back(std::move(condition));
         return true;

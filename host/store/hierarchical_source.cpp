@@ -93,11 +93,7 @@ DataReference* HierarchicalSource::OnlyReference(SimpleSource& child) {
 bool HierarchicalSource::Tie(SimpleSource& child, const std::string& referenceName) {
     DataReference* const reference =
         referenceName.empty() ? OnlyReference(child) : control_.FindReference(referenceName);
-    if (!reference) {
-        return referenceName.empty() ? false
-                                     : Fail("The data control \"" + control_.Name() +
-                                            "\" has no data reference \"" + referenceName + "\"");
-    }
+    if (!reference) return referenceName.empty() ? false : control_.FailNoReference(referenceName);
     if (!FindMember(child, *reference)) {
         return Fail("The data reference \"" + reference->Name() + "\" does not tie \"" + child.Name() +
                     "\" to the data source \"" + name_ + "\"");
@@ -124,10 +120,7 @@ bool HierarchicalSource::IsConnected() const {
 bool HierarchicalSource::SetParent(const char* name) {
     if (Refused("znIBrowserDataSourceHierarchical::SetParent", name)) return false;
     SimpleSource* const parent = control_.FindSimple(TextOf(name));
-    if (!parent) {
-        return Fail("The data control \"" + control_.Name() + "\" has no data source \"" + TextOf(name) +
-                    "\"");
-    }
+    if (!parent) return control_.FailNoSource(TextOf(name));
     if (parent == parent_) return true;
     if (parent_ && !children_.empty()) {
         return Fail("The data source \"" + name_ + "\" has children that hang on \"" + parent_->Name() +
@@ -141,10 +134,7 @@ bool HierarchicalSource::SetParent(const char* name) {
 bool HierarchicalSource::AddChild(const char* name, const char* third) {
     if (Refused("znIBrowserDataSourceHierarchical::AddChild", name, third)) return false;
     SimpleSource* const child = control_.FindSimple(TextOf(name));
-    if (!child) {
-        return Fail("The data control \"" + control_.Name() + "\" has no data source \"" + TextOf(name) +
-                    "\"");
-    }
+    if (!child) return control_.FailNoSource(TextOf(name));
     if (!parent_) return Fail("The data source \"" + name_ + "\" has no parent to hang a child on");
     return Tie(*child, TextOf(third));
 }

@@ -7,20 +7,11 @@
 #include "store/link_reader.h"
 
 #include <algorithm>
-#include <charconv>
 #include <numeric>
 
 namespace znhost {
 
 namespace {
-
-std::optional<double> NumberOf(std::string_view text) {
-    double number = 0;
-    const char* const end = text.data() + text.size();
-    const std::from_chars_result result = std::from_chars(text.data(), end, number);
-    if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
-    return number;
-}
 
 double RealOf(const Value& value) {
     const std::int64_t* const integer = std::get_if<std::int64_t>(&value);
@@ -118,33 +109,76 @@ bool RowLister::ReadChildren(std::vector<std::int64_t>& rows) {
     return true;
 }
 
-bool RowLister::ReadPart(const RowPart& part, std::vector<std::int64_t>& rows) {
-    std::string columns;
-    std::vector<int> places;
+RowLister::PartReading RowLister::ReadingOf(const RowPart& part) const {
+    PartReading reading;
     int count = 0;
     for (const Field& field : fields_) {
         const auto column = field.computed ? std::nullopt : field.ColumnIn(*part.table);
-        places.push_back(column ? ++count : noPlace);
+        reading.places.push_back(column ? ++count : noPlace);
         if (!column) continue;
         const bool isRowNumber = *column == part.table->columns.size();
-        columns +=
+        reading.columns +=
             ", " + (isRowNumber ? part.table->key : Database::Quoted(part.table->columns[*column].name));
     }
-    std::vector<Value> values;
-    const std::string top = query_.link ? LinkReader(*query_.link).TopCondition(part, values) : std::string();
-    Statement statement =
-        source_.Control().Db().Prepare(part.Select(columns, top) + " ORDER BY " + part.table->key);
+    if (query_.link) reading.condition = LinkReader(*query_.link).TopCondition(part, reading.values);
+    return reading;
+}
+
+bool RowLister::ReadPart(const RowPart& part, std::vector<std::int64_t>& rows) {
+    const PartReading reading = ReadingOf(part);
+    if (LookUp(part, reading, rows)) return true;
+    Statement statement = source_.Control().Db().Prepare(part.Select(reading.columns, reading.condition) +
+                                                         " ORDER BY " + part.table->key);
     int position = part.Bind(statement);
-    for (const Value& value : values) statement.Bind(position++, value);
+    for (const Value& value : reading.values) statement.Bind(position++, value);
     while (statement.Next()) {
-        if (!TakesRow(statement, places)) continue;
+        if (!TakesRow(statement, reading.places)) continue;
         rows.push_back(source_.RowOf({part.slot, statement.Integer(0)}));
         if (!IsSorted()) continue;
         const Field& field = fields_.back();
-        keys_.push_back(field.computed ? Cell() : CellOf(field, statement, places.back()));
+        keys_.push_back(field.computed ? Cell() : CellOf(field, statement, reading.places.back()));
     }
     std::string error;
     return statement.Finish(error) || source_.FailWith(error);
+}
+
+/// Reads the part by an index, if one of the conditions can be answered so. @return false, and `rows` is as
+/// it was, when all rows have to be looked at
+bool RowLister::LookUp(const RowPart& part, const PartReading& reading, std::vector<std::int64_t>& rows) {
+    if (IsSorted()) return false;
+    std::vector<WantedValues::Lookup> lookups;
+    for (std::size_t i = 0; lookups.empty() && i < query_.conditions.size(); ++i) {
+        if (!query_.conditions[i].wanted || reading.places[i] == noPlace) continue;
+        const auto column = fields_[i].ColumnIn(*part.table);
+        if (*column == part.table->columns.size()) continue;
+        lookups = query_.conditions[i].wanted->LookupsIn(part.table->columns[*column]);
+    }
+    if (lookups.empty()) return false;
+    std::vector<std::int64_t> found; // by their numbers in the table
+    for (const WantedValues::Lookup& lookup : lookups) {
+        if (!Find(part, reading, lookup, found)) return false;
+    }
+    std::sort(found.begin(), found.end());
+    found.erase(std::unique(found.begin(), found.end()), found.end());
+    for (const std::int64_t row : found) rows.push_back(source_.RowOf({part.slot, row}));
+    return true;
+}
+
+bool RowLister::Find(const RowPart& part, const PartReading& reading, const WantedValues::Lookup& lookup,
+                     std::vector<std::int64_t>& found) const {
+    const std::string condition = reading.condition + (reading.condition.empty() ? "" : " AND ") + lookup.sql;
+    Statement statement = source_.Control().Db().Prepare(part.Select(reading.columns, condition));
+    int first = part.Bind(statement);
+    for (const Value& value : reading.values) statement.Bind(first++, value);
+    for (const std::vector<Value>& run : lookup.runs) {
+        int position = first;
+        for (const Value& value : run) statement.Bind(position++, value);
+        while (statement.Next()) {
+            if (TakesRow(statement, reading.places)) found.push_back(statement.Integer(0));
+        }
+        statement.Rewind();
+    }
+    return !statement.Failed();
 }
 
 RowLister::Cell RowLister::CellOf(const Field& field, const Statement& statement, int place) const {
@@ -154,7 +188,7 @@ RowLister::Cell RowLister::CellOf(const Field& field, const Statement& statement
 }
 
 RowLister::Cell RowLister::CellOfText(const Field& field, std::string_view text) {
-    const auto number = field.number ? NumberOf(text) : std::nullopt;
+    const auto number = field.number ? NumberOfText(text) : std::nullopt;
     return number ? Cell(*number) : Cell(std::string(text));
 }
 

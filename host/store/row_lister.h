@@ -4,6 +4,7 @@
 
 #include "store/row_part.h"
 #include "store/row_source.h"
+#include "store/wanted_values.h"
 
 #include <optional>
 
@@ -39,7 +40,19 @@ private:
     /// A value as it is compared: a number, a text, or nothing.
     using Cell = Value;
 
+    /// How the rows of one part are read.
+    struct PartReading {
+        std::string columns;     ///< those of the fields, each with a comma before it
+        std::vector<int> places; ///< by field: which column of the statement holds it
+        std::string condition;   ///< beside that of the part; "" for none
+        std::vector<Value> values;
+    };
+
+    PartReading ReadingOf(const RowPart& part) const;
     bool ReadPart(const RowPart& part, std::vector<std::int64_t>& rows);
+    bool LookUp(const RowPart& part, const PartReading& reading, std::vector<std::int64_t>& rows);
+    bool Find(const RowPart& part, const PartReading& reading, const WantedValues::Lookup& lookup,
+              std::vector<std::int64_t>& found) const;
     bool ReadChildren(std::vector<std::int64_t>& rows);
     bool TakesRow(const Statement& statement, const std::vector<int>& places) const;
     void Compute(std::vector<std::int64_t>& rows);

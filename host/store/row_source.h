@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,6 +18,7 @@ class znIBrowserDataSourceSimple;
 namespace znhost {
 
 class RowSource;
+class WantedValues;
 
 /// How the items of one source hang below those of another: along a data reference. Either the child's table
 /// holds the foreign key (an item has any number of children), or the parent's does (it has at most one
@@ -47,6 +49,8 @@ struct RowCondition {
     std::string value;
     /// Never changes the model, may be slow, does not throw. NUL may occur inside the text.
     std::function<bool(std::string_view text)> accept;
+    /// May be given beside `accept`: all that it takes, for an index to find.
+    std::shared_ptr<const WantedValues> wanted;
 };
 
 /// The order of the rows: the source's own (by row number), or by the value of a property.

@@ -36,6 +36,13 @@ bool IsTextDeclaration(std::string_view declaredType) {
     return folded.find("int") == folded.npos && Holds(folded, {"char", "clob", "text"});
 }
 
+/// By SQLite's rules too; the texts of a column of any type stay texts where the table is strict.
+bool IsNumericDeclaration(std::string_view declaredType) {
+    const std::string folded = Folded(declaredType);
+    if (TypeOfDeclaration(folded) != ZNBROWSER_DATA_STRING) return true;
+    return !folded.empty() && folded != "any" && !IsTextDeclaration(folded) && !Holds(folded, {"blob"});
+}
+
 /// Builds one table from what the pragmas tell.
 class TableReader {
 public:
@@ -50,6 +57,7 @@ public:
             column.declaredType = columns.Text(1);
             column.type = TypeOfDeclaration(column.declaredType);
             column.text = IsTextDeclaration(column.declaredType);
+            column.numeric = IsNumericDeclaration(column.declaredType);
             column.notNull = columns.Integer(2) != 0;
             column.primaryKey = static_cast<int>(columns.Integer(3));
         }
@@ -221,6 +229,10 @@ bool Schema::Refresh(std::string& error) {
 }
 
 bool Schema::Read(std::vector<TablePtr>& tables, std::string& error) {
+    // A statement in the middle of its rows keeps others from writing: the tables are read as one.
+    Statement hold = database_.Prepare("SELECT 1 FROM main.sqlite_schema");
+    hold.Next();
+    if (!hold.Finish(error)) return false;
     std::vector<std::shared_ptr<Table>> found;
     Statement list = database_.Prepare("SELECT name, type, wr FROM pragma_table_list WHERE schema = 'main' "
                                        "AND type IN ('table', 'view', 'virtual') ORDER BY name");

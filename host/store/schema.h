@@ -15,7 +15,8 @@ struct TableColumn {
     /// BOOL for BOOL and BOOLEAN; INT and DOUBLE where SQLite's rules give the column that affinity; else
     /// STRING.
     ZNBROWSER_DATA_TYPE type = ZNBROWSER_DATA_STRING;
-    bool text = false; ///< declared as a text: CHAR, CLOB or TEXT
+    bool text = false;    ///< declared as a text: CHAR, CLOB or TEXT
+    bool numeric = false; ///< a text that looks like a number is stored as that number
     bool notNull = false;
     int primaryKey = 0;   ///< position in the primary key from 1; 0: not in it
     bool indexed = false; ///< rows with a given value are found through an index

@@ -23,6 +23,11 @@ bool SimpleSource::FailNotCustom() const {
     return FailWith("The data source \"" + name_ + "\" is a base data source: it cannot be changed");
 }
 
+bool SimpleSource::LookAgain() const {
+    std::string error;
+    return control_.Refresh(error) || FailWith(error);
+}
+
 bool SimpleSource::ReadColumn(RowPlace place, std::size_t column,
                               const std::function<void(Statement&)>& take) {
     BaseSource* const base = BaseAt(place.slot);
@@ -36,16 +41,6 @@ DataProperty* SimpleSource::FindProperty(std::string_view name) {
     return FindColumnProperty(name);
 }
 
-// A property that a script made takes the place of the column of that name.
-std::vector<znIBrowserDataProperty*> SimpleSource::Properties() {
-    std::vector<znIBrowserDataProperty*> properties;
-    for (DataProperty* const column : ColumnProperties()) {
-        if (!created_.Find(column->Name())) properties.push_back(column);
-    }
-    for (const auto& created : created_) properties.push_back(created.get());
-    return properties;
-}
-
 bool SimpleSource::CheckNewProperty(const std::string& name) const {
     if (name.empty()) return FailWith("A data property needs a name");
     if (!created_.Find(name)) return true;
@@ -57,10 +52,15 @@ bool SimpleSource::AddProperty(std::shared_ptr<DataProperty> property) {
     return true;
 }
 
+// A property that a script made takes the place of the column of that name.
 bool SimpleSource::GetDataProperties(std::vector<znIBrowserDataProperty*>& properties) {
     properties.clear();
     if (Refused("znIBrowserDataSourceSimple::GetDataProperties")) return false;
-    properties = Properties();
+    if (!IsCustomSource() && !LookAgain()) return false;
+    for (DataProperty* const column : ColumnProperties()) {
+        if (!created_.Find(column->Name())) properties.push_back(column);
+    }
+    for (const auto& created : created_) properties.push_back(created.get());
     return true;
 }
 
@@ -70,6 +70,7 @@ bool SimpleSource::CreateDataPropertyAttribute(const char* name, ZNBROWSER_DATA_
         return false;
     const std::string newName = TextOf(name);
     if (!CheckNewProperty(newName)) return false;
+    if (!LookAgain()) return false;
     const Schema::TablePtr table = TableOfAttributes();
     if (table && attributeId >= table->columns.size()) {
         return FailWith("The data source \"" + name_ + "\" has no attribute " + std::to_string(attributeId) +

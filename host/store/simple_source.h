@@ -52,7 +52,6 @@ public:
 
     /// The property of that name; null when there is none.
     DataProperty* FindProperty(std::string_view name);
-    std::vector<znIBrowserDataProperty*> Properties();
     /// The properties that scripts made.
     const NamedList<DataProperty>& CreatedProperties() const { return created_; }
 
@@ -103,6 +102,9 @@ public:
 
 protected:
     SimpleSource(DataCtrl& control, std::string name);
+    /// Brings the tables up to date. @return false, with the reason noted, when they cannot be read: what was
+    /// there last is known
+    bool LookAgain() const;
     void OnRefused(const std::string& text) const override { error_ = text; }
 
     virtual bool IsCustomSource() const = 0;
@@ -113,9 +115,9 @@ protected:
     virtual znIBrowserCriteriaContainer* CriteriaList() { return nullptr; }
     virtual bool AddCriteria(const std::string& name);
     virtual bool RemoveCriteria(znIBrowserCriteria& criteria);
-    /// The table by which the numbers of attributes are checked; null for none.
+    /// The table, as last looked at, by which the numbers of attributes are checked; null for none.
     virtual Schema::TablePtr TableOfAttributes() = 0;
-    /// The properties that the source has by itself, in order.
+    /// The properties that the source has by itself, in order, as the table was when last looked at.
     virtual std::vector<DataProperty*> ColumnProperties() { return {}; }
     virtual DataProperty* FindColumnProperty(std::string_view) { return nullptr; }
 

@@ -39,4 +39,9 @@ Value ValueOfWord(std::string_view word) {
     return std::string(word);
 }
 
+std::optional<double> NumberOfText(std::string_view text) {
+    double number = 0;
+    return ReadWhole(text, number) ? std::optional(number) : std::nullopt;
+}
+
 } // namespace znhost

@@ -5,6 +5,8 @@
 #include "store/data_ctrl.h"
 #include "store/link_reader.h"
 
+#include <algorithm>
+
 namespace znhost {
 
 void AddNewLink(std::vector<RowLink>& links, const RowLink& link) {
@@ -37,6 +39,10 @@ void ViewItems::AddBelow(const std::vector<RowLink>& links) {
         SimpleSource* source;
         std::vector<std::int64_t> rows;
     };
+    const auto leadsDown = [this](const RowLink& link) {
+        return &SourceOf(*link.parent) == &source_ && &SourceOf(*link.child) != &source_;
+    };
+    if (std::none_of(links.begin(), links.end(), leadsDown)) return;
     std::vector<Step> steps(1);
     steps.front().source = &source_;
     source_.List({}, steps.front().rows);

@@ -1,5 +1,6 @@
 // Data sources: what scripts do not see of them.
 #include "host_testing.h"
+#include "store_testing.h"
 
 #include "host/znBrowserDataItems.h"
 
@@ -74,6 +75,20 @@ TEST_F(DataSourceTest, TheItemReachesTheProcedureUnharmed) {
     EXPECT_EQ(text, znString("a [exit 3] $x \\"));
 }
 
+TEST_F(DataSourceTest, AValueIsNoErrorBecauseACommandOfItsProcedureWasRefused) {
+    SimpleSource& part = Source("part");
+    Eval("set reported {}; interp bgerror {} {apply {{text options} {lappend ::reported $text}}}\n"
+         "proc good {item} {znbrowsermanager view current nosuch; return ok}\n"
+         "proc bad {item} {error wrong}");
+    ASSERT_TRUE(part.CreateDataPropertyScript("good", "good"));
+    ASSERT_TRUE(part.CreateDataPropertyScript("bad", "bad"));
+    znString text;
+    EXPECT_TRUE(part.FindProperty("good")->GetValueString({&part, 10}, 0, text));
+    EXPECT_EQ(text, znString("ok"));
+    EXPECT_FALSE(part.FindProperty("bad")->GetValueString({&part, 10}, 0, text));
+    EXPECT_EQ(Eval("update; set reported"), "wrong");
+}
+
 TEST_F(DataSourceTest, AProcedureMayDeleteTheSourceItComputesFor) {
     SimpleSource& doomed = Custom("doomed", {"part"});
     ASSERT_TRUE(doomed.CreateDataPropertyScript("last", "last"));
@@ -100,6 +115,48 @@ TEST_F(DataSourceTest, APropertyThatNeedsItsOwnValuesHasNoneThere) {
     ASSERT_TRUE(part.FindProperty("self")->GetValueString({&part, 10}, 0, text));
     EXPECT_EQ(text, znString("<>"));
     EXPECT_STREQ(part.GetError(), "The property \"self\" needs its own values");
+}
+
+TEST_F(DataSourceTest, WhatNeedsTheTablesIsRefusedWhileTheyCannotBeRead) {
+    const TemporaryDirectory directory;
+    ASSERT_TRUE(Open("file", directory.File("a.db"))) << error;
+    DataCtrl& control = Control("file");
+    std::string reason;
+    const auto other = Database::OpenFile(directory.File("a.db"), reason);
+    ASSERT_TRUE(other->RunScript(smallModel, reason)) << reason;
+    SimpleSource& part = *control.FindSimple("part");
+    ASSERT_TRUE(control.CreateDataSourceHierarchical("tree", false, false, "", ""));
+    std::vector<znIBrowserDataReference*> references;
+    std::vector<znIBrowserDataSource*> sources;
+    std::vector<znIBrowserDataSourceSimple*> simple;
+    std::vector<znIBrowserDataProperty*> properties;
+    ASSERT_TRUE(control.Db().RunScript("PRAGMA busy_timeout = 0", reason)) << reason;
+    const std::pair<const char*, std::function<bool()>> calls[] = {
+        {"references", [&] { return control.GetDataReferences(references); }},
+        {"reference", [&] { return control.FindDataReference("nosuch") != nullptr; }},
+        {"sources", [&] { return control.GetDataSources(sources); }},
+        {"simple sources", [&] { return control.GetDataSourcesSimple(simple), simple.empty(); }},
+        {"source", [&] { return control.FindDataSourceSimple("nosuch") != nullptr; }},
+        {"create", [&] { return control.CreateDataSourceSimple("new", "", nullptr); }},
+        {"delete", [&] { return control.DeleteDataSourceSimple("nosuch"); }},
+        {"create tree", [&] { return control.CreateDataSourceHierarchical("new", true, true, "", ""); }},
+        {"parent", [&] { return control.FindHierarchical("tree")->SetParent("nosuch"); }},
+        {"properties", [&] { return part.GetDataProperties(properties); }},
+        {"attribute", [&] { return part.CreateDataPropertyAttribute("a", ZNBROWSER_DATA_STRING, 0, 0); }},
+    };
+    ASSERT_TRUE(other->Execute("BEGIN EXCLUSIVE", reason)) << reason;
+    for (const auto& [what, call] : calls) {
+        App().Log().SetError("");
+        EXPECT_FALSE(call()) << what;
+        EXPECT_EQ(App().Log().Error(), "database is locked") << what;
+    }
+    EXPECT_STREQ(part.GetError(), "database is locked");
+    EXPECT_EQ(control.FindDataSourceSimple("part"), &part); // as it was there last
+    ASSERT_TRUE(other->Execute("COMMIT", reason)) << reason;
+    EXPECT_TRUE(control.GetDataReferences(references));
+    EXPECT_EQ(references.size(), 2U);
+    EXPECT_TRUE(control.GetDataSources(sources));
+    EXPECT_EQ(sources.size(), 3U);
 }
 
 TEST_F(DataSourceTest, ACriteriaFollowsTheTablesAndItsValues) {

@@ -1,0 +1,121 @@
+// What views cost: a column's caption beside a heading of Tk's own tree, many folders, and the selection of
+// items by value.
+#include "bench_host.h"
+
+namespace {
+
+using zn_bench::BenchHost;
+using zn_bench::Growth;
+using zn_bench::SecondsOf;
+
+/// Sets and reads a column's caption, and the heading of a ttk::treeview, in turn. The counter "ratio" is the
+/// one time by the other, both of their shortest runs. Needs a display.
+void ColumnCaptionToTreeviewHeading(benchmark::State& state) {
+    BenchHost host;
+    if (Tcl_Init(host.Interp()) != TCL_OK || !host.Try("package require Tk"))
+        return state.SkipWithError("skipped: there is no display");
+    host.Eval(
+        "zn view create v; zn view column create c\n"
+        "ttk::treeview .tree -columns c; pack .tree; update\n"
+        "proc caption {} {znbrowsermanager view column caption X; znbrowsermanager view column caption}\n"
+        "proc heading {} {.tree heading c -text X; .tree heading c -text}");
+    constexpr int runs = 1000;
+    const auto time = [&host](const std::string& procedure) {
+        return SecondsOf([&] { host.Eval("for {set i 0} {$i < 1000} {incr i} {" + procedure + "}"); });
+    };
+    double caption = std::numeric_limits<double>::max();
+    double heading = caption;
+    for (auto _ : state) {
+        const double seconds = time("caption");
+        state.SetIterationTime(seconds);
+        caption = std::min(caption, seconds);
+        heading = std::min(heading, time("heading"));
+    }
+    state.counters["caption_ns"] = caption / runs * 1e9;
+    state.counters["heading_ns"] = heading / runs * 1e9;
+    state.counters["ratio"] = caption / heading;
+}
+
+/// Folders below one parent.
+void CreateFolders(benchmark::State& state) {
+    static Growth growth(10000);
+    const std::string create = "for {set i 0} {$i < " + std::to_string(state.range(0)) +
+                               "} {incr i} {znbrowsermanager view folder create folder$i}";
+    growth.Measure(state, [&create] {
+        BenchHost host;
+        host.Eval("zn view create v; zn view folder current v");
+        return SecondsOf([&] { host.Eval(create); });
+    });
+}
+
+/// A list of items: each has a number of its own, and a kind that it shares with a tenth of them; both have
+/// an index. Made once for each size.
+class IndexedItems : public BenchHost {
+public:
+    static IndexedItems& Of(std::int64_t count) {
+        static std::map<std::int64_t, std::unique_ptr<IndexedItems>> all;
+        std::unique_ptr<IndexedItems>& items = all[count];
+        if (!items) items.reset(new IndexedItems(count));
+        return *items;
+    }
+    /// Selects the items with that value. @return the seconds it took
+    double Select(const std::string& property, const std::string& value) {
+        Eval("zn view selection clear; zn view property current " + property);
+        return SecondsOf([&] { Eval("zn view dataitem simple select bypropval " + value + " false"); });
+    }
+
+private:
+    explicit IndexedItems(std::int64_t count) {
+        Eval("zn app datactrl create model; zn datactrl current model\n"
+             "foreach statement {\n"
+             "  {create table item (id integer primary key, name text, number integer, kind integer)}\n"
+             "  {insert into item with recursive n(i) as (select 1 union all select i + 1 from n where i < " +
+             std::to_string(count) +
+             ")\n   select i, 'item ' || i, i, i % 10 from n}\n"
+             "  {create index by_number on item (number)} {create index by_kind on item (kind)}\n"
+             "} {zn app sql model $statement}\n"
+             "zn view create v false; zn view datactrl connect; zn view folder current v\n"
+             "zn datasource simple current item\n"
+             "foreach property {number kind} {\n"
+             "  zn view property create $property; zn view property type integer\n"
+             "  zn view property connect item $property}\n"
+             "zn view list create item");
+    }
+};
+
+/// A tenth of the items, by a value that these share. The elements are those selected.
+void SelectTenthByValue(benchmark::State& state) {
+    static Growth growth(100000);
+    IndexedItems& items = IndexedItems::Of(state.range(0) * 10);
+    growth.Measure(state, [&items] { return items.Select("kind", "3"); });
+    if (const std::string count = items.Eval("llength [zn view dataitem selected]");
+        count != std::to_string(state.range(0))) {
+        state.SkipWithError((count + " items are selected").c_str());
+    }
+}
+
+/// One item: "growth" is here that of the whole, from few items to many.
+void SelectOneByValue(benchmark::State& state) {
+    static double fewest = 0;
+    IndexedItems& items = IndexedItems::Of(state.range(0));
+    double best = std::numeric_limits<double>::max();
+    for (auto _ : state) {
+        const double seconds = items.Select("number", "777");
+        state.SetIterationTime(seconds);
+        best = std::min(best, seconds);
+    }
+    if (fewest == 0) fewest = best;
+    state.counters["growth"] = best / fewest;
+}
+
+BENCHMARK(ColumnCaptionToTreeviewHeading)->Iterations(200)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(CreateFolders)->Arg(100)->Arg(1000)->Arg(10000)->Iterations(10)->UseManualTime();
+BENCHMARK(SelectTenthByValue)->Arg(1000)->Arg(10000)->Arg(100000)->Iterations(10)->UseManualTime();
+BENCHMARK(SelectOneByValue)
+    ->Arg(10000)
+    ->Arg(1000000)
+    ->Iterations(2000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+
+} // namespace
