@@ -158,7 +158,7 @@ bool RowLister::LookUp(const RowPart& part, const PartReading& reading, std::vec
     for (const WantedValues::Lookup& lookup : lookups) {
         if (!Find(part, reading, lookup, found)) return false;
     }
-    std::sort(found.begin(), found.end());
+    if (!std::is_sorted(found.begin(), found.end())) std::sort(found.begin(), found.end());
     found.erase(std::unique(found.begin(), found.end()), found.end());
     for (const std::int64_t row : found) rows.push_back(source_.RowOf({part.slot, row}));
     return true;
