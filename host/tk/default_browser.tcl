@@ -11,7 +11,7 @@ namespace eval ::znbrowser::any {
     variable columnLimit 60    ;# more are not made
     variable openRows 60       ;# small tables are opened at first, up to so many rows together ...
     variable openTable 30      ;# ... when they have no more than these
-    variable countedBytes 1e8  ;# in larger files counting all rows takes too long
+    variable largeFile 1e8     ;# in larger ones nothing is counted or opened at first: it takes too long
 }
 
 # Opens a browser on the data control, in a view and a window of its name.
@@ -54,12 +54,12 @@ proc ::znbrowser::any::Quoted {name} {return "\"[string map {\" \"\"} $name]\""}
 proc ::znbrowser::any::ReadTables {control} {
     set tables {}
     foreach row [Sql $control {
-        SELECT name FROM pragma_table_list WHERE schema = 'main' AND type IN ('table', 'view', 'virtual')
+        SELECT name, type = 'view' FROM pragma_table_list WHERE schema = 'main' AND type IN ('table', 'view', 'virtual')
         AND name NOT LIKE 'sqlite!_%' ESCAPE '!' AND name NOT LIKE 'znbrowser!_%' ESCAPE '!' ORDER BY name
     }] {
-        lassign $row name
+        lassign $row name isView
         if {[catch {
-            Sql $control "SELECT 1 FROM [Quoted $name] LIMIT 1"
+            Sql $control "SELECT 1 FROM [Quoted $name] LIMIT [expr {!$isView}]" ;# a view may compute for long
             Do view datasource connect $name
             dict set tables $name [ReadColumns $control $name]
         } message]} {puts stderr "znbrowsersh: $control: \"$name\" cannot be shown: $message"}
@@ -183,7 +183,7 @@ proc ::znbrowser::any::MakeColumn {name type tables} {
 
 proc ::znbrowser::any::MakeFolders {control tables references nested} {
     Do view folder current $control
-    set counts [expr {[Size $control] <= $::znbrowser::any::countedBytes}]
+    set counts [expr {![IsLarge $control]}]
     Do view folder children count bynumber $counts
     Do view group children [HasKinds $references]
     set below [ByParent $references]
@@ -207,8 +207,9 @@ proc ::znbrowser::any::Tie {reference} {
     catch {Do view folder tree parentchild $parent $child $name}
 }
 
-proc ::znbrowser::any::Size {control} {
-    return [lindex [Sql $control {SELECT page_count * page_size FROM pragma_page_count, pragma_page_size}] 0 0]
+proc ::znbrowser::any::IsLarge {control} {
+    set bytes [Sql $control {SELECT page_count * page_size FROM pragma_page_count, pragma_page_size}]
+    return [expr {[lindex $bytes 0 0] > $::znbrowser::any::largeFile}]
 }
 
 # The tables that refer to themselves: table -> the reference and a condition for the rows at the top. Where no row
@@ -269,6 +270,7 @@ proc ::znbrowser::any::ExpandSmall {control tables nested} {
     variable openRows
     variable openTable
     Do view folder expand false
+    if {[IsLarge $control]} return
     set room $openRows
     foreach table $tables {
         set condition [expr {[dict exists $nested $table] ? [lindex [dict get $nested $table] 1] : ""}]
