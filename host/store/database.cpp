@@ -109,7 +109,12 @@ void Database::TakeBack(std::list<PreparedStatement>&& prepared) {
     sqlite3_reset(handle);
     sqlite3_clear_bindings(handle);
     idle_.splice(idle_.begin(), prepared);
-    idleBySql_.emplace(idle_.front().sql, idle_.begin());
+    try {
+        idleBySql_.emplace(idle_.front().sql, idle_.begin());
+    } catch (const std::bad_alloc&) { // then it is not kept: the end of a statement must not fail
+        idle_.pop_front();
+        return;
+    }
     if (idle_.size() <= idleStatements) return;
     const auto oldest = std::prev(idle_.end());
     auto [entry, end] = idleBySql_.equal_range(oldest->sql);

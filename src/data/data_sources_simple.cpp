@@ -1,6 +1,7 @@
 // Simple data sources: made, chosen, captioned and listed.
 #include "data/data_messages.h"
 #include "data/item_values.h"
+#include "frame/deletion.h"
 #include "frame/messages.h"
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserCriteria.h"
@@ -50,8 +51,11 @@ bool znBrowserManagerTcl::DeleteDataSourceSimple(const char* name) {
     if (source && source->IsConnected()) return FailWith({"Cannot delete connected datasource: ", name});
     znIBrowserDataSourceSimple* const dying = source ? source : FindAmongCurrents(current_, name);
     const znBrowserCurrentObjects doomed = dying ? CurrentsInside(dying) : znBrowserCurrentObjects();
-    if (name) current_.dataCtrl->DeleteDataSourceSimple(name);
-    if (FindDataSourceSimple(name) != dying) Forget(doomed);
+    const auto deletion = [&] {
+        if (name) current_.dataCtrl->DeleteDataSourceSimple(name);
+        return FindDataSourceSimple(name) != dying;
+    };
+    DeleteAndForget(deletion, [&] { Forget(doomed); });
     return GetState();
 }
 

@@ -1,4 +1,5 @@
 // Columns of the current view.
+#include "frame/deletion.h"
 #include "frame/messages.h"
 #include "frame/name_list.h"
 #include "host/znIBrowserPopupMenu.h"
@@ -98,8 +99,8 @@ bool znBrowserManagerTcl::DeleteScriptedColumn(const char* name) {
     znIBrowserViewColumn* const column = RequireScriptedColumn(*this, name, "\" cannot be deleted");
     if (!column) return false;
     const znBrowserCurrentObjects doomed = CurrentsInside(column);
-    if (!AskBrowser(*this, &znIBrowser::DeleteColumn, column)) return false;
-    Forget(doomed);
+    const auto deletion = [&] { return AskBrowser(*this, &znIBrowser::DeleteColumn, column); };
+    if (!DeleteAndForget(deletion, [&] { Forget(doomed); })) return false;
     SetCurrentColumn(current_.view ? current_.view->GetDefaultColumn() : nullptr);
     return true;
 }

@@ -1,5 +1,6 @@
 // Free folders: made, chosen, deleted and listed.
 #include "data/item_values.h"
+#include "frame/deletion.h"
 #include "frame/messages.h"
 #include "frame/name_list.h"
 #include "host/znBrowserDataItems.h"
@@ -82,9 +83,8 @@ bool znBrowserManagerTcl::DestroyFreeFolder(const char* name, bool recursive) {
     // The current list goes with the folder that lists it, unless the current folder lists it as well.
     if (current_.list && IsListedWithin(child, current_.list) && !IsListed(*folder, current_.list))
         doomed.list = current_.list;
-    if (!AskBrowser(*this, &znIBrowser::DestroyFreeFolder, child, recursive)) return false;
-    Forget(doomed);
-    return true;
+    const auto deletion = [&] { return AskBrowser(*this, &znIBrowser::DestroyFreeFolder, child, recursive); };
+    return DeleteAndForget(deletion, [&] { Forget(doomed); });
 }
 
 bool znBrowserManagerTcl::SetCurrentFreeFolder(const char* name) {

@@ -1,4 +1,5 @@
 // Styles of the current column.
+#include "frame/deletion.h"
 #include "frame/messages.h"
 #include "frame/name_list.h"
 #include "host/znIBrowserStyle.h"
@@ -39,10 +40,9 @@ bool znBrowserManagerTcl::DeleteViewStyle(const char* name) {
                          " does not exist, therefore cannot be deleted."});
     }
     const znBrowserCurrentObjects doomed = CurrentsInside(style);
-    if (!current_.column->DeleteStyle(style))
-        return FailWith({"View style \"", name, "\" cannot be deleted"});
-    Forget(doomed);
-    return true;
+    const auto deletion = [&] { return current_.column->DeleteStyle(style); };
+    return DeleteAndForget(deletion, [&] { Forget(doomed); }) ||
+           FailWith({"View style \"", name, "\" cannot be deleted"});
 }
 
 bool znBrowserManagerTcl::SetCurrentStyle(const char* name) {

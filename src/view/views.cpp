@@ -1,4 +1,5 @@
 // Views: created, chosen, deleted and redrawn.
+#include "frame/deletion.h"
 #include "frame/messages.h"
 #include "frame/name_list.h"
 #include "host/znIBrowser.h"
@@ -57,8 +58,8 @@ bool znBrowserManagerTcl::DeleteView(const char* name) {
                          " It is used by at least one window : ", window->GetName()});
     }
     const znBrowserCurrentObjects doomed = CurrentsInside(view);
-    if (!AskBrowser(*this, &znIBrowser::DeleteView, view)) return false;
-    Forget(doomed);
+    const auto deletion = [&] { return AskBrowser(*this, &znIBrowser::DeleteView, view); };
+    if (!DeleteAndForget(deletion, [&] { Forget(doomed); })) return false;
     const std::vector<znIBrowserView*> remaining = Views(*browser);
     UpdateCurrentView(remaining.empty() ? nullptr : remaining.front());
     return GetState();

@@ -1,4 +1,5 @@
 // Window parts: the frames into which a window is divided. Without a current part the top level is meant.
+#include "frame/deletion.h"
 #include "frame/name_list.h"
 #include "host/znIBrowser.h"
 #include "host/znIBrowserWindowAccess.h"
@@ -75,8 +76,8 @@ bool znBrowserManagerTcl::DeleteWindowPart(const char* name) {
     if (!part) return FailWith({"Window part: ", name, " not found"});
     const znBrowserCurrentObjects doomed = CurrentsInside(part);
     znIBrowser* const browser = GetBrowser();
-    if (!browser || !browser->DeleteWindowPart(part)) return FailWithHostError();
-    Forget(doomed);
+    const auto deletion = [&] { return browser && browser->DeleteWindowPart(part); };
+    if (!DeleteAndForget(deletion, [&] { Forget(doomed); })) return FailWithHostError();
     if (current_.windowAccess != window) return true;
     const std::vector<znIBrowserWindowPart*> remaining = PartsUnder(nullptr, window, true);
     SetCurrentWindowPartByPtr(remaining.empty() ? nullptr : remaining.front());

@@ -1,4 +1,5 @@
 // Windows: making, choosing, showing and deleting them.
+#include "frame/deletion.h"
 #include "frame/messages.h"
 #include "frame/name_list.h"
 #include "host/znIBrowser.h"
@@ -53,8 +54,8 @@ bool znBrowserManagerTcl::DeleteWindowAccess(const char* name) {
     if (!window) return FailWith({"Window : ", name, " not found"});
     const znBrowserCurrentObjects doomed = CurrentsInside(window);
     znIBrowser* const browser = GetBrowser();
-    if (!browser || !browser->DeleteWindowAccess(window)) return FailWithHostError();
-    Forget(doomed);
+    const auto deletion = [&] { return browser && browser->DeleteWindowAccess(window); };
+    if (!DeleteAndForget(deletion, [&] { Forget(doomed); })) return FailWithHostError();
     const std::vector<znIBrowserWindowAccess*> remaining = Windows(GetBrowser());
     SetCurrentWindowAccess(remaining.empty() ? nullptr : remaining.front());
     ResetCurrentWindowPart();

@@ -1,46 +1,184 @@
-# Every command family once, on a small model: the script that the fault sweep runs again and again. Whatever the
-# host refuses, each line must come back.
+# Every row of every command table, in both connection schemes, on a small model, in sections: each is run again and
+# again on a host of its own, behind the opening. Whatever fails below, each line must come back.
 proc zn {args} {catch {znbrowsermanager {*}$args}}
-
-znbrowsermanager app sql m {CREATE TABLE IF NOT EXISTS unit(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES unit(id), name TEXT, on_ BOOLEAN)}
-znbrowsermanager app sql m {INSERT OR REPLACE INTO unit VALUES (1, NULL, 'a', 1), (2, 1, 'b', 0), (3, 2, 'c', 1)}
+proc run {section} {foreach line $section {zn {*}$line}}
 proc value {item} {return v}
+proc told {args} {foreach family {view window state datactrl} {zn $family current}}
+namespace eval znbrowser {
+    proc ResetSelectedFreeFoldersArray {} {zn view folder current}
+    proc AddToSelectedFreeFoldersArray {name} {zn view folder selected}
+}
 
-foreach line {
-    {datactrl names} {datactrl current m} {view create v} {view create w true} {view current v} {view names}
-    {view datactrl connect} {datasource simple current unit} {datasource simple names}
-    {datasource simple create own Own} {datasource simple caption Mine} {datasource simple connect unit}
-    {datasource simple criteria create c} {datasource simple criteria type int} {datasource simple criteria code {id > ?}}
-    {datasource simple criteria data integer 1} {datasource simple criteria data} {datasource simple criteria names}
-    {datasource simple property create p 0 value} {datasource simple property names} {datasource simple connected}
-    {view datasource simple connect own} {view datasource simple connect unit} {view datasource simple connected}
-    {datasource hierarchical create h 0 0} {datasource hierarchical connect parent unit x}
-    {datasource hierarchical connect child unit unit.parent} {datasource hierarchical connect child names}
-    {view datasource hierarchical connect h} {datasource hierarchical names}
-    {datareference names} {view datareference connect unit.parent} {view datareference connected}
-    {dataoperation create o} {dataoperation script x {set ::ran 1}} {dataoperation perform} {dataoperation names}
-    {view property create title} {view property type string} {view property connect unit name}
-    {view property create flag} {view property type bool} {view property connect unit on_} {view property connected}
-    {view property current title} {datasource simple current unit} {datasource simple dataitem}
-    {view column create c2} {view column create c3 icon x} {view column current c2} {view column caption C}
-    {view column width 40} {view column justify left} {view column move 0} {view column show true} {view column sort enabled}
-    {view style create s} {view element create e} {view element connect property title} {window map create g}
-    {window map type integer string} {window map record create 1 one} {window map record names}
-    {view element connect map g} {element names} {view style names} {view sort enabled} {view sort descending}
-    {view folder current v} {view folder create f} {view tree create h} {view tree names} {view folder current v}
-    {view folder create g} {view list create unit} {view list current unit} {view list caption L} {view list names}
-    {view style connect} {view folder children} {view folder empty true recursive} {view group children true}
-    {view filter dataitemtype current unit} {view filter string current a} {view filter string current {}}
-    {view operation create op} {view operation script {set ::ran 2}} {view operation connect} {view operation perform}
-    {window create win} {window post true} {window names} {window part create part} {window part event current}
-    {window part event names} {window part names true} {window part info} {window listener connect l}
-    {window find property add title} {window find property criterion value b} {window find perform}
-    {onre win 0} {onre win 1} {onre win 2} {onsel win 1 2} {OnTkTreeSelectionChangeFinished win} {app rows win}
-    {view dataitem simple select bypropval b} {view dataitem selected} {view selection clear} {onrhc win Name 1}
-    {onchkbox win Name e 2 1} {onsdi win 1 2} {window expandall} {window collapseall} {state names} {state current s}
-    {view apply pending} {frame} {view redraw} {window part current part} {window part delete} {window delete}
-    {view list delete unit} {view tree delete h} {view folder current v} {view folder delete f recursive}
-    {view style delete} {view column current c3} {view column delete} {view property delete}
-    {datasource simple criteria delete} {datasource simple delete own} {window map delete}
-    {view datactrl disconnect} {view delete} {view current} {view delete}
-} {zn {*}$line}
+set opening {
+    {datactrl current m} {datasource simple create own Own text} {datasource simple connect unit}
+    {datasource simple criteria create c} {datasource hierarchical create h 0 0}
+    {datasource hierarchical connect parent unit x} {datasource hierarchical connect child unit unit.parent}
+    {datasource hierarchical connect child note note.unit} {dataoperation create o}
+    {dataoperation script x {told data}} {view create v} {view datactrl connect}
+    {view datasource simple connect own} {view datasource simple connect unit}
+    {view datasource hierarchical connect h} {view property create title} {view property type string}
+    {view property connect unit name} {view property connect note text} {view property create flag}
+    {view property type bool} {view property connect unit on_} {view property current title} {view column create c2}
+    {view style create s} {view element create e} {view element connect property title} {view folder current v}
+    {view folder create f} {view tree create h} {view folder current v}
+    {view folder create g} {view list create unit} {view folder current v} {view operation create op}
+    {view operation script {told view}} {datasource simple current unit} {window create win}
+    {window part create part} {window listener connect told}
+}
+
+set sections {
+    data {
+        {datactrl names} {datactrl current m} {view create w true} {view current v} {view names}
+        {view datactrl connect} {view datactrl} {view namespace} {view flush true} {view italic enabled}
+        {view italic} {datasource simple current own} {datasource simple names} {datasource simple caption Mine}
+        {datasource simple filtercaption Few} {datasource simple connect current unit}
+        {datasource simple connect note} {datasource simple script names} {datasource simple criteria current c}
+        {datasource simple criteria type bool} {datasource simple criteria code {id > ?}}
+        {datasource simple criteria type int} {datasource simple criteria data integer 1}
+        {datasource simple criteria data bool 1 unsigned 2 double 3 string d} {datasource simple criteria data}
+        {datasource simple criteria type} {datasource simple criteria names}
+        {datasource simple property create p 0 value} {datasource simple property create a 1 string 2}
+        {datasource simple property names} {datasource simple connected} {datasource simple dataitem ids}
+        {view datasource simple disconnect unit} {view datasource simple connect unit}
+        {view datasource simple connect note} {view datasource simple connected}
+        {datasource hierarchical connect parent unit x} {datasource hierarchical connect parent names}
+        {datasource hierarchical connect child names} {datasource hierarchical connected}
+        {datasource hierarchical current h} {datasource hierarchical names} {datasource hierarchical criteria}
+        {datasource hierarchical property} {view datasource hierarchical connected} {datareference names}
+        {view datareference names} {view datareference connect unit.parent} {view datareference connect note.unit}
+        {view datareference connected} {dataoperation current o} {dataoperation script x {told data}}
+        {dataoperation script} {dataoperation perform} {dataoperation names} {userinput create f integer}
+        {app inputfield create m f integer} {userinput names} {userinput current f} {userinput datatype}
+        {userinput value 4} {userinput value} {userinput datatype bool} {userinput value on}
+        {userinput datatype double} {userinput value 1.5} {userinput datatype unsigned} {userinput value 3}
+        {userinput reset} {userinput script}
+    }
+    columns {
+        {view property create scripted} {view property script told value} {view property connected}
+        {view property names} {view property current title} {view property type} {datasource simple current unit}
+        {datasource simple dataitem} {datasource hierarchical dataitem} {view column create c3 icon x}
+        {view column create c4 checkbox} {view column create c5 button} {view column current c2}
+        {view column caption C} {view column width 40} {view column width} {view column justify left}
+        {view column move 0} {view column show true} {view column show} {view column sort enabled}
+        {view column sort byname title} {view column sort byname} {view column italic enabled} {view column italic}
+        {view column names} {view column popupmenu menu} {view column popupmenu} {view popupmenu}
+        {view popupmenuitem} {view style create s2} {view style current s} {view style folder} {view style names}
+        {view column current c3} {view style create ticks} {view element create tick}
+        {view element connect property flag} {view column current c2} {view style current s}
+        {view element create e2 text} {view element current e} {view element connect property title}
+        {view element names} {element current e} {element names} {element description changed} {window map create g}
+        {window map type integer string} {window map current g} {window map names} {window map record create 1 one}
+        {window map record create disabled 2 two.png} {window map record names} {window map record delete 2}
+        {view element connect map g} {view element connect map} {window map type} {window map create g2}
+        {window map type bool icon} {window map record create true on.png} {window map type double rgb}
+        {window map record create 1.5 1,2,3} {window map type unsigned string} {window map record create 3 three}
+        {window map type string button} {window map record create k v} {window map record delete k}
+        {view sort enabled} {view sort disabled} {view sort ascending} {view sort descending} {view sort}
+    }
+    folders {
+        {view folder current v} {view folder current f} {datasource simple current unit}
+        {view folder empty true recursive} {view folder empty} {view folder style true} {view folder style}
+        {view folder bold true} {view folder italic true} {view folder keepchildrenfoldersinorderascreated true}
+        {view folder keepchildrenfoldersinorderascreated} {view folder children count byimage true}
+        {view folder children count bynumber true true} {view folder createexpanded unit}
+        {view folder createexpanded unit 2} {view tree names} {view tree current h} {view tree group true}
+        {view tree current h} {view tree show unit} {view tree show} {view tree hide note}
+        {view folder tree toplevel unit unit.parent} {view folder tree toplevel}
+        {view folder tree parentchild unit note note.unit} {view folder tree parentchild}
+        {view folder tree update unit} {view folder dropitem datasource hierarchical h} {view folder dataitemtype}
+        {view folder expand true} {view folder collapse} {view folder current v} {view folder children}
+        {view folder current g} {view list add note true} {view list current unit} {view list caption L}
+        {view list names} {view list names true} {view list group true} {view list style true}
+        {view list expand true} {view list collapse} {view style connect} {view group children true}
+        {view group children} {empty show true} {empty show} {view folder selection} {view folder selected}
+        {view filter dataitemtype current unit} {view filter dataitemtype update} {view filter dataitemtype current}
+        {view filter group true} {view filter group} {view filter option matchcase true}
+        {view filter option matchcase} {view filter option matchword true} {view filter option matchword}
+        {view filter string current a} {view filter string current} {view filter string current {}} {no filter}
+        {view filter dataitemtype current unit note own} {view operation current op}
+        {view operation script {told view}} {view operation editable true} {view operation connect}
+        {view operation names} {view operation perform}
+    }
+    windows {
+        {view column create c3} {view column current c3} {view style create ticks} {view element create tick}
+        {view element connect property flag} {window current win} {window frame .f} {window names}
+        {window background red true} {window background} {window stripe true all} {window stripe}
+        {window part create below part} {window part createproc told x} {window part packproc told x}
+        {window part event current SELECTION_CHANGED} {window part event names}
+        {window part event callback create told script} {window part event callback create here WINDOW_OPERATION}
+        {window part event callback current here} {window part event callback window win}
+        {window part event callback operation TREE_AREA_SELECT_CHILDREN_ITEMS} {window part event callback names}
+        {window part event callback delete} {window part frame} {window part parent toplevel}
+        {window part parent part} {window part parent} {window part move 0} {window part show true}
+        {window part show} {window part operation names} {window part current toplevel} {window part names true}
+        {window part info} {window part current part} {window listener names}
+        {window listener connect gone} {window listener disconnect gone} {window post true} {window post}
+        {window dropitem name} {window dropitem toplevel} {window dropitem dataitemtype}
+        {OnTkTreeRequestExpand win 1} {OnTkTreeRequestExpand win 2} {window expandall} {app rows win}
+        {OnTkTreeSetStatePos win 1} {OnTkTreeRequestSelect win 1 4} {OnTkTreeRequestDeselect win 4}
+        {OnTkTreeRequestSelectionUpdate win 1 2 3 5 6} {OnTkTreeSelectionChangeFinished win}
+        {window expandselected} {window collapseselected} {OnTkTreeRequestExpandAll win}
+        {OnTkTreeRequestCollapseAll win} {OnTkTreeCheckBoxClick win c3 tick 6 1}
+        {OnTkTreeWindowButtonClick win c2 op 5 op} {OnTkTreeLeftHandClick win Name e 1}
+        {OnTkTreeRightHandClick win Name 1} {OnTkTreePopupMenu win true} {OnTkTreePerformPopupOperation win op x}
+        {OnTkTreeSetDropItem win 5 7} {OnTkColListItemSelected a b} {OnTkColOptionItemSelected a b}
+        {OnTkColPreselButtonClicked a on} {collector names} {checkbox display elem 1 win}
+        {checkbox display geom 1 win} {checkbox create end a b} {window find names} {window find current default}
+        {window find property add title} {window find property names} {window find property current title}
+        {window find property criterion current value} {window find property criterion names}
+        {window find property criterion type equalto} {window find property criterion value b}
+        {window find property criteria value} {window find property criterion matchcase true}
+        {window find property criterion matchword true} {window find property criterion useregexp true}
+        {window find type next} {window find type} {window find perform} {window find property criteria current}
+        {window find property criteria names} {window find property criteria type}
+        {window find property criteria matchcase} {window find property criteria matchword}
+        {window find property criteria useregexp} {OnTkTreeRequestCollapse win 1}
+    }
+    selection {
+        {view dataitem simple select} {view dataitem simple select bypropval b}
+        {view dataitem simple deselect byprop x} {view dataitem hierarchical select bypropvals 2 a b}
+        {view dataitem hierarchical select byprop x true} {view dataitem hierarchical deselect bypropval b}
+        {view dataitem simple select bypropvals 1 c} {view dataitem selected} {view dataitem selected all recursive}
+        {view datasource simple selected recursive} {view dataitem hierarchical select false}
+        {view datasource hierarchical selected} {view dataitemlist selected} {view dataitemlist simple select}
+        {view dataitemlist hierarchical select} {view selection single} {view selection multiple}
+        {view selection clear} {selection clear} {window collapseall} {app draw win}
+    }
+    states {
+        {app state create m st} {state names} {state current st} {state save} {state data} {state restore}
+        {state entity add a b} {state entity remove b} {view flush false} {view folder bold false}
+        {view apply pending} {frame} {view flush true} {view redraw}
+    }
+    schemes {
+        {view create w true} {view current w} {view datactrl connect} {view property create q}
+        {view property type string} {view column current Name} {view style create t} {view datasource connect unit}
+        {view datasource connect h} {view datasource names} {view datasource current unit}
+        {view property connect name} {view folder current w} {view list create unit} {view folder datasource current unit}
+        {view folder datasource style true} {view dataitem select} {view dataitem current} {view dataitem selected}
+        {view dataitem deselect bypropval b recursive} {view dataitemlist select} {view dataitemlist current}
+        {view dataitemlist deselect} {view dataitem select bypropval c} {view datasource selected recursive}
+        {view dataitem selected all} {view datasource disconnect unit} {view delete}
+    }
+    deletions {
+        {view folder current v} {view folder current f} {window current win} {window part current part}
+        {window part delete} {window create other} {window find property add title}
+        {window find property current title} {window delete} {window current win} {window part create last}
+        {window delete} {view folder current v} {view folder current g} {view list current unit}
+        {view list delete unit} {view list create note} {view list current note} {view folder create deep}
+        {view folder create deeper} {view list create unit} {view list current unit} {view folder current v}
+        {view folder current g} {view folder current deep} {view folder delete deeper} {view folder create lowest}
+        {view folder current v} {view folder delete g recursive} {view folder current f} {view tree delete h}
+        {view folder create inner} {view folder current v} {view folder current f}
+        {view folder delete inner recursive} {view folder current v} {view folder delete f} {view column current c2}
+        {view style create s2} {view style current s} {view element create e2} {view element current e}
+        {view element delete e} {element delete e2} {view style current s2} {view style delete}
+        {view style current s} {view column delete} {view property current title} {view property disconnect unit}
+        {view property delete} {datasource simple current own} {datasource simple property create p 0 value}
+        {datasource simple criteria delete} {datasource simple property delete p}
+        {datasource simple disconnect unit} {view datasource simple disconnect own} {datasource simple delete own}
+        {datasource hierarchical disconnect note} {view datasource hierarchical disconnect h}
+        {view datareference connect note.unit} {view datareference disconnect note.unit} {userinput delete}
+        {window map create g} {window map delete} {view datactrl disconnect} {view delete} {view current}
+        {view create last} {view current last} {view delete}
+    }
+}

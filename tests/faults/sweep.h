@@ -1,0 +1,79 @@
+// What the sweeps share: a run of a script on a host of its own, and the check of what the run leaves behind.
+#ifndef SWEEP_H
+#define SWEEP_H
+
+#include "model/embedded_host.h"
+#include "model/host_call.h"
+#include "store/data_ctrl.h"
+#include "tests/faults/living_objects.h"
+#include "znBrowserManagerTcl.h"
+
+#include <gtest/gtest.h>
+#include <tcl.h>
+
+#include <iterator>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+/// An interpreter that has read the sections of the script.
+class SweepScript {
+public:
+    SweepScript() : interp_(Tcl_CreateInterp()) {
+        const std::string file = std::string(ZN_SOURCE_DIR) + "/tests/faults/every_family.tcl";
+        EXPECT_EQ(Tcl_EvalFile(interp_, file.c_str()), TCL_OK) << Tcl_GetStringResult(interp_);
+        std::istringstream names(Eval("dict keys $sections"));
+        sections_.assign(std::istream_iterator<std::string>(names), {});
+    }
+    ~SweepScript() { Tcl_DeleteInterp(interp_); }
+    SweepScript(const SweepScript&) = delete;
+    SweepScript& operator=(const SweepScript&) = delete;
+
+    Tcl_Interp* Interp() const { return interp_; }
+    const std::vector<std::string>& Sections() const { return sections_; }
+    /// Evaluates what must succeed.
+    std::string Eval(const std::string& script) {
+        EXPECT_EQ(Tcl_EvalEx(interp_, script.c_str(), -1, TCL_EVAL_GLOBAL), TCL_OK)
+            << Tcl_GetStringResult(interp_);
+        return Tcl_GetStringResult(interp_);
+    }
+
+private:
+    Tcl_Interp* interp_;
+    std::vector<std::string> sections_;
+};
+
+/// One run: a host with a data control "m" on a small model.
+class SweepRun {
+public:
+    explicit SweepRun(SweepScript& script)
+        : script_(script), host_(std::make_unique<znhost::EmbeddedHost>(script.Interp())) {
+        constexpr char model[] =
+            "CREATE TABLE unit(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES unit(id), name TEXT, on_ "
+            "BOOLEAN);"
+            "CREATE TABLE note(id INTEGER PRIMARY KEY, unit INTEGER REFERENCES unit(id), text TEXT);"
+            "INSERT INTO unit VALUES (1, NULL, 'a', 1), (2, 1, 'b', 0), (3, 2, 'c', 1);"
+            "INSERT INTO note VALUES (1, 1, 'n'), (2, 3, 'o')";
+        std::string error;
+        EXPECT_TRUE(host_->CreateDataCtrl("m", "", error)) << error;
+        EXPECT_TRUE(host_->App().DataControls().Find("m")->Db().RunScript(model, error)) << error;
+    }
+
+    znhost::CallLog& Log() { return host_->Calls(); }
+    void Open() { script_.Eval("run $opening"); }
+    void Run(const std::string& section) { script_.Eval("run [dict get $sections " + section + "]"); }
+
+    /// No current object is dead, and the next command is answered.
+    void Check() {
+        EXPECT_EQ(DeadCurrents(*host_), "");
+        EXPECT_EQ(script_.Eval("znbrowsermanager view create afterwards; znbrowsermanager view current"),
+                  "afterwards");
+    }
+
+private:
+    SweepScript& script_;
+    std::unique_ptr<znhost::EmbeddedHost> host_;
+};
+
+#endif
