@@ -24,7 +24,8 @@ if(TARGET znbrowsersh)
             set(shell "${PROJECT_SOURCE_DIR}/tests/tk/on_display.sh" ${shell} --tk)
         endif()
         add_test(NAME "${name}" COMMAND ${shell} "${PROJECT_SOURCE_DIR}/tests/all.tcl" "${script}")
-        set_tests_properties("${name}" PROPERTIES TIMEOUT 300)
+        set_tests_properties("${name}" PROPERTIES TIMEOUT 300 ENVIRONMENT
+            "LSAN_OPTIONS=print_suppressions=0:suppressions=${PROJECT_SOURCE_DIR}/tests/tk/leaks.supp")
     endforeach()
 
     zn_find_sources(outputs tests/examples/*.out)
