@@ -63,6 +63,8 @@ bool Application::AddDataCtrl(const std::string& name, const std::string& file, 
 
 bool Application::GoesOn() const { return !work_ || work_->GoesOn(); }
 
+bool Application::HasTime() const { return !work_ || work_->HasTime(); }
+
 // The lambda makes a script that ends with "return" end well; the script itself runs at the global level.
 bool Application::RunScript(const std::string& script) {
     if (!manager_ || Tcl_InterpDeleted(interp_)) return Fail("There is no interpreter to run a script in");

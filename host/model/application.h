@@ -36,6 +36,8 @@ public:
 
     /// Whether somebody still waits for what takes long; true when nobody looks after that.
     bool GoesOn() const;
+    /// Whether there is time for more of what need not be done to the end.
+    bool HasTime() const;
     /// It is not owned.
     void SetWork(LongWork* work) { work_ = work; }
 

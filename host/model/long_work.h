@@ -9,6 +9,8 @@ class LongWork {
 public:
     /// False: nobody waits any longer, and the work is to be left as it is.
     virtual bool GoesOn() = 0;
+    /// False: the work was to be done as far as there is time, and that is over. What was begun is finished.
+    virtual bool HasTime() = 0;
 
 protected:
     ~LongWork() = default;

@@ -27,7 +27,11 @@ TreePart MakePart(const RowContent& content, const RowPlan& plan) {
 // ---- Filling
 // ------------------------------------------------------------------------------------------------
 
-bool RowModel::GoesOn() const { return !view_ || view_->Owner().Owner().GoesOn(); }
+bool RowModel::GoesOn() const {
+    if (!view_) return true;
+    const Application& application = view_->Owner().Owner();
+    return application.GoesOn() && application.HasTime();
+}
 
 /// Makes what stands in a container. False when there is nothing, or the work must be given up.
 bool RowModel::Fill(RowNode& node) {
@@ -133,16 +137,19 @@ void RowModel::ExpandBelow(RowNode& top) {
             open.push_back({&node, true});
         }
         if (!node.expanded && !Fill(node)) continue;
-        for (const TreePart& part : node.parts) {
-            if (part.node) {
-                open.push_back({part.node.get(), false});
+        // What is taken from `open` first must be pushed last: work that is given up has done the top rows.
+        for (auto part = node.parts.rbegin(); part != node.parts.rend(); ++part) {
+            if (part->node) {
+                open.push_back({part->node.get(), false});
                 continue;
             }
-            const std::vector<bool> have = plan_.HaveRows(part.block->content, part.block->rows);
-            for (std::uint32_t i = 0; i < have.size(); ++i) {
-                const Item item{part.block->content.source, part.block->rows[i]};
+            const RowBlock& block = *part->block;
+            const std::vector<bool> have = plan_.HaveRows(block.content, block.rows);
+            for (std::size_t i = have.size(); i-- > 0;) {
+                const Item item{block.content.source, block.rows[i]};
                 if (!have[i] || way.count(item)) continue;
-                open.push_back({&tree_.NodeOf(RowTree::ItemAt(*part.block, i)), false});
+                open.push_back(
+                    {&tree_.NodeOf(RowTree::ItemAt(*part->block, static_cast<std::uint32_t>(i))), false});
             }
         }
     }
@@ -168,6 +175,35 @@ void RowModel::CollapseAll() {
     const Change change(*this);
     if (!change) return;
     CollapseInside(tree_.Root());
+    Tell(RowChange::AllFilled);
+}
+
+void RowModel::CollapseAround(RowNode& node, const std::unordered_set<const RowNode*>& stays) {
+    std::vector<RowNode*> expanded;
+    for (const TreePart& part : node.parts) {
+        if (part.node && part.node->expanded) expanded.push_back(part.node.get());
+        if (!part.block) continue;
+        for (const auto& child : part.block->children) expanded.push_back(child.second.get());
+    }
+    for (RowNode* const below : expanded) {
+        if (stays.count(below)) {
+            CollapseAround(*below, stays);
+        } else if (below->expanded) {
+            tree_.Collapse(*below);
+        }
+    }
+}
+
+void RowModel::CollapseButSelected() {
+    const Change change(*this);
+    if (!change) return;
+    std::unordered_set<const RowNode*> stays;
+    for (const std::uint32_t index : SelectedIndices()) {
+        for (const RowNode* node = &tree_.Find(index).Owner(); node && stays.insert(node).second;)
+            node = node->parent;
+    }
+    const RowTree::ManyChanges many(tree_, tree_.Root());
+    CollapseAround(tree_.Root(), stays);
     Tell(RowChange::AllFilled);
 }
 

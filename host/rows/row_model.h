@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <set>
 #include <string>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -84,6 +85,8 @@ public:
     std::int64_t CountBelow(std::uint32_t index);
     /// The row's position from the top; -1 for an unknown index.
     std::int64_t PositionOf(std::uint32_t index);
+    /// How many items, folders, trees and lists are selected, visible or not.
+    std::int64_t CountSelected();
     /// The indices of the selected rows that are visible, top to bottom.
     std::vector<std::uint32_t> SelectedRows();
     /// The Tk indices of at most `count` rows from position `first` on.
@@ -102,6 +105,8 @@ public:
     /// The selected rows, with `ExpandSelected` each with all that lies below.
     void ExpandSelected();
     void CollapseSelected();
+    /// Whatever holds no selected row.
+    void CollapseButSelected();
     /// A folder, or one list in it, if it has a row; with `recursive` what lies below it too.
     void SetExpanded(const FreeFolder& folder, const znIBrowserDataSourceSimple* list, bool expanded,
                      bool recursive);
@@ -199,6 +204,7 @@ private:
     bool ExpandWanted(RowNode& node, const Row& row);
     RowNode* FindContainer(const FreeFolder& folder, const znIBrowserDataSourceSimple* list);
     void CollapseInside(RowNode& node);
+    void CollapseAround(RowNode& node, const std::unordered_set<const RowNode*>& stays);
     void Select(Selecting how, const std::vector<Row>& rows);
     const RowLink* FindLink(const RowContent& block, RowSource* child, std::string& error) const;
 

@@ -18,6 +18,14 @@ std::vector<std::uint32_t> RowModel::SelectedIndices() {
     return indices;
 }
 
+std::int64_t RowModel::CountSelected() {
+    const Answering answering(*this);
+    if (!view_) return 0;
+    std::size_t count = view_->Selected().Size() + selectedContainers_.size();
+    for (const FreeFolder* const folder : view_->RootFolder().WithBelow()) count += folder->IsSelected();
+    return static_cast<std::int64_t>(count);
+}
+
 bool RowModel::Select(Selecting how, const std::vector<std::uint32_t>& indices) {
     const Change change(*this);
     if (!change) return false;

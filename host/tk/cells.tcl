@@ -37,9 +37,10 @@ proc ::znbrowser::styleFor {n inTree kinds} {
 # The elements of the tree widget that draw the element at that place of a cell.
 proc ::znbrowser::elementsFor {n kind place} {
     upvar #0 ::znbrowser::window$n w
-    set kinds [dict get {text text  icon image  disabled image  check image  button {rect text}  image {}} $kind]
-    set names [lmap type $kinds {string cat $kind $place [expr {$kind eq "button" && $type eq "text" ? "t" : ""}]}]
-    foreach name $names type $kinds {
+    # A button is a rectangle around a text.
+    set types [dict get {text text icon image disabled image check image button {rect text} image {}} $kind]
+    set names [lrange [list $kind$place $kind${place}t] 0 [llength $types]-1]
+    foreach name $names type $types {
         if {$name in $w(elements)} continue
         lappend w(elements) $name
         $w(tree) element create $name $type
@@ -104,8 +105,10 @@ proc ::znbrowser::drawState {n slot row odd} {
     upvar #0 ::znbrowser::window$n w
     set expanded [lindex $row 5]
     set states {}
-    foreach {state on} [list chosen [lindex $row 6] odd $odd expanded $expanded \
-            expandable [expr {!$expanded && [lindex $row 7]}] current [expr {[lindex $row 0] == $w(active)}]] {
+    set expandable [expr {!$expanded && [lindex $row 7]}]
+    set current [expr {[lindex $row 0] == $w(active)}]
+    foreach {state on} [list chosen [lindex $row 6] odd $odd expanded $expanded expandable $expandable \
+            current $current] {
         lappend states [expr {$on ? $state : "!$state"}]
     }
     $w(tree) item state set $w(item,$slot) $states
@@ -124,8 +127,8 @@ proc ::znbrowser::drawContainer {n slot number inTree row} {
     setStyle $n $slot $number [styleFor $n 1 {image text}]
     $w(tree) item element configure $item $column indent -width [indentOf $depth]
     $w(tree) item element configure $item $column icon -image [imageNamed $icon]
-    $w(tree) item element configure $item $column text1 -text [oneLine $text] -font [fontOf $bold $italic] \
-        -fill {}
+    $w(tree) item element configure $item $column text1 -text [oneLine $text] -fill {} \
+        -font [fontOf $bold $italic]
 }
 
 # A cell of an item: the elements that it shows, each a list of kind, text, colour and name.

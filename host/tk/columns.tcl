@@ -40,7 +40,8 @@ proc ::znbrowser::makeColumns {n shown} {
     foreach number $shown {
         set w(column,$number) [$w(tree) column create -borderwidth 1 -textpadx {5 5} -textpady 5 \
             -minwidth 24 -arrowpadx {4 6} -arrowpady {2 0} \
-            -arrowimage {znbrowser::image::up up znbrowser::image::down down} -background [list [colour headerHot] active [colour line] pressed [colour header] {}]]
+            -arrowimage {znbrowser::image::up up znbrowser::image::down down} \
+            -background [list [colour headerHot] active [colour line] pressed [colour header] {}]]
         set w(number,$w(column,$number)) $number
     }
     # What is left of the width belongs to a column of nothing, so that rows are marked all the way.

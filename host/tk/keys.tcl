@@ -1,7 +1,9 @@
 # The keyboard on rows.
 
 proc ::znbrowser::bindKeys {} {
-    foreach {key step} {Up {rows -1} Down {rows 1} Prior {pages -1} Next {pages 1} Home {first 0} End {last 0}} {
+    foreach {key step} {
+        Up {rows -1} Down {rows 1} Prior {pages -1} Next {pages 1} Home {first 0} End {last 0}
+    } {
         foreach {modifier how} {{} select Shift- extend Control- move} {
             bind znBrowserTree <${modifier}Key-$key> "::znbrowser::onTree go %W $how $step; break"
         }

@@ -14,8 +14,14 @@ proc ::znbrowser::pressRight {n x y state rootX rootY} {
         return
     }
     if {![dict exists $at row]} return
-    set column [expr {[dict exists $at column] ? [dict get $at column] : [dict get [lindex $w(columns) [lindex $w(shown) 0]] name]}]
+    set column [expr {[dict exists $at column] ? [dict get $at column] : [firstColumn $n]}]
     openMenu $n [dict get $at row] $column $rootX $rootY
+}
+
+# The name of the first column that is shown.
+proc ::znbrowser::firstColumn {n} {
+    upvar #0 ::znbrowser::window$n w
+    return [dict get [lindex $w(columns) [lindex $w(shown) 0]] name]
 }
 
 # By the keyboard: below the row with the focus.
@@ -25,8 +31,8 @@ proc ::znbrowser::menuAtActive {n} {
     set slot [expr {$row eq "" ? -1 : [slotOf $n [lindex $row 0]]}]
     if {$slot < 0} return
     lassign [$w(tree) item bbox $w(item,$slot)] x1 y1 x2 y2
-    set column [dict get [lindex $w(columns) [lindex $w(shown) 0]] name]
-    openMenu $n $row $column [expr {[winfo rootx $w(tree)] + $x1 + 24}] [expr {[winfo rooty $w(tree)] + $y2}]
+    openMenu $n $row [firstColumn $n] [expr {[winfo rootx $w(tree)] + $x1 + 24}] \
+        [expr {[winfo rooty $w(tree)] + $y2}]
 }
 
 # A menu is about the selected rows; a click on another row selects that one first.

@@ -39,16 +39,25 @@ proc ::znbrowser::focusSearch {n} {
     $w(searchField) selection range 0 end
 }
 
+# What matches lies in rows that are not expanded, perhaps: they are, as far as a moment suffices for it. When
+# the filter goes, the host expands again what was expanded before; of the rest only the way to what is selected
+# stays so.
 proc ::znbrowser::applySearch {n} {
     upvar #0 ::znbrowser::window$n w
     if {[info exists w(timer,search)]} {after cancel $w(timer,search)}
     unset -nocomplain w(timer,search)
-    if {$w(search) ne [dict get $w(look) filter]} {
-        command $n view filter string current $w(search)
-        if {![isOpen $n]} return
-        dict set w(look) filter $w(search) ;# the host tells of it only when there is nothing else to do
-        flush $n
+    flush $n
+    set text $w(search)
+    if {$text eq [dict get $w(look) filter]} return
+    if {$text eq ""} {host prune $n}
+    if {![command $n view filter string current $text]} return
+    if {$text ne ""} {
+        host begin $n
+        host time 300
+        command $n window expandall
+        host end
     }
+    flush $n
 }
 
 # The view's filter is another one: the field shows it, unless somebody is typing in it.
@@ -77,8 +86,8 @@ proc ::znbrowser::findNext {n direction} {
         if {![command $n {*}$words]} return
     }
     # Choosing the window anew would choose the first property again.
-    foreach words [list [list window find property criterion value $w(search)] [list window find type $direction] \
-            {window find perform}] {
+    foreach words [list [list window find property criterion value $w(search)] \
+            [list window find type $direction] {window find perform}] {
         if {![tell $n $words]} return
     }
 }

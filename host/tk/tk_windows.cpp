@@ -65,18 +65,6 @@ private:
     Tcl_Obj* argv_;
 };
 
-const char* KindName(RowChange::Kind kind) {
-    switch (kind) {
-    case RowChange::Filled: return "filled";
-    case RowChange::Refreshed: return "refreshed";
-    case RowChange::AllFilled: return "allFilled";
-    case RowChange::AllCells: return "allCells";
-    case RowChange::Selection: return "selection";
-    case RowChange::Shown: break;
-    }
-    return "shown";
-}
-
 } // namespace
 
 // ---- An open window
@@ -106,23 +94,18 @@ public:
             changes_.emplace(change.kind, change.index);
         }
     }
+    TkChanges TakeChanges() { return std::exchange(changes_, {}); }
 
 private:
     static void Tell(ClientData data) {
-        Shown& self = *static_cast<Shown*>(data);
-        const std::map<RowChange::Kind, std::uint32_t> changes = std::exchange(self.changes_, {});
-        std::vector<std::string> words{"::znbrowser::changed", std::to_string(self.number_)};
-        for (const auto& [kind, index] : changes) {
-            words.emplace_back(KindName(kind));
-            words.push_back(std::to_string(index));
-        }
-        self.owner_.Run(words); // which may close the window: nothing here is touched afterwards
+        const Shown& self = *static_cast<Shown*>(data);
+        self.owner_.Run({"::znbrowser::changed", std::to_string(self.number_)});
     }
 
     const TkWindows& owner_;
     Window& window_;
     const unsigned number_;
-    std::map<RowChange::Kind, std::uint32_t> changes_;
+    TkChanges changes_;
 };
 
 // ---- Loading
@@ -191,6 +174,11 @@ unsigned TkWindows::NumberOf(const Window& window) const {
 std::shared_ptr<Window> TkWindows::Find(unsigned number) const {
     const auto found = shown_.find(number);
     return found == shown_.end() ? nullptr : found->second->Of().shared_from_this();
+}
+
+TkChanges TkWindows::TakeChanges(unsigned number) {
+    const auto found = shown_.find(number);
+    return found == shown_.end() ? TkChanges() : found->second->TakeChanges();
 }
 
 void TkWindows::Open(Window& window) {

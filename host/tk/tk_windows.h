@@ -18,6 +18,9 @@ namespace znhost {
 
 class Application;
 
+/// What changed in a window: each kind once, and the row that it is about.
+using TkChanges = std::map<RowChange::Kind, std::uint32_t>;
+
 /// Shows each posted window with Tk. The scripts know a window by a number, as no text of a user is fit for a
 /// Tk path; they ask for what they draw with "::znbrowser::host", and hear of changes when Tcl is idle.
 class TkWindows final : public WindowDisplay {
@@ -36,6 +39,9 @@ public:
     std::size_t Count() const { return shown_.size(); }
     /// The open window of that number; null when there is none.
     std::shared_ptr<Window> Find(unsigned number) const;
+
+    /// What changed in that window since this was asked last.
+    TkChanges TakeChanges(unsigned number);
 
     void Open(Window& window) override;
     void MakePart(const std::string& frame) override;

@@ -59,6 +59,18 @@ const char* KindName(CellElement::Kind kind) {
     return "text";
 }
 
+const char* KindName(RowChange::Kind kind) {
+    switch (kind) {
+    case RowChange::Filled: return "filled";
+    case RowChange::Refreshed: return "refreshed";
+    case RowChange::AllFilled: return "allFilled";
+    case RowChange::AllCells: return "allCells";
+    case RowChange::Selection: return "selection";
+    case RowChange::Shown: break;
+    }
+    return "shown";
+}
+
 const char* JustifyName(Justify justify) {
     return justify == Justify::Right ? "right" : justify == Justify::Center ? "center" : "left";
 }
@@ -123,13 +135,12 @@ void PutView(Tcl_Obj* dictionary, const View& view) {
     Put(dictionary, "columns", columns);
     Put(dictionary, "operations", operations);
     Put(dictionary, "filter", NewText(view.Filter().pattern));
-    Put(dictionary, "selected", Tcl_NewWideIntObj(static_cast<Tcl_WideInt>(view.Selected().Size())));
 }
 
 // ---- The words
 // ---------------------------------------------------------------------------------------------
 
-/// A question about a window, whose rows stay as they are until it is answered.
+/// A question about a window.
 struct Question {
     Window& window;
     std::vector<Tcl_WideInt> numbers;
@@ -148,6 +159,7 @@ Tcl_Obj* Indices(const Question& question) {
 Tcl_Obj* Selected(const Question& question) { return NewIndices(question.window.Rows().SelectedRows()); }
 
 Tcl_Obj* Page(const Question& question) {
+    const RowModel::Answering answering(question.window.Rows());
     Tcl_Obj* const rows = Tcl_NewListObj(0, nullptr);
     const std::vector<RowLook> looks = question.window.Rows().Read(question.numbers[0], question.numbers[1]);
     const ColumnNumbers columns = NumberColumns(question.window);
@@ -157,8 +169,10 @@ Tcl_Obj* Page(const Question& question) {
 
 Tcl_Obj* Look(const Question& question) {
     Window& window = question.window;
+    const RowModel::Answering answering(window.Rows());
     Tcl_Obj* const dictionary = Tcl_NewDictObj();
     Put(dictionary, "rows", Tcl_NewWideIntObj(window.Rows().Count()));
+    Put(dictionary, "selected", Tcl_NewWideIntObj(window.Rows().CountSelected()));
     Put(dictionary, "stripes", Tcl_NewBooleanObj(window.HasStripes()));
     Put(dictionary, "background", NewText(window.Background()));
     Put(dictionary, "single", Tcl_NewBooleanObj(window.Rows().IsSingle()));
@@ -172,6 +186,7 @@ Tcl_Obj* FindBeginning(const Question& question) {
     constexpr std::int64_t atOnce = 500;
     constexpr std::int64_t most = 100000;
     RowModel& rows = question.window.Rows();
+    const RowModel::Answering answering(rows);
     const int length = Tcl_NumUtfChars(question.text.c_str(), -1);
     std::int64_t position = question.numbers[0];
     for (std::int64_t seen = 0; seen < most; seen += atOnce) {
@@ -188,6 +203,11 @@ Tcl_Obj* FindBeginning(const Question& question) {
     return Tcl_NewWideIntObj(-1);
 }
 
+Tcl_Obj* Prune(const Question& question) {
+    question.window.Rows().CollapseButSelected();
+    return Tcl_NewObj();
+}
+
 struct TkWord {
     const char* word;
     const char* arguments;
@@ -202,6 +222,7 @@ constexpr TkWord tkWords[] = {
     {"look", "NUMBER", 0, false, Look},
     {"page", "NUMBER FIRST COUNT", 2, false, Page},
     {"position", "NUMBER INDEX", 1, false, Position},
+    {"prune", "NUMBER", 0, false, Prune},
     {"selected", "NUMBER", 0, false, Selected},
 };
 
@@ -226,6 +247,11 @@ Tcl_Obj* Begin(TkWindows& windows, int window) {
 
 Tcl_Obj* End(TkWindows& windows, int) { return Tcl_NewBooleanObj(windows.Work().End()); }
 
+Tcl_Obj* SetTime(TkWindows& windows, int milliseconds) {
+    windows.Work().SetTime(milliseconds);
+    return Tcl_NewObj();
+}
+
 Tcl_Obj* Cancel(TkWindows& windows, int) {
     windows.Work().Cancel();
     return Tcl_NewObj();
@@ -233,13 +259,23 @@ Tcl_Obj* Cancel(TkWindows& windows, int) {
 
 Tcl_Obj* IsBusy(TkWindows& windows, int) { return Tcl_NewBooleanObj(windows.Work().IsServing()); }
 
+Tcl_Obj* Changes(TkWindows& windows, int window) {
+    Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
+    for (const auto& [kind, index] : windows.TakeChanges(static_cast<unsigned>(window))) {
+        Append(list, NewText(KindName(kind)));
+        Append(list, Tcl_NewWideIntObj(index));
+    }
+    return list;
+}
+
 struct PlainWord {
     const char* word;
-    Tcl_Obj* (*answer)(TkWindows& windows, int window);
+    Tcl_Obj* (*answer)(TkWindows& windows, int number);
 };
 
 constexpr PlainWord plainWords[] = {
-    {"begin", Begin}, {"busy", IsBusy}, {"cancel", Cancel}, {"end", End}, {"error", LastError},
+    {"begin", Begin}, {"busy", IsBusy},     {"cancel", Cancel}, {"changes", Changes},
+    {"end", End},     {"error", LastError}, {"time", SetTime},
 };
 
 template <class Word, std::size_t count>
@@ -290,7 +326,6 @@ int AnswerTkWord(void* windows, Tcl_Interp* interp, int objc, Tcl_Obj* const obj
     Question question{*window, {}, {}};
     if (!ReadArguments(interp, *known, objc, objv, question)) return TCL_ERROR;
     try {
-        const RowModel::Answering answering(window->Rows());
         Tcl_SetObjResult(interp, known->answer(question));
     } catch (const std::exception& failure) {
         return Fail(interp, failure.what());

@@ -13,13 +13,16 @@ namespace znhost {
 ///   find NUMBER FIRST TEXT      the position of the next row, from FIRST on, that begins with TEXT; or -1
 ///   indices NUMBER FIRST COUNT  the Tk indices of rows, by position
 ///   look NUMBER                 all but the rows, as a dictionary: columns, operations, counts, settings
+///   changes NUMBER              what changed since this was asked last: kinds of changes and Tk indices
 ///   page NUMBER FIRST COUNT     rows, each a list: index, parent, depth, kind, text, expanded, selected,
 ///                               whether it can be expanded, bold, italic, icon, cells. A cell is a list: the
 ///                               number of its column, then its elements, each a list: kind, text, colour,
 ///                               name. Columns are counted from 0, hidden ones too.
+///   prune NUMBER                collapses whatever holds no selected row
 ///   selected NUMBER             the Tk indices of the selected rows that are visible
 ///   begin NUMBER                what happens from now on is waited for by the user of that window
 ///   end                         until now; whether it was cancelled
+///   time MILLISECONDS           the time for what need not be done to the end
 ///   cancel                      the user does not wait any longer
 ///   busy                        whether the display is served while the host works
 ///   error                       why the host refused last; forgets it

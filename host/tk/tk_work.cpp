@@ -43,6 +43,7 @@ void TkWork::Begin(int window) {
     if (depth_++) return;
     window_ = window;
     begun_ = served_ = Clock::now();
+    until_ = Clock::time_point::max();
     cancelled_ = false;
 }
 
@@ -52,6 +53,8 @@ bool TkWork::End() {
     shown_ = false;
     return cancelled_;
 }
+
+bool TkWork::HasTime() { return !depth_ || until_ == Clock::time_point::max() || Clock::now() < until_; }
 
 bool TkWork::GoesOn() {
     if (!depth_ || serving_) return true;

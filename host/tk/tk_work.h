@@ -22,6 +22,8 @@ public:
 
     /// What happens from now on is waited for by the user of that window. There must be an `End`.
     void Begin(int window);
+    /// So much time, from now on, for what need not be done to the end.
+    void SetTime(int milliseconds) { until_ = Clock::now() + std::chrono::milliseconds(milliseconds); }
     /// @return whether it was cancelled
     bool End();
     void Cancel() { cancelled_ = true; }
@@ -29,6 +31,7 @@ public:
     bool IsServing() const { return serving_; }
 
     bool GoesOn() override;
+    bool HasTime() override;
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -41,6 +44,7 @@ private:
     int window_ = 0;
     Clock::time_point begun_;
     Clock::time_point served_;
+    Clock::time_point until_ = Clock::time_point::max();
     bool cancelled_ = false;
     bool shown_ = false;
     bool serving_ = false;

@@ -258,7 +258,8 @@ proc ::znbrowser::finish {n message} {
     say $n [expr {$cancelled ? "Cancelled: what is shown is not complete." : $message}]
 }
 
-# The host tells what changed since it told last: pairs of a kind of change and a Tk index.
+# Something changed: pairs of a kind of change and a Tk index, or nothing when the host knows what. It is drawn
+# as soon as there is nothing else to do.
 proc ::znbrowser::changed {n args} {
     upvar #0 ::znbrowser::window$n w
     if {![isOpen $n]} return
@@ -278,7 +279,7 @@ proc ::znbrowser::flush {n} {
         set w(timer,draw) [after 50 [list ::znbrowser::flush $n]]
         return
     }
-    set changes $w(pending)
+    set changes [dict merge $w(pending) [host changes $n]]
     set w(pending) {}
     if {$changes eq ""} return
     host begin $n
