@@ -20,7 +20,9 @@ proc ::znbrowser::bindKeys {} {
     }
     bind znBrowserTree <Key> {if {[::znbrowser::onTree typed %W %A %s]} break}
     bind znBrowserTree <Control-Key-f> {::znbrowser::onTree focusSearch %W; break}
-    foreach sequence {<Tab> <Shift-Tab> <<PrevWindow>> <<NextWindow>>} {bind znBrowserTree $sequence {continue}}
+    foreach sequence {<Tab> <Shift-Tab> <<PrevWindow>> <<NextWindow>>} {
+        bind znBrowserTree $sequence {continue}
+    }
 }
 
 # The position of the row with the focus; where there is none, of the first row on the screen.
@@ -119,7 +121,8 @@ proc ::znbrowser::selectActive {n} {goTo $n select [activePosition $n]}
 proc ::znbrowser::toggleSelected {n} {
     set row [activeRow $n]
     if {$row eq ""} return
-    selectRows $n [expr {[lindex $row 6] ? "OnTkTreeRequestDeselect" : "OnTkTreeRequestSelect"}] [lindex $row 0]
+    set event [expr {[lindex $row 6] ? "OnTkTreeRequestDeselect" : "OnTkTreeRequestSelect"}]
+    selectRows $n $event [lindex $row 0]
 }
 
 proc ::znbrowser::selectAll {n} {

@@ -68,7 +68,8 @@ proc ::znbrowser::fillMenu {n row} {
     $menu add command -label [expr {[lindex $row 5] ? "Collapse" : "Expand"}] \
         -state [expr {[lindex $row 7] ? "normal" : "disabled"}] -command [list ::znbrowser::toggle $n $row]
     $menu add command -label "Expand all below" -command [list ::znbrowser::command $n window expandselected]
-    $menu add command -label "Collapse selected" -command [list ::znbrowser::command $n window collapseselected]
+    $menu add command -label "Collapse selected" \
+        -command [list ::znbrowser::command $n window collapseselected]
     $menu add separator
     $menu add command -label "Copy text" -command [list ::znbrowser::copyRow $n $row]
 }

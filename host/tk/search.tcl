@@ -39,9 +39,9 @@ proc ::znbrowser::focusSearch {n} {
     $w(searchField) selection range 0 end
 }
 
-# What matches lies in rows that are not expanded, perhaps: they are, as far as a moment suffices for it. When
-# the filter goes, the host expands again what was expanded before; of the rest only the way to what is selected
-# stays so.
+# What matches lies in rows that are not expanded, perhaps: they are, as far as a moment suffices for it.
+# When the filter goes, the host expands again what was expanded before; of the rest only the way to what is
+# selected stays so.
 proc ::znbrowser::applySearch {n} {
     upvar #0 ::znbrowser::window$n w
     if {[info exists w(timer,search)]} {after cancel $w(timer,search)}

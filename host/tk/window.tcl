@@ -196,7 +196,7 @@ proc ::znbrowser::makePart {path} {
     if {![winfo exists $path] && ($parent eq "" || [winfo exists $parent])} {ttk::frame $path}
 }
 
-# Parts stand one below the other, unless their own procedures put them elsewhere; the tree takes what is left.
+# Parts stand one below the other, unless their own procedures put them elsewhere; the tree takes the rest.
 proc ::znbrowser::packPart {n path} {
     upvar #0 ::znbrowser::window$n w
     if {![winfo exists $path]} return
@@ -258,8 +258,8 @@ proc ::znbrowser::finish {n message} {
     say $n [expr {$cancelled ? "Cancelled: what is shown is not complete." : $message}]
 }
 
-# Something changed: pairs of a kind of change and a Tk index, or nothing when the host knows what. It is drawn
-# as soon as there is nothing else to do.
+# Something changed: pairs of a kind of change and a Tk index, or nothing when the host knows what. It is
+# drawn as soon as there is nothing else to do.
 proc ::znbrowser::changed {n args} {
     upvar #0 ::znbrowser::window$n w
     if {![isOpen $n]} return
