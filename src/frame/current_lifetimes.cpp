@@ -61,8 +61,10 @@ bool Holds(znIBrowserWindowAccess* window, const znBrowserProperty* property,
     std::vector<znBrowserProperty*> properties;
     window->GetFindRequests(requests);
     for (znIBrowserFindRequest* const request : requests) {
-        request->GetProperties(properties);
+        properties.clear();
+        if (request) request->GetProperties(properties);
         for (const znBrowserProperty* const candidate : properties) {
+            if (!candidate) continue;
             if (property && candidate == property) return true;
             const auto& criteria = candidate->criteria;
             if (criterion && std::find(criteria.begin(), criteria.end(), criterion) != criteria.end())
@@ -79,7 +81,7 @@ bool OtherWindowHolds(znIBrowser* browser, const znIBrowserWindowAccess* dying,
     znIBrowserWindowAccessList* const list = browser ? browser->GetWindowAccessList() : nullptr;
     if (list) list->GetWindowAccesses(windows, 0);
     return std::any_of(windows.begin(), windows.end(), [&](znIBrowserWindowAccess* window) {
-        return window != dying && Holds(window, property, criterion);
+        return window && window != dying && Holds(window, property, criterion);
     });
 }
 
