@@ -1,32 +1,82 @@
--- Reads the results of one run of the benchmarks (bench.json in the working directory) and prints them as
--- two tables: what was measured, beside a command that does nothing, and which limits hold. Of repeated
--- measurements the fastest counts: whatever else the machine did made the others slower.
+-- Reads the results of the benchmarks (bench.json in the working directory) and prints two tables: what was
+-- measured, and which limits hold. Of repeated measurements the best counts: whatever else the machine did
+-- made the others worse.
 
 .mode box
 .nullvalue ''
 
 create temp table run as
-select name, min(ns) as ns, per_item, ratio, mebibytes
+select substr(name, 1, instr(name || '/iterations', '/iterations') - 1) as name, min(ns) as ns,
+       min(per_element) as per_element, min(growth) as growth, min(ratio) as ratio, min(mebibytes) as mebibytes
 from (select json_extract(value, '$.run_name') as name,
              json_extract(value, '$.real_time') *
                  case json_extract(value, '$.time_unit')
                      when 'ns' then 1 when 'us' then 1e3 when 'ms' then 1e6 else 1e9 end as ns,
-             json_extract(value, '$.per_item') * 1e9 as per_item,
+             coalesce(json_extract(value, '$.ns_per_element'),
+                      json_extract(value, '$.per_word') * 1e9) as per_element,
+             json_extract(value, '$.growth') as growth,
              json_extract(value, '$.ratio') as ratio,
              json_extract(value, '$.MiB') as mebibytes
       from json_each(cast(readfile('bench.json') as text), '$.benchmarks')
       where json_extract(value, '$.run_type') = 'iteration'
         and json_extract(value, '$.error_occurred') is null)
-group by name;
+group by 1;
 
-create temp view noop as select ns from run where name = 'NoOpCommand';
+create temp view command as
+select ns, (select ns from run where name = 'NoOpCommand') as noop,
+       (select ns from run where name = 'EnsembleCommand') as ensemble
+from run where name = 'SetColumnCaption';
 
 select name as benchmark,
        case when ns < 1e3 then printf('%.1f ns', ns)
             when ns < 1e6 then printf('%.1f us', ns / 1e3)
             when ns < 1e9 then printf('%.1f ms', ns / 1e6)
             else printf('%.2f s', ns / 1e9) end as time,
-       printf('%.2f', ns / (select ns from noop)) as 'no-ops',
-       case when per_item is not null then printf('%.1f ns', per_item) end as 'per item',
-       case when mebibytes is not null then printf('%.1f', mebibytes) end as MiB
-from run order by rowid;
+       printf('%.2f', ns / (select noop from command)) as 'to no-op',
+       case when name not like '%/%' then printf('%.2f', ns / (select ensemble from command)) end
+           as 'to ensemble',
+       iif(ratio is null, null, printf('%.2f', ratio)) as 'to treeview',
+       iif(per_element is null, null, printf('%.1f', per_element)) as 'ns an element',
+       iif(growth is null, null, printf('%.2f', growth)) as growth,
+       iif(mebibytes is null, null, printf('%.1f', mebibytes)) as MiB
+from (select name, ns, ratio, per_element, growth, mebibytes from run order by rowid);
+
+-- One row a limit: what, the value, the most it may be.
+create temp view measured(what, value, bound) as
+select 'a command of five words, to a no-op', ns / noop, 3.0 from command
+union all
+select 'keyword lookup, hit, ns', per_element, 10 from run where name = 'KeywordHit'
+union all
+select 'keyword lookup, miss, ns', per_element, 10 from run where name = 'KeywordMiss'
+union all
+select 'names of ' || substr(name, instr(name, '/') + 1) || ' sources, growth an element', growth, 1.5
+from run where name like '%SourceNames/%' and growth is not null
+union all
+select 'items of ' || substr(name, 7) || ' rows, growth an element', growth, 1.5
+from run where name like 'Items/%' and growth is not null
+union all
+select 'a column''s caption, to a ttk::treeview heading', ratio, 0.8 from run where ratio is not null
+union all
+select substr(name, 15) || ' folders, growth a folder', growth, 1.5
+from run where name like 'CreateFolders/%' and growth is not null
+union all
+select 'selecting ' || substr(name, 20) || ' by value, growth an item', growth, 1.5
+from run where name like 'SelectTenthByValue/%' and growth is not null
+union all
+select 'expanding a list of 1,000,000, s', ns / 1e9, 1 from run where name = 'ExpandList/1000000'
+union all
+select 'expanding a list of 1,000,000, MiB', mebibytes, 64 from run where name = 'ExpandList/1000000'
+union all
+select '50 rows from anywhere in 1,000,000, us', ns / 1e3, 300 from run where name = 'Page/1000000'
+union all
+select '50 rows of 1,000,000, to 50 of 10,000', large.ns / small.ns, 1.5
+from run as large, run as small where large.name = 'Page/1000000' and small.name = 'Page/10000'
+union all
+select 'whether a row can be expanded, us', ns / 50e3, 10 from run where name = 'ExpandersOfPage/1000000'
+union all
+select 'selecting 100,000 indices, growth an index', large.ns / 100 / small.ns, 1.5
+from run as large, run as small where large.name = 'SelectRows/100000' and small.name = 'SelectRows/1000';
+
+select what as 'limit', printf('%.2f', value) as measured, printf('%.2f', bound) as 'at most',
+       case when value <= bound then 'holds' else 'DOES NOT HOLD' end as verdict
+from measured;
