@@ -13,13 +13,11 @@ FreeFolder::FreeFolder(View& view, FreeFolder* parent, std::string name)
 
 // Takes the folders below apart level by level: folders may be nested deeper than the stack is.
 FreeFolder::~FreeFolder() {
-    std::vector<std::shared_ptr<FreeFolder>> doomed(children_.begin(), children_.end());
-    children_ = {};
+    NamedList<FreeFolder>::Objects doomed = children_.TakeAll();
     while (!doomed.empty()) {
         const std::shared_ptr<FreeFolder> folder = std::move(doomed.back());
         doomed.pop_back();
-        doomed.insert(doomed.end(), folder->children_.begin(), folder->children_.end());
-        folder->children_ = {};
+        doomed.splice(doomed.end(), folder->children_.TakeAll());
     }
 }
 

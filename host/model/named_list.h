@@ -53,6 +53,14 @@ public:
         objects_.splice(std::next(objects_.begin(), static_cast<std::ptrdiff_t>(position)), moved);
     }
 
+    /// Empties the list and gives what it held. Takes no memory: destructors may use it.
+    Objects TakeAll() noexcept {
+        places_.clear();
+        Objects taken;
+        taken.swap(objects_);
+        return taken;
+    }
+
     bool IsEmpty() const { return objects_.empty(); }
     std::size_t Size() const { return objects_.size(); }
     Object* First() const { return objects_.empty() ? nullptr : objects_.front().get(); }

@@ -234,7 +234,7 @@ bool RowPlan::HasRows(const RowContent& container) const {
     if (container.kind == RowKind::List && container.link.reference)
         return true; // a group is only there with items
     const std::vector<RowContent> below = Below(container);
-    return std::any_of(below.begin(), below.end(), [this](const RowContent& content) {
+    return std::any_of(below.begin(), below.end(), [](const RowContent& content) {
         return content.kind != RowKind::Item || CountRows(content) > 0;
     });
 }

@@ -44,6 +44,18 @@ void DataCtrl::ItemsChanged() {
 
 // ---- What the tables give
 
+namespace {
+
+/// The object of that name, made when it is not there yet. None is ever null.
+template <class Object, class Make>
+Object& FindOrMake(std::unordered_map<std::string, std::shared_ptr<Object>>& known, const std::string& name,
+                   Make make) {
+    const auto found = known.find(name);
+    return found != known.end() ? *found->second : *known.emplace(name, make()).first->second;
+}
+
+} // namespace
+
 bool DataCtrl::Refresh(std::string& error) {
     Database::Stamp now;
     if (!database_->ReadStamp(now, error)) return false;
@@ -60,10 +72,10 @@ void DataCtrl::TakeOverTables() {
     references_.clear();
     for (const auto& known : knownReferences_) known.second->SetKey(nullptr, {});
     for (const Schema::TablePtr& table : schema_.Tables()) {
-        std::shared_ptr<BaseSource>& base = knownBases_[table->name];
-        if (!base) base = std::make_shared<BaseSource>(*this, table->name);
-        base->SetTable(table);
-        bases_.push_back(base.get());
+        const auto make = [&] { return std::make_shared<BaseSource>(*this, table->name); };
+        BaseSource& base = FindOrMake(knownBases_, table->name, make);
+        base.SetTable(table);
+        bases_.push_back(&base);
         TakeOverReferences(*table);
     }
 }
@@ -74,13 +86,14 @@ void DataCtrl::TakeOverReferences(const Table& table) {
     for (const ForeignKey& key : table.foreignKeys) {
         const std::string plain = table.name + "." + key.from.front();
         std::string name = plain;
-        for (int number = 2; knownReferences_[name] && knownReferences_[name]->IsThere(); ++number) {
+        const auto make = [&] { return std::make_shared<DataReference>(log_, name); };
+        DataReference* reference = &FindOrMake(knownReferences_, name, make);
+        for (int number = 2; reference->IsThere(); ++number) {
             name = plain + "#" + std::to_string(number);
+            reference = &FindOrMake(knownReferences_, name, make);
         }
-        std::shared_ptr<DataReference>& reference = knownReferences_[name];
-        if (!reference) reference = std::make_shared<DataReference>(log_, name);
         reference->SetKey(&table, key);
-        references_.push_back(reference.get());
+        references_.push_back(reference);
     }
 }
 

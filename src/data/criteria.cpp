@@ -1,6 +1,7 @@
 // Criteria: the named filter settings of a custom data source.
 #include "data/data_messages.h"
 #include "frame/data_types.h"
+#include "frame/deletion.h"
 #include "frame/name_list.h"
 #include "host/znIBrowserCriteria.h"
 #include "host/znIBrowserDataSourceSimple.h"
@@ -98,9 +99,13 @@ bool znBrowserManagerTcl::DeleteDataCriteria() {
     BeginOperation();
     znIBrowserCriteria* const criteria = current_.criteria;
     if (!criteria) return Fail(noCriteria);
-    if (!current_.dataSourceSimple || !current_.dataSourceSimple->DeleteCriteria(criteria))
+    znIBrowserDataSourceSimple* const source = current_.dataSourceSimple;
+    const auto deletion = [&] { return source && source->DeleteCriteria(criteria); };
+    const auto forget = [&] {
+        if (current_.criteria == criteria) current_.criteria = nullptr;
+    };
+    if (!DeleteAndForget(deletion, forget))
         return FailWith({"Could not delete criteria: ", criteria->GetName()});
-    if (current_.criteria == criteria) current_.criteria = nullptr;
     return GetState();
 }
 

@@ -1,5 +1,6 @@
 // Data operations: named actions of a data control, which run a script.
 #include "data/data_messages.h"
+#include "frame/deletion.h"
 #include "frame/interpreter_result.h"
 #include "frame/messages.h"
 #include "frame/name_list.h"
@@ -32,9 +33,12 @@ bool znBrowserManagerTcl::DeleteDataOperation() {
     if (!current_.dataCtrl) return Fail(noControl);
     znIBrowserDataOperation* const operation = current_.dataOperation;
     if (!operation) return Fail("Cannot get name of the current dataoperation");
-    if (!current_.dataCtrl->DeleteDataOperation(operation))
+    const auto deletion = [&] { return current_.dataCtrl->DeleteDataOperation(operation); };
+    const auto forget = [&] {
+        if (current_.dataOperation == operation) current_.dataOperation = nullptr;
+    };
+    if (!DeleteAndForget(deletion, forget))
         return Fail("dataoperation couldn't found in current data control to delete");
-    if (current_.dataOperation == operation) current_.dataOperation = nullptr;
     return GetState();
 }
 

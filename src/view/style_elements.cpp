@@ -1,4 +1,5 @@
 // Elements of the current style.
+#include "frame/deletion.h"
 #include "frame/name_list.h"
 #include "host/znIBrowser.h"
 #include "host/znIBrowserGuiMap.h"
@@ -52,10 +53,12 @@ bool znBrowserManagerTcl::DeleteStyleElement(const char* name) {
     znIBrowserStyleElement* const element = FindElement(*current_.style, name);
     if (!element)
         return FailWith({"Element: ", name, " not found in the current style: ", current_.style->GetName()});
-    if (!current_.style->DeleteElement(element))
-        return FailWith({"View style element \"", name, "\" cannot be deleted"});
-    if (current_.styleElement == element) ResetCurrentStyleElement();
-    return true;
+    const auto deletion = [&] { return current_.style->DeleteElement(element); };
+    const auto forget = [&] {
+        if (current_.styleElement == element) ResetCurrentStyleElement();
+    };
+    return DeleteAndForget(deletion, forget) ||
+           FailWith({"View style element \"", name, "\" cannot be deleted"});
 }
 
 bool znBrowserManagerTcl::SetCurrentStyleElement(const char* name) {

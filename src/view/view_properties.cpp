@@ -1,5 +1,6 @@
 // View properties of the current view.
 #include "frame/data_types.h"
+#include "frame/deletion.h"
 #include "frame/messages.h"
 #include "frame/name_list.h"
 #include "host/znIBrowserView.h"
@@ -30,10 +31,11 @@ bool znBrowserManagerTcl::DeleteViewProperty(const char* name) {
     znIBrowserViewProperty* const property = name ? current_.view->FindViewProperty(name) : nullptr;
     if (!property) return FailWith({"View property ", name, " does not exist, therefore cannot be deleted."});
     znIBrowser* const browser = GetBrowser();
-    if (!browser || !browser->DeleteViewProperty(current_.view, property))
-        return FailWith({"View property \"", name, "\" cannot be deleted"});
-    if (current_.viewProperty == property) ResetCurrentViewProperty();
-    return true;
+    const auto deletion = [&] { return browser && browser->DeleteViewProperty(current_.view, property); };
+    const auto forget = [&] {
+        if (current_.viewProperty == property) ResetCurrentViewProperty();
+    };
+    return DeleteAndForget(deletion, forget) || FailWith({"View property \"", name, "\" cannot be deleted"});
 }
 
 znIBrowserViewProperty* znBrowserManagerTcl::FindViewProperty(const char* name) {

@@ -22,8 +22,7 @@ set opening {
     {view style create s} {view element create e} {view element connect property title} {view folder current v}
     {view folder create f} {view tree create h} {view folder current v}
     {view folder create g} {view list create unit} {view folder current v} {view operation create op}
-    {view operation script {told view}} {datasource simple current unit} {window create win}
-    {window part create part} {window listener connect told}
+    {view operation script {told view}} {datasource simple current unit}
 }
 
 set sections {
@@ -100,7 +99,8 @@ set sections {
         {view operation names} {view operation perform}
     }
     windows {
-        {view column create c3} {view column current c3} {view style create ticks} {view element create tick}
+        {window create win} {window part create part} {window listener connect told} {view column create c3}
+        {view column current c3} {view style create ticks} {view element create tick}
         {view element connect property flag} {window current win} {window frame .f} {window names}
         {window background red true} {window background} {window stripe true all} {window stripe}
         {window part create below part} {window part createproc told x} {window part packproc told x}
@@ -111,20 +111,20 @@ set sections {
         {window part event callback delete} {window part frame} {window part parent toplevel}
         {window part parent part} {window part parent} {window part move 0} {window part show true}
         {window part show} {window part operation names} {window part current toplevel} {window part names true}
-        {window part info} {window part current part} {window listener names}
-        {window listener connect gone} {window listener disconnect gone} {window post true} {window post}
-        {window dropitem name} {window dropitem toplevel} {window dropitem dataitemtype}
-        {OnTkTreeRequestExpand win 1} {OnTkTreeRequestExpand win 2} {window expandall} {app rows win}
-        {OnTkTreeSetStatePos win 1} {OnTkTreeRequestSelect win 1 4} {OnTkTreeRequestDeselect win 4}
+        {window part info} {window part current part} {window listener names} {window listener connect gone}
+        {window listener disconnect gone} {window post true} {window post} {window dropitem name}
+        {window dropitem toplevel} {window dropitem dataitemtype} {OnTkTreeRequestExpand win 1}
+        {OnTkTreeRequestExpand win 2} {window expandall} {app rows win} {OnTkTreeSetStatePos win 1}
+        {OnTkTreeRequestSelect win 1 4} {OnTkTreeRequestDeselect win 4}
         {OnTkTreeRequestSelectionUpdate win 1 2 3 5 6} {OnTkTreeSelectionChangeFinished win}
-        {window expandselected} {window collapseselected} {OnTkTreeRequestExpandAll win}
-        {OnTkTreeRequestCollapseAll win} {OnTkTreeCheckBoxClick win c3 tick 6 1}
+        {OnTkTreeRequestExpandAll win} {OnTkTreeRequestCollapseAll win} {OnTkTreeCheckBoxClick win c3 tick 6 1}
         {OnTkTreeWindowButtonClick win c2 op 5 op} {OnTkTreeLeftHandClick win Name e 1}
         {OnTkTreeRightHandClick win Name 1} {OnTkTreePopupMenu win true} {OnTkTreePerformPopupOperation win op x}
-        {OnTkTreeSetDropItem win 5 7} {OnTkColListItemSelected a b} {OnTkColOptionItemSelected a b}
-        {OnTkColPreselButtonClicked a on} {collector names} {checkbox display elem 1 win}
-        {checkbox display geom 1 win} {checkbox create end a b} {window find names} {window find current default}
-        {window find property add title} {window find property names} {window find property current title}
+        {OnTkTreeSetDropItem win 5 7} {window expandselected} {window collapseselected}
+        {OnTkColListItemSelected a b} {OnTkColOptionItemSelected a b} {OnTkColPreselButtonClicked a on}
+        {collector names} {checkbox display elem 1 win} {checkbox display geom 1 win} {checkbox create end a b}
+        {window find names} {window find current default} {window find property add title}
+        {window find property names} {window find property current title}
         {window find property criterion current value} {window find property criterion names}
         {window find property criterion type equalto} {window find property criterion value b}
         {window find property criteria value} {window find property criterion matchcase true}
@@ -135,6 +135,7 @@ set sections {
         {window find property criteria useregexp} {OnTkTreeRequestCollapse win 1}
     }
     selection {
+        {window create win} {window part create part} {window listener connect told}
         {view dataitem simple select} {view dataitem simple select bypropval b}
         {view dataitem simple deselect byprop x} {view dataitem hierarchical select bypropvals 2 a b}
         {view dataitem hierarchical select byprop x true} {view dataitem hierarchical deselect bypropval b}
@@ -145,6 +146,7 @@ set sections {
         {view selection clear} {selection clear} {window collapseall} {app draw win}
     }
     states {
+        {window create win} {window part create part} {window listener connect told}
         {app state create m st} {state names} {state current st} {state save} {state data} {state restore}
         {state entity add a b} {state entity remove b} {view flush false} {view folder bold false}
         {view apply pending} {frame} {view flush true} {view redraw}
@@ -160,6 +162,7 @@ set sections {
         {view dataitem selected all} {view datasource disconnect unit} {view delete}
     }
     deletions {
+        {window create win} {window part create part} {window listener connect told}
         {view folder current v} {view folder current f} {window current win} {window part current part}
         {window part delete} {window create other} {window find property add title}
         {window find property current title} {window delete} {window current win} {window part create last}
