@@ -28,6 +28,11 @@ if(ZN_SANITIZE)
     add_link_options(${sanitizers})
 endif()
 
+if(ZN_FUZZ) # the fuzzer itself is linked to its program alone
+    add_compile_options(-fsanitize=fuzzer-no-link)
+    add_link_options(-fsanitize=fuzzer-no-link)
+endif()
+
 if(ZN_COVERAGE)
     add_compile_options(--coverage -fprofile-update=atomic)
     add_link_options(--coverage)
