@@ -2,6 +2,7 @@
 #include "frame/data_types.h"
 #include "window/window_levels.h"
 
+#include <cstring>
 #include <limits>
 
 const char* const znBrowserTclMessages::WINDOW_MAP =
@@ -38,7 +39,9 @@ void RecordUsage(Call& call) { call.Answer(znBrowserTclMessages::WINDOW_MAP_RECO
 void Create(Call& call) {
     if (!call.Has(4)) return Usage(call);
     if (!*call.Text(4)) return call.Answer(emptyName);
-    call.AnswerOutcome(call.manager.CreateGuiMap(call.Text(4)), call.Text(4));
+    if (!call.manager.CreateGuiMap(call.Text(4))) return call.AnswerError();
+    // Nothing is said when the host makes no map: the one that was current still is.
+    if (!std::strcmp(call.manager.GetCurrentGuiMapName(), call.Text(4))) call.Answer(call.Text(4));
 }
 
 void Current(Call& call) {

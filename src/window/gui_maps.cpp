@@ -27,7 +27,8 @@ std::string KeyText(double key) { return std::to_string(key); }
 
 } // namespace
 
-// A map that exists already is an error, and becomes current all the same.
+// A map that exists already is an error, and becomes current all the same. That the host makes none is no
+// error.
 bool znBrowserManagerTcl::CreateGuiMap(const char* name) {
     BeginOperation();
     if (!name) return false;
@@ -79,6 +80,7 @@ ZNBROWSER_GUIMAP_TYPE znBrowserManagerTcl::GetCurrentGuiMapType() const {
     return current_.guiMap && current_.guiMap->GetType(type) ? type : ZNBROWSER_GUIMAP_UNDEFINED;
 }
 
+// An error that is pending is not cleared, and is what the operation ends with.
 bool znBrowserManagerTcl::CreateGuiMappingTypetoType(const char* keyType, const char* shownType) {
     if (!current_.guiMap) return Fail("Current gui map not set, cannot set type.");
     const ZNBROWSER_GUIMAP_TYPE type =
@@ -86,7 +88,8 @@ bool znBrowserManagerTcl::CreateGuiMappingTypetoType(const char* keyType, const 
     if (type == ZNBROWSER_GUIMAP_UNDEFINED) return Fail("ZNBROWSER_GUIMAP_UNDEFINED");
     if (type == GetCurrentGuiMapType()) return Fail("Type is same as current type.");
     znIBrowser* const browser = GetBrowser();
-    return HostAnswer(browser && browser->SetGuiMapType(current_.guiMap, type));
+    if (!browser || !browser->SetGuiMapType(current_.guiMap, type)) return FailWithHostError();
+    return GetState();
 }
 
 // ---- Records: one operation per type of key ----

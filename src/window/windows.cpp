@@ -57,7 +57,11 @@ bool znBrowserManagerTcl::DeleteWindowAccess(const char* name) {
     const auto deletion = [&] { return browser && browser->DeleteWindowAccess(window); };
     if (!DeleteAndForget(deletion, [&] { Forget(doomed); })) return FailWithHostError();
     const std::vector<znIBrowserWindowAccess*> remaining = Windows(GetBrowser());
-    SetCurrentWindowAccess(remaining.empty() ? nullptr : remaining.front());
+    if (remaining.empty()) {
+        ResetCurrentWindowAccess(); // the host knows that none is left
+    } else {
+        SetCurrentWindowAccess(remaining.front());
+    }
     ResetCurrentWindowPart();
     return true;
 }

@@ -74,6 +74,15 @@ TEST_F(WindowTest, ChoosingTheCurrentWindowAgainEmitsItsName) {
     EXPECT_EQ(heard, "ww");
 }
 
+TEST_F(WindowTest, ANewTypeOfAGuiMapEndsWithTheErrorThatWasPending) {
+    manager.CreateGuiMap("m");
+    EXPECT_TRUE(manager.CreateGuiMappingTypetoType("bool", "icon"));
+    manager.SetError("pending");
+    EXPECT_FALSE(manager.CreateGuiMappingTypetoType("INTEGER", "Icon"));
+    EXPECT_EQ(manager.GetCurrentGuiMapType(), ZNBROWSER_GUIMAP_INT_TO_ICON);
+    EXPECT_STREQ(manager.GetErrorText().c_str(), "pending");
+}
+
 TEST_F(WindowTest, ASlotMayDeleteTheWindowOfAnEvent) {
     reselected.Connect(*this, [this](const char* name) { manager.DeleteWindowAccess(name); });
     EXPECT_FALSE(manager.OnTkTreeRightHandClick("w", "Name", {1}));
