@@ -53,8 +53,10 @@ bool Browser::Uses(znIBrowserDataSource& source) {
 }
 
 void Browser::DataChanged(const znIBrowserDataCtrl& control, unsigned changes) {
-    for (const auto& view : Views()) {
-        if (view->DataControl() == &control) view->Changed(changes);
+    for (const auto& view : HeldViews()) {
+        if (view->DataControl() != &control) continue;
+        if (changes & VIEW_ROWS) view->ForgetMissingItems();
+        view->Changed(changes);
     }
 }
 

@@ -42,6 +42,8 @@ public:
 
     Application& Owner() const { return application_; }
     NamedList<View>& Views() { return views_.All(); }
+    /// All views, held: telling them something may run scripts, which may delete some.
+    std::vector<std::shared_ptr<View>> HeldViews() { return {Views().begin(), Views().end()}; }
     WindowList& Windows() { return *windows_; }
     GuiMapList& GuiMaps() { return *guiMaps_; }
     /// The popup menu of that name, made when it is first asked for.

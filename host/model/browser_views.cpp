@@ -9,7 +9,7 @@ void Browser::SetFlushFlag(bool flush) {
     if (Refused("znIBrowser::SetFlushFlag", flush)) return;
     flush_ = flush;
     if (!flush_) return;
-    for (const auto& view : Views()) view->Flush();
+    for (const auto& view : HeldViews()) view->Flush();
 }
 
 bool Browser::ApplyPendingChanges(znIBrowserViewItemFreeFolder* folder) {
@@ -44,7 +44,7 @@ bool Browser::DeleteView(znIBrowserView* view) {
 bool Browser::RedrawViews(znIBrowserDataCtrl* control) {
     if (Refused("znIBrowser::RedrawViews", control)) return false;
     if (!control) return Fail("No data control to redraw the views of");
-    for (const auto& view : Views()) {
+    for (const auto& view : HeldViews()) {
         if (view->DataControl() != control) continue;
         view->Changed(VIEW_ALL);
         view->Flush();

@@ -29,10 +29,11 @@ void RestoreParts(Restoring& restoring, const Settings& settings) {
             restoring.Skip("window part", setting.subject);
             continue;
         }
-        restoring.Target().ShowPart(*part, IsOn(setting));
-        if (!parent && !setting.key.empty()) continue;
-        if (part->Parent() != parent && !(parent && part->Holds(*parent))) part->MoveBelow(parent);
-        if (part->Parent() == parent) part->MoveTo(placed[parent]++);
+        if (parent || setting.key.empty()) {
+            if (part->Parent() != parent && !(parent && part->Holds(*parent))) part->MoveBelow(parent);
+            if (part->Parent() == parent) part->MoveTo(placed[parent]++);
+        }
+        restoring.Target().ShowPart(*part, IsOn(setting)); // may run a script that deletes the part
     }
 }
 

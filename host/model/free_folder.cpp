@@ -69,6 +69,8 @@ void FreeFolder::Expand(bool expanded, bool recursive) {
             for (FolderList& list : folder->lists_) list.expanded = expanded;
         }
     }
+    const std::shared_ptr<FreeFolder> self = shared_from_this(); // listing what is in it may run scripts
+    const std::shared_ptr<View> view = view_.shared_from_this();
     view_.TellObservers(
         [&](ViewObserver& observer) { observer.OnExpanded(*this, nullptr, expanded, recursive); });
     Changed(VIEW_ROWS);
@@ -77,6 +79,8 @@ void FreeFolder::Expand(bool expanded, bool recursive) {
 void FreeFolder::Expand(FolderList& list, bool expanded, bool recursive) {
     list.expanded = expanded;
     znIBrowserDataSourceSimple* const source = list.source;
+    const std::shared_ptr<FreeFolder> self = shared_from_this(); // listing what is in it may run scripts
+    const std::shared_ptr<View> view = view_.shared_from_this();
     view_.TellObservers(
         [&](ViewObserver& observer) { observer.OnExpanded(*this, source, expanded, recursive); });
     Changed(VIEW_ROWS);

@@ -84,6 +84,17 @@ bool Selection::Clear(const Source* source) {
     return Announce(had);
 }
 
+bool Selection::Forget(const std::function<std::vector<Row>(Source*, const std::vector<Row>&)>& missing) {
+    bool changed = false;
+    for (Part& part : parts_) {
+        std::vector<Row> rows;
+        rows.reserve(part.rows.Size());
+        part.rows.ForEach([&rows](Row row) { rows.push_back(row); });
+        if (!rows.empty()) changed = part.rows.Remove(missing(part.source, rows)) || changed;
+    }
+    return Announce(changed);
+}
+
 bool Selection::IsSelected(const Source* source, Row row) const {
     const RowSet* const rows = Rows(source);
     return rows && rows->Has(row);

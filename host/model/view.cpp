@@ -18,6 +18,7 @@ View::View(Browser& browser, std::string name, bool newConnections)
 View::~View() {
     TellObservers([](ViewObserver& observer) { observer.OnViewDeleted(); });
     for (const auto& operation : operations_) operation->Detach();
+    for (const auto& property : properties_) property->Detach();
 }
 
 void View::DeleteColumn(Column& column) {
@@ -29,7 +30,8 @@ void View::DeleteColumn(Column& column) {
 
 void View::DeleteProperty(ViewProperty& property) {
     for (const auto& column : columns_) column->Forget(property);
-    properties_.Remove(property);
+    const std::shared_ptr<ViewProperty> held = properties_.Remove(property);
+    property.Detach();
     Changed(VIEW_CELLS | VIEW_ROWS);
 }
 

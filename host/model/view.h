@@ -12,6 +12,7 @@
 #include "model/view_operation.h"
 #include "model/view_property.h"
 
+#include <algorithm>
 #include <memory>
 #include <set>
 #include <string>
@@ -82,6 +83,8 @@ public:
     /// True when that changed something.
     bool SelectFolder(FreeFolder& folder, bool selected);
     void ClearAllSelection();
+    /// Deselects the items that do not exist any more: a new item may take their row numbers.
+    void ForgetMissingItems();
 
     // Filters.
     /// Whether the filter shows the items of that source.
@@ -99,11 +102,16 @@ public:
     void Changed(unsigned changes);
     /// Tells what was held back.
     void Flush();
-    /// Tells each observer something at once: `tell(ViewObserver&)`.
+    /// Tells each observer something at once: `tell(ViewObserver&)`. One may run scripts, which may delete
+    /// the others, and the view.
     template <class Tell>
     void TellObservers(Tell&& tell) {
+        const std::shared_ptr<View> self = weak_from_this().lock(); // null while the view is being destroyed
         const std::vector<ViewObserver*> observers = observers_;
-        for (ViewObserver* const observer : observers) tell(*observer);
+        for (ViewObserver* const observer : observers) {
+            if (std::find(observers_.begin(), observers_.end(), observer) != observers_.end())
+                tell(*observer);
+        }
     }
 
     // Lets go of what is about to be deleted.

@@ -44,6 +44,7 @@ ScriptedValue::ScriptedValue(const ViewProperty& property)
 
 // The procedure may delete the property: nothing of it is touched afterwards.
 bool ScriptedValue::Compute(const znBrowserDataItem& item, std::string& value) const {
+    if (property_.GetScript().empty()) return false;
     return ApplicationOf(property_.Owner())
         .CallProcedure({property_.GetScript(), NameOf(log_, item.source), std::to_string(item.row)}, value);
 }
@@ -112,6 +113,11 @@ void ViewProperty::Forget(const znIBrowserDataProperty& dataProperty) {
     RemoveWhere(connections_,
                 [&](const auto& connection) { return connection.dataProperty == &dataProperty; });
     if (connections_.size() != before) Changed();
+}
+
+void ViewProperty::Detach() {
+    connections_.clear();
+    getScript_.clear();
 }
 
 void ViewProperty::SetScripts(std::string update, std::string get, std::string third) {

@@ -56,6 +56,8 @@ public:
     /// False when the source is not connected.
     bool Disconnect(const znIBrowserDataSource& source);
     void Forget(const znIBrowserDataProperty& dataProperty);
+    /// It was deleted. Whoever still holds it finds no values any more.
+    void Detach();
 
     // The scripts: a procedure that gives a value, and one that is told a changed value.
     const std::string& GetScript() const { return getScript_; }

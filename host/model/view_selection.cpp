@@ -3,6 +3,7 @@
 #include "model/browser.h"
 #include "model/data_sources.h"
 #include "model/view.h"
+#include "store/row_source.h"
 
 namespace znhost {
 
@@ -16,6 +17,10 @@ bool View::SelectFolder(FreeFolder& folder, bool selected) {
 void View::ClearAllSelection() {
     for (FreeFolder* const folder : root_->WithBelow()) SelectFolder(*folder, false);
     selection_.Clear();
+}
+
+void View::ForgetMissingItems() {
+    selection_.Forget([](auto* source, const auto& rows) { return GetRowSource(source)->Missing(rows); });
 }
 
 bool View::ClearSelection() {

@@ -40,6 +40,7 @@ void Window::OnViewDeleted() {
 
 // Rows that a text filter hides are collapsed. When it is gone, they are as they were.
 void Window::OnViewChanged(unsigned changes) {
+    const std::shared_ptr<Window> self = shared_from_this(); // listing the rows may run scripts
     const bool filtered = filters_;
     filters_ = view_ && !view_->Filter().pattern.empty();
     if (filters_ && !filtered) expanded_ = rows_.Expanded();
@@ -48,6 +49,7 @@ void Window::OnViewChanged(unsigned changes) {
 }
 
 void Window::OnExpanded(FreeFolder& folder, znIBrowserDataSourceSimple* list, bool expanded, bool recursive) {
+    const std::shared_ptr<Window> self = shared_from_this();
     rows_.SetExpanded(folder, list, expanded, recursive);
 }
 
@@ -219,6 +221,15 @@ WindowEvent* Window::Own(znIBrowserEvent* event) const {
 // ---- Finding
 // ------------------------------------------------------------------------------------------------
 
+/// What the criteria find. Null when a script that gave a value closed the window or deleted its view.
+std::shared_ptr<RowFinder> Window::Search(std::vector<FindCriterion> criteria) {
+    std::shared_ptr<RowFinder> finder = finder_;
+    const bool known = finder && finder->IsUpToDate(criteria);
+    if (!known && view_) finder = std::make_shared<RowFinder>(*view_, rows_, std::move(criteria));
+    finder_ = view_ ? finder : nullptr;
+    return finder_;
+}
+
 bool Window::Perform(FindRequest& request) {
     const std::shared_ptr<Window> self = shared_from_this();
     if (!view_) return Fail("The window \"" + name_ + "\" shows no view");
@@ -231,25 +242,21 @@ bool Window::Perform(FindRequest& request) {
             criteria.push_back({property.name.Str(), *criterion});
         }
     }
-    if (!finder_ || !finder_->IsUpToDate(criteria)) {
-        auto finder = std::make_unique<RowFinder>(*view_, rows_, std::move(criteria));
-        if (!view_) return false; // a script that gave a value closed the window
-        finder_ = std::move(finder);
-    }
-    if (!finder_->GetError().empty()) return Fail(finder_->GetError());
-    if (finder_->Size() == 0) return Fail("Nothing is found");
+    const std::shared_ptr<RowFinder> finder = Search(std::move(criteria));
+    if (!finder) return Fail("The window \"" + name_ + "\" was closed while it was searched");
+    if (!finder->GetError().empty()) return Fail(finder->GetError());
+    if (finder->Size() == 0) return Fail("Nothing is found");
     const bool all = type == ZNBROWSER_FIND_REQUEST_ALL;
-    const std::size_t shown = all ? 0 : finder_->Next(type == ZNBROWSER_FIND_REQUEST_NEXT, *view_);
+    const std::size_t shown = all ? 0 : finder->Next(type == ZNBROWSER_FIND_REQUEST_NEXT, *view_);
     znBrowserDataItems found;
     const auto add = [&found](const znBrowserDataItem& item) { found.Append(item.source, item.row); };
     if (all && !rows_.IsSingle()) {
-        for (std::size_t hit = 0; hit < finder_->Size(); ++hit) add(finder_->Item(hit));
+        for (std::size_t hit = 0; hit < finder->Size(); ++hit) add(finder->Item(hit));
     } else {
-        add(finder_->Item(shown));
+        add(finder->Item(shown));
     }
-    rows_.Reveal(finder_->PathTo(shown));
-    if (!view_) return false;
-    view_->Selected().Replace(found);
+    view_->Selected().Replace(found); // first: expanding may run scripts, which may delete what was found
+    rows_.Reveal(finder->PathTo(shown));
     Fire(EventKind::SelectionChanged);
     return true;
 }

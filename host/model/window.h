@@ -18,6 +18,7 @@ namespace znhost {
 
 class Browser;
 class RowFinder;
+struct FindCriterion;
 class View;
 
 /// A window on a view. Its events run scripts, and a script may delete the window: then it is closed at once
@@ -119,6 +120,7 @@ private:
     WindowPart* Own(znIBrowserWindowPart* part) const;
     WindowEvent* Own(znIBrowserEvent* event) const;
     std::vector<WindowPart*> AllParts() const;
+    std::shared_ptr<RowFinder> Search(std::vector<FindCriterion> criteria);
     void Fire(EventKind kind);
     void Call(const std::vector<std::string>& words);
     void CallForPart(const WindowPart::Procedure& procedure, const std::string& frame);
@@ -126,6 +128,8 @@ private:
     void RunWindowOperation(Window& target, ZNBROWSER_CALLBACK_OPERATION operation);
     void TellSelectedFolders();
     Column* FindColumn(const char* name) const;
+    struct Click;
+    bool FindClicked(const char* column, const char* element, unsigned int index, Click& click);
     bool WriteValue(ViewProperty& property, const znBrowserDataItem& item, const std::string& value);
     bool RunOperation(const std::string& name);
 
@@ -146,7 +150,7 @@ private:
     RowModel rows_;
     bool filters_ = false;              ///< whether a text narrows the rows
     std::vector<KeptRow> expanded_;     ///< what was expanded before it did
-    std::unique_ptr<RowFinder> finder_; ///< what was searched last
+    std::shared_ptr<RowFinder> finder_; ///< what was searched last
 };
 
 } // namespace znhost

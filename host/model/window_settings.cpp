@@ -79,6 +79,7 @@ FolderList* Restoring::List(const std::string& number) const {
 bool KeepSettings(Window& window, Settings& settings, std::string& error) {
     settings.clear();
     const CallLog::Quiet quiet(window.Log());
+    const std::shared_ptr<Window> self = window.shared_from_this();
     for (const auto kinds : allKinds) {
         for (const SettingKind& kind : kinds()) {
             View* const view = window.ShownView();

@@ -46,12 +46,14 @@ bool Window::ExpandSelectedItems() {
 
 bool Window::CollapseAllItems() {
     if (Refused("znIBrowserWindowAccess::CollapseAllItems")) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
     rows_.CollapseAll();
     return true;
 }
 
 bool Window::CollapseSelectedItems() {
     if (Refused("znIBrowserWindowAccess::CollapseSelectedItems")) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
     rows_.CollapseSelected();
     return true;
 }
@@ -67,16 +69,19 @@ bool Window::SetStatePos(int position) {
 
 bool Window::SelectionAdded(const std::vector<unsigned int>& indices) {
     if (Refused("znIBrowserWindowAccess::SelectionAdded", indices)) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
     return rows_.Select(RowModel::Selecting::Add, indices);
 }
 
 bool Window::SelectionRemoved(const std::vector<unsigned int>& indices) {
     if (Refused("znIBrowserWindowAccess::SelectionRemoved", indices)) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
     return rows_.Select(RowModel::Selecting::Remove, indices);
 }
 
 bool Window::SelectionUpdate(const std::vector<unsigned int>& indices) {
     if (Refused("znIBrowserWindowAccess::SelectionUpdate", indices)) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
     return rows_.Select(RowModel::Selecting::Replace, indices);
 }
 
@@ -94,21 +99,26 @@ void Window::TellSelectedFolders() {
     constexpr const char* procedure = "::znbrowser::ResetSelectedFreeFoldersArray";
     const bool wanted = Tcl_FindCommand(application.Interp(), procedure, nullptr, TCL_GLOBAL_ONLY) != nullptr;
     if (!view_ || !wanted || !application.Manager()) return;
+    std::vector<std::shared_ptr<FreeFolder>> held; // the procedures may delete them
     std::vector<znIBrowserViewItemFreeFolder*> folders;
     for (FreeFolder* const folder : view_->RootFolder().WithBelow()) {
-        if (folder->IsSelected()) folders.push_back(folder);
+        if (!folder->IsSelected()) continue;
+        held.push_back(folder->shared_from_this());
+        folders.push_back(folder);
     }
     application.Manager()->UpdateTclFreeFolderSelection(folders);
 }
 
 bool Window::SetSingleSelection() {
     if (Refused("znIBrowserWindowAccess::SetSingleSelection")) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
     rows_.SetSingle(true);
     return true;
 }
 
 bool Window::SetMultipleSelection() {
     if (Refused("znIBrowserWindowAccess::SetMultipleSelection")) return false;
+    const std::shared_ptr<Window> self = shared_from_this();
     rows_.SetSingle(false);
     return true;
 }
@@ -135,15 +145,31 @@ bool Window::WriteValue(ViewProperty& property, const znBrowserDataItem& item, c
     return true;
 }
 
+/// What was clicked on, so that a script may delete it.
+struct Window::Click {
+    std::string column;
+    znBrowserDataItem item;
+    std::shared_ptr<ViewProperty> property; ///< null when the element shows none
+};
+
+/// False when there is no such column or item.
+bool Window::FindClicked(const char* column, const char* element, unsigned int index, Click& click) {
+    const RowModel::Answering answering(rows_); // takes over what changed, and that may run scripts
+    const Column* const own = FindColumn(column);
+    if (!own || !rows_.GetItem(index, click.item)) return false;
+    click.column = own->Name();
+    ViewProperty* const property = rows_.PropertyOf(index, *own, TextOf(element));
+    if (property) click.property = property->shared_from_this();
+    return true;
+}
+
 bool Window::CheckBoxClick(const char* column, const char* element, unsigned int index, bool value) {
     if (Refused("znIBrowserWindowAccess::CheckBoxClick", column, element, index, value)) return false;
     const std::shared_ptr<Window> self = shared_from_this();
-    const Column* const own = FindColumn(column);
-    znBrowserDataItem item;
-    if (!own || !rows_.GetItem(index, item)) return false;
-    ViewProperty* const property = rows_.PropertyOf(index, *own, TextOf(element));
-    if (!property) return Fail("The column \"" + own->Name() + "\" shows no property");
-    if (!WriteValue(*property, item, value ? "true" : "false")) return false;
+    Click click;
+    if (!FindClicked(column, element, index, click)) return false;
+    if (!click.property) return Fail("The column \"" + click.column + "\" shows no property");
+    if (!WriteValue(*click.property, click.item, value ? "true" : "false")) return false;
     Fire(EventKind::CheckBoxClick);
     return true;
 }
@@ -154,19 +180,18 @@ bool Window::WindowButtonClick(const char* column, const char* element, unsigned
                                const znString& value) {
     if (Refused("znIBrowserWindowAccess::WindowButtonClick", column, element, index, value)) return false;
     const std::shared_ptr<Window> self = shared_from_this();
-    const Column* const own = FindColumn(column);
-    znBrowserDataItem item;
-    if (!own || !rows_.GetItem(index, item)) return false;
-    ViewProperty* const property = rows_.PropertyOf(index, *own, TextOf(element));
+    Click click;
+    if (!FindClicked(column, element, index, click)) return false;
+    const std::shared_ptr<ViewProperty>& property = click.property;
     bool done = false;
     if (property && !property->UpdateScript().empty()) {
-        done = WriteValue(*property, item, value.Str());
+        done = WriteValue(*property, click.item, value.Str());
     } else {
-        const std::string names[] = {TextOf(element), property ? property->Name() : "", own->Name(),
+        const std::string names[] = {TextOf(element), property ? property->Name() : "", click.column,
                                      value.Str()};
         done = std::any_of(std::begin(names), std::end(names),
                            [this](auto& name) { return RunOperation(name); });
-        if (!done) Fail("The view \"" + view_->Name() + "\" has no operation for the button");
+        if (!done) Fail("The column \"" + click.column + "\" has no operation for the button");
     }
     if (done) Fire(EventKind::ButtonClick);
     return done;

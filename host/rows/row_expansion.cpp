@@ -17,12 +17,22 @@ const void* KeyOf(const RowContent& content) {
     return content.kind == RowKind::Folder ? static_cast<const void*>(content.folder.get()) : content.source;
 }
 
-TreePart MakePart(const RowContent& content, const RowPlan& plan) {
-    return content.kind == RowKind::Item ? RowTree::MakeBlock(content, plan.List(content))
-                                         : RowTree::MakeNode(content);
+const RowContent& ContentOf(const TreePart& part) {
+    return part.node ? part.node->content : part.block->content;
 }
 
 } // namespace
+
+/// What is to stand in a container: another container, or a block with its rows.
+struct RowModel::Listed {
+    RowContent content;
+    std::vector<std::int64_t> rows;
+
+    TreePart MakePart() && {
+        return content.kind == RowKind::Item ? RowTree::MakeBlock(std::move(content), std::move(rows))
+                                             : RowTree::MakeNode(std::move(content));
+    }
+};
 
 // ---- Filling
 // ------------------------------------------------------------------------------------------------
@@ -33,15 +43,26 @@ bool RowModel::GoesOn() const {
     return application.GoesOn() && application.HasTime();
 }
 
+/// Lists what stands in a container. Scripts give the values by which rows are sorted, so the tree is left as
+/// it is meanwhile. False when the work must be given up.
+bool RowModel::ListBelow(RowNode& node, std::vector<Listed>& all) const {
+    const Row row = RowTree::RowOf(node);
+    for (RowContent& content :
+         node.block ? plan_.Below(row.Content(), row.Number()) : plan_.Below(node.content)) {
+        Listed listed{std::move(content), {}};
+        if (listed.content.kind == RowKind::Item) listed.rows = plan_.List(listed.content);
+        if (stopped_) return false;
+        all.push_back(std::move(listed));
+    }
+    return true;
+}
+
 /// Makes what stands in a container. False when there is nothing, or the work must be given up.
 bool RowModel::Fill(RowNode& node) {
-    const Row row = RowTree::RowOf(node);
+    std::vector<Listed> all;
+    if (!ListBelow(node, all)) return false;
     std::vector<TreePart> parts;
-    for (const RowContent& content :
-         node.block ? plan_.Below(row.Content(), row.Number()) : plan_.Below(node.content)) {
-        parts.push_back(MakePart(content, plan_));
-        if (stopped_) return false;
-    }
+    for (Listed& listed : all) parts.push_back(std::move(listed).MakePart());
     tree_.SetParts(node, std::move(parts));
     return !node.parts.empty();
 }
@@ -59,7 +80,7 @@ void RowModel::FillAndExpand(RowNode& top) {
 
 void RowModel::ExpandAsCreated(RowNode& node, int depth, std::vector<std::pair<RowNode*, int>>& open) {
     for (const TreePart& part : node.parts) {
-        const RowContent& content = part.node ? part.node->content : part.block->content;
+        const RowContent& content = ContentOf(part);
         if (content.kind == RowKind::Folder && content.folder->IsExpanded())
             open.emplace_back(part.node.get(), 0);
         if (content.kind == RowKind::List) {
@@ -95,12 +116,12 @@ bool RowModel::ExpandRow(const Row& row) {
 
 bool RowModel::Expand(std::uint32_t index) {
     const Change change(*this);
-    return change && ExpandRow(tree_.Find(index));
+    return change && ExpandRow(Find(index));
 }
 
 bool RowModel::Collapse(std::uint32_t index) {
     const Change change(*this);
-    const Row row = change ? tree_.Find(index) : Row();
+    const Row row = change ? Find(index) : Row();
     if (!row) return false;
     if (!row.IsExpanded()) return true;
     tree_.Collapse(*row.node);
@@ -211,7 +232,7 @@ void RowModel::ExpandSelected() {
     const Change change(*this);
     if (!change) return;
     for (const std::uint32_t index : SelectedIndices()) {
-        const Row row = tree_.Find(index);
+        const Row row = Find(index); // none when the work was given up
         if (!row || !HasRows(row)) continue;
         ExpandBelow(row.IsItem() ? tree_.NodeOf(row) : *row.node);
     }
@@ -222,7 +243,7 @@ void RowModel::CollapseSelected() {
     const Change change(*this);
     if (!change) return;
     for (const std::uint32_t index : SelectedIndices()) {
-        const Row row = tree_.Find(index); // gone when what it lay in was selected too
+        const Row row = Find(index); // gone when what it lay in was selected too
         if (row && row.IsExpanded()) tree_.Collapse(*row.node);
     }
     Tell(RowChange::AllFilled);
@@ -268,8 +289,7 @@ bool RowModel::Reveal(const std::vector<RowStep>& path) {
         if (!node->expanded && !(ExpandRow(RowTree::RowOf(*node)))) return false;
         const auto part =
             std::find_if(node->parts.begin(), node->parts.end(), [&step](const TreePart& candidate) {
-                return (candidate.node ? candidate.node->content : candidate.block->content)
-                    .IsSame(step.content);
+                return ContentOf(candidate).IsSame(step.content);
             });
         if (part == node->parts.end()) return false;
         if (part->node) {
@@ -308,44 +328,39 @@ void RowModel::Refresh() {
         for (const TreePart& part : node.parts) {
             if (part.node && part.node->expanded) open.push_back(part.node.get());
             if (!part.block) continue;
-            for (const auto& child : part.block->children) open.push_back(child.second.get());
+            for (const auto& child : part.block->children) {
+                if (child.second->expanded) open.push_back(child.second.get());
+            }
         }
     }
 }
 
+/// What was there before stays, but with the present links and filter, and the present rows.
 void RowModel::RefreshNode(RowNode& node) {
-    const Row row = RowTree::RowOf(node);
+    std::vector<Listed> all;
+    if (!ListBelow(node, all)) return;
     std::unordered_multimap<const void*, TreePart*> old;
-    for (TreePart& part : node.parts)
-        old.emplace(KeyOf(part.node ? part.node->content : part.block->content), &part);
+    for (TreePart& part : node.parts) old.emplace(KeyOf(ContentOf(part)), &part);
     std::vector<TreePart> parts;
-    std::vector<std::pair<RowNode*, int>> fresh;
-    for (const RowContent& content :
-         node.block ? plan_.Below(row.Content(), row.Number()) : plan_.Below(node.content)) {
-        const auto range = old.equal_range(KeyOf(content));
-        const auto known = std::find_if(range.first, range.second, [&content](const auto& entry) {
-            const TreePart& part = *entry.second;
-            return (part.node || part.block) &&
-                   (part.node ? part.node->content : part.block->content).IsSame(content);
+    for (Listed& listed : all) {
+        const auto range = old.equal_range(KeyOf(listed.content));
+        const auto known = std::find_if(range.first, range.second, [&listed](const auto& entry) {
+            return ContentOf(*entry.second).IsSame(listed.content);
         });
         if (known == range.second) {
-            parts.push_back(MakePart(content, plan_));
+            parts.push_back(std::move(listed).MakePart());
+            continue;
+        }
+        parts.push_back(std::move(*known->second));
+        old.erase(known);
+        if (RowBlock* const block = parts.back().block.get()) {
+            block->content = std::move(listed.content);
+            tree_.SetRows(*block, std::move(listed.rows));
         } else {
-            parts.push_back(std::move(*known->second));
-            RefreshContent(parts.back(), content);
+            parts.back().node->content = std::move(listed.content);
         }
     }
     tree_.SetParts(node, std::move(parts));
-}
-
-/// The same thing as before, but with the present links and filter, and the present rows.
-void RowModel::RefreshContent(TreePart& part, const RowContent& content) {
-    if (part.node) {
-        part.node->content = content;
-    } else {
-        part.block->content = content;
-        tree_.SetRows(*part.block, plan_.List(content));
-    }
 }
 
 } // namespace znhost

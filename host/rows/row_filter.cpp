@@ -6,7 +6,7 @@
 namespace znhost {
 
 RowFilter::RowFilter(const std::vector<RowSource*>& sources, const std::vector<RowLink>& links,
-                     const Conditions& conditions)
+                     const Conditions& conditions, const std::function<bool()>& isStopped)
     : links_(links), parents_(links.size()) {
     std::vector<RowSource*> all = sources;
     for (const RowLink& link : links) {
@@ -21,6 +21,7 @@ RowFilter::RowFilter(const std::vector<RowSource*>& sources, const std::vector<R
         if (!source || !conditions(*source, query.conditions)) continue;
         std::vector<std::int64_t> rows;
         source->List(query, rows);
+        if (isStopped()) return;
         matches_[source].Add(rows);
         kept_[source].Add(rows);
         found.emplace_back(source, std::move(rows));

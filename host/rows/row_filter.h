@@ -19,8 +19,10 @@ public:
     /// Fills in what an item of the source must fulfil; false when none of its items can.
     using Conditions = std::function<bool(RowSource& source, std::vector<RowCondition>& conditions)>;
 
+    /// The values that conditions look at may come from scripts that delete anything: when `isStopped` tells
+    /// so, no more is looked at, and the filter is of no use.
     RowFilter(const std::vector<RowSource*>& sources, const std::vector<RowLink>& links,
-              const Conditions& conditions);
+              const Conditions& conditions, const std::function<bool()>& isStopped);
 
     bool IsMatch(const RowSource* source, std::int64_t row) const { return Has(matches_, source, row); }
     bool Keeps(const RowSource* source, std::int64_t row) const { return Has(kept_, source, row); }

@@ -64,7 +64,8 @@ RowFinder::RowFinder(View& view, RowModel& model, std::vector<FindCriterion> cri
     : model_(model), criteria_(std::move(criteria)) {
     const RowModel::Answering answering(model);
     revision_ = model.Revision();
-    if (Prepare(view)) Walk();
+    if (!model.IsStopped() && Prepare(view)) Walk();
+    if (model.IsStopped()) error_ = "What was to be searched has been deleted";
 }
 
 bool RowFinder::IsUpToDate(const std::vector<FindCriterion>& criteria) const {
@@ -83,7 +84,7 @@ bool RowFinder::Prepare(const View& view) {
             error_ = "The view \"" + view.Name() + "\" has no property \"" + wanted.property + "\"";
             return false;
         }
-        tests_.emplace_back(RowCondition(), property);
+        tests_.emplace_back(RowCondition(), property ? property->shared_from_this() : nullptr);
         const ZNBROWSER_DATA_TYPE type = property ? property->Type() : ZNBROWSER_DATA_STRING;
         if (!MakeCondition(wanted.criterion, type, tests_.back().first, error_)) return false;
     }
@@ -91,7 +92,7 @@ bool RowFinder::Prepare(const View& view) {
 }
 
 bool RowFinder::ConditionsFor(RowSource& source, std::vector<RowCondition>& conditions) const {
-    for (const auto& [condition, property] : tests_) {
+    for (const auto& [condition, property] : tests_) { // a deleted property has no values any more
         conditions.push_back(condition);
         if (!property) continue;
         conditions.back().property = property->DataProperty(source.GetSource());
@@ -103,11 +104,12 @@ bool RowFinder::ConditionsFor(RowSource& source, std::vector<RowCondition>& cond
 std::shared_ptr<const RowFilter> RowFinder::FilterFor(const RowContent& block) {
     std::shared_ptr<const RowFilter>& filter = filters_[{block.scope.get(), block.source}];
     if (!filter) {
-        filter =
-            std::make_shared<RowFilter>(std::vector<RowSource*>{block.source}, block.scope->links,
-                                        [this](RowSource& source, std::vector<RowCondition>& conditions) {
-                                            return ConditionsFor(source, conditions);
-                                        });
+        filter = std::make_shared<RowFilter>(
+            std::vector<RowSource*>{block.source}, block.scope->links,
+            [this](RowSource& source, std::vector<RowCondition>& conditions) {
+                return ConditionsFor(source, conditions);
+            },
+            [this] { return model_.IsStopped(); });
     }
     return filter;
 }
@@ -152,6 +154,7 @@ void RowFinder::WalkContent(Frame& frame) {
         return;
     }
     frame.filter = FilterFor(content);
+    if (model_.IsStopped()) return;
     frame.rows = model_.Plan().List(content);
     frame.nextRow = 0;
     frame.filter->Narrow(content.source, frame.rows);

@@ -77,7 +77,7 @@ private:
     std::uint64_t revision_;
     std::string error_;
     /// Per criterion: the condition without its property, and the view property; null for the item's text.
-    std::vector<std::pair<RowCondition, ViewProperty*>> tests_;
+    std::vector<std::pair<RowCondition, std::shared_ptr<ViewProperty>>> tests_;
     std::vector<RowContent> contents_;
     std::vector<Entry> entries_;
     std::vector<std::uint32_t> hits_; ///< entries, in order

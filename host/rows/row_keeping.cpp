@@ -26,6 +26,7 @@ std::string NameOf(CallLog& log, const RowContent& content) {
 std::vector<KeptRow> RowModel::Expanded() {
     const Answering answering(*this);
     std::vector<KeptRow> kept;
+    if (!IsReady()) return kept;
     std::unordered_map<const RowNode*, std::size_t> numbers;
     for (RowNode* const node : RowTree::Expanded(tree_.Root())) {
         if (const Row row = RowTree::RowOf(*node)) {

@@ -100,13 +100,13 @@ void RowModel::RemoveObserver(const RowObserver& observer) {
 
 std::int64_t RowModel::Count() {
     const Answering answering(*this);
-    return tree_.Count();
+    return IsReady() ? tree_.Count() : 0;
 }
 
 std::vector<RowLook> RowModel::Read(std::int64_t first, std::int64_t count) {
     const Answering answering(*this);
     std::vector<Row> rows;
-    if (first < 0 || first >= tree_.Count()) return {};
+    if (!IsReady() || first < 0 || first >= tree_.Count()) return {};
     for (Row row = tree_.At(first); row && count > 0; row = tree_.Next(row), --count) rows.push_back(row);
     return LooksOf(rows);
 }
@@ -114,8 +114,8 @@ std::vector<RowLook> RowModel::Read(std::int64_t first, std::int64_t count) {
 std::vector<RowLook> RowModel::ReadBelow(std::uint32_t index, std::int64_t first, std::int64_t count) {
     const Answering answering(*this);
     std::vector<Row> rows;
-    const Row above = index == RowChange::root ? Row{&tree_.Root(), nullptr, 0} : tree_.Find(index);
-    if (!above.node || first < 0) return {};
+    const Row above = index == RowChange::root ? Row{&tree_.Root(), nullptr, 0} : Find(index);
+    if (!IsReady() || !above.node || first < 0) return {};
     for (const TreePart& part : above.node->parts) {
         const auto size = part.node ? std::int64_t{1} : static_cast<std::int64_t>(part.block->rows.size());
         for (; first < size && count > 0; ++first, --count) {
@@ -132,31 +132,31 @@ bool RowModel::Has(std::uint32_t index) { return HasAll({index}); }
 bool RowModel::HasAll(const std::vector<std::uint32_t>& indices) {
     const Answering answering(*this);
     return std::all_of(indices.begin(), indices.end(),
-                       [this](std::uint32_t index) { return bool(tree_.Find(index)); });
+                       [this](std::uint32_t index) { return bool(Find(index)); });
 }
 
 std::int64_t RowModel::CountBelow(std::uint32_t index) {
     const Answering answering(*this);
-    const Row row = tree_.Find(index);
-    if (!row || !view_) return -1;
+    const Row row = Find(index);
+    if (!row) return -1;
     return row.IsItem() ? plan_.Count(row.Content(), row.Number()) : plan_.Count(row.Content());
 }
 
 std::int64_t RowModel::PositionOf(std::uint32_t index) {
     const Answering answering(*this);
-    const Row row = tree_.Find(index);
+    const Row row = Find(index);
     return row ? tree_.PositionOf(row) : -1;
 }
 
 std::vector<std::uint32_t> RowModel::SelectedRows() {
     const Answering answering(*this);
-    return view_ ? SelectedIndices() : std::vector<std::uint32_t>();
+    return IsReady() ? SelectedIndices() : std::vector<std::uint32_t>();
 }
 
 std::vector<std::uint32_t> RowModel::IndicesFrom(std::int64_t first, std::int64_t count) {
     const Answering answering(*this);
     std::vector<std::uint32_t> indices;
-    if (first < 0 || first >= tree_.Count()) return indices;
+    if (!IsReady() || first < 0 || first >= tree_.Count()) return indices;
     for (Row row = tree_.At(first); row && count > 0; row = tree_.Next(row), --count)
         indices.push_back(row.Index());
     return indices;
@@ -164,7 +164,7 @@ std::vector<std::uint32_t> RowModel::IndicesFrom(std::int64_t first, std::int64_
 
 bool RowModel::GetItem(std::uint32_t index, znBrowserDataItem& item) {
     const Answering answering(*this);
-    const Row row = tree_.Find(index);
+    const Row row = Find(index);
     if (!row.IsItem()) return false;
     item = {row.Content().source->GetSource(), row.Number()};
     return true;
@@ -172,8 +172,8 @@ bool RowModel::GetItem(std::uint32_t index, znBrowserDataItem& item) {
 
 ViewProperty* RowModel::PropertyOf(std::uint32_t index, const Column& column, const std::string& element) {
     const Answering answering(*this);
-    const Row row = tree_.Find(index);
-    return row.IsItem() && view_ ? cells_.PropertyOf(row.Content(), column, element) : nullptr;
+    const Row row = Find(index);
+    return row.IsItem() ? cells_.PropertyOf(row.Content(), column, element) : nullptr;
 }
 
 // ---- How a row looks
@@ -193,7 +193,6 @@ bool RowModel::IsSelected(const Row& row) const {
 std::vector<RowLook> RowModel::LooksOf(const std::vector<Row>& rows) {
     std::vector<RowLook> looks(rows.size());
     std::unordered_map<const RowBlock*, std::vector<std::size_t>> places;
-    if (!view_) return {};
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const Row& row = rows[i];
         if (row.IsItem()) {

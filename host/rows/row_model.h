@@ -58,7 +58,8 @@ struct KeptRow {
 /// expanded costs nothing. Changes of the view are taken over with the next question asked.
 ///
 /// Values may come from scripts, and a script may delete anything. So while a question is being answered
-/// nothing is taken apart: what goes meanwhile is let go of at the end, and the work in hand is given up.
+/// nothing is taken apart: what goes meanwhile is let go of at the end, and the work in hand is given up. A
+/// script may ask for the rows itself; while they are being listed there are none.
 class RowModel {
 public:
     explicit RowModel(View& view);
@@ -171,7 +172,7 @@ private:
     class Change {
     public:
         explicit Change(RowModel& model) : begins_(!model.answering_), answering_(model) {}
-        explicit operator bool() const { return begins_ && answering_.Model().view_; }
+        explicit operator bool() const { return begins_ && answering_.Model().IsReady(); }
 
     private:
         bool begins_;
@@ -181,6 +182,10 @@ private:
     bool GoesOn() const;
     void TakeOver();
     void Deliver();
+    /// Whether the rows can be looked at: they are all there, and so is what they show.
+    bool IsReady() const { return view_ && !stopped_ && !tree_.IsChanging(); }
+    /// No row when the index is unknown.
+    Row Find(std::uint32_t index) const { return IsReady() ? tree_.Find(index) : Row(); }
     std::vector<RowLook> LooksOf(const std::vector<Row>& rows);
     void LookAtItems(const RowBlock& block, const std::vector<std::size_t>& places,
                      const std::vector<Row>& rows, std::vector<RowLook>& looks);
@@ -189,6 +194,8 @@ private:
     bool IsSelected(const Row& row) const;
     std::vector<std::uint32_t> SelectedIndices();
 
+    struct Listed;
+    bool ListBelow(RowNode& node, std::vector<Listed>& all) const;
     bool Fill(RowNode& node);
     void FillAndExpand(RowNode& top);
     void ExpandAsCreated(RowNode& node, int depth, std::vector<std::pair<RowNode*, int>>& open);
@@ -196,7 +203,6 @@ private:
     void ExpandBelow(RowNode& top);
     void Refresh();
     void RefreshNode(RowNode& node);
-    void RefreshContent(TreePart& part, const RowContent& content);
     struct WantedRows;
     using OpenRows = std::vector<std::pair<RowNode*, std::size_t>>;
     void ExpandExactly(RowNode& node, WantedRows& wanted, OpenRows& open);

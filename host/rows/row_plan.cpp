@@ -206,7 +206,8 @@ void RowPlan::Filter(RowScope& scope, const std::vector<RowSource*>& tops, const
             all.push_back(condition);
             return true;
         };
-        known = std::make_shared<RowFilter>(tops, scope.links, conditions);
+        // No script is asked for the text of an item.
+        known = std::make_shared<RowFilter>(tops, scope.links, conditions, [] { return false; });
     }
     scope.filter = known;
 }

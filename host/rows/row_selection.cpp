@@ -32,7 +32,7 @@ bool RowModel::Select(Selecting how, const std::vector<std::uint32_t>& indices) 
     std::vector<Row> rows;
     rows.reserve(indices.size());
     for (const std::uint32_t index : indices) {
-        rows.push_back(tree_.Find(index));
+        rows.push_back(Find(index));
         if (!rows.back()) return false;
     }
     if (single_ && how != Selecting::Remove && !rows.empty()) {
@@ -129,11 +129,11 @@ const RowLink* RowModel::FindLink(const RowContent& block, RowSource* child, std
 
 bool RowModel::Drop(std::uint32_t target, const std::vector<std::uint32_t>& indices, std::string& error) {
     const Change change(*this);
-    const Row onto = change ? tree_.Find(target) : Row();
+    const Row onto = change ? Find(target) : Row();
     if (!onto) return false;
     std::map<RowSource*, std::vector<std::int64_t>> dropped;
     for (const std::uint32_t index : indices) {
-        const Row row = tree_.Find(index);
+        const Row row = Find(index);
         if (!row) return false;
         if (!row.IsItem() || !onto.IsItem()) {
             error = "Only items can be dropped, and only on items";

@@ -302,7 +302,9 @@ std::vector<RowNode*> RowTree::Expanded(RowNode& node) {
         for (const TreePart& part : found[i]->parts) {
             if (part.node && part.node->expanded) found.push_back(part.node.get());
             if (!part.block) continue;
-            for (const auto& child : part.block->children) found.push_back(child.second.get());
+            for (const auto& child : part.block->children) {
+                if (child.second->expanded) found.push_back(child.second.get());
+            }
         }
     }
     return found;

@@ -172,6 +172,8 @@ public:
 
     /// The containers at and below this one that are expanded, each before those below it.
     static std::vector<RowNode*> Expanded(RowNode& node);
+    /// Whether changes are being made that are not counted yet.
+    bool IsChanging() const { return uncounted_; }
 
 private:
     static Row FirstFrom(const RowNode& node, std::size_t place);

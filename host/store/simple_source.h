@@ -90,6 +90,7 @@ public:
     void Parents(const RowLink& link, const std::vector<std::int64_t>& children,
                  std::vector<std::int64_t>& parents) override;
     bool HasRow(std::int64_t row) override;
+    std::vector<std::int64_t> Missing(const std::vector<std::int64_t>& rows) override;
     bool GetText(std::int64_t row, std::string& text) override;
     bool IsStored(znIBrowserDataProperty* property) override;
     void ReadTexts(const std::vector<std::int64_t>& rows,

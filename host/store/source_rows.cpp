@@ -63,6 +63,29 @@ bool SimpleSource::HasRow(std::int64_t row) {
     return false;
 }
 
+std::vector<std::int64_t> SimpleSource::Missing(const std::vector<std::int64_t>& rows) {
+    std::string error;
+    if (!control_.Refresh(error)) return {};
+    std::vector<bool> found(rows.size(), false);
+    for (const RowPart& part : Parts()) {
+        Statement statement = control_.Db().Prepare(part.Select({}, part.table->key + " = ?"));
+        const int key = part.Bind(statement);
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            const RowPlace place = PlaceOf(rows[i]);
+            if (place.slot != part.slot) continue;
+            statement.Bind(key, place.row);
+            found[i] = statement.Next();
+            statement.Rewind();
+        }
+        if (!statement.Finish(error)) return {};
+    }
+    std::vector<std::int64_t> missing;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (!found[i]) missing.push_back(rows[i]);
+    }
+    return missing;
+}
+
 bool SimpleSource::GetText(std::int64_t row, std::string& text) {
     const RowPlace place = PlaceOf(row);
     const BaseSource* const base = BaseAt(place.slot);

@@ -154,10 +154,11 @@ bool StateContainer::SaveState(znIBrowserState* state, znIBrowserWindowAccess* w
     const State* const own = Own(state);
     if (!own) return false;
     if (!window) return Fail("No window to save the configuration of");
+    const std::string name = own->Name(); // a script that gives a value may delete the state
     Settings settings;
     std::string error;
     return (KeepSettings(static_cast<Window&>(*window), settings, error) &&
-            store_.Write(own->Name(), settings, error)) ||
+            store_.Write(name, settings, error)) ||
            Fail(error);
 }
 
