@@ -43,7 +43,7 @@ void Window::OnViewChanged(unsigned changes) {
     const std::shared_ptr<Window> self = shared_from_this(); // listing the rows may run scripts
     const bool filtered = filters_;
     filters_ = view_ && !view_->Filter().pattern.empty();
-    if (filters_ && !filtered) expanded_ = rows_.Expanded();
+    if (filters_ && !filtered) expanded_ = rows_.WereExpanded();
     rows_.OnViewChanged(changes);
     if (!filters_ && filtered) rows_.ExpandAlso(std::exchange(expanded_, {}));
 }

@@ -25,10 +25,14 @@ std::string NameOf(CallLog& log, const RowContent& content) {
 
 std::vector<KeptRow> RowModel::Expanded() {
     const Answering answering(*this);
+    return WereExpanded();
+}
+
+std::vector<KeptRow> RowModel::WereExpanded() {
     std::vector<KeptRow> kept;
     if (!IsReady()) return kept;
     std::unordered_map<const RowNode*, std::size_t> numbers;
-    for (RowNode* const node : RowTree::Expanded(tree_.Root())) {
+    for (const RowNode* const node : RowTree::Expanded(tree_.Root())) {
         if (const Row row = RowTree::RowOf(*node)) {
             const RowContent& content = row.Content();
             kept.push_back({numbers[node->parent], content.kind, NameOf(log_, content),

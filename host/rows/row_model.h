@@ -117,6 +117,8 @@ public:
 
     /// The expanded rows, each before those below it.
     std::vector<KeptRow> Expanded();
+    /// Those that were when a question was answered last: what changed since is not taken over.
+    std::vector<KeptRow> WereExpanded();
     /// Expands exactly these rows. Answers the places in `rows` of those that do not exist (any more); what
     /// would lie below them is not mentioned.
     std::vector<std::size_t> SetExpanded(const std::vector<KeptRow>& rows);
