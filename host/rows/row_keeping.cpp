@@ -32,7 +32,7 @@ std::vector<KeptRow> RowModel::WereExpanded() {
     std::vector<KeptRow> kept;
     if (!IsReady()) return kept;
     std::unordered_map<const RowNode*, std::size_t> numbers;
-    for (const RowNode* const node : RowTree::Expanded(tree_.Root())) {
+    for (RowNode* const node : RowTree::Expanded(tree_.Root())) {
         if (const Row row = RowTree::RowOf(*node)) {
             const RowContent& content = row.Content();
             kept.push_back({numbers[node->parent], content.kind, NameOf(log_, content),

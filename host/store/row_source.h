@@ -103,7 +103,7 @@ public:
     /// Whether the row still exists and belongs to the source.
     virtual bool HasRow(std::int64_t row) = 0;
     /// Those of `rows` that do not exist any more, or no longer belong to the source; none while the database
-    /// cannot be read. One look at each row.
+    /// cannot be read. One pass over `rows`, by the index of the table.
     virtual std::vector<std::int64_t> Missing(const std::vector<std::int64_t>& rows) = 0;
     /// The item's text: what the built-in column "Name" shows of it (the display column of the table: its
     /// "name" column, else its first text column, else its row number). False when there is no such row.

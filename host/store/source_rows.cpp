@@ -6,6 +6,9 @@
 #include "store/row_lister.h"
 #include "store/simple_source.h"
 
+#include <algorithm>
+#include <map>
+
 namespace znhost {
 
 RowSource* GetRowSource(znIBrowserDataSourceSimple* source) { return SourceOf(source); }
@@ -63,21 +66,56 @@ bool SimpleSource::HasRow(std::int64_t row) {
     return false;
 }
 
+namespace {
+
+/// A row of a table, and which of the rows asked for it is.
+using AskedRow = std::pair<std::int64_t, std::size_t>;
+
+/// Rows this near to each other are read in one go, with what lies between.
+constexpr std::uint64_t nearby = 16;
+
+bool AreNear(const AskedRow& a, const AskedRow& b) {
+    return static_cast<std::uint64_t>(b.first) - static_cast<std::uint64_t>(a.first) <= nearby;
+}
+
+/// Marks those of `asked`, which ascend, that the part has. @return false when the database failed
+bool MarkFound(Database& database, const RowPart& part, const std::vector<AskedRow>& asked,
+               std::vector<bool>& found) {
+    const std::string& key = part.table->key;
+    Statement statement = database.Prepare(part.Select({}, key + " BETWEEN ? AND ?") + " ORDER BY " + key);
+    const int bounds = part.Bind(statement);
+    for (std::size_t i = 0; i < asked.size() && !statement.Failed();) {
+        std::size_t end = i + 1;
+        while (end < asked.size() && AreNear(asked[end - 1], asked[end])) ++end;
+        statement.Bind(bounds, asked[i].first);
+        statement.Bind(bounds + 1, asked[end - 1].first);
+        while (statement.Next()) {
+            const std::int64_t row = statement.Integer(0);
+            while (asked[i].first < row) ++i;
+            if (asked[i].first == row) found[asked[i].second] = true;
+        }
+        statement.Rewind();
+        i = end;
+    }
+    std::string error;
+    return statement.Finish(error);
+}
+
+} // namespace
+
 std::vector<std::int64_t> SimpleSource::Missing(const std::vector<std::int64_t>& rows) {
     std::string error;
     if (!control_.Refresh(error)) return {};
+    std::map<std::size_t, std::vector<AskedRow>> asked; // by slot
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const RowPlace place = PlaceOf(rows[i]);
+        asked[place.slot].emplace_back(place.row, i);
+    }
     std::vector<bool> found(rows.size(), false);
     for (const RowPart& part : Parts()) {
-        Statement statement = control_.Db().Prepare(part.Select({}, part.table->key + " = ?"));
-        const int key = part.Bind(statement);
-        for (std::size_t i = 0; i < rows.size(); ++i) {
-            const RowPlace place = PlaceOf(rows[i]);
-            if (place.slot != part.slot) continue;
-            statement.Bind(key, place.row);
-            found[i] = statement.Next();
-            statement.Rewind();
-        }
-        if (!statement.Finish(error)) return {};
+        std::vector<AskedRow>& inPart = asked[part.slot];
+        std::sort(inPart.begin(), inPart.end());
+        if (!MarkFound(control_.Db(), part, inPart, found)) return {};
     }
     std::vector<std::int64_t> missing;
     for (std::size_t i = 0; i < rows.size(); ++i) {
