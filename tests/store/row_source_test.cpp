@@ -112,7 +112,11 @@ TEST_F(RowSourceTest, ACustomSourceKeepsTheRowsOfItsTablesApart) {
         names += text + " ";
     }
     EXPECT_EQ(names, "bolt Cover ball spare odd gearbox case shaft bearing ");
+    EXPECT_TRUE(both.Missing(rows).empty());
+    Sql("DELETE FROM assembly WHERE id = -7");
+    EXPECT_EQ(both.Missing(rows), std::vector<std::int64_t>{rows[4]});
     both.DisconnectBase(&Source("part"));
+    EXPECT_EQ(both.Missing(rows).size(), 5U);
     EXPECT_FALSE(both.HasRow(rows[0]));
     EXPECT_TRUE(both.HasRow(rows[8])); // its number stays with it
     EXPECT_FALSE(both.GetText(-1, text));
