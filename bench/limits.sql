@@ -7,9 +7,11 @@
 
 create temp table run as
 select substr(name, 1, instr(name || '/iterations', '/iterations') - 1) as name, min(ns) as ns,
-       min(per_element) as per_element, min(growth) as growth, min(ratio) as ratio, min(mebibytes) as mebibytes
-from (select json_extract(value, '$.run_name') as name,
-             json_extract(value, '$.real_time') *
+       min(per_element) as per_element, min(growth) as growth, min(ratio) as ratio, min(mebibytes) as mebibytes,
+       min(key) as place
+from (select key, json_extract(value, '$.run_name') as name,
+             json_extract(value, iif(json_extract(value, '$.run_name') like '%manual_time', '$.real_time',
+                                     '$.cpu_time')) *
                  case json_extract(value, '$.time_unit')
                      when 'ns' then 1 when 'us' then 1e3 when 'ms' then 1e6 else 1e9 end as ns,
              coalesce(json_extract(value, '$.ns_per_element'),
@@ -32,14 +34,14 @@ select name as benchmark,
             when ns < 1e6 then printf('%.1f us', ns / 1e3)
             when ns < 1e9 then printf('%.1f ms', ns / 1e6)
             else printf('%.2f s', ns / 1e9) end as time,
-       printf('%.2f', ns / (select noop from command)) as 'to no-op',
-       case when name not like '%/%' then printf('%.2f', ns / (select ensemble from command)) end
-           as 'to ensemble',
+       iif(is_command, printf('%.2f', ns / (select noop from command)), null) as 'to no-op',
+       iif(is_command, printf('%.2f', ns / (select ensemble from command)), null) as 'to ensemble',
        iif(ratio is null, null, printf('%.2f', ratio)) as 'to treeview',
        iif(per_element is null, null, printf('%.1f', per_element)) as 'ns an element',
        iif(growth is null, null, printf('%.2f', growth)) as growth,
        iif(mebibytes is null, null, printf('%.1f', mebibytes)) as MiB
-from (select name, ns, ratio, per_element, growth, mebibytes from run order by rowid);
+from (select *, name not like '%/%' and per_element is null and ratio is null as is_command from run)
+order by place;
 
 -- One row a limit: what, the value, the most it may be.
 create temp view measured(what, value, bound) as
