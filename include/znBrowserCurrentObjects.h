@@ -27,7 +27,8 @@ class znIBrowserWindowAccess;
 class znIBrowserWindowCallback;
 class znIBrowserWindowPart;
 
-/// The objects on which commands act: plain pointers into the host's model, null for none. None is owned.
+/// The objects on which commands act: plain pointers into the host's model, null for none. None is owned. The
+/// manager clears those that die with what it deletes; a host that deletes objects by itself must reset them.
 struct znBrowserCurrentObjects {
     znIBrowserDataOperation* dataOperation = nullptr;
     znIBrowserViewOperation* viewOperation = nullptr;
@@ -40,6 +41,7 @@ struct znBrowserCurrentObjects {
     znIBrowserStyleElement* styleElement = nullptr;
     znIBrowserView* view = nullptr;
     znIBrowserViewItemFreeFolder* freeFolder = nullptr;
+    /// The data source that a list of the current folder shows.
     znIBrowserDataSourceSimple* list = nullptr;
     znIBrowserViewColumn* column = nullptr;
     znIBrowserWindowAccess* windowAccess = nullptr;

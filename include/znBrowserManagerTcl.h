@@ -26,22 +26,34 @@ class znIBrowserViewItem;
 class znVariant;
 
 /// The scripting layer of the model browser. Constructed with the host's application, it registers the Tcl
-/// command "znbrowsermanager" in the application's interpreter and serves it until it is destroyed.
+/// command "znbrowsermanager" in the application's interpreter and serves it until it is destroyed. Each word
+/// of the command ends in one of the operations below, and a host may call them just as well.
 ///
-/// Rules that hold for every operation unless its comment says otherwise:
-/// - An operation that returns bool clears the error state first (`SetOk`), is false when it failed, and then
-/// has
-///   its message in the error text (`GetErrorText`, or the banner of `GetError`). Some refusals are silent:
-///   false, with an empty error text.
-/// - A text that an operation gives through a `znString&` is valid until the caller changes it. A returned C
-/// string
-///   is valid until the next operation.
-/// - "Current" objects (`znBrowserCurrentObjects`) belong to the host. `GetCurrent...Ptr` reads one,
-/// `ResetCurrent...`
-///   makes it null and touches nothing else, `SetCurrent...` with a pointer stores it, `SetCurrent...` with a
-///   name finds it in the host, and `UpdateCurrent...` moves it to the first child of a new parent. A failed
-///   operation leaves every current object as it was.
-/// - Where a name is refused or not found the message names it.
+/// What holds for every operation, unless its comment says otherwise:
+/// - Outcome: one that returns bool clears the error state and the result buffer first. False: it failed, and
+///   the message is in the error state (`GetErrorText`, or the banner of `GetError`). "Silently false":
+///   false, and no error text is set. "The error state stays": it is not even cleared.
+/// - Requirements: without a current object that it works on it fails, and the message says which is missing.
+///   What the host refuses fails with the error text of its browser object (`znIBrowser::GetError`), or with
+///   a text of the operation's own; where there is no browser object, it fails without the former.
+/// - Names may be null: an unknown or null name fails, and nearly every message carries it. Texts that are no
+///   names go to the host as they are, null included.
+/// - Values: `znString& out` is replaced; where the host has a null text, it is left without storage. A flag
+///   reads "true" or "false". After a failure there is nothing to be read from `out`. A C string that is
+///   returned is never null, and is valid until the next operation.
+/// - Lists are one text: names with a blank between two ("a b"). In a "braced" list a name that holds a blank
+///   stands in braces ("a {b c}"); a "wide" list has three blanks between two ("a   b"), a "trailing" list
+///   two more at its end ("a   b  "); a "quoted" list has each entry in double quotes. Nothing is escaped. A
+///   null name among the host's is left out of the lists of the view sections, and empties the others.
+/// - Objects are the host's: the manager keeps plain pointers to them and owns none. A pointer argument may
+///   be null, and then stands for none.
+/// - Current objects (`znBrowserCurrentObjects`): `SetCurrent...` with a pointer stores it, with a name finds
+///   it first; `GetCurrent...Ptr` reads it, `ResetCurrent...` makes it null; none of the three changes
+///   anything else. `UpdateCurrent...` makes it follow a new parent. What an operation creates becomes
+///   current, but for trees, lists and data properties. What one deletes, and what lies in that, is current
+///   no more. A failed operation leaves every current object as it was.
+/// - Scripts that the host runs inside a call may use the command, and delete what they like.
+/// - What the host throws passes through; only the Tcl command turns it into an error banner.
 /// - Everything runs on the thread of the interpreter; nothing is locked.
 ///
 /// The host must delete the command (or the interpreter) before or when it destroys the manager. Copies share
@@ -51,23 +63,29 @@ class ZN_API znBrowserManagerTcl : public znBrowserErrorReporter, public znIBrow
 public:
     /// The usage texts.
     static const znBrowserTclMessages TCLMESSAGE;
-    /// The two GUI maps that always exist and cannot be deleted.
+    /// The names of the two GUI maps that always exist and cannot be deleted.
     static const char* const DEFAULT_IMAGES_GUIMAP;
     static const char* const DEFAULT_COLORS_GUIMAP;
 
-    // ---- Lifecycle
-    // ------------------------------------------------------------------------------------------
-    /// Registers the command at once. `application` is not owned and outlives the manager.
+    // ---- Lifecycle ----
+    // The constructor does it all; the parts are public for hosts that rebuild a manager in place.
+
+    /// Registers the command at once. `application` is not owned, must not be null and outlives the manager.
     /// @throws std::runtime_error when the interpreter's Tcl is older than 8.5, or not 8.x.
     explicit znBrowserManagerTcl(znIBrowserApplication* application);
+    /// Take over the error state, the current objects and the result buffer, and share the helpers. The
+    /// command keeps serving the original.
     znBrowserManagerTcl(const znBrowserManagerTcl& other);
     znBrowserManagerTcl& operator=(const znBrowserManagerTcl& other);
+
     /// Does what `CleanUp` does. The collector helper is not destroyed: only
     /// `DeleteBrowserManagerCollectorTcl` does.
     ~znBrowserManagerTcl() override;
-    /// Registers the command and makes the current objects, the browser info and the helpers anew.
+    /// Registers the command for this object, clears the current objects and makes both helpers anew, and the
+    /// browser info if there is none. Throws as the constructor does.
     void Init();
-    /// Makes every current object null and gives up this manager's hold on the helpers.
+    /// Clears the error state, makes every current object null and gives up this manager's hold on the
+    /// helpers. The result buffer and the browser info stay.
     void InitVars();
     /// Releases this manager's hold on the browser info and the view helper.
     void CleanUp();
@@ -75,19 +93,29 @@ public:
     void InitBrowserInfo();
     /// Releases this manager's hold on the browser info.
     void DestroyBrowserInfo();
+    /// The version of the scripting layer. Owned by the managers that share it; null once released.
     znIBrowserInfo* GetBrowserInfo() const;
-    /// Creates the helper if there is none.
+    /// Creates the view helper, which serves views that connect data sources themselves, if there is none.
     void CreateBrowserManagerViewTcl();
-    /// Destroys the helper, for every copy of the manager that shares it.
+    /// Destroys the view helper, for every copy of the manager that shares it.
     void DeleteBrowserManagerViewTcl();
+    /// The view helper, owned by the managers that share it; null when there is none.
     znBrowserManagerViewTcl* GetBrowserManagerViewTcl() const;
+    /// Creates the collector helper if there is none.
     void CreateBrowserManagerCollectorTcl();
+    /// Destroys the collector helper, for every copy that shares it. Nothing else does: a host that wants its
+    /// memory back calls this before it destroys the manager.
     void DeleteBrowserManagerCollectorTcl();
+    /// The collector helper; null when there is none.
     znBrowserManagerCollectorTcl* GetBrowserManagerCollectorTcl() const;
+    /// The application that the manager was made with.
     znIBrowserApplication* GetApplication() const;
 
-    // ---- Services for the host
-    // ------------------------------------------------------------------------------
+    // ---- Services for the host ----
+    // What a host asks of the manager, beside the operations that scripts use.
+
+    /// The services of `znIBrowserManagerTcl`, as described there. `EvalTclScript` does not clear the error
+    /// state: it stays when the script succeeds.
     int EvalTclCommand(int objc, Tcl_Obj* const objv[]) override;
     bool EvalTclScript(const char* script) override;
     bool GetStringFromScript(const char* procName, znString& result, znString argument) override;
@@ -95,527 +123,913 @@ public:
     Tcl_Interp* GetTclInterp() const override;
     bool UpdateTclInputScript(const char* script) override;
     bool UpdateTclFreeFolderSelection(const std::vector<znIBrowserViewItemFreeFolder*>& folders) override;
-    /// The namespace of the host's browser scripts.
+
+    /// Gives the namespace of the host's browser scripts. Never fails.
     bool GetTclNameSpace(znString& out);
     /// Always false; the command would do nothing while it is true.
     bool ProcessingCommand() const;
     /// Does nothing: the flag keeps its value.
     void ProcessingCommand(bool processing);
-    /// Hands the flag to the host. Does not clear the error state.
+    /// Tells the host whether changes reach the windows at once (true) or are held back (false). The error
+    /// state stays, and is what is returned.
     bool SetFlushFlag(bool flush);
-    /// Carries out what the host held back for the current free folder.
+    /// Carries out what the host held back for the current free folder; a data control must be current, too.
+    /// The error state stays when the host answers, yes or no. The message about a missing folder follows
+    /// what the result buffer holds.
     bool ApplyPendingChanges();
-    /// Applies pending changes to the current free folder, or to the view's root folder, and reports nothing.
+    /// Carries out what the host held back for the current free folder; without one, the root folder of the
+    /// current view becomes current first. Does nothing without a current data control, and reports nothing.
     void TemporaryTestFunction();
 
-    // ---- Result buffer
-    // -------------------------------------------------------------------------------------- Each append is
-    // false, and appends nothing, when the text is null. `separate` puts a blank before a piece unless the
-    // buffer is empty; `braceIfBlank` puts a piece that holds a blank into braces. Nothing is escaped.
+    // ---- Result buffer ----
+    // Where operations put texts together. Each append is false, and appends nothing, when the text is null.
+    // `separate` puts a blank before a piece unless the buffer is empty; `braceIfBlank` puts a piece that
+    // holds a blank into braces; `quoted` puts double quotes around all of it. Nothing is escaped.
+
+    /// Appends a piece.
     bool _AppendToBuff(const char* text, bool quoted, bool separate, bool braceIfBlank) const;
+    /// Appends a piece without quotes; a number in decimal.
     bool AppendToBuff(const char* text, bool separate, bool braceIfBlank) const;
     bool AppendToBuff(int value, bool separate, bool braceIfBlank) const;
+
+    /// Appends a piece in double quotes.
     bool AppendToBuffWithQuotes(const char* text, bool separate, bool braceIfBlank) const;
+    /// The same as `_AppendToBuff`, with `quoted` at the end.
     bool NewAppendToBuff(const char* text, bool separate, bool braceIfBlank, bool quoted) const;
     /// Appends a blank, always, and the text in braces.
     bool AppendToListBuff(const char* text) const;
+    /// Empty the buffer; both do the same.
     void ResetBuff() const;
     void _ResetBuff() const;
-    /// The buffer's text, never null; valid until the buffer changes.
+
+    /// The buffer's text; valid until the buffer changes.
     const char* GetBuff() const;
-    /// Records the words of a command for the error banner.
+    /// Records the words of a command, joined by blanks, for the error banner, and empties the buffer. Null
+    /// words are left out.
     void SetCommand(int objc, Tcl_Obj* const objv[]);
 
-    // ---- Types
-    // ----------------------------------------------------------------------------------------------
-    /// "integer", "double", "string", "unsigned" and "bool" in any letter case; anything else is undefined.
+    // ---- Types ----
+
+    /// The type of "integer", "double", "string", "unsigned" or "bool", in any letter case. Anything else,
+    /// null included, is undefined.
     static ZNBROWSER_DATA_TYPE ConvertStringToViewPropertyType(const char* word);
-    /// The name of a scalar type; "UNDEFINED" for the others.
+    /// The name of a scalar type ("Bool", "Unsigned", "Integer", "Double", "String"); "UNDEFINED" for the
+    /// others. The text is static.
     static const char* ConvertViewPropertyTypeToString(ZNBROWSER_DATA_TYPE type);
     /// The keyword text of a type: "boolean", "integer", "double" or "string", else "unknown". Always true.
     static bool GetZnBrowserDataTypeString(ZNBROWSER_DATA_TYPE type, znString& out);
-    /// Fills its own copy of a list; the caller's stays as it was.
+    /// Takes the words from `first` on, but into its own copy of the list: the caller's stays as it was.
     static void GetStringListFromTclArgs(int objc, Tcl_Obj* const objv[], unsigned int first,
                                          std::vector<znString> list);
     /// The type of a field of the current data item type (the items of the current simple data source).
     bool GetDataType(const char* fieldName, ZNBROWSER_DATA_TYPE& type);
 
-    // ---- Command families
-    // ----------------------------------------------------------------------------------- Each takes the
-    // whole word list and puts its answer into the interpreter result.
+    // ---- Command families ----
+    // Each takes the whole word list, the command word included, and puts one text into the interpreter
+    // result: the value, a usage text where the words do not fit, or the error banner. It returns TCL_OK, but
+    // TCL_ERROR where a script is to see a Tcl error.
+
+    /// "znbrowsermanager view ..."
     int ViewTclAPICommands(int objc, Tcl_Obj* const objv[]);
+    /// "znbrowsermanager window ..."
     int WindowTclAPICommands(int objc, Tcl_Obj* const objv[]);
+    /// "znbrowsermanager state ..."
     int StateTclAPICommands(int objc, Tcl_Obj* const objv[]);
+    /// "znbrowsermanager datactrl ..."
     int DataCtrlTclAPICommands(int objc, Tcl_Obj* const objv[]);
+    /// "znbrowsermanager userinput ..."
     int DataUserInputTclAPICommands(int objc, Tcl_Obj* const objv[]);
+    /// "znbrowsermanager collector ...": always the usage text.
     int CollectorTclAPICommands(int objc, Tcl_Obj* const objv[]);
+    /// "znbrowsermanager datasource ..."
     int DataSourceTclAPICommands(int objc, Tcl_Obj* const objv[]);
+    /// "znbrowsermanager dataoperation ..."
     int DataOperationTclAPICommands(int objc, Tcl_Obj* const objv[]);
+    /// "znbrowsermanager datareference ..."
     int DataReferenceTclAPICommands(int objc, Tcl_Obj* const objv[]);
 
-    // ---- Views
-    // ----------------------------------------------------------------------------------------------
-    /// Creates a view and makes it current, with its data control. Silently false for a null name.
+    // ---- Views ----
+    // With a view its data control becomes current, too, if it has one.
+
+    /// Creates a view; `flag` is the host's. Silently false for a null name, and when the host does not know
+    /// the view afterwards.
     /// @throws const char* "Could not create view" when the host refuses.
     bool CreateView(const char* name, bool flag);
-    /// Deletes a view that no window shows; the first remaining view becomes current.
+    /// Deletes a view that no window shows; the first remaining view becomes current, as by name, or none.
     bool DeleteView(const char* name);
+    /// Makes a view current, and with it the view's column and root folder. One that is current already
+    /// changes nothing.
     bool SetCurrentView(const char* name);
-    /// Stores the view; its data control, if any, becomes current too.
+    /// Stores the view and its data control. The column and the folder stay.
     void SetCurrentView(znIBrowserView* view);
-    /// As selecting by name does: also moves the data control, the column and the free folder. Nothing
-    /// happens when the view is current already.
+    /// As selecting by name does; null clears the view, the column and the folder.
     void UpdateCurrentView(znIBrowserView* view);
+    /// Reads and clears the current view. The data control stays.
     znIBrowserView* GetCurrentViewPtr() const;
     void ResetCurrentView();
-    /// The names of all views, one blank between two.
+
+    /// The names of all views.
     bool GetViewNames(znString& out);
-    /// Redraws the views of the current data control. Silently false without one; the error text stays.
+    /// Redraws the views of the current data control. Silently false without one; the error state stays.
     bool RedrawAllViews();
+    /// Set and read the italic flag of the current column. A view must be current, too.
     bool SetItalic(bool italic);
-    /// "true" or "false": the italic flag of the current column.
     bool GetItalic(znString& out);
 
-    // ---- Columns
-    // --------------------------------------------------------------------------------------------
+    // ---- Columns ----
+    // Names are those of columns of the current view. Built-in columns cannot be deleted, shown or hidden,
+    // moved or justified: an error names the column.
+
+    /// Create a column; `argument` and `icon` are the host's. The current style and element stay.
     bool CreateButtonColumn(const char* name, const char* argument);
     bool CreateTextBoxColumn(const char* name, const char* argument);
     bool CreateIconColumn(const char* name, const char* argument, const char* icon);
-    /// A placeholder: true, and nothing is created.
+
+    /// Placeholders: true, and nothing is created.
     bool CreateCheckBoxColumn(const char* name, const char* argument);
-    /// A placeholder: true, and nothing is created.
     bool CreateComboBoxColumn(const char* name, const char* argument);
+
+    /// Deletes a column with its styles; the view's default column becomes current.
     bool DeleteScriptedColumn(const char* name);
+    /// Shows or hides a column.
     bool ShowScriptedColumn(const char* name, bool show);
+    /// Moves a column, not necessarily the current one; `position` is the host's.
     bool MoveCurrentColumn(const char* name, int position);
     /// `justify` goes to the host as it is: "left", "center" or "right".
     bool SetViewColumnJustify(const char* name, const char* justify);
-    /// `width`: pixels, as text.
+    /// `width`: pixels, as text. Built-in columns have a width, too.
     bool SetViewColumnWidth(const char* name, const char* width);
-    /// Asks the current window to report the width; gives no text.
+    /// Asks the current window to report the width to wherever the host sends such reports; gives no text.
     bool GetViewColumnWidth(const char* name);
+    /// Makes a column current, and with it its first style and that style's first element, or none.
     bool SetCurrentColumn(const char* name);
+    /// Stores the column. The style and the element stay.
     void SetCurrentColumn(znIBrowserViewColumn* column);
+    /// Takes the column that the view itself regards as current. The style and the element stay.
     void UpdateCurrentColumn(znIBrowserView* view);
+    /// The name of the current column.
     bool GetCurrentColumn(znString& out);
+    /// Reads and clears the current column.
     znIBrowserViewColumn* GetCurrentColumnPtr() const;
     void ResetCurrentColumn();
+
+    /// The names of all columns, hidden ones included, in the order shown.
     bool GetColumnNames(znString& out);
+    /// Read and set the text at the head of the current column.
     bool GetColumnCaption(znString& out);
     bool SetColumnCaption(const char* caption);
+
+    /// Read and set whether the current column is drawn in italics.
     bool GetColumnItalic(znString& out);
     bool SetColumnItalic(bool italic);
+
+    /// Read and set whether the current column may sort the rows.
     bool GetColumnSorting(znString& out);
     bool SetColumnSorting(bool sorting);
+
+    /// "true" or "false": whether the current column is shown.
     bool GetViewColumnShownState(znString& out);
-    /// The property by which the default column sorts.
+    /// Read and set the view property by which the default column of the current column's view sorts; "" when
+    /// it sorts by its text.
     bool SortDefaultColumnByCustomProperty(znString& out);
     bool SetSortDefaultColumnByCustomProperty(const char* property);
+
+    /// Set and read the popup menu of the current column, by name; "" when it has none.
     bool SetCurrentColumnPopupMenu(const char* name);
     bool GetCurrentColumnPopupMenu(znString& out);
 
-    // ---- Styles and style elements
-    // --------------------------------------------------------------------------
-    /// Creates a style in the current column. One that exists already is made current, and then reported.
+    // ---- Styles and style elements ----
+    // Styles belong to the current column, elements to the current style.
+
+    /// Creates a style, with which the column draws from then on. One that exists already is taken into use
+    /// as well, and then reported as an error. Silently false without a column or a name, and when the host
+    /// refuses. The current element stays.
     bool CreateViewStyle(const char* name);
+    /// Deletes a style with its elements; no other becomes current. Silently false without a current column.
     bool DeleteViewStyle(const char* name);
+    /// Makes a style current, and with it its first element, or none. A view must be current, too.
     bool SetCurrentStyle(const char* name);
-    /// Stores the style and tells the current column.
+    /// Stores the style and tells the current column, if any. The element stays.
     void SetCurrentStyle(znIBrowserStyle* style);
+    /// Takes the first style of the column, or none, tells the current column, and takes the style's first
+    /// element, or none.
     void UpdateCurrentStyle(znIBrowserViewColumn* column);
+    /// The name of the current style.
     bool GetCurrentStyle(znString& out);
+    /// Reads and clears the current style; no column is told.
     znIBrowserStyle* GetCurrentStylePtr() const;
     void ResetCurrentStyle();
+
+    /// The styles of the current column: a braced list.
     bool GetStyleNames(znString& out);
-    /// Draws an item with the current style.
+    /// Draws an item with the style of the current column that is called as the current style. A null item is
+    /// an error.
     bool SetViewItemStyle(znIBrowserViewItem* item);
+    /// Creates an element; one that exists already is an error. A null description counts as "".
     bool CreateViewStyleElement(const char* name, const char* description);
+    /// Deletes an element of the current style; no other becomes current.
     bool DeleteStyleElement(const char* name);
+    /// Makes an element of the current style current.
     bool SetCurrentStyleElement(const char* name);
+    /// Stores the element.
     void SetCurrentStyleElement(znIBrowserStyleElement* element);
+    /// Takes the first element of the style, or none.
     void UpdateCurrentStyleElement(znIBrowserStyle* style);
+    /// The name of the current element.
     bool GetCurrentStyleElement(znString& out);
+    /// Reads and clears the current element.
     znIBrowserStyleElement* GetCurrentStyleElementPtr() const;
     void ResetCurrentStyleElement();
+
+    /// The elements of the current style: a braced list.
     bool GetElementNames(znString& out);
+    /// Set and read the description of the current element.
     bool SetStyleElementDescription(const char* description);
     bool GetStyleElementDescription(znString& out);
-    /// Connects the current element to a GUI map; null stands for the current map.
+
+    /// Connects the current element to a GUI map; null stands for the current map. A view must be current,
+    /// too. A current map that the host no longer knows is passed over: true, and nothing happens.
     bool SetStyleElementMapName(const char* name);
+    /// The GUI map of the current element; "" for none.
     bool GetStyleElementMapName(znString& out);
-    /// Connects the current element to a view property; null stands for the current property.
+    /// Connects the current element to a property of the current view; null stands for the current property,
+    /// which is passed over when that view has none of its name: true, and nothing happens.
     bool SetStyleElementProperty(const char* name);
 
-    // ---- View properties
-    // ------------------------------------------------------------------------------------
+    // ---- View properties ----
+    // Named, typed values of the current view. Their values come from data properties, one per data source.
+
+    /// Creates a view property; one that exists already is an error.
     bool CreateViewProperty(const char* name);
+    /// Deletes a property of the current view; no other becomes current.
     bool DeleteViewProperty(const char* name);
+    /// A property of the current view. Null when there is none, which is no error, and also without a current
+    /// view, which is one.
     znIBrowserViewProperty* FindViewProperty(const char* name);
+    /// Stores the property.
     void SetCurrentViewProperty(znIBrowserViewProperty* property);
+    /// Makes a property of the current view current.
     bool UpdateCurrentViewProperty(const char* name);
     /// "" when none is current.
     const char* GetCurrentViewPropertyName() const;
+    /// The current property, or null.
     znIBrowserViewProperty* GetCurrentViewPropertyPtr() const;
-    /// True when one was current; sets no error.
+    /// Clears the current property. True when one was current; the error state stays.
     bool ResetCurrentViewProperty();
+    /// The properties of the current view: a braced list.
     bool GetViewPropertyNames(znString& out);
-    /// The field names of the current data item type.
+    /// The field names of the current data item type (the items of the current simple data source): a wide
+    /// list, which a null name empties.
     bool GetPropertyNames(znString& out);
+    /// Undefined when no property is current.
     ZNBROWSER_DATA_TYPE GetCurrentViewPropertyType() const;
+    /// Sets the type of the current property by its word, in any letter case: "bool", "integer", "unsigned",
+    /// "double" or "string", for arrays with "array" or "arr" behind it, or one of the short words "int",
+    /// "uint" and "str", for arrays with "arr". The type that it has already is an error.
     bool SetViewPropertyType(const char* typeName);
+    /// Sets the scripts of the current property: one takes a changed value, one gives the value. The third
+    /// text is the host's.
     bool SetViewPropertyScript(const char* updateScript, const char* getScript, const char* third);
-    /// Connects the current property to a data property; the data source "script" stands for a Tcl procedure.
+    /// Connects the current property, which needs a type, to a data property in the scheme of its view. The
+    /// data source "script" stands for a Tcl procedure, which `dataProperty` names.
     bool ConnectProperty(const char* dataSource, const char* dataProperty);
-    /// Classic scheme: the source is found in the view's data control, and the types must agree.
+    /// Connects in the classic scheme: the source is found in the view's data control, and the types must
+    /// agree; an array counts as its elements. One connection per source. Silently false for a null property,
+    /// and for one whose view uses the new scheme.
     bool CreateViewPropertyConnect(znIBrowserViewProperty* property, const char* dataSource,
                                    const char* dataProperty);
-    /// New scheme: the source is found in the view, and types are not compared.
+    /// The same in the new scheme: the source is found in the view, and types are not compared.
     bool CreateViewPropertyConnect_NEW(znIBrowserViewProperty* property, const char* dataSource,
                                        const char* dataProperty);
+    /// Removes the connection of the current property, which needs a type, to a data source.
     bool DisconnectProperty(const char* dataSource);
+    /// The same, with or without a type.
     bool DeleteViewPropertyConnect(const char* dataSource);
+    /// The connections of the current property, which needs a type: a braced list of "source property" pairs,
+    /// in the order made; the source of a connection to a procedure reads "script".
     bool GetConnectionList(znString& out);
 
-    // ---- Free folders
-    // ---------------------------------------------------------------------------------------
-    /// Creates a folder under the current one, or takes the one that exists, and makes it current.
+    // ---- Free folders ----
+    // Settings are those of the current folder; the host keeps them.
+
+    /// Creates a folder under the current one, or takes the one that exists, makes it current and gives it
+    /// its parent's group-leafs and style flags. When the host refuses these, the folder is current all the
+    /// same. True, and nothing changes, when the host does not know the folder that it made.
     bool CreateFreeFolder(const char* name);
-    /// Deletes a child of the current folder.
+    /// Deletes a child of the current folder, which stays current. The current list goes with it when the
+    /// child, or a folder below, shows it and the current folder does not. What `recursive` adds is the
+    /// host's.
     bool DestroyFreeFolder(const char* name, bool recursive);
+    /// Makes a child of the current folder current, or the root folder of the current view by its name.
+    /// Without a current folder the search starts at the root.
     bool SetCurrentFreeFolder(const char* name);
+    /// Stores the folder.
     void SetCurrentFreeFolder(znIBrowserViewItemFreeFolder* folder);
+    /// Takes the root folder of the view, or none.
     void UpdateCurrentFreeFolder(znIBrowserView* view);
+    /// The name of the current folder.
     bool GetCurrentFreeFolderName(znString& out);
+    /// Reads and clears the current folder. The list stays.
     znIBrowserViewItemFreeFolder* GetCurrentFreeFolderPtr() const;
     void ResetCurrentFreeFolder();
+
+    /// The name of any folder; null is an error.
     bool GetFreeFolderName(znIBrowserViewItemFreeFolder* folder, znString& out);
+    /// The folders directly under the current one: a braced list.
     bool GetChildrenFreeFolderNames(znString& out);
+    /// The data item types (data sources) configured below the current folder: a braced list.
     bool GetChildrenFreeFolderConfiguredTypes(znString& out);
+    /// The selected folders below the current one: a braced list, in the order shown.
     bool GetFreeFolderSelected(znString& out);
+    /// The current view property's values of the selected items below the current folder: a quoted list.
+    /// Items without a value are left out.
     bool GetFreeFolderSelection(znString& out);
+    /// Expand and collapse the current folder in the current view; with `recursive` also what lies below it.
     bool ExpandFreeFolder(bool recursive);
     bool CollapseFreeFolder(bool recursive);
+
+    /// Set and read whether items without children stand together.
     bool SetFreeFolderGroupLeafs(bool group);
     bool GetFreeFolderGroupLeafs(znString& out);
+
+    /// Set and read whether the folder draws its items with its own style.
     bool SetFreeFolderStyle(bool style);
     bool GetFreeFolderStyle(znString& out);
+
+    /// Set and read whether trees and lists without items are shown.
     bool SetFreeFolderShowEmptyContainers(bool show);
     bool GetFreeFolderShowEmptyContainers(znString& out);
+
+    /// Set and read whether folders without content are shown; with `recursive` also in the folders below.
     bool ShowEmptyFolders(bool show, bool recursive);
     bool GetShowEmptyFoldersFlag(znString& out);
+
+    /// Show how many children the folder has, by its image or as a number; with `recursive` also in the
+    /// folders below.
     bool SetFreeFolderShowCountByImage(bool show, bool recursive);
     bool SetFreeFolderShowCountByNumber(bool show, bool recursive);
+
+    /// Draw the folder's caption in bold or in italics.
     bool SetBoldFlagToFreeFolder(bool bold);
     bool SetItalicFlagToFreeFolder(bool italic);
+
+    /// Set and read whether child folders stay in the order in which they were created.
     bool SetFreeFolderKeepChildrenFreeFoldersAsCreated(bool keep);
     bool GetFreeFolderKeepChildrenFreeFoldersAsCreated(znString& out);
+
+    /// Shows the items of a simple source of the current data control expanded, `depth` levels deep, when the
+    /// folder is filled.
     bool SetFreeFolderCreateExpandedItem(const char* dataSource, int depth);
-    /// A placeholder: empties the text and is false, without a message; the error text stays.
+    /// A placeholder: empties the text and is false, without a message; the error state stays.
     bool GetFreeFolderCreateExpandedItem(znString& out);
+    /// Exempts the items of a simple source of the current data control from sorting; `value` is the host's.
     bool SetFreeFolderSortingException(const char* dataSource, int value);
     /// A placeholder, as the one above.
     bool GetFreeFolderSortingException(znString& out);
+    /// Items dropped on the current folder go to that hierarchical source of the current data control. The
+    /// host is not asked whether it agrees.
     bool SetDropItemDataSourceHierarchical(const char* name);
 
-    // ---- Trees and lists of the current folder
-    // --------------------------------------------------------------
+    // ---- Trees and lists of the current folder ----
+    // A tree is a hierarchical data source or is built from data references; a list is a simple data source.
+    // `second` and `flag` are the host's.
+
+    /// Shows a hierarchical source of the current view as the folder's tree; a second tree is an error. A
+    /// data source of either kind must be current, whichever it is.
     bool CreateTree(const char* name);
+    /// Takes a tree from the folder. The data source stays current as long as the host has it.
     bool DeleteTree(const char* name);
+    /// The hierarchical sources that the folder shows as trees: a braced list.
     bool GetTreeNames(znString& out);
+    /// Shows the items of the current hierarchical source in groups. Without one the message names the list.
     bool SetCurrentTreeGroup(bool group, bool second);
+    /// Shows or hides the items of one data source in the folder's tree; null stands for the current simple
+    /// source. The name is looked up in the current data control.
     bool SetShowChildType(const char* type, bool show);
+    /// The child types that the folder's tree shows: a braced list.
     bool GetShownChildrenTypes(znString& out);
+    /// Build the tree from data references: one finds its top items, the other the children of a parent. All
+    /// names are looked up in the current data control.
     bool CreateFolderTreeToplevel(const char* dataSource, const char* dataReference);
     bool CreateFolderTreeParentChild(const char* parent, const char* child, const char* dataReference);
+
+    /// The data references by which the tree finds its top items, and its children: braced lists.
     bool GetFolderTreeToplevelNames(znString& out);
     bool GetFolderTreeParentChildNames(znString& out);
+
+    /// Has the host bring the folder's tree up to date with a source of the current data control. Silently
+    /// false when the host refuses.
     bool UpdateTreeDataSource(const znString& name);
+    /// Lists a simple source of the current data control in the folder; one that is listed already is an
+    /// error. The current list stays.
     bool CreateList(const char* name, bool flag);
+    /// The same for a source of either kind; whether it may be listed once more, the host decides.
     bool ListAdd(const char* name, bool flag);
+    /// Takes a list from the folder.
     bool DeleteList(const char* name);
+    /// Makes a list of the current folder current.
     bool SetCurrentList(const char* name);
+    /// Stores the data source of a list.
     void SetCurrentList(znIBrowserDataSourceSimple* list);
+    /// Reads and clears the current list.
     znIBrowserDataSourceSimple* GetCurrentListPtr() const;
     void ResetCurrentList();
+
+    /// The lists of the current folder: a braced list; with `recursive` also those of all folders below, top
+    /// to bottom.
     bool GetListNames(znString& out, bool recursive);
+    /// Sets the caption of the current list in the current folder.
     bool SetCurrentListCaption(const char* caption);
+    /// Shows the items of the current list in groups.
     bool SetCurrentListGroup(bool group, bool second);
+    /// Draws the current list in the current column with the current style, or (false) with the column's own.
     bool SetCurrentListStyle(bool use);
+    /// Expand and collapse the current list; with `recursive` also what lies below its items.
     bool ExpandFreeFolderList(bool recursive);
     bool CollapseFreeFolderList(bool recursive);
 
-    // ---- Selection and data items
-    // ---------------------------------------------------------------------------
+    // ---- Selection and data items ----
+    // Of the current view; properties are view properties. `select` false deselects. `recursive` means also
+    // what lies below the items. Lists of values are quoted, and leave out items without a value.
+
+    /// Deselects everything in the current view.
     bool ClearCurrentViewSelection();
+    /// Deselects everything in all views; the first that refuses ends it.
     bool ClearAllSelection();
+    /// Let the user of the current window select one item at a time, or many.
     bool SetSingleSelection();
     bool SetMultipleSelection();
+
+    /// Selects all items of the current simple source.
     bool SelectDataItemSimples(bool select, bool recursive);
+    /// Those that have a value of the current property, which must be connected to the source.
     bool SelectDataItemSimplesByProp(bool select, bool recursive);
+    /// Those whose value of the current property reads so.
     bool SelectDataItemSimplesByPropAndValue(const char* value, bool select, bool recursive);
+    /// Those whose value is among the first `count` of `values`.
     bool SelectDataItemSimplesByPropAndValues(int count, const std::vector<znString>& values, bool select,
                                               bool recursive);
+    /// The same four for the current hierarchical source, to which the property need not be connected. The
+    /// last two need a current simple source as well, though they do nothing with it.
     bool SelectDataItemHierarchicals(bool select, bool recursive);
     bool SelectDataItemHierarchicalsByProp(bool select, bool recursive);
     bool SelectDataItemHierarchicalsByPropAndValue(const char* value, bool select, bool recursive);
     bool SelectDataItemHierarchicalsByPropAndValues(int count, const std::vector<znString>& values,
                                                     bool select, bool recursive);
-    /// The current view property's value of each selected item of the current source, in double quotes.
+
+    /// The current property's values of the selected items of the current simple source, to which it must be
+    /// connected. `children` and `recursive` mean the same: also what lies below.
     bool DataItemsSelected(znString& out, bool children, bool recursive);
+    /// The same for the selected items of all data sources of the view.
     bool DataItemsSelectedAll(znString& out, bool children, bool recursive);
+    /// The simple, and the hierarchical sources that have selected items: braced lists.
     bool DataSourceSimpleSelected(znString& out, bool recursive);
     bool DataSourceHierarchicalSelected(znString& out, bool recursive);
+
+    /// The values of a property of the current view for all selected items.
     bool GetSelectedDataItemValues(const char* property, znString& out);
+    /// The same with a second property for items that have no value of the first; one of them may be unknown
+    /// or null.
     bool GetSelectedDataItemValues(const char* property, const char* second, znString& out);
 
-    // ---- Sorting and filtering
-    // ------------------------------------------------------------------------------
+    // ---- Sorting and filtering ----
+    // Of the current view. A filter is a data source of the view that can be shown or not.
+
+    /// Set and read whether the view sorts its rows.
     bool SetSorting(bool sorting);
     bool GetSorting(znString& out);
+
+    /// Sorts by the current column, upwards (true) or downwards; an error when that column may not sort.
     bool SetAscendingOrder(bool ascending);
-    /// "ascending", "descending" or "unsorted".
+    /// How the current column sorts now: "ascending", "descending" or "unsorted".
     bool GetAscendingOrder(znString& out);
+    /// Set and read whether the list of filters is shown in groups.
     bool SetViewGroupFilter(bool group);
     bool GetViewGroupFilter(znString& out);
+
+    /// Shows exactly the named data sources, or all when there are no names. One unknown name, and nothing
+    /// changes.
     bool SetCurrentFilter(const std::vector<znString>& names);
+    /// The data sources that the view shows: a braced list.
     bool GetCurrentFilter(znString& out);
+    /// The data sources that the view could show: a braced list.
     bool GetFilterNames(znString& out);
+    /// Makes the list of filters anew from the data sources that the view has now.
     bool RebuildFilterLists();
+    /// Set and read the text by which the view filters its items.
     bool SetFilterString(const char* pattern);
     bool GetFilterString(znString& out);
+
+    /// Set and read whether that text must match in letter case. `flag` is read by the setter, which leaves
+    /// it as it is, and written by the getter.
     bool SetFilterMatchCaseFlag(bool& flag);
     bool GetFilterMatchCaseFlag(bool& flag);
+
+    /// The same for whether it must match whole words.
     bool SetFilterMatchWordFlag(bool& flag);
     bool GetFilterMatchWordFlag(bool& flag);
 
-    // ---- View operations
-    // ------------------------------------------------------------------------------------
+    // ---- View operations ----
+    // Named actions of the current view, which run a script.
+
+    /// Creates an operation of the current view; without a view the host is asked all the same.
     bool CreateViewOperation(const char* name);
+    /// Makes an operation of the current view current; the message about an unknown one speaks of a
+    /// dataoperation.
     bool SetCurrentViewOperation(const char* name);
+    /// Stores the operation.
     void SetCurrentViewOperation(znIBrowserViewOperation* operation);
+    /// The name of the current operation.
     bool GetCurrentViewOperation(znString& out);
+    /// Reads and clears the current operation.
     znIBrowserViewOperation* GetCurrentViewOperationPtr() const;
     void ResetCurrentViewOperation();
-    /// Lists nothing: gives the error state.
+
+    /// Lists nothing: gives the error state, which stays.
     bool GetViewOperationNames();
+    /// Sets the Tcl script that the current operation runs.
     bool SetViewOperationScript(const char* script);
+    /// Sets whether users may edit the current operation.
     bool SetViewOperationEditable(bool editable);
+    /// Runs the current operation. True whatever its script does; an error that it leaves is forgotten.
     bool PerformViewOperation();
 
-    // ---- Windows
-    // --------------------------------------------------------------------------------------------
+    // ---- Windows ----
+    // With a window its first find request and that request's first property become current; the current
+    // criterion stays. The host hears which window is current.
+
+    /// Creates a window on the current view; one that exists already is an error. Silently false for a null
+    /// name, and when the host does not know the window afterwards.
     bool CreateWindowAccess(const char* name);
+    /// Deletes a window with all that lies in it; the first remaining window becomes current, and no part.
+    /// The view stays. A null name: true, and nothing happens.
     bool DeleteWindowAccess(const char* name);
-    /// Also moves the current view; emits the reselection signal when the window is current already.
+    /// Makes a window current, and its view as `UpdateCurrentView` does. When it is current already, only the
+    /// application's reselection signal is emitted. A null name: true, and nothing happens.
     bool SetCurrentWindowAccess(const char* name);
+    /// Stores the window. The view, the part and the event stay.
     void SetCurrentWindowAccess(znIBrowserWindowAccess* window);
-    /// The name of the current window, but only while a column is current; else "".
+    /// The name of the current window, but only while a column is current; else "". Never fails.
     bool GetCurrentWindowAccess(znString& out);
+    /// Reads and clears the current window; the host is not told, and the find request stays.
     znIBrowserWindowAccess* GetCurrentWindowAccessPtr() const;
     void ResetCurrentWindowAccess();
+
+    /// Does what `UpdateCurrentFindRequest` does.
     void UpdateWindowAccessDependentCurrents(znIBrowserWindowAccess* window);
+    /// All windows: a wide list. Never fails.
     bool GetWindowAccessNames(znString& out);
+    /// Puts the current window on the screen (true) or takes it away, which may run scripts. Without a
+    /// window: true, and nothing happens.
     bool PostWindowAccess(bool post);
+    /// Whether the current window is on the screen; without a window `posted` stays as it is. Never fails.
     bool IsWindowAccessPosted(bool& posted);
+    /// Sets the background colour of the current window, as the host spells colours; `flag` is the host's.
     bool SetWindowBackgroundColor(const char* color, bool flag);
+    /// The background colour of the current window; without a window `out` stays as it is. Never fails.
     bool GetCurrentWindowBackgroundColor(znString& out);
+    /// Switches the stripes behind the rows on or off: of the current window or, with `all`, of every one,
+    /// and then none need be current.
     bool SetWindowStripeDisplay(bool on, bool all);
+    /// Whether the current window has stripes; without a window `on` stays as it is. Never fails.
     bool GetCurrentWindowStripeDisplay(bool& on);
+    /// Set and read the path of the Tk frame in which the current window stands.
     bool SetCurrentWindowTkFrame(const znString& frame);
     bool GetCurrentWindowTkFrame(znString& out);
+
+    /// Collapse and expand the items of the current window: all, or the selected ones.
     bool CollapseAllItems();
     bool CollapseSelectedItems();
     bool ExpandAllItems();
     bool ExpandSelectedItems();
 
-    // ---- Window parts, events, callbacks, listeners
-    // ---------------------------------------------------------
+    // ---- Window parts, events, callbacks, listeners ----
+    // Parts divide the current window; without a current part its main frame, the top level, is meant. A part
+    // offers events, an event has callbacks, and listeners are procedures that hear of the window's events.
+
+    /// Creates a part under another part, which must exist; null or "" stands for the top level. Its first
+    /// event, or none, becomes current. Silently false for a null name, and when the host does not know the
+    /// part afterwards.
     bool CreateWindowPart(const char* name, const char* parent);
+    /// Deletes a part with all that lies in it; the window's first remaining part and that part's first event
+    /// become current, or none. Silently false for a null name.
     bool DeleteWindowPart(const char* name);
+    /// Makes a part current, and with it its first event, or none. Silently false for a null name.
     bool SetCurrentWindowPartByName(const char* name);
+    /// Stores the part; null is the top level. The event stays.
     void SetCurrentWindowPartByPtr(znIBrowserWindowPart* part);
+    /// The name of the current part; "" at the top level. Never fails.
     bool GetCurrentWindowPart(znString& out);
+    /// Reads the current part, and goes to the top level.
     znIBrowserWindowPart* GetCurrentWindowPartPtr() const;
     void ResetCurrentWindowPart();
+
+    /// Moves the current part under another part of the window; null moves it to the top level.
     bool SetCurrentWindowPartParent(znIBrowserWindowPart* parent);
-    /// As above; null moves the part to the top level.
+    /// The same by name; null moves the part to the top level.
     bool SetCurrentWindowPartParentByName(const char* name);
+    /// The name of the part that holds the current one; "" when that is the top level. At the top level
+    /// itself, the name of the window.
     bool GetCurrentWindowPartParent(znString& out);
+    /// Set the Tcl procedures that fill and that pack the frame of the current part; `argument` is passed to
+    /// them unchanged.
     bool SetWindowPartCreateProc(const char* procedure, const char* argument);
     bool SetWindowPartPackProc(const char* procedure, const char* argument);
+
+    /// Moves the current part among its siblings; `position` is the host's. A refusal has the text of a
+    /// missing part.
     bool SetWindowPartPosition(int position);
+    /// Set and read whether the current part is shown.
     bool SetWindowPartShownState(bool shown);
     bool GetWindowPartShownState(znString& out);
+
+    /// The Tk path of the current part's frame.
     bool GetWindowPartFramePath(znString& out);
+    /// The parts directly under the current one, or, with `recursive`, all below it: a wide list.
     bool GetWindowPartNames(znString& out, bool recursive);
-    /// A table of the parts: name, parent, position, frame path.
+    /// A table of all parts below the current one: a line of headings, then a line for each with its name,
+    /// parent, position and frame path, set off by tabs and blanks. For a part without a parent, the name of
+    /// the current window and "(Root)" stand in its place.
     bool GetWindowPartInfo(znString& out);
+    /// The events of the current part: a wide list. Null names are left out.
     bool GetWindowPartEventNames(znString& out);
+    /// The window operations that the current part offers: a wide list. Null names are left out.
     bool GetWindowPartOperationNames(znString& out);
+    /// Makes an event of the current part current. The callback stays.
     bool SetCurrentEvent(const char* name);
+    /// Stores the event.
     void SetCurrentEvent(znIBrowserEvent* event);
+    /// Takes the first event of the part, or none.
     void UpdateCurrentEvent(znIBrowserWindowPart* part);
-    /// Does nothing.
+    /// Does nothing: nothing follows the event.
     void UpdateEventDependentCurrents(znIBrowserEvent* event);
+    /// The name of the current event.
     bool GetCurrentEvent(znString& out);
+    /// Reads and clears the current event.
     znIBrowserEvent* GetCurrentEventPtr() const;
     void ResetCurrentEvent();
+
+    /// Attaches a callback to the current event; one that exists already is an error. The type
+    /// "WINDOW_OPERATION", in any letter case, makes it a window operation, any other does not. Silently
+    /// false for a null name or type, and when the host does not know the callback afterwards.
     bool CreateWindowCallback(const char* name, const char* type);
+    /// Makes a callback of the current event current.
     bool SetCurrentWindowCallback(const char* name);
+    /// Stores the callback.
     void SetCurrentWindowCallback(znIBrowserWindowCallback* callback);
     /// Does nothing: the current callback never follows its event.
     void UpdateCurrentWindowCallback(znIBrowserEvent* event);
+    /// The name of the current callback.
     bool GetCurrentWindowCallback(znString& out);
+    /// Reads and clears the current callback.
     znIBrowserWindowCallback* GetCurrentWindowCallbackPtr() const;
     void ResetCurrentWindowCallback();
+
+    /// The callbacks of the current event: a wide list.
     bool GetWindowCallbackNames(znString& out);
+    /// Set and read the window on which the current callback acts; reading it before it is set is an error.
     bool SetCurrentWindowCallbackActionWindow(const char* windowName);
     bool GetCurrentWindowCallbackActionWindow(znString& out);
+
+    /// Sets what the current callback does there: "TREE_AREA_SELECT_PARENT_ITEMS" or
+    /// "TREE_AREA_SELECT_CHILDREN_ITEMS", in any letter case; silently false for anything else.
     bool SetCurrentWindowCallbackOperation(const char* operation);
+    /// One of those two words, or "UNDEFINED".
     bool GetCurrentWindowCallbackOperation(znString& out);
+    /// Add and remove a listener of the current window, by the name of its procedure.
     bool AddWindowListener(const char* name);
     bool DeleteWindowListener(const char* name);
+
+    /// The listeners of the current window: a wide list. Null names are left out.
     bool GetWindowListenerNames(znString& out);
 
-    // ---- GUI maps
-    // -------------------------------------------------------------------------------------------
+    // ---- GUI maps ----
+    // Tables from values to what a cell shows for them. They belong to the host, not to a view or window.
+
+    /// Creates a map. One that exists already becomes current, and is then reported as an
+    /// error. True when the host refuses: nothing changes then. Silently false for a null name.
     bool CreateGuiMap(const char* name);
+    /// Deletes a map; the two default maps are refused. The host is not asked whether it agrees.
     bool DeleteGuiMap(const znString& name);
+    /// Makes a map current, by name.
     bool UpdateCurrentGuiMap(const char* name);
+    /// Stores the map.
     void SetCurrentGuiMap(znIBrowserGuiMap* map);
     /// "" when none is current.
     const char* GetCurrentGuiMapName() const;
+    /// The current map, or null.
     znIBrowserGuiMap* GetCurrentGuiMapPtr() const;
-    /// True when one was current; sets no error.
+    /// Clears the current map. True when one was current; the error state stays.
     bool ResetCurrentGuiMap();
+    /// All maps: a wide list. Never fails.
     bool GetGuiMapNames(znString& out);
+    /// Undefined when no map is current, and for one without a type.
     ZNBROWSER_GUIMAP_TYPE GetCurrentGuiMapType() const;
-    /// Does not clear the error state.
+    /// Sets the type of the current map, in any letter case: from "integer", "double", "unsigned", "bool" or
+    /// "string" to "icon", "string" or "rgb", and from "string" also to "button". Other pairs, and the type
+    /// that it has already, are errors. The error state is not cleared first.
     bool CreateGuiMappingTypetoType(const char* keyType, const char* shownType);
+    /// Add a record to the current map: for that key it shows `value`. A null key or value counts as "".
+    /// Whether the key fits the map's type is the host's to judge.
     bool CreateGuiMapRecord(bool key, const char* value);
     bool CreateGuiMapRecord(unsigned int key, const char* value);
     bool CreateGuiMapRecord(double key, const char* value);
     bool CreateGuiMapRecord(int key, const char* value);
     bool CreateGuiMapRecord(const char* key, const char* value);
+
+    /// The same for a record that shows the greyed form of the image file `value`.
     bool CreateGuiMapDisabledRecord(bool key, const char* value);
     bool CreateGuiMapDisabledRecord(unsigned int key, const char* value);
     bool CreateGuiMapDisabledRecord(double key, const char* value);
     bool CreateGuiMapDisabledRecord(int key, const char* value);
     bool CreateGuiMapDisabledRecord(const char* key, const char* value);
+
+    /// Remove the record of that key from the current map; a key without one is an error that names the key,
+    /// an unsigned one as if it were signed. A null key counts as "".
     bool DeleteGuiMapRecord(bool key);
     bool DeleteGuiMapRecord(unsigned int key);
     bool DeleteGuiMapRecord(double key);
     bool DeleteGuiMapRecord(int key);
     bool DeleteGuiMapRecord(const char* key);
-    /// The records of the current map.
+
+    /// The records of the current map, key and value in turn, each in braces with a blank before it:
+    /// " {1} {red.png} {2} {blue.png}".
     bool GetGuiMapRecordNames(znString& out);
 
-    // ---- Find requests
-    // --------------------------------------------------------------------------------------
+    // ---- Find requests ----
+    // The searches of the current window: a request has properties to search on, a property has criteria.
+    // Names of properties and criteria are never null here, and their lists leave none out.
+
+    /// Makes a request of the current window current, and with it its first property, or none. The criterion
+    /// stays. Silently false for a name without storage.
     bool SetCurrentFindRequest(const znString& name);
+    /// Stores the request.
     void SetCurrentFindRequestByPtr(znIBrowserFindRequest* request);
+    /// Takes the first request of the window and that request's first property, or none. The criterion stays.
     void UpdateCurrentFindRequest(znIBrowserWindowAccess* window);
+    /// The name of the current request.
     bool GetCurrentFindRequest(znString& out);
+    /// Reads and clears the current request.
     znIBrowserFindRequest* GetCurrentFindRequestPtr() const;
     void ResetCurrentFindRequest();
+
+    /// The requests of the current window: a wide list.
     bool GetFindRequestNames(znString& out);
+    /// Sets which matches the current request asks for: "all", "next" or "previous", in exactly these
+    /// letters; any other word makes the type unknown. The host is not asked whether it agrees.
     bool SetCurrentFindRequestType(const znString& word);
+    /// One of those three words, or "unknown".
     bool GetCurrentFindRequestType(znString& out);
+    /// Performs the current request.
     bool PerformCurrentFindRequest();
+    /// Has the view of the request's window add a property to the current request. The current property
+    /// stays. True also when the host refuses.
     bool AddPropertyToCurrentFindRequest(const znString& name);
+    /// Makes a property of the current request current, and with it its first criterion, or none.
     bool SetCurrentFindRequestProperty(const znString& name);
+    /// Stores the property.
     void SetCurrentFindRequestPropertyByPtr(znBrowserProperty* property);
+    /// Takes the first property of the request, or none. The criterion stays.
     void UpdateCurrentFindRequestProperty(znIBrowserFindRequest* request);
+    /// The name of the current property.
     bool GetCurrentFindRequestProperty(znString& out);
+    /// Reads and clears the current property.
     znBrowserProperty* GetCurrentFindRequestPropertyPtr() const;
     void ResetCurrentFindRequestProperty();
+
+    /// The properties of the current request: a wide list.
     bool GetFindRequestPropertyNames(znString& out);
+    /// Makes a criterion of the current property current.
     bool SetCurrentFindRequestPropertyCriterion(const znString& name);
+    /// Stores the criterion.
     void SetCurrentFindRequestPropertyCriterionByPtr(znBrowserCriterion* criterion);
+    /// Takes the first criterion of the property, or none.
     void UpdateCurrentFindRequestPropertyCriterion(znBrowserProperty* property);
+    /// The name of the current criterion.
     bool GetCurrentFindRequestPropertyCriterion(znString& out);
+    /// Reads and clears the current criterion.
     znBrowserCriterion* GetCurrentFindRequestPropertyCriterionPtr() const;
     void ResetCurrentFindRequestPropertyCriterion();
+
+    /// The criteria of the current property: a wide list.
     bool GetCurrentFindRequestPropertyCriteriaNames(znString& out);
-    /// Accepts "equalto" alone, and stores nothing.
+    /// Accepts "equalto" alone, and stores nothing: the criterion keeps its type.
     bool SetCurrentFindRequestPropertyCriterionType(const znString& word);
+    /// "morethan", "lessthan", "equalto" or "unknown".
     bool GetCurrentFindRequestPropertyCriterionType(znString& out);
+    /// Write and read the text that the current criterion compares with.
     bool SetCurrentFindRequestPropertyCriterionValue(const znString& value);
     bool GetCurrentFindRequestPropertyCriterionValue(znString& out);
+
+    /// Whether letter case counts.
     bool SetCurrentFindRequestPropertyCriterionMatchcase(bool matchCase);
     bool GetCurrentFindRequestPropertyCriterionMatchcase(bool& matchCase);
+
+    /// Whether only whole words match.
     bool SetCurrentFindRequestPropertyCriterionMatchword(bool matchWord);
     bool GetCurrentFindRequestPropertyCriterionMatchword(bool& matchWord);
+
+    /// Whether the text is a regular expression.
     bool SetCurrentFindRequestPropertyCriterionUseregexp(bool useRegexp);
     bool GetCurrentFindRequestPropertyCriterionUseregexp(bool& useRegexp);
 
-    // ---- Events of the Tk tree
-    // ------------------------------------------------------------------------------ Each makes the named
-    // window current and hands the event to it; the answer is the window's. The error state is not cleared
-    // first.
+    // ---- Events of the Tk tree ----
+    // Each makes the named window current, as by name, and hands the event to it. An unknown window is an
+    // error; an event that the window does not accept is silently false, and the window is current all the
+    // same. Indices are Tk indices, the numbers of the tree's rows.
+
+    /// Expand and collapse a row.
     bool OnTkTreeRequestExpand(const char* window, unsigned int tkIndex);
     bool OnTkTreeRequestCollapse(const char* window, unsigned int tkIndex);
+
+    /// The tree moved to `position`; what that counts, the rows scrolled away for one, is the host's.
     bool OnTkTreeSetStatePos(const char* window, int position);
+    /// These rows joined, or left, the selection.
     bool OnTkTreeSelectionAdded(const char* window, const std::vector<unsigned int>& indices);
     bool OnTkTreeSelectionRemoved(const char* window, const std::vector<unsigned int>& indices);
+
+    /// Exactly these rows are selected now.
     bool OnTkTreeSelectionUpdate(const char* window, const std::vector<unsigned int>& indices);
+    /// A series of such events is over.
     bool OnTkTreeSelectionChangeFinished(const char* window);
+    /// The popup menu opened (true) or closed.
     bool OnTkTreePopupMenu(const char* window, bool on);
+    /// A check box was clicked; `value` is its new state.
     bool OnTkTreeCheckBoxClick(const char* window, const char* column, const char* element,
                                unsigned int tkIndex, bool value);
+    /// A button cell was clicked; `value` is its new text.
     bool OnTkTreeWindowButtonClick(const char* window, const char* column, const char* element,
                                    unsigned int tkIndex, const char* value);
+    /// A cell was clicked with the left button.
     bool OnTkTreeLeftHandClick(const char* window, const char* column, const char* element,
                                unsigned int tkIndex);
+    /// Rows were clicked with the right button, in a column that the window's view must have.
     bool OnTkTreeRightHandClick(const char* window, const char* column,
                                 const std::vector<unsigned int>& indices);
+    /// The rows `indices` were dropped on the row `target`.
     bool OnTkTreeSetDropItem(const char* window, unsigned int target,
                              const std::vector<unsigned int>& indices);
+    /// An entry of the popup menu was chosen; what the two texts name is the host's.
     bool OnTkTreePerformPopupOperation(const char* window, const char* first, const char* second);
-    /// Only checks that the window exists.
+    /// Only check that the window exists: none becomes current, and the error state stays when it does.
     bool OnTkTreeDispElemsToggleClick(const char* window, int value);
-    /// The same as `OnTkTreeDispElemsToggleClick`.
     bool OnTkTreeDispGeomsToggleClick(const char* window, int value);
+
     /// Events of the collector, which this version does not serve: true, and nothing happens.
     bool OnTkColListItemSelected(const char* first, const char* second);
     bool OnTkColOptionItemSelected(const char* first, const char* second);
 
-    // ---- Data controls
-    // --------------------------------------------------------------------------------------
+    // ---- Data controls ----
+    // The containers of all data. The application makes them; scripts choose and connect them.
+
+    /// Makes a data control current, and tells it which view is current.
     bool SetCurrentDataCtrl(const char* name);
+    /// Stores the data control; it is not told.
     void SetCurrentDataCtrl(znIBrowserDataCtrl* control);
-    /// The name of the current data control; "" when there is none, never null.
+    /// The name of the current data control; "" when there is none.
     const char* GetCurrentDataCtrl() const;
+    /// Reads and clears the current data control. Data sources and the like stay.
     znIBrowserDataCtrl* GetCurrentDataCtrlPtr() const;
     void ResetCurrentDataCtrl();
-    /// The names of all data controls: each is followed by two blanks, and preceded by one from the second
-    /// on.
+
+    /// The names of all data controls: a trailing list. Never fails.
     bool GetDataCtrlNames(znString& out);
     /// Connects the current data control to the current view, which must have none.
     bool DataCtrlConnect();
-    /// Takes the data control from the current view.
+    /// Takes its data control, whichever that is, from the current view. The current one stays.
     bool DataCtrlDisconnect();
 
-    // ---- Simple data sources
-    // --------------------------------------------------------------------------------
-    /// True even when the host made nothing. The description is not passed on.
+    // ---- Simple data sources ----
+    // Flat sources of items in the current data control. A base source comes with the control; scripts make
+    // custom ones, which take their items from base sources.
+
+    /// Creates a custom source. True even when the host made nothing: what becomes current is the source that
+    /// it knows by that name, if any. A null caption counts as ""; the description is not passed on. The
+    /// error state stays.
     bool CreateDataSourceSimple(const char* name, const char* caption, const char* description);
-    /// True also for an unknown name.
+    /// Deletes a custom source; one that is a base or connected is refused. True also for an unknown name.
     bool DeleteDataSourceSimple(const char* name);
-    /// A source of the current data control, or null; sets no error.
+    /// A source of the current data control, or null; the error state stays.
     znIBrowserDataSourceSimple* FindDataSourceSimple(const char* name) const;
+    /// Makes a source of the current data control current. The criteria stay.
     bool SetCurrentDataSourceSimple(const char* name);
-    /// Null is ignored.
+    /// Store the source; null is ignored. Both do the same.
     void SetCurrentDataSourceSimple(znIBrowserDataSourceSimple* source);
-    /// Null is ignored.
     void UpdateCurrentDataSourceSimple(znIBrowserDataSourceSimple* source);
+
     /// "" when none is current.
     const char* GetCurrentDataSourceSimple() const;
+    /// The current source, or null.
     znIBrowserDataSourceSimple* GetCurrentDataSourceSimplePtr() const;
+    /// Read and set the caption of the current source. Setting also needs a current data control; silently
+    /// false for null, and when the host refuses.
     bool GetCurrentDataSourceSimpleCaption(znString& out);
     bool SetCurrentDataSourceSimpleCaption(const char* caption);
+
+    /// The same for the caption under which the source stands among the filters.
     bool GetCurrentDataSourceSimpleFilterCaption(znString& out);
     bool SetCurrentDataSourceSimpleFilterCaption(const char* caption);
+
     /// Tells the current source which of its base sources is meant; no current object changes.
     bool SetCurrentConnectDataSourceSimple(const char* name);
     /// Does nothing.
@@ -624,154 +1038,262 @@ public:
     const char* GetCurrentConnectDataSourceSimple() const;
     /// Always null.
     znIBrowserDataSourceSimple* GetCurrentConnectDataSourceSimplePtr() const;
-    /// Connects a base source to the current custom source. Silently false when that is not custom.
+    /// Connect a base source to the current source, and disconnect it; the items are made anew. Silently
+    /// false when the host refuses, and without a current custom source, where the error state stays.
     bool DataSourceSimpleConnect(const char* name);
     bool DataSourceSimpleDisconnect(const char* name);
-    /// The base sources of the current source, of a named one, and the simple sources of a view.
+
+    /// The base sources of the current source, of a named one, and the simple sources of a view: wide, braced
+    /// lists; empty when there is no such source or view. They never fail.
     bool DataSourceSimpleConnected(znString& out);
     bool DataSourceSimpleConnected(const char* name, znString& out);
     bool DataSourceSimpleConnected(znIBrowserView* view, znString& out);
+
+    /// Connect a simple source to a view; disconnect a source of either kind. Silently false for a null view
+    /// or name, and when the host refuses.
     bool DataSourceSimpleConnect(znIBrowserView* view, const char* name);
     bool DataSourceDisconnect(znIBrowserView* view, const char* name);
+
+    /// The simple sources of the current data control, and the custom ones among them: braced lists.
     bool DataSourceSimpleNames(znString& out);
     bool DataSourceSimpleCustomNames(znString& out);
+
+    /// The data properties of a source of the current data control: a wide list.
     bool DataSourceSimplePropertyNames(const char* dataSource, znString& out);
-    /// The current view property's value of every item of the current source, in double quotes.
+    /// The current view property's value of every item of the current source, in double quotes; items without
+    /// a value are left out. A view must be current, too, and the property connected to the source.
     bool GetDataItemsFromCurrentDSS(znString& out);
+    /// The sources of either kind in the current data control: a trailing list.
     bool GetDataSourcesNames(znString& out);
     /// Does nothing; called by the host when a source goes away.
     void OnDataSourceDelete(znIBrowserDataSourceSimple* source);
 
-    // ---- Hierarchical data sources
-    // --------------------------------------------------------------------------
+    // ---- Hierarchical data sources ----
+    // Simple sources of the current data control, arranged as a parent and its children.
+
+    /// Creates a source; the flags and the texts are the host's, null texts count as "". True even when the
+    /// host does not know the source afterwards; that is then in the error state.
     bool CreateDataSourceHierarchical(const char* name, bool first, bool second, const char* text1,
                                       const char* text2);
-    /// A source of the current data control, or null; sets no error.
+    /// A source of the current data control, or null; the error state stays.
     znIBrowserDataSourceHierarchical* FindDataSourceHierarchical(const char* name) const;
+    /// Makes a source of the current data control current.
     bool SetCurrentDataSourceHierarchical(const char* name);
-    /// Null is ignored.
+    /// Store the source; null is ignored. Both do the same.
     void SetCurrentDataSourceHierarchical(znIBrowserDataSourceHierarchical* source);
-    /// Null is ignored.
     void UpdateCurrentDataSourceHierarchical(znIBrowserDataSourceHierarchical* source);
+
     /// "" when none is current.
     const char* GetCurrentDataSourceHierarchical() const;
+    /// The current source, or null.
     znIBrowserDataSourceHierarchical* GetCurrentDataSourceHierarchicalPtr() const;
-    /// Sets the parent of the current source (`kind` "parent") or adds a child ("child").
+    /// Makes a simple source the parent of the current source (`kind` "parent"), or adds it as a child
+    /// ("child"); `third` says how that hangs on, by a data reference for one, and counts as "" when null.
+    /// Silently false for another kind, a null name and a refusal, and without a current source, where the
+    /// error state stays.
     bool DataSourceHierarchicalConnect(const char* kind, const char* name, const char* third);
+    /// Removes a child from the current source. Silently false as above.
     bool DataSourceHierarchicalDisconnectSimple(const char* name);
+    /// The sources of the current data control that are in use, and all of them: wide, braced lists.
     bool DataSourceHierarchicalConnected(znString& out);
     bool DataSourceHierarchicalNames(znString& out);
+
+    /// The parent of the current source; "" when it has none. False without a current source. The error state
+    /// stays.
     bool DataSourceHierarchicalParentNames(znString& out);
+    /// The children of the current source: a braced list; null names are left out. False without a current
+    /// source, where the error state stays.
     bool DataSourceHierarchicalChildrenNames(znString& out);
+    /// Connects a hierarchical source to a view. Silently false for a null view or name, and when the host
+    /// refuses.
     bool DataSourceHierarchicalConnect(znIBrowserView* view, const char* name);
+    /// The hierarchical sources of a view, those shared with it included: a wide, braced list, empty for a
+    /// null view. Never fails.
     bool DataSourceHierarchicalConnected(znIBrowserView* view, znString& out);
+    /// The current view property's value of every item of the current source, top to bottom, in double
+    /// quotes; items without a value are left out. A view must be current, too; without a source the list is
+    /// empty.
     bool GetDataItemsFromCurrentDSH(znString& out);
-    /// Silently false, nothing changes.
+    /// Placeholders: false, and nothing changes; the error state stays.
     bool DataSourceHierarchicalPropertyNames(znString& out);
-    /// Silently false, nothing changes.
     bool GetDataSourceHierarchicalCriteriaNames(znString& out);
-    /// Shares a hierarchical source with another view. An unknown view or source leaves its text in the
-    /// result buffer, and the operation succeeds.
+
+    /// Shows a hierarchical source of another view in the current view as well. An unknown view or source
+    /// leaves its text in the result buffer, and the operation succeeds. Silently false for empty names.
     bool CreateDataSourceHierarchicalShare(const znString& dataSource, const znString& view);
+    /// The shares of the current view, after "Shared DSH(s):": for each the source and the other view as
+    /// `" SOURCE " with  " VIEW " view`.
     bool GetDataSourceHierarchicalSharedNames(znString& out);
     /// Does nothing; called by the host when a source goes away.
     void OnDataSourceDelete(znIBrowserDataSourceHierarchical* source);
 
-    // ---- Criteria and data properties
-    // -----------------------------------------------------------------------
+    // ---- Criteria and data properties ----
+    // Both belong to the current simple data source. Criteria are the filter settings of a custom source.
+
+    /// Creates criteria, or takes those that exist. The source must be custom. A null name: true, and nothing
+    /// happens.
     bool CreateDataCriteria(const char* name);
+    /// Deletes the current criteria, which must be those of the current source.
     bool DeleteDataCriteria();
+    /// Makes criteria of the current source current. A null name: true, and nothing happens.
     bool SetCurrentCriteria(const char* name);
+    /// Stores the criteria.
     void SetCurrentCriteria(znIBrowserCriteria* criteria);
     /// Does nothing: the current criteria never follow their source.
     void UpdateCurrentCriteria(znIBrowserDataSourceSimple* source);
+    /// The name of the current criteria; "" when there are none. Never fails.
     bool GetCurrentCriteria(znString& out);
+    /// Reads and clears the current criteria.
     znIBrowserCriteria* GetCurrentCriteriaPtr() const;
     void ResetCurrentCriteria();
+
+    /// The criteria of the current source, which must be custom: a trailing list. A null name ends it.
     bool GetDataSourceSimpleCriteriaNames(znString& out);
+    /// Sets the code of the current criteria, in the host's language; null and a refusal are the same error.
+    /// Silently false without current criteria.
     bool SetCriteriaCode(const char* code);
+    /// Sets the type of the current criteria by its word, as `SetViewPropertyType`. Without current criteria
+    /// true, and nothing happens. Silently false for null.
     bool SetCriteriaDataType(const char* typeWord);
+    /// The name of the type: "Bool", "Unsigned", "Integer", "Double", "String", these with "Array", or
+    /// "UNDEFINED".
     bool GetCriteriaDataType(znString& out);
-    /// The type name and the stored values. Booleans are printed inverted.
+    /// The name of the type and the values, a blank before each: the first, or for arrays all. Booleans are
+    /// printed inverted, doubles as "%8.3f", strings in double quotes. Without values `out` stays as it is,
+    /// and without a type it tells so; both succeed.
     bool GetCriteriaDataParameters(znString& out);
+    /// Replaces the values of the current criteria, the lists of all five types.
     bool UpdateCriteriaData(const std::vector<bool>& bools, const std::vector<unsigned int>& unsigneds,
                             const std::vector<int>& ints, const std::vector<double>& doubles,
                             const znStlVector<znString>& strings);
-    /// A property whose value a Tcl procedure computes.
+    /// Creates a data property whose value a Tcl procedure computes for each item. Null arguments and a
+    /// refusal fail with the error text of the data source.
     bool CreateDataPropertyScripted(const char* name, const char* script);
-    /// A property that reads an attribute of the item.
+    /// Creates a data property that reads an attribute of the item; `extra` is the host's. The type may also
+    /// be one of the host's own, up to 13. A refusal as above.
     bool CreateDataPropertyScripted(const char* name, ZNBROWSER_DATA_TYPE type, unsigned int attributeId,
                                     int extra);
 
-    // ---- Data operations
-    // ------------------------------------------------------------------------------------
+    // ---- Data operations ----
+    // Named actions of the current data control, which run a script.
+
+    /// Creates an operation.
     bool CreateDataOperation(const char* name);
+    /// Deletes the current operation.
     bool DeleteDataOperation();
+    /// Makes an operation of the current data control current.
     bool SetCurrentDataOperation(const char* name);
+    /// Stores the operation.
     void SetCurrentDataOperation(znIBrowserDataOperation* operation);
+    /// The name of the current operation.
     bool GetCurrentDataOperation(znString& out);
+    /// Reads and clears the current operation.
     znIBrowserDataOperation* GetCurrentDataOperationPtr() const;
     void ResetCurrentDataOperation();
+
+    /// The operations of the current data control. A null name ends the list.
     bool GetDataOperationNames(znString& out);
-    /// Connects the current data operation to the current view operation. What is missing is written into the
-    /// interpreter result.
+    /// Has the current view operation run the current data operation, too. What is missing is written into
+    /// the interpreter result; the error text is empty.
     bool DataOperationConnect();
+    /// Runs the current operation. Silently false when the host says that it failed.
     bool PerformDataOperation();
+    /// Sets the Tcl script that the current operation runs. Silently false for null, and when refused.
     bool SetDataOperationScript(const char* script);
 
-    // ---- Data references
-    // ------------------------------------------------------------------------------------
+    // ---- Data references ----
+    // The links between data sources that a data control keeps. A null name ends a list.
+
+    /// The references of the current data control.
     bool GetDataReferencesNames(znString& out);
-    /// Looks the reference up in the view's data control.
+    /// Connects a reference of the view's own data control to the current view. A message about the name
+    /// follows what the result buffer holds, which is not emptied first.
     bool ConnectDataReference(const znString& name);
-    /// Looks the reference up in the current data control.
+    /// Disconnects a reference of the current data control from the current view. The message about an
+    /// unknown one says "data source", that of a refusal "Cannot create tree".
     bool DisconnectDataReference(const znString& name);
+    /// The references connected to the current view.
     bool GetConnectedDataReferencesNames(znString& out);
 
-    // ---- Input fields
-    // ---------------------------------------------------------------------------------------
-    /// Refused while a data control is current, and without one there is nothing to create it in.
+    // ---- Input fields ----
+    // Typed values of the current data control. The application makes the fields; scripts fill them.
+
+    /// Always false: refused while a data control is current, and without one there is nothing to work on.
     bool CreateInputField(const char* name, const char* type);
-    /// Refused while a data control is current.
     bool DeleteInputField();
+
+    /// Makes a field of the current data control current.
     bool SetCurrentInputField(const char* name);
+    /// Stores the field.
     void SetCurrentInputField(znIBrowserInputField* field);
-    /// Gives the present error state; `out` stays as it was when none is current.
+    /// The name of the current field; `out` stays as it was when none is current. The error state stays, and
+    /// is what is returned.
     bool GetCurrentInputField(znString& out);
+    /// Reads and clears the current field.
     znIBrowserInputField* GetCurrentInputFieldPtr() const;
     void ResetCurrentInputField();
-    /// Refused while a data control is current.
+
+    /// Always false, as `CreateInputField`.
     bool GetInputFieldNames(znString& out);
+    /// The name of the current field's type, as `GetCriteriaDataType` gives it.
     bool GetInputFieldDataType(znString& out);
+    /// Sets the type of the current field by its word, as `SetViewPropertyType`. Silently false for null.
     bool SetInputFieldDataType(const char* word);
+    /// The value of the current field: "true" or "false", an integer, a double with six decimals, or a text.
+    /// Fields of the other types, unsigned ones included, cannot be read: an error.
     bool GetInputFieldValue(znString& out);
+    /// Sets the value of the current field from a text: "true" (all else is false), the number that it begins
+    /// with (0 when with none), or the text itself. Arrays are an error. Silently false for null.
     bool SetInputFieldValue(const char* text);
+    /// Puts the value of the current field back to its type's zero.
     bool ResetInputFieldValue();
 
-    // ---- States
-    // ---------------------------------------------------------------------------------------------
+    // ---- States ----
+    // Saved configurations of windows, kept by the current data control.
+
+    /// Makes a state of the current data control current.
     bool SetCurrentState(const char* name);
+    /// Stores the state.
     void SetCurrentState(znIBrowserState* state);
+    /// The name of the current state; "" when there is none. Never fails.
     bool GetCurrentState(znString& out);
+    /// Reads and clears the current state.
     znIBrowserState* GetCurrentStatePtr() const;
     void ResetCurrentState();
+
+    /// The states of the current data control: a trailing list.
     bool GetStateNames(znString& out);
+    /// Save the configuration of the current window into the current state, and bring it back.
     bool SaveCurrentState();
     bool RestoreCurrentState();
+
+    /// Add entities to the current state, and take them from it; what an entity is, is the host's.
     bool CurrentStateAddEntities(const std::vector<znString>& entities);
     bool CurrentStateRemoveEntities(const std::vector<znString>& entities);
-    /// The configuration kept in the current state, one line an entry, in eight sections.
+
+    /// Appends the configuration kept in the current state to `lines`, one line an entry, in eight sections
+    /// with a heading each. A section that the state cannot deliver ends it: silently false, and the sections
+    /// before it stand in `lines`.
     bool GetConfigData(std::vector<znString>& lines);
 
-    // ---- Popup menus: kept as current objects, served by the host
-    // -------------------------------------------
+    // ---- Popup menus ----
+    // Kept as current objects here; the host serves them. The names are "" without a current object.
+
+    /// The current menu, or null.
     znIBrowserPopupMenu* GetCurrentPopupMenuPtr() const;
+    /// Stores the menu.
     void SetCurrentPopupMenu(znIBrowserPopupMenu* menu);
+    /// The name of the current menu. Never fails.
     bool GetCurrentPopupMenu(znString& out);
+    /// Clears the current menu; the item stays.
     void ResetCurrentPopupMenu();
+    /// The current menu item, or null.
     znIBrowserPopupMenuItem* GetCurrentPopupMenuItemPtr() const;
+    /// Stores the menu item.
     void SetCurrentPopupMenuItem(znIBrowserPopupMenuItem* item);
+    /// The name of the current menu item. Never fails.
     bool GetCurrentPopupMenuItem(znString& out);
+    /// Clears the current menu item.
     void ResetCurrentPopupMenuItem();
 
 private:
@@ -780,13 +1302,13 @@ private:
     /// Gives up this manager's hold on the view helper; the last hold takes the helper with it.
     void LeaveViewHelper();
 
-    // How operations begin and end.
+    // ---- How operations begin and end ----
+
     /// Clears the error state and empties the result buffer.
     void BeginOperation();
     /// Sets the error text. @return false
     bool Fail(const char* message);
-    /// Joins pieces in the result buffer, a blank before each unless it is the first; null pieces are left
-    /// out.
+    /// Joins pieces in the result buffer, with blanks, null ones left out; its text becomes the error text.
     /// @return false
     bool FailWith(std::initializer_list<const char*> pieces);
     /// Takes over the browser object's error text. @return false
@@ -795,21 +1317,25 @@ private:
     bool HostAnswer(bool accepted);
     /// Gives the result buffer's text. @return the error state
     bool GiveBuffer(znString& out);
+    /// Gives "true" or "false". @return true
     static bool GiveBool(bool value, znString& out);
+    /// The browser object, or null.
     znIBrowser* GetBrowser() const;
+    /// A view or a window of the host; null for an unknown and a null name.
     znIBrowserView* FindView(const char* name) const;
     znIBrowserWindowAccess* FindWindowAccess(const char* name) const;
+
     /// The window that an event of the Tk tree names, made current; null, and an error, when there is none.
     znIBrowserWindowAccess* SelectEventWindow(const char* name);
-    // The records of the current GUI map, whatever the type of the key.
+    /// Add and remove a record of the current GUI map, whatever the type of its key.
     template <class Key>
     bool AddGuiMapRecord(Key key, const char* value, bool disabled);
     template <class Key>
     bool RemoveGuiMapRecord(Key key);
 
-    // What dies with a host object. `CurrentsInside` finds, before the host deletes an object, the current
-    // objects that lie in it (the object itself included); `Forget` clears, after it, those of them that are
-    // still current.
+    // ---- What dies with a host object ----
+
+    /// The current objects that lie in an object which the host is about to delete, itself included.
     znBrowserCurrentObjects CurrentsInside(znIBrowserView* view) const;
     znBrowserCurrentObjects CurrentsInside(znIBrowserViewColumn* column) const;
     znBrowserCurrentObjects CurrentsInside(znIBrowserStyle* style) const;
@@ -817,6 +1343,8 @@ private:
     znBrowserCurrentObjects CurrentsInside(znIBrowserWindowAccess* window) const;
     znBrowserCurrentObjects CurrentsInside(znIBrowserWindowPart* part) const;
     znBrowserCurrentObjects CurrentsInside(znIBrowserDataSourceSimple* source) const;
+
+    /// After the deletion: clears those of them that are still current.
     void Forget(const znBrowserCurrentObjects& doomed);
 
     znIBrowserApplication* application_;

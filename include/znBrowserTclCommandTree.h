@@ -13,9 +13,8 @@ class ZN_API znBrowserTclCommandTree {
 public:
     /// The words that may come next.
     /// @param words  the complete words behind "znbrowsermanager", in any spelling the command accepts
-    /// @param next   out: the plain spellings, in the order in which the usage text lists them; empty where
-    /// free
-    ///               arguments stand, or where the words lead nowhere
+    /// @param next   out: their plain spellings, in the order in which the usage text lists them. Replaces
+    ///               what it held; empty where free arguments stand, or where the words lead nowhere
     static void GetNextWords(const std::vector<std::string>& words, std::vector<std::string>& next);
 };
 

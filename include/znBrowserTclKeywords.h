@@ -246,6 +246,7 @@ public:
     /// "app" and "connect") are accepted too. The running system always uses debug mode.
     constexpr explicit znBrowserTclKeywords(bool debugMode) : debugMode_(debugMode) {}
 
+    /// Read and change that mode.
     bool GetDebugMode() const { return debugMode_; }
     void SetDebugMode(bool debugMode) { debugMode_ = debugMode; }
 

@@ -11,9 +11,9 @@ struct ZN_API znBrowserTclMessages {
     // The command and the families that the top level serves.
     static const char* const GENERAL;
     static const char* const COLLECTOR;
-    static const char* const EMPTY;
-    static const char* const NO_FILTER;
-    static const char* const CHECKBOX;
+    static const char* const EMPTY;     ///< "empty show ..."
+    static const char* const NO_FILTER; ///< "no filter", which no words reach
+    static const char* const CHECKBOX;  ///< "checkbox ..."
 
     // Events of the Tk tree.
     static const char* const ON_REQUEST_COLLAPSE;
@@ -57,7 +57,7 @@ struct ZN_API znBrowserTclMessages {
     static const char* const VIEW_DATAREFERENCE;
     static const char* const VIEW_POPUPMENU;
 
-    // The view helper object.
+    // The words of views that connect data sources themselves.
     static const char* const HELPER_VIEW;
     static const char* const HELPER_DATASOURCE;
     static const char* const HELPER_DATAITEM;
@@ -86,6 +86,7 @@ struct ZN_API znBrowserTclMessages {
     static const char* const DATAOPERATION;
     static const char* const USERINPUT;
 
+    // "state ..."
     static const char* const STATE;
 };
 

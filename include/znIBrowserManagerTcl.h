@@ -18,22 +18,26 @@ public:
     /// receives the answer.
     /// @return TCL_ERROR in the few cases that raise a Tcl error, else TCL_OK.
     virtual int EvalTclCommand(int objc, Tcl_Obj* const objv[]) = 0;
-    /// Evaluates a script. The interpreter result is the script's.
+    /// Evaluates a script. The interpreter result is the script's, or Tcl's message.
     /// @return false, with an error text, for a null script and for one that ends with an error.
     virtual bool EvalTclScript(const char* script) = 0;
     virtual ~znIBrowserManagerTcl() = default;
-    /// Calls a Tcl procedure, with one quoted argument unless `argument` is empty, and gives its result.
-    /// A null name succeeds and changes nothing.
+    /// Calls a Tcl procedure, with `argument` in double quotes unless it is empty, and gives its result. A
+    /// null name succeeds and changes nothing.
+    /// @return false, with an error text, when the procedure fails; `result` stays as it was then.
     virtual bool GetStringFromScript(const char* procName, znString& result, znString argument) = 0;
-    /// The name of the current view; "" when there is none, never null.
+    /// The name of the current view, valid as long as the view; "" when there is none, never null.
     virtual const char* GetCurrentView() const = 0;
-    /// The interpreter of the application.
+    /// The interpreter of the application, which owns it.
     virtual Tcl_Interp* GetTclInterp() const = 0;
-    /// Hands a popup's input script to "::znbrowser::UpdatePopupInputScript". A null script does nothing.
+    /// Hands a popup's input script to "::znbrowser::UpdatePopupInputScript", in double quotes, with a blank
+    /// before and behind it. A null script succeeds and does nothing.
+    /// @return false, with an error text, when the procedure fails.
     virtual bool UpdateTclInputScript(const char* script) = 0;
     /// Tells the scripts which free folders are selected now: calls
-    /// "::znbrowser::ResetSelectedFreeFoldersArray", then "::znbrowser::AddToSelectedFreeFoldersArray" for
-    /// each.
+    /// "::znbrowser::ResetSelectedFreeFoldersArray", then, for each folder in order,
+    /// "::znbrowser::AddToSelectedFreeFoldersArray" with its name in double quotes, set off by blanks.
+    /// @return false, with an error text, at the first call that fails, and at a null folder.
     virtual bool UpdateTclFreeFolderSelection(const std::vector<znIBrowserViewItemFreeFolder*>& folders) = 0;
 };
 
