@@ -8,7 +8,8 @@
 
 class znIBrowserDataSourceSimple;
 
-/// One data item: a simple data source and the item's number in it. The source may be null (unknown).
+/// One data item: a simple data source and the item's number in it. The source may be null (unknown): the
+/// scripting layer passes such an item over. The numbers are the host's; the layer only hands them back.
 struct znBrowserDataItem {
     znIBrowserDataSourceSimple* source = nullptr;
     std::int64_t row = 0;
@@ -19,7 +20,7 @@ struct znBrowserDataItem {
 };
 
 /// A list of data items in order, held as row numbers and the runs of rows that share a data source: a
-/// million items of one source cost eight bytes each.
+/// million items of one source cost eight bytes each. A host fills it with `Append`.
 struct znBrowserDataItems {
     /// Rows from `first` up to the next run's `first` (or the end) belong to `source`.
     struct Run {
@@ -27,14 +28,17 @@ struct znBrowserDataItems {
         std::size_t first;
     };
 
-    std::vector<std::int64_t> rows;
-    std::vector<Run> runs;
+    std::vector<std::int64_t> rows; ///< the item numbers, in order
+    std::vector<Run> runs;          ///< by `first`, none of them empty
 
+    /// Empties the list; its storage is kept.
     void Clear() {
         rows.clear();
         runs.clear();
     }
+    /// How many items there are.
     std::size_t Size() const { return rows.size(); }
+    /// Adds an item at the end, also one that is in the list already; `source` may be null.
     void Append(znIBrowserDataSourceSimple* source, std::int64_t row) {
         if (runs.empty() || runs.back().source != source) runs.push_back({source, rows.size()});
         rows.push_back(row);

@@ -12,9 +12,10 @@ class znIBrowserView;
 class znIBrowserViewProperty;
 
 /// A data source seen without regard to its kind. Each simple and each hierarchical source has one of these,
-/// which lives as long as the source.
+/// always the same, which lives as long as the source: the layer compares the pointers.
 class znIBrowserDataSource {
 public:
+    /// The name of the source itself.
     virtual znString GetName() const = 0;
     /// The source itself when it is a simple one, else null.
     virtual znIBrowserDataSourceSimple* GetSimple() = 0;
@@ -24,15 +25,17 @@ public:
     virtual znIBrowserDataProperty* FindDataProperty(const char* name) = 0;
 
     // Selection. Each works on the items that `view` shows of this source: on them alone, or, with
-    // `recursive`, also on what lies below them. `select` false deselects.
+    // `recursive`, also on what lies below them. `select` false deselects. What else is selected stays so.
+    // Values may be computed by scripts, which then run.
+    /// All items.
     virtual bool SelectItems(znIBrowserView* view, bool select, bool recursive) = 0;
-    /// The items that have a value of that property.
+    /// The items that have a value of that property, of the same view.
     virtual bool SelectItemsByProperty(znIBrowserView* view, znIBrowserViewProperty* property, bool select,
                                        bool recursive) = 0;
     /// The items whose value of that property is `value`.
     virtual bool SelectItemsByValue(znIBrowserView* view, znIBrowserViewProperty* property, const char* value,
                                     bool select, bool recursive) = 0;
-    /// The items whose value of that property is one of `values`.
+    /// The items whose value of that property is one of `values`; there may be none.
     virtual bool SelectItemsByValues(znIBrowserView* view, znIBrowserViewProperty* property,
                                      const std::vector<znString>& values, bool select, bool recursive) = 0;
 

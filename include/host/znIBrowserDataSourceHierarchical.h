@@ -10,19 +10,24 @@ class znIBrowserDataCtrl;
 class znIBrowserDataSource;
 class znIBrowserDataSourceSimple;
 
-/// Simple data sources arranged as a parent and its children, shown as a tree.
+/// Simple data sources arranged as a parent and its children, shown as a tree. The parent and the children
+/// belong to the same data control. The texts of refusals are not read.
 class znIBrowserDataSourceHierarchical {
 public:
+    /// The name, unique in the data control; null ends a script's list of names.
     virtual const char* GetName() const = 0;
+    /// Whether a view uses the source: shows it, shares it or is connected to it.
     virtual bool IsConnected() const = 0;
-    /// Sets the parent, a simple source, by name.
+    /// Sets the parent, a simple source, by name; unknown names are for the host to refuse.
     virtual bool SetParent(const char* name) = 0;
-    /// Adds a child, a simple source, by name; `third` says how it hangs on (the host's: a data reference).
+    /// Adds a child, a simple source, by name; `third` says how it hangs on (the host's: in the embedded host
+    /// a data reference, or "" for the only one that fits).
     virtual bool AddChild(const char* name, const char* third) = 0;
     /// Removes a child by name; the parent cannot be removed.
     virtual bool RemoveChild(const char* name) = 0;
-    /// The parent, or null.
+    /// The parent, or null while it has none.
     virtual znIBrowserDataSourceSimple* GetParent() = 0;
+    /// The children, in the order added, each once. The answer is not looked at, only the list.
     virtual bool GetChildren(std::vector<znIBrowserDataSourceSimple*>& children) = 0;
     /// The items below `parent`; with null the top items.
     /// @param flag       reserved for the host: false.

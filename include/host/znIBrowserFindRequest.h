@@ -8,25 +8,29 @@
 
 class znIBrowserWindowAccess;
 
-/// How a value is matched: a plain record of the host's that the scripting layer reads and writes.
+/// How a value is matched: a plain record of the host's that the scripting layer reads and writes. The host
+/// hears of no change: it reads the record when it searches.
 struct znBrowserCriterion {
-    znString name;
-    ZNBROWSER_CRITERION_TYPE type = ZNBROWSER_CRITERION_UNKNOWN;
-    znString value;
-    bool matchcase = false;
-    bool matchword = false;
-    bool useregexp = false;
+    znString name;                                               ///< unique in the property; never written
+    ZNBROWSER_CRITERION_TYPE type = ZNBROWSER_CRITERION_UNKNOWN; ///< never written: scripts can only read it
+    znString value;                                              ///< what is looked for
+    bool matchcase = false;                                      ///< letter case counts
+    bool matchword = false;                                      ///< whole words only
+    bool useregexp = false;                                      ///< `value` is a regular expression
 };
 
-/// A property to search on, with its criteria in the order created. The criteria belong to the host.
+/// A property to search on, with its criteria in the order created. The criteria belong to the host. The
+/// layer keeps pointers to both records: they must stay where they are until the window is deleted.
 struct znBrowserProperty {
-    znString name;
+    znString name; ///< of a view property, or what else the host lets people search; never written
     std::vector<znBrowserCriterion*> criteria;
 };
 
-/// A search that a window can perform.
+/// A search that a window can perform. The host makes find requests with the window; a window's first one
+/// becomes current with it. It is changed and performed through `znIBrowser`.
 class znIBrowserFindRequest {
 public:
+    /// The name, unique in the window; null ends a script's list of names.
     virtual const char* GetName() const = 0;
     /// The window that owns the request.
     virtual znIBrowserWindowAccess* GetWindowAccess() = 0;
@@ -34,6 +38,7 @@ public:
     virtual void GetProperties(std::vector<znBrowserProperty*>& properties) = 0;
     /// The property of that name, or null.
     virtual znBrowserProperty* FindProperty(const char* name) = 0;
+    /// Which matches are asked for, as last set.
     virtual ZNBROWSER_FIND_REQUEST_TYPE GetType() const = 0;
 
 protected:

@@ -11,15 +11,22 @@
 /// records are added and removed through `znIBrowser`.
 class znIBrowserGuiMap {
 public:
+    /// The name, unique in the host, by which style elements refer to the map.
     virtual const char* GetName() const = 0;
-    /// The map's type; false when the host does not know it.
+    /// The map's type; false, or undefined, when the host does not know it.
     virtual bool GetType(ZNBROWSER_GUIMAP_TYPE& type) const = 0;
 
-    // Whether a record for that key exists.
+    // Whether a record for that key exists, of either form. The layer asks before it deletes one. A key of
+    // another kind than the map's has no record.
+    /// The keys of the BOOL_TO_ types.
     virtual bool HasRecord(bool key) const = 0;
+    /// The keys of the UINT_TO_ types.
     virtual bool HasRecord(unsigned int key) const = 0;
+    /// The keys of the DOUBLE_TO_ types, compared exactly.
     virtual bool HasRecord(double key) const = 0;
+    /// The keys of the INT_TO_ types.
     virtual bool HasRecord(int key) const = 0;
+    /// The keys of the STRING_TO_ types.
     virtual bool HasRecord(const char* key) const = 0;
 
     /// All records, key and value as text, in the order of the keys.

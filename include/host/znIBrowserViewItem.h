@@ -7,7 +7,8 @@ class znIBrowserStyle;
 /// An item of a view that takes a style: a free folder, for one.
 class znIBrowserViewItem {
 public:
-    /// Draws the item, in the style's column, with that style.
+    /// Draws the item, in the style's column, with that style from now on. It is one of the current column,
+    /// which need not be of the item's own view: refuse then.
     virtual bool SetStyle(znIBrowserStyle* style) = 0;
 
 protected:

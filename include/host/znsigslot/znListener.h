@@ -14,7 +14,7 @@ class znListener;
 template <class Policy>
 class znSignalBase {
 public:
-    /// Disconnects every slot of the listener.
+    /// Disconnects every slot of the listener. It need not have one.
     virtual void Disconnect(znListener<Policy>& listener) = 0;
     virtual ~znSignalBase() = default;
 };
@@ -24,9 +24,13 @@ public:
 template <class Policy>
 class znListener {
 public:
+    /// Starts without connections.
     znListener() = default;
+    /// Starts without connections, too.
     znListener(const znListener&) {}
+    /// Changes nothing.
     znListener& operator=(const znListener&) { return *this; }
+    /// Disconnects from all signals.
     virtual ~znListener() { DisconnectAll(); }
 
     /// Disconnects this listener from all its signals.

@@ -22,10 +22,12 @@ public:
     using Listener = znListener<Policy>;
     using Function = std::function<void(Args...)>;
 
+    /// Starts without slots, not blocked.
     znSignal() = default;
     znSignal(const znSignal&) = delete;
     znSignal& operator=(const znSignal&) = delete;
 
+    /// Disconnects every slot. What the slots hold goes at the end of the emission that runs, if one does.
     ~znSignal() override {
         for (Slot& slot : state_->slots) {
             if (slot.listener) std::exchange(slot.listener, nullptr)->SignalDisconnectPrivate(this);
@@ -45,7 +47,7 @@ public:
         }
     }
 
-    /// Connects a method of the listener.
+    /// Connects a method of the listener. `object` is both the listener and what the method is called on.
     template <class Object>
     void Connect(Object& listener, void (Object::*method)(Args...)) {
         Connect(listener, Function([&listener, method](Args... args) {
@@ -53,6 +55,7 @@ public:
                 }));
     }
 
+    /// Disconnects every slot of the listener. It need not have one.
     void Disconnect(Listener& listener) override {
         for (Slot& slot : state_->slots) {
             if (slot.listener == &listener) slot.listener = nullptr;
@@ -61,6 +64,7 @@ public:
         if (!state_->emitting) State::RemoveDisconnected(*state_);
     }
 
+    /// Whether the listener has a slot here.
     bool IsConnected(const Listener& listener) const {
         for (const Slot& slot : state_->slots) {
             if (slot.listener == &listener) return true;
@@ -79,11 +83,14 @@ public:
             if (slot == last) return;
         }
     }
+    /// The same as `Emit`.
     void operator()(Args... args) { Emit(std::forward<Args>(args)...); }
 
     /// A blocked signal ignores emissions; they are not made up for later. An emission that runs goes on.
     void Block(bool blocked = true) { state_->blocked = blocked; }
+    /// Whether emissions are ignored now.
     bool IsBlocked() const { return state_->blocked; }
+    /// Whether an emission runs now; another one would do nothing.
     bool IsEmitting() const { return state_->emitting; }
 
 private:

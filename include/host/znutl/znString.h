@@ -11,22 +11,31 @@
 /// and read as "". Texts may hold any byte, NUL included.
 class znString {
 public:
+    /// A string without text storage.
     znString() = default;
+    /// A copy of the text, up to its NUL; a null pointer gives a string without text storage.
     znString(const char* text) : null_(text == nullptr), text_(text ? text : "") {}
+    /// A copy of the text, with storage even when it is empty.
     znString(std::string_view text) : null_(false), text_(text) {}
+    /// The same.
     znString(const std::string& text) : null_(false), text_(text) {}
+    /// Takes the text over, with storage even when it is empty.
     znString(std::string&& text) noexcept : null_(false), text_(std::move(text)) {}
 
     /// True when the string has no text storage.
     bool IsNull() const { return null_; }
+    /// True when there is no byte, with text storage or without.
     bool empty() const { return text_.empty(); }
+    /// The number of bytes, NULs inside included.
     std::size_t size() const { return text_.size(); }
 
     /// The text, NUL-terminated; "" for a string without storage, never null. Owned by the string.
     const char* c_str() const { return text_.c_str(); }
     /// The text, or null for a string without storage. Owned by the string.
     const char* GetText() const { return null_ ? nullptr : text_.c_str(); }
+    /// The whole text, valid until the next change of the string.
     std::string_view View() const { return text_; }
+    /// The same as a standard string, valid as long as this one.
     const std::string& Str() const { return text_; }
 
     /// Makes the string empty, with storage; the capacity is kept for the next text.
@@ -55,12 +64,15 @@ public:
     }
     /// Appends; a null pointer appends nothing.
     znString& operator+=(const char* text) { return text ? *this += std::string_view(text) : *this; }
+    /// Appends; the string has text storage afterwards. `text` may lie inside this string.
     znString& operator+=(std::string_view text) {
         null_ = false;
         text_.append(text);
         return *this;
     }
+    /// Appends another string; it may be this one.
     znString& operator+=(const znString& other) { return *this += other.View(); }
+    /// Appends one byte.
     znString& operator+=(char character) {
         null_ = false;
         text_.push_back(character);

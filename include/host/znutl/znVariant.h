@@ -15,7 +15,9 @@ public:
     /// The host's numbering of value types. Codes without a name (2 and those above 7) are reserved.
     enum TypeCode { Undefined = 0, Boolean = 1, Integer = 3, Long64 = 4, Float = 5, Double = 6, String = 7 };
 
+    /// Nothing: type `Undefined`.
     znVariant() = default;
+    // A value of the type in question. A text keeps whether it has storage.
     znVariant(bool value) : code_(Boolean), value_(value) {}
     znVariant(int value) : code_(Integer), value_(std::int64_t{value}) {}
     znVariant(std::int64_t value) : code_(Long64), value_(value) {}
@@ -26,10 +28,15 @@ public:
 
     /// The type code of the stored value, as in `TypeCode`.
     int GetType() const { return code_; }
+    /// The value of a `Boolean`.
     bool GetBoolean() const { return Get<bool>(); }
+    /// The value of an `Integer`, or the low 32 bits of a `Long64`.
     int GetInteger() const { return static_cast<int>(Get<std::int64_t>()); }
+    /// The value of a `Long64` or an `Integer`.
     std::int64_t GetLong64() const { return Get<std::int64_t>(); }
+    /// The value of a `Double` or a `Float`; integers count as 0.0.
     double GetDouble() const { return Get<double>(); }
+    /// The value of a `String`.
     znString GetString() const { return Get<znString>(); }
 
 private:
