@@ -35,8 +35,7 @@ std::string TextOf(Tcl_Obj* object) {
 
 } // namespace
 
-// ---- The call
-// ----------------------------------------------------------------------------------------------
+// ---- The call ----
 
 AppCall::AppCall(Application& application, int objc, Tcl_Obj* const objv[])
     : application_(application), objects_(objv, objv + objc) {}
@@ -82,8 +81,7 @@ bool AppCall::Number(std::size_t position, const char* meaning, std::size_t& num
     return true;
 }
 
-// ---- The words
-// ---------------------------------------------------------------------------------------------
+// ---- The words ----
 
 namespace {
 
@@ -199,8 +197,7 @@ int Help(AppCall& call) {
     return call.Answer(text);
 }
 
-// ---- Finding the row
-// ---------------------------------------------------------------------------------------
+// ---- Finding the row ----
 
 /// How many words of the call the row takes: 1 or 2; 0 when it is not the row of these words.
 int WordsTaken(const AppWord& row, const std::string& first, const std::string& second) {

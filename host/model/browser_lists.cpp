@@ -12,8 +12,7 @@ FreeFolder* Concrete(znIBrowserViewItemFreeFolder* folder) { return static_cast<
 
 } // namespace
 
-// ---- Trees
-// -------------------------------------------------------------------------------------------------
+// ---- Trees ----
 
 bool Browser::AddTree(znIBrowserViewItemFreeFolder* folder, znIBrowserDataSourceHierarchical* source) {
     if (Refused("znIBrowser::AddTree", folder, source)) return false;
@@ -85,8 +84,7 @@ bool Browser::CreateTreeParentChild(znIBrowserViewItemFreeFolder* folder, znIBro
                 NameOf(log_, reference) + "\"");
 }
 
-// ---- Lists
-// -------------------------------------------------------------------------------------------------
+// ---- Lists ----
 
 FolderList* Browser::ListOf(znIBrowserViewItemFreeFolder* folder, znIBrowserDataSourceSimple* source) {
     if (!folder) {

@@ -12,8 +12,7 @@ Window* Own(znIBrowserWindowAccess* window) { return static_cast<Window*>(window
 
 } // namespace
 
-// ---- Windows
-// ------------------------------------------------------------------------------------------------
+// ---- Windows ----
 
 znIBrowserWindowAccessList* Browser::GetWindowAccessList() {
     if (Refused("znIBrowser::GetWindowAccessList")) return nullptr;
@@ -69,8 +68,7 @@ bool Browser::SetWindowBackgroundColor(znIBrowserWindowAccess* window, const cha
     return true;
 }
 
-// ---- Parts and callbacks
-// ------------------------------------------------------------------------------------
+// ---- Parts and callbacks ----
 
 bool Browser::CreateWindowPart(znIBrowserWindowAccess* window, const char* name, const char* parent) {
     if (Refused("znIBrowser::CreateWindowPart", window, name, parent)) return false;
@@ -125,8 +123,7 @@ bool Browser::SetCallbackOperation(znIBrowserWindowCallback* callback,
     return true;
 }
 
-// ---- Find requests
-// ------------------------------------------------------------------------------------------
+// ---- Find requests ----
 
 bool Browser::SetFindRequestType(znIBrowserFindRequest* request, ZNBROWSER_FIND_REQUEST_TYPE type) {
     if (Refused("znIBrowser::SetFindRequestType", request, type)) return false;

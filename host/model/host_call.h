@@ -110,8 +110,7 @@ private:
     std::string error_;
 };
 
-// ---- The name of a host object, and an argument as the journal shows it
-// ------------------------------------
+// ---- The name of a host object, and an argument as the journal shows it ----
 
 template <class Object, class = void>
 struct ReturnsName : std::false_type {};

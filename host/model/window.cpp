@@ -63,8 +63,7 @@ void Window::SetBackground(std::string colour) {
     rows_.Tell(RowChange::AllCells);
 }
 
-// ---- Scripts
-// ------------------------------------------------------------------------------------------------
+// ---- Scripts ----
 
 /// Calls a Tcl procedure; an error goes to the interpreter's background error handler.
 void Window::Call(const std::vector<std::string>& words) {
@@ -170,8 +169,7 @@ void Window::ShowPart(WindowPart& part, bool shown) {
     if (posted_ && !closed_) display->PackPart(*this, frame);
 }
 
-// ---- Parts
-// --------------------------------------------------------------------------------------------------
+// ---- Parts ----
 
 std::vector<WindowPart*> Window::AllParts() const {
     std::vector<WindowPart*> parts;
@@ -218,8 +216,7 @@ WindowEvent* Window::Own(znIBrowserEvent* event) const {
     return own && &own->Part().Owner() == this ? own : nullptr;
 }
 
-// ---- Finding
-// ------------------------------------------------------------------------------------------------
+// ---- Finding ----
 
 /// What the criteria find. Null when a script that gave a value closed the window or deleted its view.
 std::shared_ptr<RowFinder> Window::Search(std::vector<FindCriterion> criteria) {

@@ -38,8 +38,7 @@ bool Window::IsPosted() const {
     return posted_;
 }
 
-// ---- Parts and listeners
-// ------------------------------------------------------------------------------------
+// ---- Parts and listeners ----
 
 void Window::GetWindowParts(std::vector<znIBrowserWindowPart*>& parts, bool recursive) {
     parts.clear();
@@ -105,8 +104,7 @@ bool Window::SetWindowPartParent(znIBrowserWindowPart* part, znIBrowserWindowPar
     return true;
 }
 
-// ---- Events
-// -------------------------------------------------------------------------------------------------
+// ---- Events ----
 
 bool Window::GetEvents(znIBrowserWindowPart* part, std::vector<znIBrowserEvent*>& events) {
     events.clear();
@@ -140,8 +138,7 @@ bool Window::GetOperations(znIBrowserWindowPart* part, std::vector<znString>& op
     return true;
 }
 
-// ---- Find requests, columns
-// ---------------------------------------------------------------------------------
+// ---- Find requests, columns ----
 
 void Window::GetFindRequests(std::vector<znIBrowserFindRequest*>& requests) {
     requests.clear();

@@ -11,8 +11,7 @@
 
 namespace znhost {
 
-// ---- Expanding
-// ----------------------------------------------------------------------------------------------
+// ---- Expanding ----
 
 bool Window::RequestExpand(unsigned int index) {
     if (Refused("znIBrowserWindowAccess::RequestExpand", index)) return false;
@@ -64,8 +63,7 @@ bool Window::SetStatePos(int position) {
     return true;
 }
 
-// ---- Selecting
-// ----------------------------------------------------------------------------------------------
+// ---- Selecting ----
 
 bool Window::SelectionAdded(const std::vector<unsigned int>& indices) {
     if (Refused("znIBrowserWindowAccess::SelectionAdded", indices)) return false;
@@ -123,8 +121,7 @@ bool Window::SetMultipleSelection() {
     return true;
 }
 
-// ---- Clicks
-// -------------------------------------------------------------------------------------------------
+// ---- Clicks ----
 
 Column* Window::FindColumn(const char* name) const {
     return view_ ? view_->Columns().Find(TextOf(name)) : nullptr;
@@ -234,8 +231,7 @@ bool Window::PerformPopupOperation(const char* first, const char* second) {
            Fail("There is no view operation \"" + TextOf(first) + "\"");
 }
 
-// ---- Dropping
-// -----------------------------------------------------------------------------------------------
+// ---- Dropping ----
 
 bool Window::SetDropItem(unsigned int target, const std::vector<unsigned int>& indices) {
     if (Refused("znIBrowserWindowAccess::SetDropItem", target, indices)) return false;

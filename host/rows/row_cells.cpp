@@ -36,8 +36,7 @@ std::vector<ItemCells> RowCells::Read(const RowContent& block, const std::vector
     return items;
 }
 
-// ---- What is looked up
-// --------------------------------------------------------------------------------------
+// ---- What is looked up ----
 
 std::shared_ptr<const RowCells::Layout> RowCells::LayoutOf(const RowContent& block) {
     std::shared_ptr<const Layout>& known = layouts_[{block.folder.get(), block.source}];
@@ -88,8 +87,7 @@ RowCells::Element RowCells::MakeElement(ViewProperty& property, const StyleEleme
     return made;
 }
 
-// ---- What is read
-// -------------------------------------------------------------------------------------------
+// ---- What is read ----
 
 RowCell RowCells::ReadCell(const ColumnLayout& column, const Item& item) {
     RowCell cell;

@@ -34,8 +34,7 @@ struct RowModel::Listed {
     }
 };
 
-// ---- Filling
-// ------------------------------------------------------------------------------------------------
+// ---- Filling ----
 
 bool RowModel::GoesOn() const {
     if (!view_) return true;
@@ -102,8 +101,7 @@ void RowModel::ExpandAsCreated(RowNode& node, int depth, std::vector<std::pair<R
     }
 }
 
-// ---- Expanding
-// ----------------------------------------------------------------------------------------------
+// ---- Expanding ----
 
 bool RowModel::ExpandRow(const Row& row) {
     if (!row || !(row.IsExpanded() || HasRows(row))) return false;
@@ -309,8 +307,7 @@ bool RowModel::Reveal(const std::vector<RowStep>& path) {
     return true;
 }
 
-// ---- Taking over changes of the view
-// ------------------------------------------------------------------------
+// ---- Taking over changes of the view ----
 
 /// Everything that is expanded is planned anew. What is still there keeps its indices and what lies below it.
 void RowModel::Refresh() {

@@ -73,8 +73,7 @@ bool RowFinder::IsUpToDate(const std::vector<FindCriterion>& criteria) const {
     return error_.empty() && revision_ == model_.Revision() && criteria == criteria_;
 }
 
-// ---- What matches
-// -------------------------------------------------------------------------------------------
+// ---- What matches ----
 
 bool RowFinder::Prepare(const View& view) {
     if (criteria_.empty()) error_ = "There is nothing to look for";
@@ -114,8 +113,7 @@ std::shared_ptr<const RowFilter> RowFinder::FilterFor(const RowContent& block) {
     return filter;
 }
 
-// ---- The walk
-// -----------------------------------------------------------------------------------------------
+// ---- The walk ----
 
 void RowFinder::Walk() {
     frames_.push_back({});
@@ -178,8 +176,7 @@ void RowFinder::WalkRow(Frame& frame) {
     frames_.push_back(std::move(below));
 }
 
-// ---- The hits
-// -----------------------------------------------------------------------------------------------
+// ---- The hits ----
 
 znBrowserDataItem RowFinder::Item(std::size_t hit) const {
     const Entry& entry = entries_[hits_[hit]];

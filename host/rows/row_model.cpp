@@ -16,8 +16,7 @@ RowModel::RowModel(View& view)
     tree_.Root().content.folder = view.RootFolder().shared_from_this();
 }
 
-// ---- Changes
-// ------------------------------------------------------------------------------------------------
+// ---- Changes ----
 
 void RowModel::OnViewChanged(unsigned changes) {
     pending_ |= changes;
@@ -95,8 +94,7 @@ void RowModel::RemoveObserver(const RowObserver& observer) {
     observers_.erase(std::remove(observers_.begin(), observers_.end(), &observer), observers_.end());
 }
 
-// ---- Questions
-// ----------------------------------------------------------------------------------------------
+// ---- Questions ----
 
 std::int64_t RowModel::Count() {
     const Answering answering(*this);
@@ -176,8 +174,7 @@ ViewProperty* RowModel::PropertyOf(std::uint32_t index, const Column& column, co
     return row.IsItem() ? cells_.PropertyOf(row.Content(), column, element) : nullptr;
 }
 
-// ---- How a row looks
-// ----------------------------------------------------------------------------------------
+// ---- How a row looks ----
 
 bool RowModel::HasRows(const Row& row) const {
     return row.IsItem() ? plan_.HasRows(row.Content(), row.Number()) : plan_.HasRows(row.Content());

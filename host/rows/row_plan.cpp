@@ -36,8 +36,7 @@ bool RowScope::HasLinksBelow(const RowSource* source) const {
                        [source](const RowLink& link) { return link.parent == source; });
 }
 
-// ---- What stands where
-// --------------------------------------------------------------------------------------
+// ---- What stands where ----
 
 std::vector<RowContent> RowPlan::Below(const RowContent& container) const {
     if (container.kind == RowKind::Folder) return InFolder(container);
@@ -134,8 +133,7 @@ bool RowPlan::IsShown(RowSource* source) const { return view_.IsShown(source->Ge
 /// Who filters wants to see what is left, not where nothing is.
 bool RowPlan::HidesEmpty(bool shows) const { return !shows || !view_.Filter().pattern.empty(); }
 
-// ---- Links and filters
-// --------------------------------------------------------------------------------------
+// ---- Links and filters ----
 
 void RowPlan::AddFolderLinks(const FreeFolder& folder, RowScope& scope) const {
     for (const FolderTreeLink& link : folder.TreeLinks()) {
@@ -212,8 +210,7 @@ void RowPlan::Filter(RowScope& scope, const std::vector<RowSource*>& tops, const
     scope.filter = known;
 }
 
-// ---- Rows
-// ---------------------------------------------------------------------------------------------------
+// ---- Rows ----
 
 std::vector<std::int64_t> RowPlan::List(const RowContent& block) const { return List(block, OrderOf(block)); }
 
@@ -273,8 +270,7 @@ std::int64_t RowPlan::Count(const RowContent& block, std::int64_t row) const {
     return count;
 }
 
-// ---- Order
-// --------------------------------------------------------------------------------------------------
+// ---- Order ----
 
 ViewProperty* RowPlan::PropertyOf(const Column& column, const Style* style) const {
     if (style) {

@@ -67,8 +67,7 @@ private:
 
 } // namespace
 
-// ---- An open window
-// ------------------------------------------------------------------------------------------
+// ---- An open window ----
 
 /// One open window. It gathers what changes, and tells the scripts when Tcl has nothing else to do.
 class TkWindows::Shown final : public RowObserver {
@@ -108,8 +107,7 @@ private:
     TkChanges changes_;
 };
 
-// ---- Loading
-// -------------------------------------------------------------------------------------------------
+// ---- Loading ----
 
 TkWindows::TkWindows(Application& application, Tcl_Command_* const* command)
     : application_(application), work_(application.Interp(), command) {}
@@ -147,8 +145,7 @@ TkWindows::~TkWindows() {
     if (!Tcl_InterpDeleted(application_.Interp())) Tcl_DeleteCommand(application_.Interp(), hostCommand);
 }
 
-// ---- Windows
-// -------------------------------------------------------------------------------------------------
+// ---- Windows ----
 
 /// Calls a procedure of the scripts, and gives its result. An error goes to the interpreter's background
 /// error handler.

@@ -15,8 +15,7 @@ namespace znhost {
 
 namespace {
 
-// ---- Values for Tcl
-// ------------------------------------------------------------------------------------------
+// ---- Values for Tcl ----
 
 Tcl_Obj* NewText(std::string_view text) {
     return Tcl_NewStringObj(text.data(), static_cast<int>(text.size()));
@@ -75,8 +74,7 @@ const char* JustifyName(Justify justify) {
     return justify == Justify::Right ? "right" : justify == Justify::Center ? "center" : "left";
 }
 
-// ---- Rows and columns
-// ----------------------------------------------------------------------------------------
+// ---- Rows and columns ----
 
 using ColumnNumbers = std::unordered_map<const Column*, int>;
 
@@ -137,8 +135,7 @@ void PutView(Tcl_Obj* dictionary, const View& view) {
     Put(dictionary, "filter", NewText(view.Filter().pattern));
 }
 
-// ---- The words
-// ---------------------------------------------------------------------------------------------
+// ---- The words ----
 
 /// A question about a window.
 struct Question {
