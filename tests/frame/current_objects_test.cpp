@@ -155,9 +155,25 @@ TEST_F(CurrentObjects, PopupMenusAreTheHosts) {
     EXPECT_EQ(manager.GetCurrentPopupMenuItemPtr(), nullptr);
 }
 
+using Family = int (Manager::*)(int, Tcl_Obj* const[]);
+
+/// What a family leaves in the interpreter for these words.
+std::string AnswerOf(Manager& manager, Family family, const char* words) {
+    Tcl_Interp* const interp = manager.GetTclInterp();
+    Tcl_ResetResult(interp);
+    Tcl_Obj* const list = Tcl_NewStringObj(words, -1);
+    Tcl_IncrRefCount(list);
+    int count = 0;
+    Tcl_Obj** objects = nullptr;
+    EXPECT_EQ(Tcl_ListObjGetElements(interp, list, &count, &objects), TCL_OK);
+    EXPECT_EQ((manager.*family)(count, objects), TCL_OK);
+    Tcl_DecrRefCount(list);
+    return Tcl_GetStringResult(interp);
+}
+
 TEST_F(CurrentObjects, FamiliesAnswerLikeTheCommand) {
     const struct {
-        int (Manager::*family)(int, Tcl_Obj* const[]);
+        Family family;
         const char* words;
     } cases[] = {
         {&Manager::ViewTclAPICommands, "znbrowsermanager view names"},
@@ -169,19 +185,11 @@ TEST_F(CurrentObjects, FamiliesAnswerLikeTheCommand) {
         {&Manager::DataReferenceTclAPICommands, "znbrowsermanager datareference"},
         {&Manager::DataReferenceTclAPICommands, "znbrowsermanager datareference nosuch"},
     };
-    for (const auto& [family, words] : cases) {
-        ASSERT_EQ(Tcl_Eval(interp, words), TCL_OK);
+    for (const auto& row : cases) {
+        ASSERT_EQ(Tcl_Eval(interp, row.words), TCL_OK);
         const std::string expected = Tcl_GetStringResult(interp);
-        Tcl_ResetResult(interp);
-        Tcl_Obj* const list = Tcl_NewStringObj(words, -1);
-        Tcl_IncrRefCount(list);
-        int count = 0;
-        Tcl_Obj** objects = nullptr;
-        ASSERT_EQ(Tcl_ListObjGetElements(interp, list, &count, &objects), TCL_OK);
-        EXPECT_EQ((manager.*family)(count, objects), TCL_OK);
-        EXPECT_EQ(Tcl_GetStringResult(interp), expected) << words;
-        EXPECT_NE(expected, "") << words;
-        Tcl_DecrRefCount(list);
+        EXPECT_NE(expected, "") << row.words;
+        EXPECT_EQ(AnswerOf(manager, row.family, row.words), expected) << row.words;
     }
 }
 
