@@ -160,7 +160,7 @@ void FindFirst(benchmark::State& state) {
     items.Expand();
     items.Eval("zn window find property add name; zn window find property current name\n"
                "zn window find property criterion current value; zn window find type next");
-    int number = 0;
+    static int number = 0; // on through all repetitions: the hits of the same text would be known
     for (auto _ : state) {
         items.Eval("zn window find property criterion value 77" + std::to_string(number++ % 10) +
                    "; zn window find perform");
