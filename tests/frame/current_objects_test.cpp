@@ -220,4 +220,73 @@ TEST_F(CurrentObjects, ServicesForTypesAndScripts) {
     EXPECT_STREQ(manager.GetBuff(), "");
 }
 
+TEST_F(CurrentObjects, OperationsThatNoWordReaches) {
+    znString text("before");
+    EXPECT_FALSE(manager.GetFreeFolderCreateExpandedItem(text));
+    EXPECT_EQ(text, "");
+    manager.SetError("pending");
+    EXPECT_FALSE(manager.GetViewOperationNames()) << "the state, as it is";
+    manager.SetOk();
+    EXPECT_TRUE(manager.GetViewOperationNames());
+
+    EXPECT_TRUE(manager.ConnectProperty("script", "told"));
+    EXPECT_FALSE(manager.GetSelectedDataItemValues("nosuch", text));
+    EXPECT_TRUE(manager.GetSelectedDataItemValues("p", text));
+
+    for (const auto& [from, disable] : {
+             std::pair<const char*, bool (*)(Manager&)>{
+                 "bool", [](Manager& to) { return to.CreateGuiMapDisabledRecord(true, "x.png"); }},
+             {"unsigned", [](Manager& to) { return to.CreateGuiMapDisabledRecord(3U, "x.png"); }},
+             {"double", [](Manager& to) { return to.CreateGuiMapDisabledRecord(1.5, "x.png"); }},
+         }) {
+        Tcl_Eval(interp, (std::string("znbrowsermanager window map type ") + from + " icon").c_str());
+        EXPECT_TRUE(disable(manager)) << from;
+    }
+
+    manager.ResetCurrentFreeFolder();
+    manager.ResetBuff();
+    EXPECT_FALSE(manager.ApplyPendingChanges());
+    EXPECT_EQ(manager.GetErrorText(), "Cannot find current freefolder");
+}
+
+TEST_F(CurrentObjects, WhatTheHostRefusesIsReported) {
+    const struct {
+        const char* refused;
+        bool (*run)(Manager&, znString&);
+        const char* message;
+    } cases[] = {
+        {"znIBrowserDataCtrl::DeleteDataOperation",
+         [](Manager& on, znString&) { return on.DeleteDataOperation(); },
+         "dataoperation couldn't found in current data control to delete"},
+        {"znIBrowser::GetSharedDataSourcesHierarchical",
+         [](Manager& on, znString& out) { return on.GetDataSourceHierarchicalSharedNames(out); },
+         "Cannot get the list of shared data sources"},
+        {"znIBrowserView::GetFilterNames", [](Manager& on, znString& out) { return on.GetFilterNames(out); },
+         "v"},
+    };
+    for (const auto& row : cases) {
+        ASSERT_EQ(Tcl_Eval(interp, (std::string("znbrowsermanager app refuse ") + row.refused).c_str()),
+                  TCL_OK)
+            << row.refused;
+        znString text;
+        EXPECT_FALSE(row.run(manager, text)) << row.refused;
+        EXPECT_NE(manager.GetErrorText().View().find(row.message), std::string_view::npos) << row.refused;
+    }
+    EXPECT_NE(manager.GetCurrentDataOperationPtr(), nullptr) << "it was not deleted";
+}
+
+TEST_F(CurrentObjects, AResultThatIsSharedStaysAsItIs) {
+    Tcl_Obj* const kept = Tcl_NewStringObj("kept", -1);
+    Tcl_IncrRefCount(kept);
+    Tcl_Obj* const words[] = {Tcl_NewStringObj("znbrowsermanager", -1), Tcl_NewStringObj("view", -1),
+                              Tcl_NewStringObj("names", -1)};
+    for (Tcl_Obj* const word : words) Tcl_IncrRefCount(word);
+    Tcl_SetObjResult(interp, kept);
+    EXPECT_EQ(manager.EvalTclCommand(3, words), TCL_OK);
+    EXPECT_STREQ(Tcl_GetStringResult(interp), "v");
+    EXPECT_STREQ(Tcl_GetString(kept), "kept");
+    for (Tcl_Obj* const word : words) Tcl_DecrRefCount(word);
+    Tcl_DecrRefCount(kept);
+}
+
 } // namespace
