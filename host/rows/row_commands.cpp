@@ -9,6 +9,16 @@
 
 namespace znhost {
 
+const char* KindName(RowKind kind) {
+    switch (kind) {
+    case RowKind::Folder: return "folder";
+    case RowKind::Tree: return "tree";
+    case RowKind::List: return "list";
+    case RowKind::Item: break;
+    }
+    return "item";
+}
+
 namespace {
 
 /// The window that the first argument names, held; null, and the error stands in the interpreter, when there
@@ -26,16 +36,6 @@ Tcl_Obj* NewText(const std::string& text) {
 
 void Put(Tcl_Obj* dictionary, const char* key, Tcl_Obj* value) {
     Tcl_DictObjPut(nullptr, dictionary, Tcl_NewStringObj(key, -1), value);
-}
-
-const char* KindName(RowKind kind) {
-    switch (kind) {
-    case RowKind::Folder: return "folder";
-    case RowKind::Tree: return "tree";
-    case RowKind::List: return "list";
-    case RowKind::Item: break;
-    }
-    return "item";
 }
 
 Tcl_Obj* NewRow(RowModel& rows, const RowLook& look) {

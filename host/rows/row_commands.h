@@ -5,6 +5,10 @@
 namespace znhost {
 
 class AppCall;
+enum class RowKind;
+
+/// "folder", "tree", "list" or "item".
+const char* KindName(RowKind kind);
 
 /// "rows WINDOW ?FIRST COUNT?": a dictionary for each row.
 int AnswerRows(AppCall& call);

@@ -4,6 +4,7 @@
 #include "model/popup_menu.h"
 #include "model/view.h"
 #include "model/window.h"
+#include "rows/row_commands.h"
 #include "tk/tk_windows.h"
 
 #include <tcl.h>
@@ -35,16 +36,6 @@ Tcl_Obj* NewIndices(const std::vector<std::uint32_t>& indices) {
     Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
     for (const std::uint32_t index : indices) Append(list, Tcl_NewWideIntObj(index));
     return list;
-}
-
-const char* KindName(RowKind kind) {
-    switch (kind) {
-    case RowKind::Folder: return "folder";
-    case RowKind::Tree: return "tree";
-    case RowKind::List: return "list";
-    case RowKind::Item: break;
-    }
-    return "item";
 }
 
 const char* KindName(CellElement::Kind kind) {
