@@ -49,47 +49,44 @@ public:
     TableReader(Database& database, Table& table) : database_(database), table_(table) {}
 
     bool ReadColumns(std::string& error) {
-        Statement columns = Ask("SELECT name, type, \"notnull\", pk FROM pragma_table_xinfo(?, 'main') WHERE "
-                                "hidden <> 1 ORDER BY cid");
+        Statement columns = Ask("table_xinfo", table_.name);
         while (columns.Next()) {
+            if (columns.Integer(6) == 1) continue; // hidden: an argument of a virtual table
             TableColumn& column = table_.columns.emplace_back();
-            column.name = columns.Text(0);
-            column.declaredType = columns.Text(1);
+            column.name = columns.Text(1);
+            column.declaredType = columns.Text(2);
             column.type = TypeOfDeclaration(column.declaredType);
             column.text = IsTextDeclaration(column.declaredType);
             column.numeric = IsNumericDeclaration(column.declaredType);
-            column.notNull = columns.Integer(2) != 0;
-            column.primaryKey = static_cast<int>(columns.Integer(3));
+            column.notNull = columns.Integer(3) != 0;
+            column.primaryKey = static_cast<int>(columns.Integer(5));
         }
         return columns.Finish(error);
     }
 
-    /// Marks what an index leads with. A partial index does not hold all rows and an expression is no column.
+    /// Marks what an index leads with. A partial index does not hold all rows.
     bool ReadIndexes(std::string& error) {
-        Statement indexes = Ask("SELECT info.name, list.origin FROM pragma_index_list(?, 'main') AS list, "
-                                "pragma_index_info(list.name, 'main') AS info "
-                                "WHERE info.seqno = 0 AND info.cid >= 0 AND list.partial = 0");
+        Statement indexes = Ask("index_list", table_.name);
         while (indexes.Next()) {
-            keyHasIndex_ = keyHasIndex_ || indexes.Text(1) == "pk";
-            if (const auto column = table_.FindColumn(indexes.Text(0)))
-                table_.columns[*column].indexed = true;
+            if (indexes.Integer(4) != 0) continue; // partial
+            keyHasIndex_ = keyHasIndex_ || indexes.Text(3) == "pk";
+            if (!ReadIndex(indexes.Text(1), error)) return false;
         }
         return indexes.Finish(error);
     }
 
     /// Targets without columns stay so for now: they mean the primary key of a table perhaps not yet read.
     bool ReadForeignKeys(std::string& error) {
-        Statement keys =
-            Ask("SELECT seq, \"table\", \"from\", \"to\" FROM pragma_foreign_key_list(?, 'main') "
-                "ORDER BY id DESC, seq"); // the last declared has the id 0
+        Statement keys = Ask("foreign_key_list", table_.name);
         while (keys.Next()) {
-            if (keys.Integer(0) == 0) {
+            if (keys.Integer(1) == 0) {
                 table_.foreignKeys.emplace_back();
-                table_.foreignKeys.back().table = keys.Text(1);
+                table_.foreignKeys.back().table = keys.Text(2);
             }
-            table_.foreignKeys.back().from.emplace_back(keys.Text(2));
-            if (!keys.IsNull(3)) table_.foreignKeys.back().to.emplace_back(keys.Text(3));
+            table_.foreignKeys.back().from.emplace_back(keys.Text(3));
+            if (!keys.IsNull(4)) table_.foreignKeys.back().to.emplace_back(keys.Text(4));
         }
+        std::reverse(table_.foreignKeys.begin(), table_.foreignKeys.end()); // the last declared came first
         return keys.Finish(error);
     }
 
@@ -129,10 +126,17 @@ public:
     }
 
 private:
-    Statement Ask(std::string_view sql) {
-        Statement statement = database_.Prepare(sql);
-        statement.Bind(1, table_.name);
-        return statement;
+    /// The pragmas themselves, not the functions of the same names, which take the time of another query
+    /// each.
+    Statement Ask(std::string_view pragma, std::string_view name) {
+        return database_.Prepare("PRAGMA main." + std::string(pragma) + "(" + Database::Quoted(name) + ")");
+    }
+    bool ReadIndex(std::string_view name, std::string& error) {
+        Statement parts = Ask("index_info", name);
+        if (parts.Next() && parts.Integer(1) >= 0) { // an expression is no column
+            if (const auto column = table_.FindColumn(parts.Text(2))) table_.columns[*column].indexed = true;
+        }
+        return parts.Finish(error);
     }
 
     Database& database_;
@@ -234,16 +238,17 @@ bool Schema::Read(std::vector<TablePtr>& tables, std::string& error) {
     hold.Next();
     if (!hold.Finish(error)) return false;
     std::vector<std::shared_ptr<Table>> found;
-    Statement list = database_.Prepare("SELECT name, type, wr FROM pragma_table_list WHERE schema = 'main' "
-                                       "AND type IN ('table', 'view', 'virtual') ORDER BY name");
+    Statement list = database_.Prepare("PRAGMA main.table_list");
     while (list.Next()) {
-        if (IsInternal(list.Text(0))) continue;
+        const std::string_view type = list.Text(2);
+        if ((type != "table" && type != "view" && type != "virtual") || IsInternal(list.Text(1))) continue;
         Table& table = *found.emplace_back(std::make_shared<Table>());
-        table.name = list.Text(0);
-        table.view = list.Text(1) == "view";
-        table.copied = list.Text(1) != "table" || list.Integer(2) != 0;
+        table.view = type == "view";
+        table.copied = type != "table" || list.Integer(4) != 0;
+        table.name = list.Text(1);
     }
     if (!list.Finish(error)) return false;
+    std::sort(found.begin(), found.end(), [](const auto& a, const auto& b) { return a->name < b->name; });
     TablesByName byName;
     for (const auto& table : found) {
         table->problem = ReadTable(database_, *table);
