@@ -20,7 +20,7 @@ public:
 
     Tcl_Interp* Interp() const { return interp_; }
     znhost::EmbeddedHost& Host() { return *host_; }
-    /// Runs what is due in the event loop.
+    /// Runs what scripts left to be done when nothing else is: errors in the background, say.
     void RunDue();
 
 private:
