@@ -16,7 +16,14 @@ View::View(Browser& browser, std::string name, bool newConnections)
 }
 
 View::~View() {
-    TellObservers([](ViewObserver& observer) { observer.OnViewDeleted(); });
+    while (!observers_.empty()) {
+        ViewObserver& observer = *observers_.back();
+        observers_.pop_back();
+        try {
+            observer.OnViewDeleted();
+        } catch (const std::bad_alloc&) { // it has let go of the view, and shows that late
+        }
+    }
     for (const auto& operation : operations_) operation->Detach();
     for (const auto& property : properties_) property->Detach();
 }

@@ -45,11 +45,11 @@ bool WindowPart::Holds(const WindowPart& part) const {
 void WindowPart::MoveBelow(WindowPart* parent) {
     Parts& from = Siblings();
     Parts& to = parent ? parent->children_ : window_.Parts();
+    to.emplace_back(); // what may fail comes first
     const auto self = from.begin() + Position();
-    std::unique_ptr<WindowPart> moved = std::move(*self);
+    to.back() = std::move(*self);
     from.erase(self);
     parent_ = parent;
-    to.push_back(std::move(moved));
 }
 
 bool WindowPart::MoveTo(int position) {

@@ -25,8 +25,7 @@ public:
     };
 
     /// @param number  unlike those of the window's other parts; the frame is named after it, as any user's
-    /// text
-    ///                would not do in a Tk path.
+    ///                text would not do in a Tk path
     WindowPart(Window& window, WindowPart* parent, std::string name, unsigned number);
     ~WindowPart() override;
 

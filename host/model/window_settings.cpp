@@ -21,7 +21,12 @@ public:
     explicit HeldBack(Browser& browser) : browser_(browser), flush_(!browser.HoldsBack()) {
         browser_.SetFlushFlag(false);
     }
-    ~HeldBack() { browser_.SetFlushFlag(flush_); }
+    ~HeldBack() {
+        try {
+            browser_.SetFlushFlag(flush_);
+        } catch (const std::bad_alloc&) { // the flag is set; windows that heard nothing hear of the next change
+        }
+    }
     HeldBack(const HeldBack&) = delete;
     HeldBack& operator=(const HeldBack&) = delete;
 

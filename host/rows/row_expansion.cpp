@@ -338,26 +338,34 @@ void RowModel::RefreshNode(RowNode& node) {
     if (!ListBelow(node, all)) return;
     std::unordered_multimap<const void*, TreePart*> old;
     for (TreePart& part : node.parts) old.emplace(KeyOf(ContentOf(part)), &part);
-    std::vector<TreePart> parts;
-    for (Listed& listed : all) {
-        const auto range = old.equal_range(KeyOf(listed.content));
-        const auto known = std::find_if(range.first, range.second, [&listed](const auto& entry) {
-            return ContentOf(*entry.second).IsSame(listed.content);
+    std::vector<TreePart> parts(all.size());
+    std::vector<TreePart*> stay(all.size());
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const auto range = old.equal_range(KeyOf(all[i].content));
+        const auto known = std::find_if(range.first, range.second, [&](const auto& entry) {
+            return ContentOf(*entry.second).IsSame(all[i].content);
         });
         if (known == range.second) {
-            parts.push_back(std::move(listed).MakePart());
+            parts[i] = std::move(all[i]).MakePart();
             continue;
         }
-        parts.push_back(std::move(*known->second));
+        stay[i] = known->second;
         old.erase(known);
-        if (RowBlock* const block = parts.back().block.get()) {
-            block->content = std::move(listed.content);
-            tree_.SetRows(*block, std::move(listed.rows));
-        } else {
-            parts.back().node->content = std::move(listed.content);
-        }
+        Update(*stay[i], std::move(all[i]));
+    }
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        if (stay[i]) parts[i] = std::move(*stay[i]);
     }
     tree_.SetParts(node, std::move(parts));
+}
+
+void RowModel::Update(const TreePart& part, Listed&& now) {
+    if (part.block) {
+        part.block->content = std::move(now.content);
+        tree_.SetRows(*part.block, std::move(now.rows));
+    } else {
+        part.node->content = std::move(now.content);
+    }
 }
 
 } // namespace znhost

@@ -39,27 +39,46 @@ void RowModel::OnFolderDeleted(FreeFolder&) { OnViewChanged(VIEW_ROWS); }
 void RowModel::OnViewDeleted() {
     stopped_ = true;
     view_ = nullptr;
-    if (!answering_) TakeOver();
+    if (!answering_) LetGo();
     Tell(RowChange::AllFilled);
 }
 
 RowModel::Answering::Answering(RowModel& model) : model_(model), quiet_(model.log_) {
     if (model_.answering_++) return;
-    model_.TakeOver();
+    try {
+        model_.TakeOver();
+    } catch (...) {
+        model_.pending_ |= VIEW_ROWS;
+        model_.EndAnswer();
+        throw;
+    }
 }
 
-RowModel::Answering::~Answering() {
-    if (--model_.answering_) return;
-    if (!model_.view_) model_.TakeOver();
-    model_.Deliver();
+RowModel::Answering::~Answering() { model_.EndAnswer(); }
+
+void RowModel::EndAnswer() noexcept {
+    if (--answering_) return;
+    if (tree_.IsBroken()) {
+        tree_.Clear();
+        selectedContainers_.clear();
+        pending_ |= VIEW_ROWS;
+    }
+    if (!view_) LetGo();
+    Deliver();
+}
+
+/// Of the rows of a view that is gone.
+void RowModel::LetGo() noexcept {
+    cells_.Forget();
+    tree_.Clear();
+    tree_.Root().content.folder.reset();
 }
 
 void RowModel::TakeOver() {
     stopped_ = false;
     cells_.Forget();
     if (!view_) {
-        if (tree_.Root().expanded) tree_.Collapse(tree_.Root());
-        tree_.Root().content.folder.reset();
+        LetGo();
         return;
     }
     const unsigned changes = std::exchange(pending_, 0U);
@@ -76,18 +95,26 @@ void RowModel::Tell(RowChange::Kind kind, std::uint32_t index) {
     Deliver();
 }
 
-void RowModel::Deliver() {
+void RowModel::Deliver() noexcept {
     if (answering_ || delivering_) return;
     delivering_ = true;
-    while (!changes_.empty()) {
-        const std::vector<RowChange> changes = std::exchange(changes_, {});
-        const std::vector<RowObserver*> observers = observers_;
-        for (RowObserver* const observer : observers) {
-            const bool stays = std::find(observers_.begin(), observers_.end(), observer) != observers_.end();
-            if (stays) observer->OnRowsChanged(changes);
+    std::vector<RowChange> changes;
+    try {
+        while (!changes_.empty()) {
+            changes = std::exchange(changes_, {});
+            DeliverTo(observers_, changes);
         }
+    } catch (const std::bad_alloc&) { // told again with the next change
+        if (changes_.empty()) changes_.swap(changes);
     }
     delivering_ = false;
+}
+
+void RowModel::DeliverTo(std::vector<RowObserver*> observers, const std::vector<RowChange>& changes) {
+    for (RowObserver* const observer : observers) {
+        const bool stays = std::find(observers_.begin(), observers_.end(), observer) != observers_.end();
+        if (stays) observer->OnRowsChanged(changes);
+    }
 }
 
 void RowModel::RemoveObserver(const RowObserver& observer) {

@@ -59,7 +59,8 @@ struct KeptRow {
 ///
 /// Values may come from scripts, and a script may delete anything. So while a question is being answered
 /// nothing is taken apart: what goes meanwhile is let go of at the end, and the work in hand is given up. A
-/// script may ask for the rows itself; while they are being listed there are none.
+/// script may ask for the rows itself; while they are being listed there are none. When memory runs out in
+/// the middle of a change the rows are collapsed, and made anew with the next question.
 class RowModel {
 public:
     explicit RowModel(View& view);
@@ -182,10 +183,13 @@ private:
     };
 
     bool GoesOn() const;
+    void EndAnswer() noexcept;
+    void LetGo() noexcept;
     void TakeOver();
-    void Deliver();
+    void Deliver() noexcept;
+    void DeliverTo(std::vector<RowObserver*> observers, const std::vector<RowChange>& changes);
     /// Whether the rows can be looked at: they are all there, and so is what they show.
-    bool IsReady() const { return view_ && !stopped_ && !tree_.IsChanging(); }
+    bool IsReady() const { return view_ && !stopped_ && !tree_.IsChanging() && !tree_.IsBroken(); }
     /// No row when the index is unknown.
     Row Find(std::uint32_t index) const { return IsReady() ? tree_.Find(index) : Row(); }
     std::vector<RowLook> LooksOf(const std::vector<Row>& rows);
@@ -205,6 +209,7 @@ private:
     void ExpandBelow(RowNode& top);
     void Refresh();
     void RefreshNode(RowNode& node);
+    void Update(const TreePart& part, Listed&& now);
     struct WantedRows;
     using OpenRows = std::vector<std::pair<RowNode*, std::size_t>>;
     void ExpandExactly(RowNode& node, WantedRows& wanted, OpenRows& open);

@@ -136,15 +136,13 @@ Row RowTree::RowOf(RowNode& node) {
 RowNode& RowTree::NodeOf(const Row& item) {
     if (item.node) return *item.node;
     RowBlock& block = *item.block;
-    const std::uint32_t slot = block.SlotAt(item.position);
-    std::unique_ptr<RowNode>& child = block.children[slot];
-    child = std::make_unique<RowNode>();
+    auto child = std::make_unique<RowNode>();
     child->block = &block;
     child->parent = block.owner;
-    child->place = slot;
+    child->place = block.SlotAt(item.position);
     child->level = block.owner->level + 1;
     if (block.sums.Empty()) block.sums.AssignOnes(block.rows.size());
-    return *child;
+    return *block.children.emplace(child->place, std::move(child)).first->second;
 }
 
 TreePart RowTree::MakeNode(RowContent content) {
@@ -165,18 +163,19 @@ TreePart RowTree::MakeBlock(RowContent content, std::vector<std::int64_t> rows) 
 void RowTree::SetParts(RowNode& node, std::vector<TreePart> parts) {
     ReleaseParts(node);
     node.expanded = true;
+    const auto isEmpty = [](const TreePart& part) { return !part.node && part.block->rows.empty(); };
     for (TreePart& part : parts) {
-        if (!part.node && part.block->rows.empty()) continue;
-        node.parts.push_back(std::move(part));
-        Attach(node, node.parts.back());
+        if (isEmpty(part)) ReleaseIndices(part);
     }
-    Release(std::move(parts));
+    parts.erase(std::remove_if(parts.begin(), parts.end(), isEmpty), parts.end());
+    node.parts = std::move(parts);
+    for (std::uint32_t place = 0; place < node.parts.size(); ++place) Attach(node, place);
     if (!uncounted_) Grow(&node, MakeSums(node) - node.visible);
 }
 
-/// Makes a part, old or new, the last one of the container.
-void RowTree::Attach(RowNode& node, TreePart& part) {
-    const auto place = static_cast<std::uint32_t>(node.parts.size() - 1);
+/// Makes itself at home in the container: the part at that place, old or new.
+void RowTree::Attach(RowNode& node, std::uint32_t place) {
+    const TreePart& part = node.parts[place];
     if (part.node) {
         part.node->parent = &node;
         part.node->place = place;
@@ -199,7 +198,7 @@ bool RowTree::TakeIndices(RowBlock& block, std::uint32_t firstSlot, std::uint32_
     return first != 0;
 }
 
-void RowTree::Collapse(RowNode& node) {
+void RowTree::Collapse(RowNode& node) noexcept {
     ReleaseParts(node);
     node.sums.Clear();
     node.expanded = false;
@@ -208,23 +207,48 @@ void RowTree::Collapse(RowNode& node) {
     if (node.block) node.block->children.erase(node.place);
 }
 
-/// Takes parts apart and gives their indices back. Not by recursion: there is no limit to the depth.
-void RowTree::Release(std::vector<TreePart> parts) {
-    const auto takeBelow = [&parts](RowNode& node) {
-        std::move(node.parts.begin(), node.parts.end(), std::back_inserter(parts));
-        node.parts.clear();
-    };
-    while (!parts.empty()) {
-        const TreePart part = std::move(parts.back());
-        parts.pop_back();
-        if (part.node) {
-            indices_.Release(part.node->index);
-            takeBelow(*part.node);
-        } else if (part.block) {
-            for (const RowBlock::Range& range : part.block->ranges) indices_.Release(range.firstIndex);
-            for (const auto& child : part.block->children) takeBelow(*child.second);
+/// Takes parts apart, from the bottom up, and gives their indices back. It needs no memory, so that rows can
+/// go when there is none left, and is no recursion: there is no limit to the depth.
+void RowTree::Release(std::vector<TreePart> parts) noexcept {
+    RowNode top;
+    top.parts = std::move(parts);
+    for (RowNode* node = &top; node != &top || !node->parts.empty();) {
+        if (node->parts.empty()) {
+            node = node->parent;
+            continue;
         }
+        const TreePart& last = node->parts.back();
+        RowNode* below = last.node.get();
+        if (last.block && !last.block->children.empty()) {
+            below = last.block->children.begin()->second.get();
+            if (below->parts.empty()) {
+                last.block->children.erase(last.block->children.begin());
+                continue;
+            }
+        }
+        if (below && !below->parts.empty()) {
+            below->parent = node;
+            node = below;
+            continue;
+        }
+        ReleaseIndices(last);
+        node->parts.pop_back();
     }
+}
+
+void RowTree::ReleaseIndices(const TreePart& part) noexcept {
+    if (part.node) indices_.Release(part.node->index);
+    if (!part.block) return;
+    for (const RowBlock::Range& range : part.block->ranges) indices_.Release(range.firstIndex);
+}
+
+void RowTree::Clear() noexcept {
+    ReleaseParts(root_);
+    indices_.ReleaseAll();
+    root_.sums.Clear();
+    root_.visible = 0;
+    root_.expanded = false;
+    broken_ = false;
 }
 
 void RowTree::SetRows(RowBlock& block, std::vector<std::int64_t> rows) {
@@ -310,20 +334,30 @@ std::vector<RowNode*> RowTree::Expanded(RowNode& node) {
     return found;
 }
 
-RowTree::ManyChanges::~ManyChanges() {
-    tree_.uncounted_ = outer_;
-    if (outer_) return;
-    const std::int64_t before = top_.visible;
-    const std::vector<RowNode*> nodes = Expanded(top_);
+/// Sums up anew what was changed at and below a container.
+void RowTree::Count(RowNode& top) {
+    const std::int64_t before = top.visible;
+    const std::vector<RowNode*> nodes = Expanded(top);
     for (auto node = nodes.rbegin(); node != nodes.rend(); ++node) {
         for (const TreePart& part : (*node)->parts) {
             if (part.block) MakeSums(*part.block);
         }
         (*node)->visible = MakeSums(**node);
     }
-    const std::int64_t delta = top_.visible - before;
-    top_.visible = before;
-    tree_.Grow(&top_, delta);
+    const std::int64_t delta = top.visible - before;
+    top.visible = before;
+    Grow(&top, delta);
+}
+
+RowTree::ManyChanges::~ManyChanges() {
+    tree_.uncounted_ = outer_;
+    if (outer_) return;
+    tree_.broken_ = std::uncaught_exceptions() > exceptions_;
+    try {
+        if (!tree_.broken_) tree_.Count(top_);
+    } catch (const std::bad_alloc&) {
+        tree_.broken_ = true;
+    }
 }
 
 } // namespace znhost

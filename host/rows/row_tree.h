@@ -7,6 +7,7 @@
 #include "store/row_source.h"
 
 #include <cstdint>
+#include <exception>
 #include <memory>
 #include <unordered_map>
 #include <utility>
@@ -149,15 +150,17 @@ public:
     /// `parts`; blocks without rows are left out.
     void SetParts(RowNode& node, std::vector<TreePart> parts);
     /// Collapses: nothing is left below. An item's node is gone then.
-    void Collapse(RowNode& node);
+    void Collapse(RowNode& node) noexcept;
     /// Replaces the rows of a block: those that stay keep their Tk indices and what lies below them.
     void SetRows(RowBlock& block, std::vector<std::int64_t> rows);
 
     /// While one lives, changes at or below a container are not counted; that is done once, at the end.
-    /// Positions are of no use meanwhile. Of several, one inside the other, the outermost counts.
+    /// Positions are of no use meanwhile. Of several, one inside the other, the outermost counts. An
+    /// exception that passes leaves the tree half changed: then it `IsBroken`.
     class ManyChanges {
     public:
-        ManyChanges(RowTree& tree, RowNode& top) : tree_(tree), top_(top), outer_(tree.uncounted_) {
+        ManyChanges(RowTree& tree, RowNode& top)
+            : tree_(tree), top_(top), outer_(tree.uncounted_), exceptions_(std::uncaught_exceptions()) {
             tree.uncounted_ = true;
         }
         ~ManyChanges();
@@ -168,27 +171,35 @@ public:
         RowTree& tree_;
         RowNode& top_;
         bool outer_;
+        int exceptions_;
     };
 
     /// The containers at and below this one that are expanded, each before those below it.
     static std::vector<RowNode*> Expanded(RowNode& node);
     /// Whether changes are being made that are not counted yet.
     bool IsChanging() const { return uncounted_; }
+    /// Whether memory ran out in the middle of changes: `Clear` is all that helps.
+    bool IsBroken() const { return broken_; }
+    /// Nothing is left but the root, collapsed.
+    void Clear() noexcept;
 
 private:
     static Row FirstFrom(const RowNode& node, std::size_t place);
-    void Attach(RowNode& node, TreePart& part);
-    void Release(std::vector<TreePart> parts);
-    void ReleaseParts(RowNode& node) { Release(std::exchange(node.parts, {})); }
+    void Attach(RowNode& node, std::uint32_t place);
+    void Release(std::vector<TreePart> parts) noexcept;
+    void ReleaseIndices(const TreePart& part) noexcept;
+    void ReleaseParts(RowNode& node) noexcept { Release(std::exchange(node.parts, {})); }
     bool TakeIndices(RowBlock& block, std::uint32_t firstSlot, std::uint32_t count);
     static void MakeSums(RowBlock& block);
     static std::int64_t MakeSums(RowNode& node);
-    void Grow(RowNode* node, std::int64_t delta);
+    void Count(RowNode& top);
+    static void Grow(RowNode* node, std::int64_t delta);
     void GrowOwner(RowBlock& block, std::int64_t delta);
 
     TkIndices indices_;
     RowNode root_;
     bool uncounted_ = false;
+    bool broken_ = false;
 };
 
 } // namespace znhost

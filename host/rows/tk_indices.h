@@ -27,6 +27,8 @@ public:
     std::uint32_t Take(std::uint32_t count, const Owner& owner);
     /// Gives back what `Take` returned; 0 is allowed.
     void Release(std::uint32_t first) { ranges_.erase(first); }
+    /// Takes all back.
+    void ReleaseAll() noexcept { ranges_.clear(); }
     Owner Find(std::uint32_t index) const;
 
 private:

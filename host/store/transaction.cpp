@@ -1,5 +1,7 @@
 #include "store/transaction.h"
 
+#include <sqlite3.h>
+
 namespace znhost {
 
 bool Transaction::Begin(std::string& error, Purpose purpose) {
@@ -18,12 +20,9 @@ bool Transaction::Commit(std::string& error) {
 Transaction::~Transaction() {
     if (!open_) return;
     database_.NoteRollback();
-    std::string ignored; // SQLite may have rolled back by itself already
-    if (!savepoint_) {
-        database_.Execute("ROLLBACK", ignored);
-    } else if (database_.Execute("ROLLBACK TO znbrowser", ignored)) {
-        database_.Execute("RELEASE znbrowser", ignored);
-    }
+    // SQLite may have rolled back by itself already. It is asked directly: this must do without memory of ours.
+    const char* const undo = savepoint_ ? "ROLLBACK TO znbrowser; RELEASE znbrowser" : "ROLLBACK";
+    sqlite3_exec(database_.Handle(), undo, nullptr, nullptr, nullptr);
 }
 
 } // namespace znhost

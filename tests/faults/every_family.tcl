@@ -145,6 +145,18 @@ set sections {
         {view dataitemlist hierarchical select} {view selection single} {view selection multiple}
         {view selection clear} {selection clear} {window collapseall} {app draw win}
     }
+    rows {
+        {window create win} {view folder current v} {view list add note true} {window expandall} {app rows win}
+        {app sql m {INSERT INTO unit VALUES (4, 1, 'd', 0), (5, 4, 'b', 1)}} {app rows win} {window expandall}
+        {app sql m {DELETE FROM unit WHERE id = 2}} {app draw win} {view filter string current b} {app rows win}
+        {view filter string current {}} {app rows win} {view sort enabled} {view column sort byname title}
+        {view sort descending} {app rows win} {window find property add title} {window find property current title}
+        {window find property criterion current d} {window find property criterion type equalto} {window find perform}
+        {view list group true} {app rows win} {view folder current f} {view tree current h} {view tree group true}
+        {window expandall} {OnTkTreeRequestSelect win 3 5} {window collapseselected} {window expandselected}
+        {OnTkTreeRequestCollapseAll win} {app state create m st} {window expandall} {state current st} {state save}
+        {window collapseall} {state restore} {app rows win} {view tree delete h} {app rows win}
+    }
     states {
         {window create win} {window part create part} {window listener connect told}
         {app state create m st} {state names} {state current st} {state save} {state data} {state restore}

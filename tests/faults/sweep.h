@@ -64,14 +64,23 @@ public:
     void Open() { script_.Eval("run $opening"); }
     void Run(const std::string& section) { script_.Eval("run [dict get $sections " + section + "]"); }
 
-    /// No current object is dead, and the next command is answered.
+    /// No current object is dead, the rows of each window stand where they say, and the next command is
+    /// answered.
     void Check() {
         EXPECT_EQ(DeadCurrents(*host_), "");
+        for (const auto& window : host_->App().Model().Windows().All()) CheckRows(window->Rows());
         EXPECT_EQ(script_.Eval("znbrowsermanager view create afterwards; znbrowsermanager view current"),
                   "afterwards");
     }
 
 private:
+    static void CheckRows(znhost::RowModel& rows) {
+        const std::vector<std::uint32_t> indices = rows.IndicesFrom(0, 1000);
+        EXPECT_EQ(static_cast<std::int64_t>(indices.size()), rows.Count());
+        for (std::size_t i = 0; i < indices.size(); ++i)
+            EXPECT_EQ(rows.PositionOf(indices[i]), static_cast<std::int64_t>(i));
+    }
+
     SweepScript& script_;
     std::unique_ptr<znhost::EmbeddedHost> host_;
 };
