@@ -1,6 +1,6 @@
 // The names of the operations of the host interfaces, sorted. Two are left out, since nobody wants to see or
-// refuse them: the one that gives the interpreter, which every command asks for several times, and the one that
-// serves the "app" words themselves. A test compares the rest with the headers.
+// refuse them: the one that gives the interpreter, which every command asks for several times, and the one
+// that serves the "app" words themselves. A test compares the rest with the headers.
 #include "model/host_call.h"
 
 #include <algorithm>

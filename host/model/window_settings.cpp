@@ -24,7 +24,8 @@ public:
     ~HeldBack() {
         try {
             browser_.SetFlushFlag(flush_);
-        } catch (const std::bad_alloc&) { // the flag is set; windows that heard nothing hear of the next change
+        } catch (const std::bad_alloc&) {
+            // The flag is set; windows that heard nothing hear of the next change.
         }
     }
     HeldBack(const HeldBack&) = delete;

@@ -20,7 +20,7 @@ bool Transaction::Commit(std::string& error) {
 Transaction::~Transaction() {
     if (!open_) return;
     database_.NoteRollback();
-    // SQLite may have rolled back by itself already. It is asked directly: this must do without memory of ours.
+    // SQLite may have rolled back by itself already. It is asked directly, which needs no memory of ours.
     const char* const undo = savepoint_ ? "ROLLBACK TO znbrowser; RELEASE znbrowser" : "ROLLBACK";
     sqlite3_exec(database_.Handle(), undo, nullptr, nullptr, nullptr);
 }

@@ -2,8 +2,8 @@
 #ifndef DELETION_H
 #define DELETION_H
 
-/// Runs `deletion`, and after it `forget`, unless the host refused it. A host that throws may have deleted all
-/// the same: no current object is safer than a dead one.
+/// Runs `deletion`, and after it `forget`, unless the host refused it. A host that throws may have deleted
+/// all the same: no current object is safer than a dead one.
 /// @return what `deletion` answers
 template <class Deletion, class Forget>
 bool DeleteAndForget(Deletion deletion, Forget forget) {
