@@ -249,6 +249,37 @@ TEST_F(CurrentObjects, OperationsThatNoWordReaches) {
     EXPECT_EQ(manager.GetErrorText(), "Cannot find current freefolder");
 }
 
+TEST_F(CurrentObjects, APartThatGoesTakesOnlyWhatLiesInItAlong) {
+    EXPECT_TRUE(manager.CreateWindowPart("inner", "x"));
+    EXPECT_TRUE(manager.CreateWindowPart("other", nullptr));
+    EXPECT_TRUE(manager.SetCurrentWindowPartByName("x"));
+    znIBrowserWindowCallback* const callback = manager.GetCurrentWindowCallbackPtr();
+    EXPECT_NE(callback, nullptr);
+    EXPECT_TRUE(manager.DeleteWindowPart("other"));
+    EXPECT_EQ(manager.GetCurrentWindowCallbackPtr(), callback);
+    EXPECT_TRUE(manager.DeleteWindowPart("x"));
+    EXPECT_EQ(manager.GetCurrentWindowCallbackPtr(), nullptr);
+    EXPECT_EQ(manager.GetCurrentWindowPartPtr(), nullptr);
+}
+
+TEST_F(CurrentObjects, ValuesOfSelectedItemsByTheNameOfAProperty) {
+    constexpr char select[] = R"(
+        foreach words {
+            {app sql m {insert into part values (1, 'a'), (2, 'b')}} {view datasource simple connect part}
+            {view property create q} {view property type string} {view property connect part name}
+            {view property create unconnected} {datasource simple current part} {view dataitem simple select}
+        } {znbrowsermanager {*}$words}
+    )";
+    EXPECT_EQ(Tcl_Eval(interp, select), TCL_OK) << Tcl_GetStringResult(interp);
+    znString text;
+    EXPECT_TRUE(manager.GetSelectedDataItemValues("q", text));
+    EXPECT_EQ(text, "\"a\" \"b\"");
+    EXPECT_TRUE(manager.GetSelectedDataItemValues("unconnected", "q", text));
+    EXPECT_EQ(text, "\"a\" \"b\"") << "those of the second where the first has none";
+    EXPECT_TRUE(manager.GetSelectedDataItemValues("unconnected", nullptr, text));
+    EXPECT_EQ(text, "");
+}
+
 TEST_F(CurrentObjects, WhatTheHostRefusesIsReported) {
     const struct {
         const char* refused;
