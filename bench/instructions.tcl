@@ -1,5 +1,5 @@
-# How many instructions a command takes, beside a command that does nothing. Unlike times, instructions are the same
-# on every machine, so that this is a test.
+# How many instructions a command takes, beside a command that does nothing. Unlike times, they do not depend on what
+# else the machine does, so that this is a test.
 #
 #     znbrowsersh instructions.tcl COMMAND_COST_PROGRAM
 set limit 3.0

@@ -10,9 +10,10 @@ if(sources AND TARGET zn_objects AND TARGET znbrowserhost)
     target_link_libraries(znbrowserbench PRIVATE ${zn_bench_libraries} benchmark::benchmark_main)
 endif()
 
-# A sanitizer or coverage would count its own instructions.
+# A sanitizer or coverage would count its own instructions, and what is not optimised is not what is shipped.
 find_program(ZN_VALGRIND valgrind)
-if(TARGET znbrowserbench AND ZN_VALGRIND AND NOT ZN_SANITIZE AND NOT ZN_COVERAGE)
+if(TARGET znbrowserbench AND ZN_VALGRIND AND CMAKE_BUILD_TYPE MATCHES "^Rel" AND NOT ZN_SANITIZE
+   AND NOT ZN_COVERAGE)
     add_executable(command_cost "${PROJECT_SOURCE_DIR}/bench/command_cost.cpp")
     target_include_directories(command_cost PRIVATE "${PROJECT_SOURCE_DIR}")
     target_link_libraries(command_cost PRIVATE ${zn_bench_libraries})

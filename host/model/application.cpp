@@ -28,6 +28,7 @@ private:
 /// A list of the words, in the form in which it stands between double quotes: nothing in it is substituted.
 std::string QuotedList(const std::vector<std::string>& words) {
     std::vector<const char*> texts;
+    texts.reserve(words.size());
     for (const std::string& word : words) texts.push_back(word.c_str());
     char* const list = Tcl_Merge(static_cast<int>(texts.size()), texts.data());
     std::string quoted;

@@ -17,12 +17,9 @@ View::View(Browser& browser, std::string name, bool newConnections)
 
 View::~View() {
     while (!observers_.empty()) {
-        ViewObserver& observer = *observers_.back();
-        observers_.pop_back();
-        try {
-            observer.OnViewDeleted();
-        } catch (const std::bad_alloc&) { // it has let go of the view, and shows that late
-        }
+        ViewObserver& observer = *observers_.front();
+        observers_.erase(observers_.begin());
+        observer.OnViewDeleted();
     }
     for (const auto& operation : operations_) operation->Detach();
     for (const auto& property : properties_) property->Detach();
@@ -66,7 +63,14 @@ void View::Changed(unsigned changes) {
 
 void View::Flush() {
     const unsigned changes = std::exchange(heldBack_, 0U);
-    if (changes) TellObservers([changes](ViewObserver& observer) { observer.OnViewChanged(changes); });
+    if (!changes) return;
+    const std::shared_ptr<View> self = weak_from_this().lock();
+    try {
+        TellObservers([changes](ViewObserver& observer) { observer.OnViewChanged(changes); });
+    } catch (...) { // who did not hear is told the next time
+        heldBack_ |= changes;
+        throw;
+    }
 }
 
 const znString& View::GetName() const {

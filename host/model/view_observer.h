@@ -32,7 +32,7 @@ public:
     virtual void OnColumnDeleted(Column& column) = 0;
     virtual void OnDataSourceDeleted(znIBrowserDataSource& source) = 0;
     /// The view goes; it needs no `RemoveObserver` any more.
-    virtual void OnViewDeleted() = 0;
+    virtual void OnViewDeleted() noexcept = 0;
 
 protected:
     ~ViewObserver() = default;

@@ -32,7 +32,7 @@ void Window::Close() {
     listeners_.clear();
 }
 
-void Window::OnViewDeleted() {
+void Window::OnViewDeleted() noexcept {
     finder_.reset();
     view_ = nullptr;
     rows_.OnViewDeleted();
@@ -142,6 +142,7 @@ void Window::FillParts() {
     };
     std::vector<Step> steps;
     const std::vector<WindowPart*> parts = AllParts();
+    steps.reserve(2 * parts.size());
     for (const WindowPart* const part : parts)
         steps.push_back({part->CreateProcedure(), part->FramePath(), false});
     for (const WindowPart* const part : parts) {

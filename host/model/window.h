@@ -71,7 +71,7 @@ public:
     void OnFolderDeleted(FreeFolder& folder) override { rows_.OnFolderDeleted(folder); }
     void OnColumnDeleted(Column&) override { rows_.OnViewChanged(VIEW_COLUMNS); }
     void OnDataSourceDeleted(znIBrowserDataSource& source) override { rows_.OnSourceDeleted(source); }
-    void OnViewDeleted() override;
+    void OnViewDeleted() noexcept override;
 
     znIBrowserView* GetView() override;
     const char* GetName() const override;

@@ -25,7 +25,7 @@ public:
         try {
             browser_.SetFlushFlag(flush_);
         } catch (const std::bad_alloc&) {
-            // The flag is set; windows that heard nothing hear of the next change.
+            // The flag is set; what a view could not tell it tells with its next change.
         }
     }
     HeldBack(const HeldBack&) = delete;

@@ -61,6 +61,7 @@ bool RowModel::Fill(RowNode& node) {
     std::vector<Listed> all;
     if (!ListBelow(node, all)) return false;
     std::vector<TreePart> parts;
+    parts.reserve(all.size());
     for (Listed& listed : all) parts.push_back(std::move(listed).MakePart());
     tree_.SetParts(node, std::move(parts));
     return !node.parts.empty();
@@ -109,7 +110,7 @@ bool RowModel::ExpandRow(const Row& row) {
     RowNode& node = row.IsItem() ? tree_.NodeOf(row) : *row.node;
     FillAndExpand(node);
     Tell(RowChange::Filled, row.Index());
-    return !stopped_;
+    return !stopped_ && !tree_.IsBroken();
 }
 
 bool RowModel::Expand(std::uint32_t index) {
@@ -127,50 +128,56 @@ bool RowModel::Collapse(std::uint32_t index) {
     return true;
 }
 
-/// Goes down to the leafs, not by recursion and not into an item that lies below itself.
-void RowModel::ExpandBelow(RowNode& top) {
+/// A way down to the leafs, not by recursion and not into an item that lies below itself.
+struct RowModel::Descent {
+    using Item = std::pair<const RowSource*, std::int64_t>;
     struct Step {
         RowNode* node;
-        bool leaves;
+        bool leaves; ///< what lies below it is done
     };
-    using Item = std::pair<const RowSource*, std::int64_t>;
-    const auto itemOf = [](RowNode& node) -> Item {
-        return {node.block->content.source, RowTree::RowOf(node).Number()};
-    };
-    std::set<Item> way;
-    for (RowNode* node = top.parent; node; node = node->parent) {
-        if (node->block) way.insert(itemOf(*node));
+    std::set<Item> way; ///< the items above the node in hand
+    std::vector<Step> open;
+
+    explicit Descent(RowNode& top) : open{{&top, false}} {
+        for (RowNode* node = top.parent; node; node = node->parent) {
+            if (node->block) way.insert(ItemOf(*node));
+        }
     }
+    static Item ItemOf(RowNode& node) { return {node.block->content.source, RowTree::RowOf(node).Number()}; }
+};
+
+void RowModel::ExpandBelow(RowNode& top) {
+    Descent descent(top);
     const RowTree::ManyChanges many(tree_, top);
-    std::vector<Step> open{{&top, false}};
-    while (!open.empty() && !stopped_ && GoesOn()) {
-        const Step step = open.back();
-        open.pop_back();
+    while (!descent.open.empty() && !stopped_ && GoesOn()) {
+        const Descent::Step step = descent.open.back();
+        descent.open.pop_back();
         RowNode& node = *step.node;
         if (step.leaves) {
-            way.erase(itemOf(node));
+            descent.way.erase(Descent::ItemOf(node));
             continue;
         }
         if (node.block) {
-            if (!way.insert(itemOf(node)).second) continue;
-            open.push_back({&node, true});
+            if (!descent.way.insert(Descent::ItemOf(node)).second) continue;
+            descent.open.push_back({&node, true});
         }
         if (!node.expanded && !Fill(node)) continue;
         // What is taken from `open` first must be pushed last: work that is given up has done the top rows.
-        for (auto part = node.parts.rbegin(); part != node.parts.rend(); ++part) {
-            if (part->node) {
-                open.push_back({part->node.get(), false});
-                continue;
-            }
-            const RowBlock& block = *part->block;
-            const std::vector<bool> have = plan_.HaveRows(block.content, block.rows);
-            for (std::size_t i = have.size(); i-- > 0;) {
-                const Item item{block.content.source, block.rows[i]};
-                if (!have[i] || way.count(item)) continue;
-                open.push_back(
-                    {&tree_.NodeOf(RowTree::ItemAt(*part->block, static_cast<std::uint32_t>(i))), false});
-            }
-        }
+        for (auto part = node.parts.rbegin(); part != node.parts.rend(); ++part) OpenBelow(*part, descent);
+    }
+}
+
+void RowModel::OpenBelow(const TreePart& part, Descent& descent) {
+    if (part.node) {
+        descent.open.push_back({part.node.get(), false});
+        return;
+    }
+    RowBlock& block = *part.block;
+    const std::vector<bool> have = plan_.HaveRows(block.content, block.rows);
+    for (std::size_t i = have.size(); i-- > 0;) {
+        if (!have[i] || descent.way.count({block.content.source, block.rows[i]})) continue;
+        const Row item = RowTree::ItemAt(block, static_cast<std::uint32_t>(i));
+        descent.open.push_back({&tree_.NodeOf(item), false});
     }
 }
 
@@ -218,8 +225,9 @@ void RowModel::CollapseButSelected() {
     if (!change) return;
     std::unordered_set<const RowNode*> stays;
     for (const std::uint32_t index : SelectedIndices()) {
-        for (const RowNode* node = &tree_.Find(index).Owner(); node && stays.insert(node).second;)
-            node = node->parent;
+        const Row row = Find(index);
+        const RowNode* node = row ? &row.Owner() : nullptr;
+        while (node && stays.insert(node).second) node = node->parent;
     }
     const RowTree::ManyChanges many(tree_, tree_.Root());
     CollapseAround(tree_.Root(), stays);

@@ -36,7 +36,7 @@ void RowModel::OnSourceDeleted(znIBrowserDataSource&) {
 
 void RowModel::OnFolderDeleted(FreeFolder&) { OnViewChanged(VIEW_ROWS); }
 
-void RowModel::OnViewDeleted() {
+void RowModel::OnViewDeleted() noexcept {
     stopped_ = true;
     view_ = nullptr;
     if (!answering_) LetGo();
@@ -62,12 +62,13 @@ void RowModel::EndAnswer() noexcept {
         tree_.Clear();
         selectedContainers_.clear();
         pending_ |= VIEW_ROWS;
+        if (!observers_.empty()) Note({});
     }
     if (!view_) LetGo();
     Deliver();
 }
 
-/// Of the rows of a view that is gone.
+/// Lets go of the rows: the view is gone.
 void RowModel::LetGo() noexcept {
     cells_.Forget();
     tree_.Clear();
@@ -89,10 +90,20 @@ void RowModel::TakeOver() {
     if (stopped_) pending_ |= VIEW_ROWS;
 }
 
-void RowModel::Tell(RowChange::Kind kind, std::uint32_t index) {
+void RowModel::Tell(RowChange::Kind kind, std::uint32_t index) noexcept {
     if (observers_.empty()) return;
-    changes_.push_back({kind, index});
+    Note({kind, index});
     Deliver();
+}
+
+void RowModel::Note(const RowChange& change) noexcept {
+    try {
+        changes_.push_back(change);
+    } catch (const std::bad_alloc&) { // then what was noted before stands for everything
+        if (changes_.empty()) return;
+        changes_.resize(1);
+        changes_.front() = {};
+    }
 }
 
 void RowModel::Deliver() noexcept {
@@ -102,15 +113,19 @@ void RowModel::Deliver() noexcept {
     try {
         while (!changes_.empty()) {
             changes = std::exchange(changes_, {});
-            DeliverTo(observers_, changes);
+            DeliverToAll(changes);
         }
-    } catch (const std::bad_alloc&) { // told again with the next change
+    } catch (const std::exception&) { // who did not hear is told with the next change
         if (changes_.empty()) changes_.swap(changes);
+        changes_.resize(1);
+        changes_.front() = {};
     }
     delivering_ = false;
 }
 
-void RowModel::DeliverTo(std::vector<RowObserver*> observers, const std::vector<RowChange>& changes) {
+/// Observers may come and go meanwhile.
+void RowModel::DeliverToAll(const std::vector<RowChange>& changes) {
+    const std::vector<RowObserver*> observers = observers_;
     for (RowObserver* const observer : observers) {
         const bool stays = std::find(observers_.begin(), observers_.end(), observer) != observers_.end();
         if (stays) observer->OnRowsChanged(changes);

@@ -72,7 +72,7 @@ public:
     void OnSourceDeleted(znIBrowserDataSource& source);
     void OnFolderDeleted(FreeFolder& folder);
     /// The view goes: no rows are left.
-    void OnViewDeleted();
+    void OnViewDeleted() noexcept;
 
     // The rows.
     std::int64_t Count();
@@ -145,7 +145,8 @@ public:
     // Observers are not owned.
     void AddObserver(RowObserver& observer) { observers_.push_back(&observer); }
     void RemoveObserver(const RowObserver& observer);
-    void Tell(RowChange::Kind kind, std::uint32_t index = RowChange::root);
+    /// Notes a change; the observers hear of it at once, or when the question in hand is answered.
+    void Tell(RowChange::Kind kind, std::uint32_t index = RowChange::root) noexcept;
 
     /// While one lives a question is being answered: nothing is taken apart, and the host's calls to itself
     /// are not recorded. What changed before is taken over at the beginning of the outermost.
@@ -186,8 +187,9 @@ private:
     void EndAnswer() noexcept;
     void LetGo() noexcept;
     void TakeOver();
+    void Note(const RowChange& change) noexcept;
     void Deliver() noexcept;
-    void DeliverTo(std::vector<RowObserver*> observers, const std::vector<RowChange>& changes);
+    void DeliverToAll(const std::vector<RowChange>& changes);
     /// Whether the rows can be looked at: they are all there, and so is what they show.
     bool IsReady() const { return view_ && !stopped_ && !tree_.IsChanging() && !tree_.IsBroken(); }
     /// No row when the index is unknown.
@@ -206,7 +208,9 @@ private:
     void FillAndExpand(RowNode& top);
     void ExpandAsCreated(RowNode& node, int depth, std::vector<std::pair<RowNode*, int>>& open);
     bool ExpandRow(const Row& row);
+    struct Descent;
     void ExpandBelow(RowNode& top);
+    void OpenBelow(const TreePart& part, Descent& descent);
     void Refresh();
     void RefreshNode(RowNode& node);
     void Update(const TreePart& part, Listed&& now);

@@ -147,7 +147,7 @@ void RowPlan::AddFolderLinks(const FreeFolder& folder, RowScope& scope) const {
 
 std::shared_ptr<RowScope> RowPlan::MakeScope(FreeFolder& folder, const std::vector<RowSource*>& tops,
                                              const void* what) const {
-    const auto scope = std::make_shared<RowScope>();
+    auto scope = std::make_shared<RowScope>();
     AddFolderLinks(folder, *scope);
     Filter(*scope, tops, folder, what);
     return scope;
@@ -166,7 +166,7 @@ void RowPlan::AddTreeLinks(FreeFolder& folder, RowScope& scope) const {
 }
 
 std::shared_ptr<RowScope> RowPlan::TreeScope(FreeFolder& folder) const {
-    const auto scope = std::make_shared<RowScope>();
+    auto scope = std::make_shared<RowScope>();
     AddTreeLinks(folder, *scope);
     AddFolderLinks(folder, *scope);
     Filter(*scope, {scope->top}, folder, folder.Tree().source);

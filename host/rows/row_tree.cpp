@@ -173,7 +173,7 @@ void RowTree::SetParts(RowNode& node, std::vector<TreePart> parts) {
     if (!uncounted_) Grow(&node, MakeSums(node) - node.visible);
 }
 
-/// Makes itself at home in the container: the part at that place, old or new.
+/// Tells the part at that place, old or new, where it lies now.
 void RowTree::Attach(RowNode& node, std::uint32_t place) {
     const TreePart& part = node.parts[place];
     if (part.node) {
@@ -352,7 +352,7 @@ void RowTree::Count(RowNode& top) {
 RowTree::ManyChanges::~ManyChanges() {
     tree_.uncounted_ = outer_;
     if (outer_) return;
-    tree_.broken_ = std::uncaught_exceptions() > exceptions_;
+    if (std::uncaught_exceptions() > exceptions_) tree_.broken_ = true;
     try {
         if (!tree_.broken_) tree_.Count(top_);
     } catch (const std::bad_alloc&) {

@@ -27,6 +27,7 @@ Browser& DataCtrl::Model() const { return application_.Model(); }
 bool DataCtrl::RunSql(const std::string& statement, const std::vector<std::string>& values,
                       std::vector<std::vector<std::string>>& rows, std::string& error) {
     std::vector<Value> bound;
+    bound.reserve(values.size());
     for (const std::string& value : values) bound.push_back(ValueOfWord(value));
     Database::Stamp before;
     Database::Stamp after;

@@ -58,13 +58,23 @@ Statement Database::Prepare(std::string_view sql) {
         idleBySql_.erase(found);
         return Statement(*this, std::move(taken));
     }
-    std::string error;
     taken.emplace_back();
-    if (!PrepareAnew(sql, taken.front(), error)) return Statement(std::move(error));
+    return PrepareAnew(sql, std::move(taken));
+}
+
+Statement Database::PrepareOnce(std::string_view sql) {
+    std::list<PreparedStatement> taken(1);
+    taken.front().once = true;
+    return PrepareAnew(sql, std::move(taken));
+}
+
+Statement Database::PrepareAnew(std::string_view sql, std::list<PreparedStatement>&& taken) {
+    std::string error;
+    if (!Compile(sql, taken.front(), error)) return Statement(std::move(error));
     return Statement(*this, std::move(taken));
 }
 
-bool Database::PrepareAnew(std::string_view sql, PreparedStatement& prepared, std::string& error) {
+bool Database::Compile(std::string_view sql, PreparedStatement& prepared, std::string& error) {
     prepared.sql = sql;
     if (sql.find('\0') != sql.npos) { // SQLite would silently run what stands before it
         error = "a NUL character in the SQL statement";
@@ -105,6 +115,10 @@ bool Database::EndsAt(const char* tail, const char* end, std::string& error) {
 }
 
 void Database::TakeBack(std::list<PreparedStatement>&& prepared) {
+    if (prepared.front().once) {
+        prepared.clear();
+        return;
+    }
     sqlite3_stmt* const handle = prepared.front().handle.get();
     sqlite3_reset(handle);
     sqlite3_clear_bindings(handle);

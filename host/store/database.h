@@ -47,6 +47,8 @@ public:
     /// The statement, taken from those prepared before when it is among them and not in use. More than one
     /// statement in `sql`, or none, is a failure.
     Statement Prepare(std::string_view sql);
+    /// The same for a text that will hardly come again, such as one with a name in it: it is not kept.
+    Statement PrepareOnce(std::string_view sql);
     /// Runs one statement with a value for each of its `?`, and gives its rows as texts (a NULL as an empty
     /// one).
     bool Run(std::string_view sql, const std::vector<Value>& values, Rows& rows, std::string& error);
@@ -84,7 +86,8 @@ private:
     explicit Database(std::unique_ptr<SQLite::Database> connection);
     static std::unique_ptr<Database> Open(const char* path, std::string& error);
 
-    bool PrepareAnew(std::string_view sql, PreparedStatement& prepared, std::string& error);
+    Statement PrepareAnew(std::string_view sql, std::list<PreparedStatement>&& taken);
+    bool Compile(std::string_view sql, PreparedStatement& prepared, std::string& error);
     bool EndsAt(const char* tail, const char* end, std::string& error);
     void TakeBack(std::list<PreparedStatement>&& prepared);
 

@@ -40,7 +40,7 @@ std::string PairsSql(const LinkJoint& joint) {
                       PairSide(joint, LINK_CHILD) + " AS c ON ";
     for (std::size_t i = 0; i < joint.columns[LINK_CHILD].size(); ++i) {
         const std::string column = ".c" + std::to_string(i);
-        sql += (i == 0 ? "p" : " AND p") + column + " = c" + column;
+        sql.append(i == 0 ? "p" : " AND p").append(column).append(" = c").append(column);
     }
     return sql;
 }

@@ -129,7 +129,8 @@ private:
     /// The pragmas themselves, not the functions of the same names, which take the time of another query
     /// each.
     Statement Ask(std::string_view pragma, std::string_view name) {
-        return database_.Prepare("PRAGMA main." + std::string(pragma) + "(" + Database::Quoted(name) + ")");
+        return database_.PrepareOnce("PRAGMA main." + std::string(pragma) + "(" + Database::Quoted(name) +
+                                     ")");
     }
     bool ReadIndex(std::string_view name, std::string& error) {
         Statement parts = Ask("index_info", name);
@@ -240,7 +241,7 @@ bool Schema::Read(std::vector<TablePtr>& tables, std::string& error) {
     std::vector<std::shared_ptr<Table>> found;
     Statement list = database_.Prepare("PRAGMA main.table_list");
     while (list.Next()) {
-        const std::string_view type = list.Text(2);
+        const std::string type(list.Text(2));
         if ((type != "table" && type != "view" && type != "virtual") || IsInternal(list.Text(1))) continue;
         Table& table = *found.emplace_back(std::make_shared<Table>());
         table.view = type == "view";

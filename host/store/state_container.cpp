@@ -167,6 +167,7 @@ bool StateContainer::ChangeEntities(const znIBrowserState* state, const std::vec
     const State* const own = Own(state);
     if (!own) return false;
     std::vector<std::string> names;
+    names.reserve(entities.size());
     for (const znString& entity : entities) names.push_back(entity.Str());
     std::string error;
     return (store_.*change)(own->Name(), names, error) || Fail(error);

@@ -23,6 +23,7 @@ struct FinalizeStatement {
 struct PreparedStatement {
     std::string sql;
     std::unique_ptr<sqlite3_stmt, FinalizeStatement> handle;
+    bool once = false; ///< not worth keeping: its text will hardly come again
 };
 
 /// One run of one SQL statement: bind, read the rows, ask for the outcome.

@@ -132,7 +132,7 @@ bool TkWindows::LoadScripts(std::string& error) {
     Tcl_CreateObjCommand(interp, hostCommand, AnswerTkWord, this, nullptr);
     for (const TkScript& script : TkScripts()) {
         if (Evaluate(interp, script.text, error)) continue;
-        error = std::string(script.file) + ": " + error;
+        error.insert(0, std::string(script.file) + ": ");
         return false;
     }
     return Evaluate(interp, "::znbrowser::prepare", error);

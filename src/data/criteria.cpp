@@ -7,6 +7,7 @@
 #include "host/znIBrowserDataSourceSimple.h"
 
 #include <cstdio>
+#include <utility>
 
 using namespace data_messages;
 
@@ -57,7 +58,7 @@ bool AppendAll(const znIBrowserCriteria& criteria, bool (znIBrowserCriteria::*ge
                znString& out) {
     Values values;
     if (!(criteria.*get)(values)) return false;
-    for (const typename Values::value_type& value : values) {
+    for (const auto& value : std::as_const(values)) {
         out += ' ';
         AppendValue(value, out);
     }

@@ -64,7 +64,7 @@ using SweptSection = std::tuple<std::string, bool>;
 
 class AllocationSweep : public testing::TestWithParam<SweptSection> {
 protected:
-    /// Runs the section and lets that allocation fail; 0: none.
+    /// Runs the section and lets its n-th allocation fail; 0: none.
     /// @return false when there were fewer
     bool FailAllocation(std::size_t n) {
         SCOPED_TRACE("allocation " + std::to_string(n));

@@ -156,6 +156,7 @@ set sections {
         {window expandall} {OnTkTreeRequestSelect win 3 5} {window collapseselected} {window expandselected}
         {OnTkTreeRequestCollapseAll win} {app state create m st} {window expandall} {state current st} {state save}
         {window collapseall} {state restore} {app rows win} {view tree delete h} {app rows win}
+        {window find property criterion value c} {window collapseall} {window find perform} {window find perform}
     }
     states {
         {window create win} {window part create part} {window listener connect told}

@@ -68,13 +68,21 @@ public:
     /// answered.
     void Check() {
         EXPECT_EQ(DeadCurrents(*host_), "");
-        for (const auto& window : host_->App().Model().Windows().All()) CheckRows(window->Rows());
+        for (const auto& window : host_->App().Model().Windows().All()) CheckRows(*window);
         EXPECT_EQ(script_.Eval("znbrowsermanager view create afterwards; znbrowsermanager view current"),
                   "afterwards");
     }
 
 private:
-    static void CheckRows(znhost::RowModel& rows) {
+    /// Expanded, the rows are those that a new window would show, and each stands where it says.
+    static void CheckRows(znhost::Window& window) {
+        znhost::RowModel& rows = window.Rows();
+        rows.ExpandAll();
+        if (window.ShownView()) {
+            znhost::RowModel anew(*window.ShownView());
+            anew.ExpandAll();
+            EXPECT_EQ(rows.Count(), anew.Count());
+        }
         const std::vector<std::uint32_t> indices = rows.IndicesFrom(0, 1000);
         EXPECT_EQ(static_cast<std::int64_t>(indices.size()), rows.Count());
         for (std::size_t i = 0; i < indices.size(); ++i)

@@ -41,7 +41,7 @@ struct Observer final : ViewObserver {
     void OnFolderDeleted(FreeFolder& folder) override { told += "folder " + folder.Name() + " "; }
     void OnColumnDeleted(Column& column) override { told += "column " + column.Name() + " "; }
     void OnDataSourceDeleted(znIBrowserDataSource&) override { told += "source "; }
-    void OnViewDeleted() override { told += "view"; }
+    void OnViewDeleted() noexcept override { told += "view"; }
 
     unsigned changes = 0;
     int batches = 0;
