@@ -63,7 +63,10 @@ void View::Changed(unsigned changes) {
 
 void View::Flush() {
     const unsigned changes = std::exchange(heldBack_, 0U);
-    if (!changes) return;
+    if (changes && !observers_.empty()) TellChanges(changes);
+}
+
+void View::TellChanges(unsigned changes) {
     const std::shared_ptr<View> self = weak_from_this().lock();
     try {
         TellObservers([changes](ViewObserver& observer) { observer.OnViewChanged(changes); });

@@ -170,6 +170,7 @@ private:
         Changed(change);
         return true;
     }
+    void TellChanges(unsigned changes);
 
     Browser& browser_;
     const znString name_;
