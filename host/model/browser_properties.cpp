@@ -52,8 +52,14 @@ bool Browser::ConnectViewPropertyNew(znIBrowserViewProperty* property, znIBrowse
 
 bool Browser::DisconnectViewProperty(znIBrowserViewProperty* property, znIBrowserDataSource* source) {
     if (Refused("znIBrowser::DisconnectViewProperty", property, source)) return false;
-    if (!property || !source) return Fail("No view property and data source to disconnect");
+    if (!property) return Fail("No view property to disconnect");
     ViewProperty& connected = *static_cast<ViewProperty*>(property);
+    if (!source && connected.GetScript().empty())
+        return Fail("The property \"" + connected.Name() + "\" is not connected to a script");
+    if (!source) {
+        connected.SetGetScript({});
+        return true;
+    }
     if (connected.Disconnect(*source)) return true;
     return Fail("The property \"" + connected.Name() + "\" is not connected to the data source \"" +
                 NameOf(log_, source) + "\"");

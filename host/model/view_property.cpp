@@ -51,7 +51,7 @@ bool ScriptedValue::Compute(const znBrowserDataItem& item, std::string& value) c
 
 const char* ScriptedValue::GetName() const {
     if (Refused("znIBrowserDataProperty::GetName")) return nullptr;
-    return property_.Name().c_str();
+    return property_.GetScript().c_str();
 }
 
 bool ScriptedValue::GetValueString(const znBrowserDataItem& item, int index, znString& value) {
@@ -162,6 +162,7 @@ void ViewProperty::GetConnections(std::vector<znBrowserConnection>& connections)
     connections.clear();
     if (Refused("znIBrowserViewProperty::GetConnections")) return;
     connections = connections_;
+    if (!getScript_.empty()) connections.push_back({nullptr, &scripted_});
 }
 
 znIBrowserDataProperty* ViewProperty::GetDataProperty(znIBrowserDataSourceSimple* source) {

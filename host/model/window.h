@@ -101,7 +101,7 @@ public:
     bool PerformPopupOperation(const char* first, const char* second) override;
     bool IsWindowPartShown(znIBrowserWindowPart* part) override;
     bool SetWindowPartPosition(znIBrowserWindowPart* part, int position) override;
-    bool SetWindowPartParent(znIBrowserWindowPart* part, znIBrowserWindowPart* parent) override;
+    void SetWindowPartParent(znIBrowserWindowPart* part, znIBrowserWindowPart* parent) override;
     bool GetEvents(znIBrowserWindowPart* part, std::vector<znIBrowserEvent*>& events) override;
     znIBrowserWindowCallback* FindCallback(znIBrowserEvent* event, const char* name) override;
     bool GetCallbacks(znIBrowserEvent* event, std::vector<znIBrowserWindowCallback*>& callbacks) override;

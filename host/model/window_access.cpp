@@ -94,14 +94,12 @@ bool Window::SetWindowPartPosition(znIBrowserWindowPart* part, int position) {
            Fail("There is no position " + std::to_string(position) + " for the part");
 }
 
-bool Window::SetWindowPartParent(znIBrowserWindowPart* part, znIBrowserWindowPart* parent) {
-    if (Refused("znIBrowserWindowAccess::SetWindowPartParent", part, parent)) return false;
+void Window::SetWindowPartParent(znIBrowserWindowPart* part, znIBrowserWindowPart* parent) {
+    if (Refused("znIBrowserWindowAccess::SetWindowPartParent", part, parent)) return;
     WindowPart* const own = Own(part);
     WindowPart* const above = Own(parent);
-    if (!own || (parent && !above)) return Fail("The part is not one of the window \"" + name_ + "\"");
-    if (above && own->Holds(*above)) return Fail("The part \"" + own->Name() + "\" cannot lie inside itself");
-    own->MoveBelow(above);
-    return true;
+    const bool movable = own && above == parent && !(above && own->Holds(*above));
+    if (movable) own->MoveBelow(above);
 }
 
 // ---- Events ----

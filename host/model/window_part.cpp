@@ -93,16 +93,14 @@ const char* WindowPart::GetFramePath() const {
     return framePath_.c_str();
 }
 
-bool WindowPart::SetCreateProc(const char* procedure, const char* argument) {
-    if (Refused("znIBrowserWindowPart::SetCreateProc", procedure, argument)) return false;
+void WindowPart::SetCreateProc(const char* procedure, const char* argument) {
+    if (Refused("znIBrowserWindowPart::SetCreateProc", procedure, argument)) return;
     create_ = {Text(procedure), Text(argument)};
-    return true;
 }
 
-bool WindowPart::SetPackProc(const char* procedure, const char* argument) {
-    if (Refused("znIBrowserWindowPart::SetPackProc", procedure, argument)) return false;
+void WindowPart::SetPackProc(const char* procedure, const char* argument) {
+    if (Refused("znIBrowserWindowPart::SetPackProc", procedure, argument)) return;
     pack_ = {Text(procedure), Text(argument)};
-    return true;
 }
 
 void WindowPart::GetChildParts(std::vector<znIBrowserWindowPart*>& parts, bool recursive) {

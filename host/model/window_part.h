@@ -55,8 +55,8 @@ public:
     const char* GetName() const override;
     znIBrowserWindowPart* GetParent() override;
     const char* GetFramePath() const override;
-    bool SetCreateProc(const char* procedure, const char* argument) override;
-    bool SetPackProc(const char* procedure, const char* argument) override;
+    void SetCreateProc(const char* procedure, const char* argument) override;
+    void SetPackProc(const char* procedure, const char* argument) override;
     void GetChildParts(std::vector<znIBrowserWindowPart*>& parts, bool recursive) override;
     int GetPosition() const override;
 

@@ -45,9 +45,6 @@ public:
     /// One pair of a share: the hierarchical data source, and the other view that shows it.
     using Share = std::pair<znIBrowserDataSourceHierarchical*, znIBrowserView*>;
 
-    /// Why the last refused operation of any host object was refused; never null. It is read right after the
-    /// refusal. Scripts see an empty text as "Unknown error".
-    virtual const char* GetError() const = 0;
     /// Carries out what was held back (`SetFlushFlag`) for a folder. The text of a refusal is not read.
     virtual bool ApplyPendingChanges(znIBrowserViewItemFreeFolder* folder) = 0;
     /// Whether changes reach the windows at once (true) or are held back (false). With true, what was held
@@ -102,7 +99,8 @@ public:
     /// New connection scheme: the same, but the types have not been compared.
     virtual bool ConnectViewPropertyNew(znIBrowserViewProperty* property, znIBrowserDataSource* source,
                                         znIBrowserDataProperty* dataProperty) = 0;
-    /// Takes the property's connection to that source away, in either scheme. There is one.
+    /// Takes the property's connection to that source away, in either scheme; to its script for a null
+    /// source. There is one.
     virtual bool DisconnectViewProperty(znIBrowserViewProperty* property, znIBrowserDataSource* source) = 0;
     /// The values of the property come from a Tcl procedure, named by `argument`. How it is called is the
     /// host's: the embedded host gives it the item's data source and number.
@@ -319,6 +317,9 @@ public:
                                              znIBrowserDataSourceHierarchical* source) = 0;
     /// Reads the items of that source in the folder's tree anew. The text of a refusal is not read.
     virtual bool UpdateTreeDataSource(znIBrowserViewItemFreeFolder* folder, znIBrowserDataSource* source) = 0;
+    /// Why the last refused operation of any host object was refused; never null. It is read right after the
+    /// refusal. Scripts see an empty text as "Unknown error".
+    virtual const char* GetError() const = 0;
     /// Runs the operation's script. False when it has none or ends with an error; the text is not read.
     virtual bool PerformDataOperation(znIBrowserDataOperation* operation) = 0;
 

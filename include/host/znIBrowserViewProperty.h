@@ -11,7 +11,7 @@ class znIBrowserDataSourceSimple;
 class znIBrowserView;
 
 /// One connection of a view property: the data source that gives the values, and its data property. A
-/// connection to a script has no data source.
+/// connection to a script has no data source; its data property bears the procedure's name.
 struct znBrowserConnection {
     znIBrowserDataSource* dataSource = nullptr;
     znIBrowserDataProperty* dataProperty = nullptr;
@@ -27,7 +27,7 @@ public:
     virtual znIBrowserView* GetView() = 0;
     /// The type; undefined until set. Scripts can connect nothing before.
     virtual ZNBROWSER_DATA_TYPE GetType() const = 0;
-    /// The connections, in the order made.
+    /// The connections, in the order made; the one to a script, where there is one, comes last.
     virtual void GetConnections(std::vector<znBrowserConnection>& connections) = 0;
     /// The data property that the view property shows for that source, or null. With a script that gives the
     /// values it is a data property that runs the script.

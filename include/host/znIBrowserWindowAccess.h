@@ -90,8 +90,8 @@ public:
     /// the embedded host counts from 0. The text of a refusal is not read.
     virtual bool SetWindowPartPosition(znIBrowserWindowPart* part, int position) = 0;
     /// Hangs the part, with those below it, under another; null for the top level. A parent that is the part
-    /// itself or lies below it is for the host to refuse.
-    virtual bool SetWindowPartParent(znIBrowserWindowPart* part, znIBrowserWindowPart* parent) = 0;
+    /// itself or lies below it changes nothing: no refusal is read.
+    virtual void SetWindowPartParent(znIBrowserWindowPart* part, znIBrowserWindowPart* parent) = 0;
     /// The events that the part offers, in the host's order. The first becomes current with the part. The
     /// text of a refusal is not read.
     virtual bool GetEvents(znIBrowserWindowPart* part, std::vector<znIBrowserEvent*>& events) = 0;

@@ -21,10 +21,10 @@ public:
     /// The Tcl procedure that fills the part's frame, and an argument passed through unchanged; "" when the
     /// script gave none. The host calls it when the window is posted: the embedded host with the frame's path
     /// and, unless it is "", the argument.
-    virtual bool SetCreateProc(const char* procedure, const char* argument) = 0;
+    virtual void SetCreateProc(const char* procedure, const char* argument) = 0;
     /// The Tcl procedure that packs the part's frame, and its argument, in the same way. Without one the host
     /// packs parts in rows.
-    virtual bool SetPackProc(const char* procedure, const char* argument) = 0;
+    virtual void SetPackProc(const char* procedure, const char* argument) = 0;
     /// The parts under this one: its children or, with `recursive`, all.
     virtual void GetChildParts(std::vector<znIBrowserWindowPart*>& parts, bool recursive) = 0;
     /// The place among the parts of the same parent, counted as in

@@ -1,5 +1,6 @@
 // datasource simple property ...: the values that a data source has for each of its items.
 #include "data/data_source_commands.h"
+#include "frame/ascii.h"
 #include "frame/command_table.h"
 #include "host/znIBrowserDataSourceSimple.h"
 
@@ -35,7 +36,11 @@ constexpr TypeWord attributeTypes[] = {
     {Keyword::String, ZNBROWSER_DATA_STRING},
 };
 
-ZNBROWSER_DATA_TYPE AttributeType(Keyword keyword) {
+/// "str" is a type here, although as a keyword it stands for another word.
+ZNBROWSER_DATA_TYPE AttributeType(const Call& call, int position) {
+    const Keyword keyword = call.Word(position);
+    if (keyword == Keyword::Stripe && EqualsIgnoringCase(call.Text(position), "str"))
+        return ZNBROWSER_DATA_STRING;
     for (const TypeWord& word : attributeTypes)
         if (word.keyword == keyword) return word.type;
     return ZNBROWSER_DATA_UNDEFINED;
@@ -48,7 +53,7 @@ void CreateScripted(Call& call) {
 
 // The extra number counts only as the very last word.
 void CreateAttribute(Call& call) {
-    const ZNBROWSER_DATA_TYPE type = AttributeType(call.Word(7));
+    const ZNBROWSER_DATA_TYPE type = AttributeType(call, 7);
     int attribute = 0;
     int extra = 0;
     if (type == ZNBROWSER_DATA_UNDEFINED || !call.Integer(8, attribute) ||

@@ -50,12 +50,17 @@ void znBrowserManagerTcl::Init() {
     // The library brings no Tcl of its own: it works with whatever 8.x the host has.
     if (!Tcl_InitStubs(interp, "8.5", 0))
         throw std::runtime_error("znbrowsermanager needs Tcl 8.5 or a later 8.x");
-    Tcl_CreateObjCommand(interp, "znbrowsermanager", CommandProcedure,
-                         static_cast<znIBrowserManagerTcl*>(this), nullptr);
-    InitVars();
-    InitBrowserInfo();
-    CreateBrowserManagerViewTcl();
-    CreateBrowserManagerCollectorTcl();
+    const Tcl_Command command = Tcl_CreateObjCommand(interp, "znbrowsermanager", CommandProcedure,
+                                                     static_cast<znIBrowserManagerTcl*>(this), nullptr);
+    try {
+        InitVars();
+        InitBrowserInfo();
+        CreateBrowserManagerViewTcl();
+        CreateBrowserManagerCollectorTcl();
+    } catch (...) { // no manager comes of it: the command must not reach for one
+        Tcl_DeleteCommandFromToken(interp, command);
+        throw;
+    }
 }
 
 void znBrowserManagerTcl::InitVars() {

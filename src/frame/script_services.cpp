@@ -43,6 +43,8 @@ bool znBrowserManagerTcl::UpdateTclFreeFolderSelection(
     const std::vector<znIBrowserViewItemFreeFolder*>& folders) {
     BeginOperation();
     if (!EvalTclScript("::znbrowser::ResetSelectedFreeFoldersArray")) return false;
+    // Whatever error the commands of that procedure left: it did run.
+    if (folders.empty()) return true;
     for (znIBrowserViewItemFreeFolder* const folder : folders) {
         znString name;
         if (!GetFreeFolderName(folder, name)) break;

@@ -21,6 +21,8 @@ using ConnectRequest = bool (znIBrowser::*)(znIBrowserViewProperty*, znIBrowserD
 /// This name in place of a data source stands for a Tcl procedure.
 constexpr char scriptSource[] = "script";
 
+bool IsScript(const char* dataSource) { return dataSource && std::strcmp(dataSource, scriptSource) == 0; }
+
 /// The type that counts in a comparison: an array counts as its elements. The host numbers further array
 /// forms 11 to 13.
 int ComparedType(ZNBROWSER_DATA_TYPE type) {
@@ -46,6 +48,7 @@ Connections ConnectionsOf(znIBrowserViewProperty& property) {
     return connections;
 }
 
+/// A connection to a script has no data source.
 bool IsConnectedTo(znIBrowserViewProperty& property, const znIBrowserDataSource* source) {
     const Connections connections = ConnectionsOf(property);
     return std::any_of(
@@ -111,7 +114,7 @@ bool znBrowserManagerTcl::ConnectProperty(const char* dataSource, const char* da
         return Fail("No view property type defined.  "
                     "Cannot do connection of database object and property.");
     }
-    if (dataSource && std::strcmp(dataSource, scriptSource) == 0)
+    if (IsScript(dataSource))
         return AskBrowser(*this, &znIBrowser::ConnectScriptProperty, property, dataProperty);
     znIBrowserView* const view = property->GetView();
     return view && view->UsesNewConnections()
@@ -141,8 +144,9 @@ bool znBrowserManagerTcl::DeleteViewPropertyConnect(const char* dataSource) {
     BeginOperation();
     znIBrowserViewProperty* const property = current_.viewProperty;
     if (!property) return Fail(messages::noCurrentViewProperty);
-    znIBrowserDataSource* const source = FindDataSource(*property, dataSource);
-    if (!source) return FailWith({"Cannot find datasource named: ", dataSource});
+    const bool script = IsScript(dataSource);
+    znIBrowserDataSource* const source = script ? nullptr : FindDataSource(*property, dataSource);
+    if (!source && !script) return FailWith({"Cannot find datasource named: ", dataSource});
     if (!IsConnectedTo(*property, source))
         return FailWith({"A connection for Datasource ", dataSource, " does not exist to delete."});
     return AskBrowser(*this, &znIBrowser::DisconnectViewProperty, property, source);

@@ -106,7 +106,8 @@ bool znBrowserManagerTcl::SetCurrentWindowPartParent(znIBrowserWindowPart* paren
     BeginOperation();
     if (!current_.windowAccess) return Fail(noPartToMove);
     if (!current_.windowPart) return Fail("The current part is toplevel, and no parent can be assigned");
-    return HostAnswer(current_.windowAccess->SetWindowPartParent(current_.windowPart, parent));
+    current_.windowAccess->SetWindowPartParent(current_.windowPart, parent);
+    return GetState();
 }
 
 bool znBrowserManagerTcl::SetCurrentWindowPartParentByName(const char* name) {
@@ -138,13 +139,15 @@ bool znBrowserManagerTcl::GetCurrentWindowPartParent(znString& out) {
 bool znBrowserManagerTcl::SetWindowPartCreateProc(const char* procedure, const char* argument) {
     BeginOperation();
     if (!current_.windowPart) return Fail("Cannot attach the create proc to toplevel");
-    return HostAnswer(current_.windowPart->SetCreateProc(procedure, argument));
+    current_.windowPart->SetCreateProc(procedure, argument);
+    return GetState();
 }
 
 bool znBrowserManagerTcl::SetWindowPartPackProc(const char* procedure, const char* argument) {
     BeginOperation();
     if (!current_.windowPart) return Fail("Cannot attach the pack proc to toplevel");
-    return HostAnswer(current_.windowPart->SetPackProc(procedure, argument));
+    current_.windowPart->SetPackProc(procedure, argument);
+    return GetState();
 }
 
 bool znBrowserManagerTcl::SetWindowPartPosition(int position) {

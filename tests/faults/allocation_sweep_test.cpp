@@ -2,6 +2,7 @@
 // the interpreter goes on. This file replaces the program's operator new; it fails only while a sweep has
 // armed it.
 #include "tests/faults/sweep.h"
+#include "tests/frame/fake_application.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -112,5 +113,22 @@ INSTANTIATE_TEST_SUITE_P(, AllocationSweep,
                              return std::get<0>(each.param) +
                                     (std::get<1>(each.param) ? "FromThenOn" : "Once");
                          });
+
+TEST(AllocationFault, AManagerThatIsNotFinishedLeavesNoCommand) {
+    bool finished = false;
+    for (std::size_t n = 0; !finished; ++n) {
+        FakeApplication application;
+        allocations = {true, false, n, false, allocations.living};
+        try {
+            znBrowserManagerTcl manager(&application);
+            finished = true;
+            allocations.armed = false;
+            manager.DeleteBrowserManagerCollectorTcl();
+        } catch (const std::bad_alloc&) {
+            allocations.armed = false;
+            EXPECT_EQ(application.Eval("info commands znbrowsermanager"), "") << "allocation " << n;
+        }
+    }
+}
 
 } // namespace

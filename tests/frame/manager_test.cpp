@@ -72,6 +72,11 @@ TEST_F(ManagerTest, ScriptServices) {
     application.Eval("proc ::znbrowser::ResetSelectedFreeFoldersArray {} {incr ::resets}");
     EXPECT_TRUE(manager->UpdateTclFreeFolderSelection({}));
     EXPECT_EQ(application.Eval("set ::resets"), "1");
+    application.Eval(
+        "proc ::znbrowser::ResetSelectedFreeFoldersArray {} {znbrowsermanager view column current x}");
+    EXPECT_TRUE(manager->UpdateTclFreeFolderSelection({})) << "whatever error its commands leave";
+    EXPECT_FALSE(manager->GetState());
+    application.Eval("proc ::znbrowser::ResetSelectedFreeFoldersArray {} {}");
     EXPECT_FALSE(manager->UpdateTclFreeFolderSelection({nullptr}));
 }
 
