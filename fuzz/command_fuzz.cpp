@@ -9,6 +9,8 @@
 // Scripts inside host calls: the word "again" is a Tcl command that runs the next line of the input. As the
 // script of an operation, a listener, a callback or a property it makes the command run inside itself.
 #include "fuzz/fenced_host.h"
+#include "host/znIBrowserPopupMenu.h"
+#include "host/znIBrowserPopupMenuItem.h"
 #include "src/frame/keyword_table.h"
 #include "tests/faults/living_objects.h"
 
@@ -18,6 +20,8 @@
 #include <iterator>
 #include <sstream>
 #include <string_view>
+
+using namespace znlayer;
 
 namespace {
 

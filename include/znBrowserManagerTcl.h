@@ -16,6 +16,9 @@
 #include <memory>
 #include <vector>
 
+namespace znlayer {
+class CurrentAccess;
+}
 class znBrowserManagerCollectorTcl;
 class znBrowserManagerViewTcl;
 class znIBrowser;
@@ -1298,54 +1301,10 @@ public:
 
 private:
     friend class znBrowserManagerViewTcl;
+    friend class znlayer::CurrentAccess;
 
     /// Gives up this manager's hold on the view helper; the last hold takes the helper with it.
     void LeaveViewHelper();
-
-    // ---- How operations begin and end ----
-
-    /// Clears the error state and empties the result buffer.
-    void BeginOperation();
-    /// Sets the error text. @return false
-    bool Fail(const char* message);
-    /// Joins pieces in the result buffer, with blanks, null ones left out; its text becomes the error text.
-    /// @return false
-    bool FailWith(std::initializer_list<const char*> pieces);
-    /// Takes over the browser object's error text. @return false
-    bool FailWithHostError();
-    /// The answer of the host: true, or `FailWithHostError`.
-    bool HostAnswer(bool accepted);
-    /// Gives the result buffer's text. @return the error state
-    bool GiveBuffer(znString& out);
-    /// Gives "true" or "false". @return true
-    static bool GiveBool(bool value, znString& out);
-    /// The browser object, or null.
-    znIBrowser* GetBrowser() const;
-    /// A view or a window of the host; null for an unknown and a null name.
-    znIBrowserView* FindView(const char* name) const;
-    znIBrowserWindowAccess* FindWindowAccess(const char* name) const;
-
-    /// The window that an event of the Tk tree names, made current; null, and an error, when there is none.
-    znIBrowserWindowAccess* SelectEventWindow(const char* name);
-    /// Add and remove a record of the current GUI map, whatever the type of its key.
-    template <class Key>
-    bool AddGuiMapRecord(Key key, const char* value, bool disabled);
-    template <class Key>
-    bool RemoveGuiMapRecord(Key key);
-
-    // ---- What dies with a host object ----
-
-    /// The current objects that lie in an object which the host is about to delete, itself included.
-    znBrowserCurrentObjects CurrentsInside(znIBrowserView* view) const;
-    znBrowserCurrentObjects CurrentsInside(znIBrowserViewColumn* column) const;
-    znBrowserCurrentObjects CurrentsInside(znIBrowserStyle* style) const;
-    znBrowserCurrentObjects CurrentsInside(znIBrowserViewItemFreeFolder* folder) const;
-    znBrowserCurrentObjects CurrentsInside(znIBrowserWindowAccess* window) const;
-    znBrowserCurrentObjects CurrentsInside(znIBrowserWindowPart* part) const;
-    znBrowserCurrentObjects CurrentsInside(znIBrowserDataSourceSimple* source) const;
-
-    /// After the deletion: clears those of them that are still current.
-    void Forget(const znBrowserCurrentObjects& doomed);
 
     znIBrowserApplication* application_;
     znBrowserCurrentObjects current_;

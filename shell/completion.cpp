@@ -146,6 +146,20 @@ void Narrow(std::vector<std::string>& texts, const std::string& beginning) {
                 texts.end());
 }
 
+/// The words and the names that may stand behind `words`; without names where `objectNames` is empty.
+std::vector<std::string> FindExpected(const std::vector<std::string>& words, const ObjectNames& objectNames) {
+    std::vector<std::string> found = FindNextWords(words);
+    if (!objectNames) return found;
+    if (!words.empty() && IsHostWord(words.front())) return found.empty() ? objectNames("") : found;
+    znBrowserTclExpectation expected;
+    znBrowserTclCommandTree::GetExpected(words, expected);
+    for (const std::string& kind : expected.kinds) {
+        const std::vector<std::string> names = objectNames(kind);
+        expected.words.insert(expected.words.end(), names.begin(), names.end());
+    }
+    return expected.words;
+}
+
 /// The words that may stand for the next one, plain; sorted, each once.
 std::vector<std::string> FindWords(const TypedCommand& typed, const ObjectNames& objectNames) {
     std::vector<std::string> found;
@@ -153,8 +167,8 @@ std::vector<std::string> FindWords(const TypedCommand& typed, const ObjectNames&
     if (typed.words.empty()) {
         found.assign(std::begin(SHELL_WORDS), std::end(SHELL_WORDS));
     } else if (const std::string& command = typed.words.front(); IsOurs(command)) {
-        found = FindNextWords({typed.words.begin() + 1, typed.words.end()});
-        if (found.empty() && command != HELP_WORD) found = objectNames();
+        found = FindExpected({typed.words.begin() + 1, typed.words.end()},
+                             command == HELP_WORD ? ObjectNames() : objectNames);
     }
     Narrow(found, typed.partial);
     std::sort(found.begin(), found.end());
@@ -188,8 +202,10 @@ std::string AsOpenElement(const std::string& beginning) {
 
 } // namespace
 
+bool IsHostWord(const std::string& word) { return IsSpelling(word, HOST_WORD); }
+
 std::vector<std::string> FindNextWords(const std::vector<std::string>& words) {
-    if (!words.empty() && IsSpelling(words.front(), HOST_WORD)) {
+    if (!words.empty() && IsHostWord(words.front())) {
         return znhost::EmbeddedHost::GetAppWords({words.begin() + 1, words.end()});
     }
     std::vector<std::string> next;

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-/// Gives the names that may stand where znbrowsermanager takes free arguments.
-using ObjectNames = std::function<std::vector<std::string>()>;
+/// Gives the names that may stand for an argument of a kind ("COLUMN"), and for "" those of everything.
+using ObjectNames = std::function<std::vector<std::string>(const std::string& kind)>;
 
 /// What TAB does to the typed text.
 struct Completion {
@@ -24,6 +24,9 @@ struct Completion {
 /// Completes the last word of `text`, a word of the command that is still open there: command words of the
 /// shell, of znbrowsermanager and of the host, and behind these the names.
 Completion CompleteTyped(std::string_view text, const ObjectNames& objectNames);
+
+/// Whether the word is the one behind which the host's own words stand.
+bool IsHostWord(const std::string& word);
 
 /// The words that may follow "znbrowsermanager WORD ...", the host's own words included; empty where free
 /// arguments stand, or where the words lead nowhere.

@@ -1,6 +1,7 @@
 #include "prompt.h"
 
 #include "completion.h"
+#include "help.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -17,7 +18,7 @@ const char* const HELP = R"(znbrowsersh is Tcl with one command more.
 
   znbrowsermanager            its action words; every level of words answers with its usage
   znbrowsermanager app help   the words of the embedded host: databases, rows, journal
-  help ?WORD ...?             this text, or the words that may follow "znbrowsermanager WORD ..."
+  help ?WORD ...?             this text, or what "znbrowsermanager WORD ..." is and which words may follow
   exit ?CODE?                 ends the session, as Ctrl-D does
 
 TAB completes command words and object names, the arrow keys recall earlier lines, Ctrl-R searches
@@ -50,7 +51,8 @@ Prompt::Prompt(Session& session)
     : session_(session), interp_(session.GetInterp()),
       editor_({[this] { return WaitForInput(); },
                [this](const std::string& text) {
-                   return CompleteTyped(text, [this] { return session_.GetObjectNames(); });
+                   return CompleteTyped(text,
+                                        [this](const std::string& kind) { return session_.GetNames(kind); });
                }}) {
     if (pipe2(wakePipe, O_CLOEXEC | O_NONBLOCK) != 0) wakePipe[0] = wakePipe[1] = -1;
     cancelHandler = Tcl_AsyncCreate(CancelCommand, this);
@@ -114,13 +116,7 @@ bool Prompt::AnswerHelp(const std::string& command) const {
         return true;
     }
     words.erase(words.begin());
-    if (const std::optional<std::string> unknown = FindUnknownWord(words)) {
-        PrintLine(TCL_STDOUT, "unknown word \"" + *unknown + "\"");
-        return true;
-    }
-    std::string answer;
-    for (const std::string& word : FindNextWords(words)) answer += (answer.empty() ? "" : " ") + word;
-    PrintLine(TCL_STDOUT, answer.empty() ? "no further command words" : answer);
+    PrintLine(TCL_STDOUT, HelpOn(words));
     return true;
 }
 

@@ -201,8 +201,9 @@ void Session::ServePending() {
     Tcl_DoOneEvent(TCL_IDLE_EVENTS | TCL_DONT_WAIT);
 }
 
-std::vector<std::string> Session::GetObjectNames() const {
-    return host_ ? host_->GetObjectNames() : std::vector<std::string>();
+std::vector<std::string> Session::GetNames(const std::string& kind) const {
+    if (!host_) return {};
+    return kind.empty() ? host_->GetObjectNames() : host_->GetNames(kind);
 }
 
 void PrintLine(int channel, Tcl_Obj* text) {

@@ -46,8 +46,9 @@ public:
     void ServePending();
 
     Tcl_Interp* GetInterp() const { return interp_; }
-    /// The names of the host's objects as they are now.
-    std::vector<std::string> GetObjectNames() const;
+    /// The names that may stand for an argument of that kind now; for "", those of all that scripts name
+    /// most.
+    std::vector<std::string> GetNames(const std::string& kind) const;
 
 private:
     bool AddDatabases(const std::vector<DatabaseOption>& databases);

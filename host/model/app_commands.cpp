@@ -246,6 +246,17 @@ std::vector<std::string> NextAppWords(const std::vector<std::string>& words) {
     return next;
 }
 
+std::vector<const AppWord*> AppWordsBelow(const std::vector<std::string>& words) {
+    std::string beginning;
+    for (const std::string& word : words) beginning += word + ' ';
+    std::vector<const AppWord*> below;
+    for (const AppWord& row : appWords) {
+        if ((std::string(row.words) + ' ').compare(0, beginning.size(), beginning) == 0)
+            below.push_back(&row);
+    }
+    return below;
+}
+
 int Application::EvalAppCommand(int objc, Tcl_Obj* const objv[]) {
     const AppCall whole(*this, objc, objv);
     const std::string first = whole.Text(0);

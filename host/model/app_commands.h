@@ -54,6 +54,9 @@ struct AppWord {
     int (*answer)(AppCall& call);
 };
 
+/// The rows of the table that begin with these words, in its order.
+std::vector<const AppWord*> AppWordsBelow(const std::vector<std::string>& words);
+
 /// The words that may follow "app WORD ...", in the order of the table; empty where arguments stand, or where
 /// the words lead nowhere.
 std::vector<std::string> NextAppWords(const std::vector<std::string>& words);

@@ -9,6 +9,7 @@
 #include "store/data_ctrl.h"
 #include "tk/tk_windows.h"
 #include "znBrowserManagerTcl.h"
+#include "znBrowserTclCommandTree.h"
 
 #include <set>
 #include <tcl.h>
@@ -89,6 +90,20 @@ std::size_t EmbeddedHost::OpenWindows() const { return parts_->windows ? parts_-
 
 std::vector<std::string> EmbeddedHost::GetAppWords(const std::vector<std::string>& words) {
     return NextAppWords(words);
+}
+
+std::vector<EmbeddedHost::AppCommand> EmbeddedHost::GetAppCommands(const std::vector<std::string>& words) {
+    std::vector<AppCommand> commands;
+    for (const AppWord* const row : AppWordsBelow(words))
+        commands.push_back({row->words, row->arguments, row->help});
+    return commands;
+}
+
+std::vector<std::string> EmbeddedHost::GetNames(const std::string& kind) const {
+    const CallLog::Quiet quiet(parts_->log);
+    std::vector<std::string> names;
+    znBrowserTclCommandTree::GetNames(*parts_->manager, kind, names);
+    return names;
 }
 
 std::vector<std::string> EmbeddedHost::DrawWindows() const {

@@ -33,6 +33,17 @@ public:
     /// The host's own words that may follow "znbrowsermanager app WORD ...", for completion and help; empty
     /// where arguments stand, or where the words lead nowhere.
     static std::vector<std::string> GetAppWords(const std::vector<std::string>& words);
+    /// One of them, with what is known of it.
+    struct AppCommand {
+        std::string words;     ///< behind "app": "journal on"
+        std::string arguments; ///< "NAME ?FILE?"
+        std::string summary;
+    };
+    /// The commands "app WORD ..." that begin with these words.
+    static std::vector<AppCommand> GetAppCommands(const std::vector<std::string>& words);
+    /// The names that an argument of that kind may be now (`znBrowserTclCommandTree::GetNames`). No call is
+    /// recorded, and none of the refusals that wait is used up.
+    std::vector<std::string> GetNames(const std::string& kind) const;
     /// Loads Tk: from now on each posted window stands on the display. Once it answered true, calling it
     /// again changes nothing. @return false, with the reason in `error`, when there is no display or Tk or
     /// its tree widget is not installed; windows stay without a face then

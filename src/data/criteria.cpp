@@ -1,14 +1,16 @@
 // Criteria: the named filter settings of a custom data source.
 #include "data/data_messages.h"
+#include "frame/current_lifetimes.h"
 #include "frame/data_types.h"
-#include "frame/deletion.h"
 #include "frame/name_list.h"
+#include "frame/operation.h"
 #include "host/znIBrowserCriteria.h"
 #include "host/znIBrowserDataSourceSimple.h"
 
 #include <cstdio>
 #include <utility>
 
+using namespace znlayer;
 using namespace data_messages;
 
 namespace {
@@ -85,84 +87,82 @@ bool AppendValues(const znIBrowserCriteria& criteria, ZNBROWSER_DATA_TYPE type, 
 } // namespace
 
 bool znBrowserManagerTcl::CreateDataCriteria(const char* name) {
-    BeginOperation();
+    const Operation operation(*this);
     if (!name) return GetState();
     znIBrowserDataSourceSimple* const source = current_.dataSourceSimple;
-    if (!source) return Fail(noSource);
-    if (!source->GetCriteriaList()) return Fail("Current datasource is not an scripted datasource");
+    if (!source) return operation.Fail(noSource);
+    if (!source->GetCriteriaList()) return operation.Fail("Current datasource is not an scripted datasource");
     if (!FindIn(source, name) && !source->CreateCriteria(name))
-        return FailWith({"Could not create criteria: ", name});
+        return operation.Fail({"Could not create criteria: ", name});
     if (znIBrowserCriteria* const criteria = FindIn(source, name)) current_.criteria = criteria;
     return GetState();
 }
 
 bool znBrowserManagerTcl::DeleteDataCriteria() {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserCriteria* const criteria = current_.criteria;
-    if (!criteria) return Fail(noCriteria);
+    if (!criteria) return operation.Fail(noCriteria);
     znIBrowserDataSourceSimple* const source = current_.dataSourceSimple;
     const auto deletion = [&] { return source && source->DeleteCriteria(criteria); };
-    const auto forget = [&] {
-        if (current_.criteria == criteria) current_.criteria = nullptr;
-    };
-    if (!DeleteAndForget(deletion, forget))
-        return FailWith({"Could not delete criteria: ", criteria->GetName()});
+    if (!DeleteAndForget(*this, CurrentsInside(*this, criteria), deletion))
+        return operation.Fail({"Could not delete criteria: ", criteria->GetName()});
     return GetState();
 }
 
 bool znBrowserManagerTcl::SetCurrentCriteria(const char* name) {
-    BeginOperation();
-    if (!current_.dataSourceSimple) return Fail(noSource);
+    const Operation operation(*this);
+    if (!current_.dataSourceSimple) return operation.Fail(noSource);
     if (!name) return GetState();
     znIBrowserCriteria* const criteria = FindIn(current_.dataSourceSimple, name);
-    if (!criteria) return FailWith({"Unable to find criteria: ", name});
+    if (!criteria) return operation.Fail({"Unable to find criteria: ", name});
     current_.criteria = criteria;
     return GetState();
 }
 
 bool znBrowserManagerTcl::GetDataSourceSimpleCriteriaNames(znString& out) {
-    BeginOperation();
-    if (!current_.dataSourceSimple) return Fail("Cannot get handle to the current data source simple");
+    const Operation operation(*this);
+    if (!current_.dataSourceSimple)
+        return operation.Fail("Cannot get handle to the current data source simple");
     znIBrowserCriteriaContainer* const container = current_.dataSourceSimple->GetCriteriaList();
     std::vector<znIBrowserCriteria*> criteria;
     if (!container || !container->GetCriteria(criteria))
-        return Fail("Cannot get list of the data source simple criteria names");
+        return operation.Fail("Cannot get list of the data source simple criteria names");
     return NameList(EntryForm::Plain, ExtraBlanks::After)
         .AddNames(criteria, NullName::EndsList)
         .Give(*this, out);
 }
 
 bool znBrowserManagerTcl::SetCriteriaCode(const char* code) {
-    BeginOperation();
+    const Operation operation(*this);
     if (!current_.criteria) return false;
-    if (!code || !current_.criteria->SetCode(code)) return Fail("Invalid criteria code specified");
+    if (!code || !current_.criteria->SetCode(code)) return operation.Fail("Invalid criteria code specified");
     return GetState();
 }
 
 // Without current criteria a good type word is accepted, and nothing happens.
 bool znBrowserManagerTcl::SetCriteriaDataType(const char* typeWord) {
-    BeginOperation();
+    const Operation operation(*this);
     if (!typeWord) return false;
     const ZNBROWSER_DATA_TYPE type = DataTypeFromWord(typeWord);
-    if (type == ZNBROWSER_DATA_UNDEFINED) return Fail("Invalid criteria type specified");
+    if (type == ZNBROWSER_DATA_UNDEFINED) return operation.Fail("Invalid criteria type specified");
     if (current_.criteria) current_.criteria->SetDataType(type);
     return GetState();
 }
 
 bool znBrowserManagerTcl::GetCriteriaDataType(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     ZNBROWSER_DATA_TYPE type = ZNBROWSER_DATA_UNDEFINED;
-    if (!current_.criteria) return Fail(noCriteria);
-    if (!current_.criteria->GetDataType(type)) return Fail(noType);
+    if (!current_.criteria) return operation.Fail(noCriteria);
+    if (!current_.criteria->GetDataType(type)) return operation.Fail(noType);
     out = DataTypeName(type);
     return GetState();
 }
 
 bool znBrowserManagerTcl::GetCriteriaDataParameters(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     ZNBROWSER_DATA_TYPE type = ZNBROWSER_DATA_UNDEFINED;
-    if (!current_.criteria) return Fail(noCriteria);
-    if (!current_.criteria->GetDataType(type)) return Fail(noType);
+    if (!current_.criteria) return operation.Fail(noCriteria);
+    if (!current_.criteria->GetDataType(type)) return operation.Fail(noType);
     if (type < ZNBROWSER_DATA_BOOL || type > ZNBROWSER_DATA_STRING_ARRAY) {
         out = "Cannot get parameters of the current criteria"; // An answer here, and no error.
         return GetState();
@@ -176,8 +176,8 @@ bool znBrowserManagerTcl::UpdateCriteriaData(const std::vector<bool>& bools,
                                              const std::vector<unsigned int>& unsigneds,
                                              const std::vector<int>& ints, const std::vector<double>& doubles,
                                              const znStlVector<znString>& strings) {
-    BeginOperation();
-    if (!current_.criteria) return Fail(noCriteria);
+    const Operation operation(*this);
+    if (!current_.criteria) return operation.Fail(noCriteria);
     current_.criteria->SetBoolValues(bools);
     current_.criteria->SetUnsignedValues(unsigneds);
     current_.criteria->SetIntValues(ints);

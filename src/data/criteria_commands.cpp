@@ -2,6 +2,7 @@
 #include "data/data_messages.h"
 #include "data/data_source_commands.h"
 #include "frame/command_table.h"
+#include "frame/command_words.h"
 #include "frame/data_types.h"
 
 // The type names that the text lists are not the words that "type" takes.
@@ -24,6 +25,8 @@ const char* const znBrowserTclMessages::DATASOURCE_SIMPLE_CRITERIA =
     "    \t                             ZNBROWSER_DATA_DOUBLE, ZNBROWSER_DATA_DOUBLE_ARRAY,\n"
     "    \t                             ZNBROWSER_DATA_STRING, ZNBROWSER_DATA_STRING_ARRAY.\n\n";
 // clang-format on
+
+namespace znlayer {
 
 namespace {
 
@@ -63,13 +66,11 @@ bool ReadPair(const Call& call, int position, Values& values) {
 }
 
 void Code(Call& call) {
-    if (!call.Has(5)) return call.Answer(Messages::DATASOURCE_SIMPLE_CRITERIA);
-    call.AnswerOutcome(call.manager.SetCriteriaCode(call.Text(5)));
+    RunWithName(call, 5, &Manager::SetCriteriaCode, Messages::DATASOURCE_SIMPLE_CRITERIA);
 }
 
 void Create(Call& call) {
-    if (!call.Has(5)) return call.Answer(Messages::DATASOURCE_SIMPLE_CRITERIA);
-    call.AnswerOutcome(call.manager.CreateDataCriteria(call.Text(5)), call.Text(5));
+    CreateWithName(call, 5, &Manager::CreateDataCriteria, Messages::DATASOURCE_SIMPLE_CRITERIA);
 }
 
 void Current(Call& call) {
@@ -77,7 +78,7 @@ void Current(Call& call) {
 }
 
 void Data(Call& call) {
-    if (!call.Has(5)) return call.AnswerValue(&Manager::GetCriteriaDataParameters);
+    if (call.Count() == 5) return call.AnswerValue(&Manager::GetCriteriaDataParameters);
     if (!call.manager.GetCurrentCriteriaPtr()) return call.Answer(data_messages::noCriteria);
     Values values;
     for (int position = 5; position < call.Count(); position += 2) {
@@ -93,10 +94,22 @@ void Names(Call& call) { call.AnswerValue(&Manager::GetDataSourceSimpleCriteriaN
 void Type(Call& call) { call.SetThenAnswer(5, &Manager::SetCriteriaDataType, &Manager::GetCriteriaDataType); }
 
 constexpr CommandRow criteriaRows[] = {
-    {Keyword::Code, Code},     {Keyword::Create, Create}, {Keyword::Current, Current}, {Keyword::Data, Data},
-    {Keyword::Delete, Delete}, {Keyword::Names, Names},   {Keyword::Type, Type},
+    {Keyword::Code, "TEXT", "Sets the code of the criteria.", Code},
+    {Keyword::Create, "NAME", "Makes criteria, or finds those of that name, and makes them current.", Create},
+    {Keyword::Current, "?CRITERIA?", "Makes criteria of the data source current, or tells which are.",
+     Current},
+    // Without criteria there is nothing to have values, whatever the words.
+    {Keyword::Data,
+     {"?TYPE? ?VALUE|TYPE? ...", Arguments::Check::ByHandler},
+     "Sets the values of the criteria, each behind its type, or reads them.",
+     Data},
+    {Keyword::Delete, "", "Deletes the current criteria.", Delete},
+    {Keyword::Names, "", "Lists the criteria of the current simple data source.", Names},
+    {Keyword::Type, "?TYPE?", "Sets or reads the data type of the criteria.", Type},
 };
 
 } // namespace
 
-const CommandLevel criteriaLevel(criteriaRows, znBrowserTclMessages::DATASOURCE_SIMPLE_CRITERIA);
+constexpr CommandLevel criteriaLevel(criteriaRows, Messages::DATASOURCE_SIMPLE_CRITERIA);
+
+} // namespace znlayer

@@ -16,9 +16,12 @@ const char* const znBrowserTclMessages::VIEW_DATACTRL =
     "    \tconnect       Connects the current data control to the current view.\n"
     "    \tdisconnect    Disconnects the current data control from the current view.\n\n";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
+using Messages = znBrowserTclMessages;
 
 void Current(Call& call) {
     if (call.Has(3) && !call.manager.SetCurrentDataCtrl(call.Text(3))) return call.AnswerError();
@@ -29,8 +32,8 @@ void Current(Call& call) {
 void Names(Call& call) { call.AnswerValue(&Manager::GetDataCtrlNames); }
 
 constexpr CommandRow dataCtrlRows[] = {
-    {Keyword::Current, Current},
-    {Keyword::Names, Names},
+    {Keyword::Current, "?DATACTRL?", "Makes a data control current, or tells which is.", Current},
+    {Keyword::Names, "", "Lists the data controls.", Names},
 };
 
 void ConnectToView(Call& call) {
@@ -49,22 +52,24 @@ void DisconnectFromView(Call& call) {
 }
 
 constexpr CommandRow viewDataCtrlRows[] = {
-    {Keyword::Connect, ConnectToView},
-    {Keyword::Disconnect, DisconnectFromView},
+    {Keyword::Connect, "", "Connects the current data control to the current view.", ConnectToView},
+    {Keyword::Disconnect, "", "Disconnects the current view from its data control.", DisconnectFromView},
 };
 
 } // namespace
 
-const CommandLevel dataCtrlLevel(dataCtrlRows, znBrowserTclMessages::DATACTRL);
-const CommandLevel viewDataCtrlLevel(viewDataCtrlRows, znBrowserTclMessages::VIEW_DATACTRL);
+constexpr CommandLevel dataCtrlLevel(dataCtrlRows, Messages::DATACTRL);
+constexpr CommandLevel viewDataCtrlLevel(viewDataCtrlRows, Messages::VIEW_DATACTRL);
 
 void AnswerViewDataCtrl(Call& call) {
-    if (call.Has(3)) return RunLevel(call, viewDataCtrlLevel, 3);
+    if (call.Count() > 3) return RunLevel(call, viewDataCtrlLevel, 3);
     znIBrowserView* const view = call.manager.GetCurrentViewPtr();
     znIBrowserDataCtrl* const control = view ? view->GetDataCtrl() : nullptr;
-    call.Answer(control ? control->GetName() : znBrowserTclMessages::VIEW_DATACTRL);
+    call.Answer(control ? control->GetName() : Messages::VIEW_DATACTRL);
 }
 
+} // namespace znlayer
+
 int znBrowserManagerTcl::DataCtrlTclAPICommands(int objc, Tcl_Obj* const objv[]) {
-    return RunFamily(*this, dataCtrlLevel, objc, objv);
+    return znlayer::RunFamily(*this, znlayer::dataCtrlLevel, objc, objv);
 }

@@ -2,6 +2,8 @@
 #ifndef DATA_CTRL_COMMANDS_H
 #define DATA_CTRL_COMMANDS_H
 
+namespace znlayer {
+
 class Call;
 struct CommandLevel;
 
@@ -10,5 +12,7 @@ extern const CommandLevel viewDataCtrlLevel;
 
 /// Answers "view datactrl ...", whose words begin at position 3.
 void AnswerViewDataCtrl(Call& call);
+
+} // namespace znlayer
 
 #endif

@@ -2,6 +2,8 @@
 #ifndef DATA_MESSAGES_H
 #define DATA_MESSAGES_H
 
+namespace znlayer {
+
 namespace data_messages {
 
 inline constexpr char noDataCtrl[] = "Cannot get the current Data Control";
@@ -13,5 +15,7 @@ inline constexpr char noView[] = "Cannot get the current view";
 inline constexpr char noViewProperty[] = "Cannot get name of the current view property";
 
 } // namespace data_messages
+
+} // namespace znlayer
 
 #endif

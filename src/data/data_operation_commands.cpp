@@ -17,13 +17,14 @@ const char* const znBrowserTclMessages::DATAOPERATION =
     "double, int or string.\n\n";
 // clang-format on
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
 using Messages = znBrowserTclMessages;
 
 void Create(Call& call) {
-    if (!call.Has(3)) return call.Answer(Messages::DATAOPERATION);
     call.SetThenAnswer(3, &Manager::CreateDataOperation, &Manager::GetCurrentDataOperation);
 }
 
@@ -45,14 +46,22 @@ void Script(Call& call) {
 
 // The usage text leaves out the last two.
 constexpr CommandRow dataOperationRows[] = {
-    {Keyword::Current, Current}, {Keyword::Names, Names},   {Keyword::Perform, Perform},
-    {Keyword::Create, Create},   {Keyword::Script, Script},
+    {Keyword::Current, "?DATAOPERATION?", "Makes a data operation current, or tells which is.", Current},
+    {Keyword::Names, "", "Lists the data operations of the current data control.", Names},
+    {Keyword::Perform, "", "Runs the current data operation.", Perform},
+    {Keyword::Create, "NAME", "Makes a data operation and makes it current.", Create},
+    {Keyword::Script,
+     {"?ANY? ?SCRIPT?", Arguments::Check::ByHandler},
+     "Sets the script of the current data operation; alone, tells its name.",
+     Script},
 };
 
 } // namespace
 
-const CommandLevel dataOperationLevel(dataOperationRows, znBrowserTclMessages::DATAOPERATION);
+constexpr CommandLevel dataOperationLevel(dataOperationRows, Messages::DATAOPERATION);
+
+} // namespace znlayer
 
 int znBrowserManagerTcl::DataOperationTclAPICommands(int objc, Tcl_Obj* const objv[]) {
-    return RunFamily(*this, dataOperationLevel, objc, objv);
+    return znlayer::RunFamily(*this, znlayer::dataOperationLevel, objc, objv);
 }

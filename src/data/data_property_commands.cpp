@@ -19,6 +19,8 @@ const char* const znBrowserTclMessages::DATASOURCE_SIMPLE_PROPERTY =
     "    \t                                              current simple datasource.\n\n";
 // clang-format on
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
@@ -72,7 +74,6 @@ void Create(Call& call) {
 }
 
 void Delete(Call& call) {
-    if (!call.Has(5)) return call.Answer(Messages::DATASOURCE_SIMPLE_PROPERTY);
     znIBrowserDataSourceSimple* const source = call.manager.GetCurrentDataSourceSimplePtr();
     call.AnswerOutcome(source->DeleteDataProperty(call.Text(5)), call.Text(5));
 }
@@ -85,11 +86,17 @@ void Names(Call& call) {
 }
 
 constexpr CommandRow propertyRows[] = {
-    {Keyword::Create, Create},
-    {Keyword::Delete, Delete},
-    {Keyword::Names, Names},
+    // How many words are read, the kind and their number tell.
+    {Keyword::Create,
+     {"NAME 0|1 ?SCRIPT|boolean|integer|double|string? ?INT? ?INT?", Arguments::Check::ByHandler},
+     "Makes a property: 0 and a script, or 1, a type, an attribute and a number.",
+     Create},
+    {Keyword::Delete, "DATAPROPERTY", "Deletes a property of the data source.", Delete},
+    {Keyword::Names, "", "Lists the properties of the data source.", Names},
 };
 
 } // namespace
 
-const CommandLevel dataPropertyLevel(propertyRows, znBrowserTclMessages::DATASOURCE_SIMPLE_PROPERTY);
+constexpr CommandLevel dataPropertyLevel(propertyRows, Messages::DATASOURCE_SIMPLE_PROPERTY);
+
+} // namespace znlayer

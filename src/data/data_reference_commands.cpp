@@ -10,37 +10,43 @@ const char* const znBrowserTclMessages::VIEW_DATAREFERENCE =
     "    \tdisconnect <datareference_name>    Disconnects the datareference from the current view.\n"
     "    \tnames                              Returns the datareferences of the current data control.\n\n";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
+using Messages = znBrowserTclMessages;
 
 void Names(Call& call) { call.AnswerValue(&Manager::GetDataReferencesNames); }
 
 constexpr CommandRow dataReferenceRows[] = {
-    {Keyword::Names, Names},
+    {Keyword::Names, "", "Lists the data references of the current data control.", Names},
 };
 
 template <bool (Manager::*change)(const znString&)>
 void Change(Call& call) {
-    if (!call.Has(4)) return call.Answer(znBrowserTclMessages::VIEW_DATAREFERENCE);
     call.AnswerOutcome((call.manager.*change)(call.Text(4)), call.Text(4));
 }
 
 void Connected(Call& call) { call.AnswerValue(&Manager::GetConnectedDataReferencesNames); }
 
 constexpr CommandRow viewDataReferenceRows[] = {
-    {Keyword::Connect, Change<&Manager::ConnectDataReference>},
-    {Keyword::Connected, Connected},
-    {Keyword::Disconnect, Change<&Manager::DisconnectDataReference>},
-    {Keyword::Names, Names},
+    {Keyword::Connect, "REFERENCE", "Connects a data reference to the current view.",
+     Change<&Manager::ConnectDataReference>},
+    {Keyword::Connected, "", "Lists the data references of the current view.", Connected},
+    {Keyword::Disconnect, "REFERENCE", "Disconnects a data reference from the current view.",
+     Change<&Manager::DisconnectDataReference>},
+    {Keyword::Names, "", "Lists the data references of the current data control.", Names},
 };
 
 } // namespace
 
 // The family has no usage text of its own.
-const CommandLevel dataReferenceLevel(dataReferenceRows, znBrowserTclMessages::DATASOURCE);
-const CommandLevel viewDataReferenceLevel(viewDataReferenceRows, znBrowserTclMessages::VIEW_DATAREFERENCE);
+constexpr CommandLevel dataReferenceLevel(dataReferenceRows, Messages::DATASOURCE);
+constexpr CommandLevel viewDataReferenceLevel(viewDataReferenceRows, Messages::VIEW_DATAREFERENCE);
+
+} // namespace znlayer
 
 int znBrowserManagerTcl::DataReferenceTclAPICommands(int objc, Tcl_Obj* const objv[]) {
-    return RunFamily(*this, dataReferenceLevel, objc, objv);
+    return znlayer::RunFamily(*this, znlayer::dataReferenceLevel, objc, objv);
 }

@@ -17,17 +17,21 @@ const char* const znBrowserTclMessages::DATAFIELD =
     "    znbrowsermanager datafield [action] \n\n"
     "    \tnames        show datatype name list for current dataitemtype\n\n";
 
+namespace znlayer {
+
 namespace {
 
 constexpr CommandRow dataSourceRows[] = {
-    {Keyword::Hierarchical, nullptr, &dataSourceHierarchicalLevel},
-    {Keyword::Simple, nullptr, &dataSourceSimpleLevel},
+    {Keyword::Hierarchical, "Data sources that arrange simple ones as a tree.", &dataSourceHierarchicalLevel},
+    {Keyword::Simple, "Data sources that are flat, base and custom.", &dataSourceSimpleLevel},
 };
 
 } // namespace
 
-const CommandLevel dataSourceLevel(dataSourceRows, znBrowserTclMessages::DATASOURCE);
+constexpr CommandLevel dataSourceLevel(dataSourceRows, znBrowserTclMessages::DATASOURCE);
+
+} // namespace znlayer
 
 int znBrowserManagerTcl::DataSourceTclAPICommands(int objc, Tcl_Obj* const objv[]) {
-    return RunFamily(*this, dataSourceLevel, objc, objv);
+    return znlayer::RunFamily(*this, znlayer::dataSourceLevel, objc, objv);
 }

@@ -2,12 +2,14 @@
 // views.
 #include "data/data_messages.h"
 #include "frame/name_list.h"
+#include "frame/operation.h"
 #include "host/znIBrowser.h"
 #include "host/znIBrowserDataCtrl.h"
 #include "host/znIBrowserDataSourceHierarchical.h"
 #include "host/znIBrowserDataSourceSimple.h"
 #include "host/znIBrowserView.h"
 
+using namespace znlayer;
 using namespace data_messages;
 
 namespace {
@@ -19,15 +21,9 @@ bool ChangeBase(znBrowserManagerTcl& manager, const char* name, BaseChange chang
     znIBrowserDataSourceSimple* const custom = manager.GetCurrentDataSourceSimplePtr();
     // A silent refusal: an error that is pending stays.
     if (!custom || !custom->IsCustom()) return false;
-    manager.SetOk();
-    manager.ResetBuff();
+    const Operation operation(manager);
     znIBrowserDataSourceSimple* const base = manager.FindDataSourceSimple(name);
-    if (!base) {
-        manager.AppendToBuff(unknownDataSource, true, false);
-        manager.AppendToBuff(name, true, false);
-        manager.SetError(manager.GetBuff());
-        return false;
-    }
+    if (!base) return operation.Fail({unknownDataSource, name});
     if (!(custom->*change)(base)) return false;
     custom->Update();
     return manager.GetState();
@@ -49,24 +45,24 @@ bool znBrowserManagerTcl::DataSourceSimpleDisconnect(const char* name) {
 }
 
 bool znBrowserManagerTcl::SetCurrentConnectDataSourceSimple(const char* name) {
-    BeginOperation();
-    if (!current_.dataSourceSimple) return Fail(noDataSource);
+    const Operation operation(*this);
+    if (!current_.dataSourceSimple) return operation.Fail(noDataSource);
     znIBrowserDataSourceSimple* const base = FindDataSourceSimple(name);
-    if (!base) return FailWith({unknownDataSource, name});
+    if (!base) return operation.Fail({unknownDataSource, name});
     if (!current_.dataSourceSimple->SetCurrentBase(base))
-        return Fail("Cannot set the base datasource to custom");
+        return operation.Fail("Cannot set the base datasource to custom");
     return GetState();
 }
 
 bool znBrowserManagerTcl::DataSourceSimpleConnected(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     std::vector<znIBrowserDataSourceSimple*> bases;
     if (current_.dataSourceSimple) current_.dataSourceSimple->GetBaseDataSources(bases);
     return NamesOf(bases).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::DataSourceSimpleConnected(const char* name, znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserDataSourceSimple* const source = FindDataSourceSimple(name);
     std::vector<znIBrowserDataSourceSimple*> bases;
     if (source && !source->GetBaseDataSources(bases)) bases.clear();
@@ -74,14 +70,14 @@ bool znBrowserManagerTcl::DataSourceSimpleConnected(const char* name, znString& 
 }
 
 bool znBrowserManagerTcl::DataSourceSimpleConnected(znIBrowserView* view, znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     std::vector<znIBrowserDataSourceSimple*> sources;
     if (view) view->GetDataSourcesSimple(sources);
     return NamesOf(sources).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::DataSourceHierarchicalConnected(znIBrowserView* view, znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     std::vector<znIBrowserDataSourceHierarchical*> sources;
     if (view) view->GetDataSourcesHierarchical(sources);
     return NamesOf(sources).Give(*this, out);
@@ -89,19 +85,19 @@ bool znBrowserManagerTcl::DataSourceHierarchicalConnected(znIBrowserView* view, 
 
 // The host's answer is passed on as it is, without its text.
 bool znBrowserManagerTcl::DataSourceSimpleConnect(znIBrowserView* view, const char* name) {
-    BeginOperation();
-    znIBrowser* const browser = GetBrowser();
+    const Operation operation(*this);
+    znIBrowser* const browser = BrowserOf(*this);
     return browser && view && name && browser->ConnectDataSourceSimple(view, name);
 }
 
 bool znBrowserManagerTcl::DataSourceHierarchicalConnect(znIBrowserView* view, const char* name) {
-    BeginOperation();
-    znIBrowser* const browser = GetBrowser();
+    const Operation operation(*this);
+    znIBrowser* const browser = BrowserOf(*this);
     return browser && view && name && browser->ConnectDataSourceHierarchical(view, name);
 }
 
 bool znBrowserManagerTcl::DataSourceDisconnect(znIBrowserView* view, const char* name) {
-    BeginOperation();
-    znIBrowser* const browser = GetBrowser();
+    const Operation operation(*this);
+    znIBrowser* const browser = BrowserOf(*this);
     return browser && view && name && browser->DisconnectDataSource(view, name);
 }

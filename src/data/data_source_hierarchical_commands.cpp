@@ -1,6 +1,7 @@
 // datasource hierarchical ...: simple data sources arranged as a tree.
 #include "data/data_source_commands.h"
 #include "frame/command_table.h"
+#include "frame/command_words.h"
 
 // clang-format off: the texts keep their lines.
 const char* const znBrowserTclMessages::DATASOURCE_HIERARCHICAL =
@@ -21,6 +22,8 @@ const char* const znBrowserTclMessages::DATASOURCE_HIERARCHICAL =
     "datasources.\n\n";
 // clang-format on
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
@@ -29,14 +32,13 @@ using Messages = znBrowserTclMessages;
 // Unlike keywords, "parent" and "child" are taken in exactly these letters; any other word ends the command
 // without a word. The parent needs no third word, and yet one must stand there.
 void Connect(Call& call) {
-    if (!call.Has(4)) return call.Answer(Messages::DATASOURCE_HIERARCHICAL);
     const std::string_view kind = call.Text(4);
     if (kind != "parent" && kind != "child") return;
     if (call.Is(5, Keyword::Names)) {
         return call.AnswerValue(kind == "parent" ? &Manager::DataSourceHierarchicalParentNames
                                                  : &Manager::DataSourceHierarchicalChildrenNames);
     }
-    if (!call.Has(5) || !call.Has(6)) return call.Answer(Messages::DATASOURCE_HIERARCHICAL);
+    if (!call.Has(6)) return call.Answer(Messages::DATASOURCE_HIERARCHICAL);
     call.AnswerOutcome(call.manager.DataSourceHierarchicalConnect(kind.data(), call.Text(5), call.Text(6)));
 }
 
@@ -46,7 +48,6 @@ void Connected(Call& call) { call.AnswerValue(&Manager::DataSourceHierarchicalCo
 void Create(Call& call) {
     bool first = false;
     bool second = false;
-    if (!call.Has(4) || !call.Has(6)) return call.Answer(Messages::DATASOURCE_HIERARCHICAL);
     if (!call.Boolean(5, first)) return call.Answer(Messages::USERINPUT);
     if (!call.Boolean(6, second)) return call.Answer(Messages::DATASOURCE_HIERARCHICAL);
     const bool created = call.manager.CreateDataSourceHierarchical(call.Text(4), first, second,
@@ -61,8 +62,7 @@ void Current(Call& call) {
 }
 
 void Disconnect(Call& call) {
-    if (!call.Has(4)) return call.Answer(Messages::DATASOURCE_HIERARCHICAL);
-    call.AnswerOutcome(call.manager.DataSourceHierarchicalDisconnectSimple(call.Text(4)));
+    RunWithName(call, 4, &Manager::DataSourceHierarchicalDisconnectSimple, Messages::DATASOURCE_HIERARCHICAL);
 }
 
 void Names(Call& call) { call.AnswerValue(&Manager::DataSourceHierarchicalNames); }
@@ -72,12 +72,24 @@ void Property(Call& call) { call.Answer("Feature not supported in 9.0"); }
 
 // The usage text leaves out the last four.
 constexpr CommandRow hierarchicalRows[] = {
-    {Keyword::Connect, Connect},       {Keyword::Connected, Connected}, {Keyword::Current, Current},
-    {Keyword::Disconnect, Disconnect}, {Keyword::Names, Names},         {Keyword::Create, Create},
-    {Keyword::DataItem, DataItems},    {Keyword::Criteria, Criteria},   {Keyword::Property, Property},
+    {Keyword::Connect, "parent|child ?names|DATASOURCE? ?TEXT?",
+     "Makes a simple data source the parent, or adds it as a child, or lists them.", Connect},
+    {Keyword::Connected, "", "Lists the hierarchical data sources that are connected.", Connected},
+    {Keyword::Current, "?HIERARCHICAL?", "Makes a hierarchical data source current, or tells which is.",
+     Current},
+    {Keyword::Disconnect, "DATASOURCE", "Removes a child from the current hierarchical data source.",
+     Disconnect},
+    {Keyword::Names, "", "Lists the hierarchical data sources.", Names},
+    {Keyword::Create, "NAME BOOL BOOL ?TEXT? ?TEXT?",
+     "Makes a hierarchical data source and makes it current.", Create},
+    {Keyword::DataItem, "", "Lists what the current property shows for the items of the data source.",
+     DataItems},
+    {Keyword::Criteria, "", "Answers that criteria are not supported here.", Criteria},
+    {Keyword::Property, "", "Answers that properties are not supported here.", Property},
 };
 
 } // namespace
 
-const CommandLevel dataSourceHierarchicalLevel(hierarchicalRows,
-                                               znBrowserTclMessages::DATASOURCE_HIERARCHICAL);
+constexpr CommandLevel dataSourceHierarchicalLevel(hierarchicalRows, Messages::DATASOURCE_HIERARCHICAL);
+
+} // namespace znlayer

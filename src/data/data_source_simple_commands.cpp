@@ -40,6 +40,8 @@ const char* const znBrowserTclMessages::DATASOURCE_SIMPLE =
     "    \t                                                    datasources.\n\n";
 // clang-format on
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
@@ -51,26 +53,28 @@ void Caption(Call& call) {
 }
 
 void FilterCaption(Call& call) {
-    if (call.Count() > 4 && !call.Has(4)) return call.Answer(Messages::GENERAL);
     call.SetThenAnswer(4, &Manager::SetCurrentDataSourceSimpleFilterCaption,
                        &Manager::GetCurrentDataSourceSimpleFilterCaption);
 }
 
 void ConnectCurrent(Call& call) {
-    if (!call.Has(5)) return call.Answer(Messages::DATASOURCE);
     call.AnswerOutcome(call.manager.SetCurrentConnectDataSourceSimple(call.Text(5)), call.Text(5));
 }
 
+constexpr CommandRow connectRows[] = {
+    {Keyword::Current, "DATASOURCE", "Chooses the base to which further settings of the data source refer.",
+     ConnectCurrent},
+};
+constexpr CommandLevel connectLevel(connectRows, Messages::DATASOURCE);
+
 void Connect(Call& call) {
-    if (!call.Has(4)) return call.Answer(Messages::DATASOURCE);
-    if (call.Is(4, Keyword::Current)) return ConnectCurrent(call);
+    if (call.Is(4, Keyword::Current)) return RunLevel(call, connectLevel, 4);
     call.AnswerOutcome(call.manager.DataSourceSimpleConnect(call.Text(4)), call.Text(4));
 }
 
 void Connected(Call& call) { call.AnswerValue(&Manager::DataSourceSimpleConnected); }
 
 void Create(Call& call) {
-    if (!call.Has(4)) return call.Answer(Messages::DATASOURCE_SIMPLE);
     const bool created =
         call.manager.CreateDataSourceSimple(call.Text(4), call.TextOr(5, ""), call.TextOr(6, ""));
     call.AnswerOutcome(created, call.Text(4));
@@ -84,13 +88,11 @@ void Current(Call& call) {
 void DataItems(Call& call) { call.AnswerValue(&Manager::GetDataItemsFromCurrentDSS); }
 
 void Delete(Call& call) {
-    if (!call.Has(4)) return call.Answer(Messages::DATASOURCE_SIMPLE);
     if (!call.manager.DeleteDataSourceSimple(call.Text(4))) return call.AnswerError();
     call.Answer(call.manager.GetCurrentDataSourceSimple());
 }
 
 void Disconnect(Call& call) {
-    if (!call.Has(4)) return call.Answer(Messages::DATASOURCE_SIMPLE);
     call.AnswerOutcome(call.manager.DataSourceSimpleDisconnect(call.Text(4)), call.Text(4));
 }
 
@@ -103,23 +105,40 @@ void Property(Call& call) {
     RunLevel(call, dataPropertyLevel, 4);
 }
 
-void Script(Call& call) {
-    if (!call.Is(4, Keyword::Names)) return call.Answer(Messages::DATASOURCE_SIMPLE);
-    call.AnswerValue(&Manager::DataSourceSimpleCustomNames);
-}
+void ScriptNames(Call& call) { call.AnswerValue(&Manager::DataSourceSimpleCustomNames); }
+
+constexpr CommandRow scriptRows[] = {
+    {Keyword::Names, "", "Lists the custom data sources.", ScriptNames},
+};
+constexpr CommandLevel scriptLevel(scriptRows, Messages::DATASOURCE_SIMPLE);
 
 // The usage text lists an "operation", too; that word is unknown here.
 constexpr CommandRow simpleRows[] = {
-    {Keyword::Caption, Caption}, {Keyword::FilterCaption, FilterCaption},
-    {Keyword::Connect, Connect}, {Keyword::Connected, Connected},
-    {Keyword::Create, Create},   {Keyword::Criteria, nullptr, &criteriaLevel},
-    {Keyword::Current, Current}, {Keyword::DataItem, DataItems},
-    {Keyword::Delete, Delete},   {Keyword::Disconnect, Disconnect},
-    {Keyword::Names, Names},     {Keyword::Property, Property, &dataPropertyLevel},
-    {Keyword::Script, Script},
+    {Keyword::Caption, "?TEXT?", "Sets or reads what people read as the name of the data source.", Caption,
+     nullptr, &Messages::DATASOURCE},
+    {Keyword::FilterCaption, "?TEXT?", "Sets or reads what people read for the data source among filters.",
+     FilterCaption, nullptr, &Messages::GENERAL},
+    {Keyword::Connect, "DATASOURCE", "Connects a base to the current custom data source.", Connect,
+     &connectLevel, &Messages::DATASOURCE},
+    {Keyword::Connected, "", "Lists the bases of the current custom data source.", Connected},
+    {Keyword::Create, "NAME ?TEXT? ?TEXT?", "Makes a custom data source; the texts: caption, description.",
+     Create},
+    {Keyword::Criteria, "What narrows the current custom data source.", &criteriaLevel},
+    {Keyword::Current, "?DATASOURCE?", "Makes a simple data source current, or tells which is.", Current,
+     nullptr, &Messages::DATASOURCE},
+    {Keyword::DataItem, "", "Lists what the current property shows for the items of the data source.",
+     DataItems},
+    {Keyword::Delete, "DATASOURCE", "Deletes a custom data source; tells which is current then.", Delete},
+    {Keyword::Disconnect, "DATASOURCE", "Disconnects a base from the current custom data source.",
+     Disconnect},
+    {Keyword::Names, "", "Lists the simple data sources.", Names},
+    {Keyword::Property, "", "The values that the current data source has for each item.", Property,
+     &dataPropertyLevel},
+    {Keyword::Script, "The custom data sources.", &scriptLevel},
 };
 
 } // namespace
 
-const CommandLevel dataSourceSimpleLevel(simpleRows, znBrowserTclMessages::DATASOURCE_SIMPLE,
-                                         znBrowserTclMessages::DATASOURCE);
+constexpr CommandLevel dataSourceSimpleLevel(simpleRows, Messages::DATASOURCE_SIMPLE, Messages::DATASOURCE);
+
+} // namespace znlayer

@@ -1,6 +1,7 @@
 // Hierarchical data sources: made, chosen, put together and listed.
 #include "data/data_messages.h"
 #include "data/item_values.h"
+#include "frame/operation.h"
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserDataCtrl.h"
 #include "host/znIBrowserDataSourceHierarchical.h"
@@ -10,6 +11,7 @@
 #include <algorithm>
 #include <string_view>
 
+using namespace znlayer;
 using namespace data_messages;
 
 namespace {
@@ -25,8 +27,8 @@ bool GiveNames(znBrowserManagerTcl& manager, const Sources& sources, znString& o
 // The host's answer is not asked for: what counts is whether it knows the source afterwards.
 bool znBrowserManagerTcl::CreateDataSourceHierarchical(const char* name, bool first, bool second,
                                                        const char* text1, const char* text2) {
-    BeginOperation();
-    if (!current_.dataCtrl) return Fail(noDataCtrl);
+    const Operation operation(*this);
+    if (!current_.dataCtrl) return operation.Fail(noDataCtrl);
     if (name)
         current_.dataCtrl->CreateDataSourceHierarchical(name, first, second, text1 ? text1 : "",
                                                         text2 ? text2 : "");
@@ -35,13 +37,13 @@ bool znBrowserManagerTcl::CreateDataSourceHierarchical(const char* name, bool fi
 }
 
 znIBrowserDataSourceHierarchical* znBrowserManagerTcl::FindDataSourceHierarchical(const char* name) const {
-    return current_.dataCtrl && name ? current_.dataCtrl->FindDataSourceHierarchical(name) : nullptr;
+    return FindNamed(current_.dataCtrl, &znIBrowserDataCtrl::FindDataSourceHierarchical, name);
 }
 
 bool znBrowserManagerTcl::SetCurrentDataSourceHierarchical(const char* name) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserDataSourceHierarchical* const source = FindDataSourceHierarchical(name);
-    if (!source) return FailWith({unknownDataSource, name});
+    if (!source) return operation.Fail({unknownDataSource, name});
     UpdateCurrentDataSourceHierarchical(source);
     return GetState();
 }
@@ -50,7 +52,7 @@ bool znBrowserManagerTcl::SetCurrentDataSourceHierarchical(const char* name) {
 bool znBrowserManagerTcl::DataSourceHierarchicalConnect(const char* kind, const char* name,
                                                         const char* third) {
     if (!current_.dataSourceHierarchical) return false;
-    BeginOperation();
+    const Operation operation(*this);
     if (!kind || !name) return false;
     if (kind == std::string_view("parent")) return current_.dataSourceHierarchical->SetParent(name);
     return kind == std::string_view("child") &&
@@ -59,14 +61,14 @@ bool znBrowserManagerTcl::DataSourceHierarchicalConnect(const char* kind, const 
 
 bool znBrowserManagerTcl::DataSourceHierarchicalDisconnectSimple(const char* name) {
     if (!current_.dataSourceHierarchical) return false;
-    BeginOperation();
+    const Operation operation(*this);
     return name && current_.dataSourceHierarchical->RemoveChild(name);
 }
 
 bool znBrowserManagerTcl::DataSourceHierarchicalConnected(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out.clear();
-    if (!current_.dataCtrl) return Fail(noDataCtrl);
+    if (!current_.dataCtrl) return operation.Fail(noDataCtrl);
     Sources sources;
     current_.dataCtrl->GetDataSourcesHierarchical(sources);
     const auto isConnected = [](const znIBrowserDataSourceHierarchical* source) {
@@ -77,9 +79,9 @@ bool znBrowserManagerTcl::DataSourceHierarchicalConnected(znString& out) {
 }
 
 bool znBrowserManagerTcl::DataSourceHierarchicalNames(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out.clear();
-    if (!current_.dataCtrl) return Fail(noDataCtrl);
+    if (!current_.dataCtrl) return operation.Fail(noDataCtrl);
     Sources sources;
     current_.dataCtrl->GetDataSourcesHierarchical(sources);
     return GiveNames(*this, sources, out);
@@ -94,17 +96,17 @@ bool znBrowserManagerTcl::DataSourceHierarchicalParentNames(znString& out) {
 
 bool znBrowserManagerTcl::DataSourceHierarchicalChildrenNames(znString& out) {
     if (!current_.dataSourceHierarchical) return false;
-    BeginOperation();
+    const Operation operation(*this);
     std::vector<znIBrowserDataSourceSimple*> children;
     current_.dataSourceHierarchical->GetChildren(children);
     return NameList(EntryForm::Braced).AddNames(children, NullName::IsLeftOut).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::GetDataItemsFromCurrentDSH(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out.clear();
-    if (!current_.view) return Fail(noView);
-    if (!current_.viewProperty) return Fail(noViewProperty);
+    if (!current_.view) return operation.Fail(noView);
+    if (!current_.viewProperty) return operation.Fail(noViewProperty);
     znBrowserDataItems items;
     if (current_.dataSourceHierarchical)
         current_.dataSourceHierarchical->GetDataItems(nullptr, items, false, true);

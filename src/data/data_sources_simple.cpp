@@ -1,8 +1,8 @@
 // Simple data sources: made, chosen, captioned and listed.
 #include "data/data_messages.h"
 #include "data/item_values.h"
-#include "frame/deletion.h"
-#include "frame/messages.h"
+#include "frame/current_lifetimes.h"
+#include "frame/operation.h"
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserCriteria.h"
 #include "host/znIBrowserDataCtrl.h"
@@ -10,10 +10,12 @@
 #include "host/znIBrowserDataSource.h"
 #include "host/znIBrowserDataSourceSimple.h"
 #include "znBrowserManagerTcl.h"
+#include "znBrowserMessages.h"
 
 #include <algorithm>
 #include <cstring>
 
+using namespace znlayer;
 using namespace data_messages;
 
 namespace {
@@ -36,7 +38,8 @@ znIBrowserDataSourceSimple* FindAmongCurrents(const znBrowserCurrentObjects& cur
 
 // The host's answer is not asked for: what counts is whether it knows the source afterwards.
 bool znBrowserManagerTcl::CreateDataSourceSimple(const char* name, const char* caption, const char*) {
-    if (!current_.dataCtrl) return Fail(noDataCtrl);
+    const Operation operation(*this, Operation::State::Kept);
+    if (!current_.dataCtrl) return operation.Fail(noDataCtrl);
     if (name) current_.dataCtrl->CreateDataSourceSimple(name, caption ? caption : "", nullptr);
     UpdateCurrentDataSourceSimple(FindDataSourceSimple(name));
     return true;
@@ -44,76 +47,77 @@ bool znBrowserManagerTcl::CreateDataSourceSimple(const char* name, const char* c
 
 // Unknown names go to the host, too, and its answer is not asked for.
 bool znBrowserManagerTcl::DeleteDataSourceSimple(const char* name) {
-    BeginOperation();
-    if (!current_.dataCtrl) return Fail(noDataCtrl);
+    const Operation operation(*this);
+    if (!current_.dataCtrl) return operation.Fail(noDataCtrl);
     znIBrowserDataSourceSimple* const source = FindDataSourceSimple(name);
-    if (source && source->IsBase()) return FailWith({"Cannot delete datasource: ", name});
-    if (source && source->IsConnected()) return FailWith({"Cannot delete connected datasource: ", name});
+    if (source && source->IsBase()) return operation.Fail({"Cannot delete datasource: ", name});
+    if (source && source->IsConnected())
+        return operation.Fail({"Cannot delete connected datasource: ", name});
     znIBrowserDataSourceSimple* const dying = source ? source : FindAmongCurrents(current_, name);
-    const znBrowserCurrentObjects doomed = dying ? CurrentsInside(dying) : znBrowserCurrentObjects();
+    const znBrowserCurrentObjects doomed = dying ? CurrentsInside(*this, dying) : znBrowserCurrentObjects();
     const auto deletion = [&] {
         if (name) current_.dataCtrl->DeleteDataSourceSimple(name);
         return FindDataSourceSimple(name) != dying;
     };
-    DeleteAndForget(deletion, [&] { Forget(doomed); });
+    DeleteAndForget(*this, doomed, deletion);
     return GetState();
 }
 
 znIBrowserDataSourceSimple* znBrowserManagerTcl::FindDataSourceSimple(const char* name) const {
-    return current_.dataCtrl && name ? current_.dataCtrl->FindDataSourceSimple(name) : nullptr;
+    return FindNamed(current_.dataCtrl, &znIBrowserDataCtrl::FindDataSourceSimple, name);
 }
 
 bool znBrowserManagerTcl::SetCurrentDataSourceSimple(const char* name) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserDataSourceSimple* const source = FindDataSourceSimple(name);
-    if (!source) return FailWith({unknownDataSource, name});
+    if (!source) return operation.Fail({unknownDataSource, name});
     UpdateCurrentDataSourceSimple(source);
     return GetState();
 }
 
 bool znBrowserManagerTcl::GetCurrentDataSourceSimpleCaption(znString& out) {
-    BeginOperation();
-    if (!current_.dataSourceSimple) return Fail(noCurrentSource);
+    const Operation operation(*this);
+    if (!current_.dataSourceSimple) return operation.Fail(noCurrentSource);
     out = current_.dataSourceSimple->GetCaption();
     return GetState();
 }
 
 bool znBrowserManagerTcl::SetCurrentDataSourceSimpleCaption(const char* caption) {
-    BeginOperation();
+    const Operation operation(*this);
     if (!caption) return false;
-    if (!current_.dataSourceSimple) return Fail(noCurrentSource);
-    if (!current_.dataCtrl) return Fail(messages::noCurrentDataCtrl);
+    if (!current_.dataSourceSimple) return operation.Fail(noCurrentSource);
+    if (!current_.dataCtrl) return operation.Fail(znBrowserMessages::noCurrentDataCtrl);
     return current_.dataCtrl->SetDataSourceSimpleCaption(current_.dataSourceSimple, caption);
 }
 
 bool znBrowserManagerTcl::GetCurrentDataSourceSimpleFilterCaption(znString& out) {
-    BeginOperation();
-    if (!current_.dataSourceSimple) return Fail(noCurrentSource);
+    const Operation operation(*this);
+    if (!current_.dataSourceSimple) return operation.Fail(noCurrentSource);
     out = current_.dataSourceSimple->GetFilterCaption();
     return GetState();
 }
 
 bool znBrowserManagerTcl::SetCurrentDataSourceSimpleFilterCaption(const char* caption) {
-    BeginOperation();
+    const Operation operation(*this);
     if (!caption) return false;
-    if (!current_.dataSourceSimple) return Fail(noCurrentSource);
-    if (!current_.dataCtrl) return Fail(messages::noCurrentDataCtrl);
+    if (!current_.dataSourceSimple) return operation.Fail(noCurrentSource);
+    if (!current_.dataCtrl) return operation.Fail(znBrowserMessages::noCurrentDataCtrl);
     return current_.dataCtrl->SetDataSourceSimpleFilterCaption(current_.dataSourceSimple, caption);
 }
 
 bool znBrowserManagerTcl::DataSourceSimpleNames(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out.clear();
-    if (!current_.dataCtrl) return Fail("Cannot get current Data Control");
+    if (!current_.dataCtrl) return operation.Fail("Cannot get current Data Control");
     std::vector<znIBrowserDataSourceSimple*> sources;
     current_.dataCtrl->GetDataSourcesSimple(sources);
     return NameList(EntryForm::Braced).AddNames(sources).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::DataSourceSimpleCustomNames(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out.clear();
-    if (!current_.dataCtrl) return Fail(noDataCtrl);
+    if (!current_.dataCtrl) return operation.Fail(noDataCtrl);
     std::vector<znIBrowserDataSourceSimple*> sources;
     current_.dataCtrl->GetDataSourcesSimple(sources);
     const auto isCustom = [](const znIBrowserDataSourceSimple* source) {
@@ -124,33 +128,33 @@ bool znBrowserManagerTcl::DataSourceSimpleCustomNames(znString& out) {
 }
 
 bool znBrowserManagerTcl::DataSourceSimplePropertyNames(const char* dataSource, znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out.clear();
     znIBrowserDataSourceSimple* const source = FindDataSourceSimple(dataSource);
-    if (!source) return FailWith({unknownDataSource, dataSource});
+    if (!source) return operation.Fail({unknownDataSource, dataSource});
     std::vector<znIBrowserDataProperty*> properties;
     source->GetDataProperties(properties);
     return NameList(EntryForm::Plain, ExtraBlanks::Between).AddNames(properties).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::GetDataSourcesNames(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out.clear();
-    if (!current_.dataCtrl) return Fail(messages::noCurrentDataCtrl);
+    if (!current_.dataCtrl) return operation.Fail(znBrowserMessages::noCurrentDataCtrl);
     std::vector<znIBrowserDataSource*> sources;
-    if (!current_.dataCtrl->GetDataSources(sources)) return Fail("Cannot get data sources names");
+    if (!current_.dataCtrl->GetDataSources(sources)) return operation.Fail("Cannot get data sources names");
     return NameList(EntryForm::Plain, ExtraBlanks::After).AddNames(sources).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::GetDataItemsFromCurrentDSS(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out.clear();
-    if (!current_.view) return Fail(noView);
+    if (!current_.view) return operation.Fail(noView);
     // One message for both: scripts know it so.
-    if (!current_.viewProperty || !current_.dataSourceSimple) return Fail(noViewProperty);
+    if (!current_.viewProperty || !current_.dataSourceSimple) return operation.Fail(noViewProperty);
     ItemProperty property(*this);
     if (!property.Of(current_.dataSourceSimple))
-        return Fail("Cannot get data property for current datasource");
+        return operation.Fail("Cannot get data property for current datasource");
     znBrowserDataItems items;
     current_.dataSourceSimple->GetDataItems(items);
     return GiveItemValues(*this, items, {&property}, out);

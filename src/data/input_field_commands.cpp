@@ -6,23 +6,21 @@ const char* const znBrowserTclMessages::USERINPUT =
     "    \tActions:\n"
     "    \tnames               show input field name list\n\n    ";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
-
-/// Whether a word was given at `position`, but none that can be read.
-bool IsUnreadable(const Call& call, int position) { return call.Count() > position && !call.Has(position); }
+using Messages = znBrowserTclMessages;
 
 // Without a type word the name stands for the type, too.
 void Create(Call& call) {
-    if (IsUnreadable(call, 3) || IsUnreadable(call, 4)) return call.Answer(znBrowserTclMessages::USERINPUT);
     if (call.Has(3) && !call.manager.CreateInputField(call.Text(3), call.TextOr(4, call.Text(3))))
         return call.AnswerError();
     call.AnswerValue(&Manager::GetCurrentInputField);
 }
 
 void Current(Call& call) {
-    if (IsUnreadable(call, 3)) return call.Answer(znBrowserTclMessages::USERINPUT);
     call.SetThenAnswer(3, &Manager::SetCurrentInputField, &Manager::GetCurrentInputField);
 }
 
@@ -45,15 +43,23 @@ void Value(Call& call) { SetAndAnswer(call, &Manager::SetInputFieldValue, &Manag
 
 // The usage text lists the names alone.
 constexpr CommandRow userInputRows[] = {
-    {Keyword::Names, Names},       {Keyword::Create, Create}, {Keyword::Current, Current},
-    {Keyword::DataType, DataType}, {Keyword::Delete, Delete}, {Keyword::Reset, Reset},
-    {Keyword::Script, Script},     {Keyword::Value, Value},
+    {Keyword::Names, "", "Lists the input fields.", Names},
+    {Keyword::Create, "?NAME? ?TYPE?", "Makes an input field and makes it current; alone, tells which is.",
+     Create},
+    {Keyword::Current, "?FIELD?", "Makes an input field current, or tells which is.", Current},
+    {Keyword::DataType, "?TYPE?", "Sets or reads the data type of the current input field.", DataType},
+    {Keyword::Delete, "", "Deletes the current input field.", Delete},
+    {Keyword::Reset, "", "Sets the value of the current input field to the zero of its type.", Reset},
+    {Keyword::Script, "", "Does nothing.", Script},
+    {Keyword::Value, "?VALUE?", "Sets or reads the value of the current input field.", Value},
 };
 
 } // namespace
 
-const CommandLevel userInputLevel(userInputRows, znBrowserTclMessages::USERINPUT);
+constexpr CommandLevel userInputLevel(userInputRows, Messages::USERINPUT);
+
+} // namespace znlayer
 
 int znBrowserManagerTcl::DataUserInputTclAPICommands(int objc, Tcl_Obj* const objv[]) {
-    return RunFamily(*this, userInputLevel, objc, objv);
+    return znlayer::RunFamily(*this, znlayer::userInputLevel, objc, objv);
 }

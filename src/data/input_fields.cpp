@@ -1,12 +1,15 @@
 // Input fields: named, typed values of a data control.
 #include "frame/data_types.h"
 #include "frame/name_list.h"
+#include "frame/operation.h"
 #include "host/znIBrowserDataCtrl.h"
 #include "host/znIBrowserInputField.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
+
+using namespace znlayer;
 
 namespace {
 
@@ -69,67 +72,70 @@ bool WriteValue(znIBrowserInputField& field, const char* text) {
 // Creating, deleting and listing fields is refused while a data control is current, and without one there is
 // nothing to work on. So it is always refused: applications make their input fields themselves.
 bool znBrowserManagerTcl::CreateInputField(const char*, const char*) {
-    BeginOperation();
-    return Fail("Cannot get the current data control");
+    const Operation operation(*this);
+    return operation.Fail("Cannot get the current data control");
 }
 
 bool znBrowserManagerTcl::DeleteInputField() {
-    BeginOperation();
-    return Fail("Current Data Control object is not set");
+    const Operation operation(*this);
+    return operation.Fail("Current Data Control object is not set");
 }
 
 bool znBrowserManagerTcl::GetInputFieldNames(znString&) {
-    BeginOperation();
-    return Fail("Cannot get the current data control");
+    const Operation operation(*this);
+    return operation.Fail("Cannot get the current data control");
 }
 
 bool znBrowserManagerTcl::SetCurrentInputField(const char* name) {
-    BeginOperation();
-    if (!current_.dataCtrl) return Fail("No current available data control");
-    znIBrowserInputField* const field = name ? current_.dataCtrl->FindInputField(name) : nullptr;
-    if (!field) return FailWith({"Cannot find inputfield named: ", name});
+    const Operation operation(*this);
+    if (!current_.dataCtrl) return operation.Fail("No current available data control");
+    znIBrowserInputField* const field =
+        FindNamed(current_.dataCtrl, &znIBrowserDataCtrl::FindInputField, name);
+    if (!field) return operation.Fail({"Cannot find inputfield named: ", name});
     current_.inputField = field;
     return GetState();
 }
 
 bool znBrowserManagerTcl::GetInputFieldDataType(znString& out) {
-    BeginOperation();
-    if (!current_.inputField) return Fail(noField);
+    const Operation operation(*this);
+    if (!current_.inputField) return operation.Fail(noField);
     out = DataTypeName(current_.inputField->GetDataType());
     return GetState();
 }
 
 bool znBrowserManagerTcl::SetInputFieldDataType(const char* word) {
-    BeginOperation();
-    if (!current_.inputField) return Fail(noField);
+    const Operation operation(*this);
+    if (!current_.inputField) return operation.Fail(noField);
     if (!word) return false;
     const ZNBROWSER_DATA_TYPE type = DataTypeFromWord(word);
-    if (type < ZNBROWSER_DATA_BOOL || type > lastHostType) return Fail("Invalid criteria type specified");
+    if (type < ZNBROWSER_DATA_BOOL || type > lastHostType)
+        return operation.Fail("Invalid criteria type specified");
     current_.inputField->SetDataType(type);
     return GetState();
 }
 
 bool znBrowserManagerTcl::GetInputFieldValue(znString& out) {
-    BeginOperation();
-    if (!current_.inputField) return Fail(noFieldForValue);
+    const Operation operation(*this);
+    if (!current_.inputField) return operation.Fail(noFieldForValue);
     if (!CanRead(current_.inputField->GetDataType()))
-        return Fail("Cannot get type of the current input field");
-    if (!ReadValue(*current_.inputField, out)) return Fail("Cannot get value of the current input field");
+        return operation.Fail("Cannot get type of the current input field");
+    if (!ReadValue(*current_.inputField, out))
+        return operation.Fail("Cannot get value of the current input field");
     return GetState();
 }
 
 bool znBrowserManagerTcl::SetInputFieldValue(const char* text) {
-    BeginOperation();
-    if (!current_.inputField) return Fail(noFieldForValue);
+    const Operation operation(*this);
+    if (!current_.inputField) return operation.Fail(noFieldForValue);
     if (!text) return false;
     if (!WriteValue(*current_.inputField, text))
-        return Fail("Current Input field data type is not defined/supported yet...");
+        return operation.Fail("Current Input field data type is not defined/supported yet...");
     return GetState();
 }
 
 bool znBrowserManagerTcl::ResetInputFieldValue() {
-    BeginOperation();
-    if (!current_.inputField) return Fail(noFieldForValue);
+    const Operation operation(*this);
+    if (!current_.inputField) return operation.Fail(noFieldForValue);
     current_.inputField->ResetValue();
     return GetState();
 }

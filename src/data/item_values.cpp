@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <unordered_map>
 
+namespace znlayer {
+
 namespace {
 
 /// Which data sources of listed items are still alive. The host never tells when one dies; so it is noted,
@@ -101,3 +103,5 @@ bool GiveItemValues(znBrowserManagerTcl& manager, const znBrowserDataItems& item
     manager.SetOk();
     return values.Give(manager, out);
 }
+
+} // namespace znlayer

@@ -13,6 +13,8 @@ class znIBrowserDataProperty;
 class znIBrowserDataSourceSimple;
 class znIBrowserViewProperty;
 
+namespace znlayer {
+
 /// The data properties that a view property shows, for the items of one data source after another. Each is
 /// asked for once for all items of a source in a row, and again when a script has used the command meanwhile:
 /// it may have deleted anything.
@@ -52,5 +54,7 @@ bool ReadValueString(znIBrowserDataProperty& property, const znBrowserDataItem& 
 bool GiveItemValues(znBrowserManagerTcl& manager, const znBrowserDataItems& items,
                     std::initializer_list<ItemProperty*> properties, znString& out,
                     ReadValue read = ReadValueString);
+
+} // namespace znlayer
 
 #endif

@@ -18,6 +18,8 @@ const char* const znBrowserTclMessages::VIEW_DATASOURCE =
     "    \tsimple selected [recursive]                  Returns the simple datasources that have\n"
     "    \t                                             selected dataitems.\n\n";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
@@ -47,35 +49,67 @@ void Selected(Call& call) {
     call.AnswerOutcome(listed, values.c_str());
 }
 
+// Connecting asks for a current view before it looks at its words.
 constexpr CommandRow hierarchicalRows[] = {
-    {Keyword::Connect, Change<&Manager::DataSourceHierarchicalConnect>},
-    {Keyword::Connected, Connected<&Manager::DataSourceHierarchicalConnected>},
-    {Keyword::Disconnect, Change<&Manager::DataSourceDisconnect>},
-    {Keyword::Selected, Selected<&Manager::DataSourceHierarchicalSelected>},
+    {Keyword::Connect,
+     {"HIERARCHICAL", Arguments::Check::ByHandler},
+     "Connects a hierarchical data source to the view.",
+     Change<&Manager::DataSourceHierarchicalConnect>},
+    {Keyword::Connected, "", "Lists the hierarchical data sources of the view.",
+     Connected<&Manager::DataSourceHierarchicalConnected>},
+    {Keyword::Disconnect,
+     {"HIERARCHICAL", Arguments::Check::ByHandler},
+     "Disconnects a hierarchical data source from the view.",
+     Change<&Manager::DataSourceDisconnect>},
+    {Keyword::Selected, "?recursive?", "Lists the hierarchical data sources that have selected items.",
+     Selected<&Manager::DataSourceHierarchicalSelected>},
 };
 
 constexpr CommandRow simpleRows[] = {
-    {Keyword::Connect, Change<&Manager::DataSourceSimpleConnect>},
-    {Keyword::Connected, Connected<&Manager::DataSourceSimpleConnected>},
-    {Keyword::Disconnect, Change<&Manager::DataSourceDisconnect>},
-    {Keyword::Selected, Selected<&Manager::DataSourceSimpleSelected>},
+    {Keyword::Connect,
+     {"DATASOURCE", Arguments::Check::ByHandler},
+     "Connects a simple data source to the view.",
+     Change<&Manager::DataSourceSimpleConnect>},
+    {Keyword::Connected, "", "Lists the simple data sources of the view.",
+     Connected<&Manager::DataSourceSimpleConnected>},
+    {Keyword::Disconnect,
+     {"DATASOURCE", Arguments::Check::ByHandler},
+     "Disconnects a simple data source from the view.",
+     Change<&Manager::DataSourceDisconnect>},
+    {Keyword::Selected, "?recursive?", "Lists the simple data sources that have selected items.",
+     Selected<&Manager::DataSourceSimpleSelected>},
 };
 
 constexpr CommandLevel hierarchicalLevel(hierarchicalRows, Messages::VIEW_DATASOURCE);
 constexpr CommandLevel simpleLevel(simpleRows, Messages::VIEW_DATASOURCE);
 
-// The view helper has words of its own here, for views that connect data sources themselves.
+// The view helper has words of its own here, for views that connect data sources themselves. It looks at the
+// arguments itself.
 constexpr CommandRow viewDataSourceRows[] = {
-    {Keyword::Hierarchical, nullptr, &hierarchicalLevel},
-    {Keyword::Simple, nullptr, &simpleLevel},
-    {Keyword::Connect, AnswerByViewHelper},
-    {Keyword::Current, AnswerByViewHelper},
-    {Keyword::Disconnect, AnswerByViewHelper},
-    {Keyword::Names, AnswerByViewHelper},
-    {Keyword::Selected, AnswerByViewHelper},
+    {Keyword::Hierarchical, "The hierarchical data sources of the current view.", &hierarchicalLevel},
+    {Keyword::Simple, "The simple data sources of the current view.", &simpleLevel},
+    {Keyword::Connect,
+     {"DATASOURCE", Arguments::Check::ByHandler},
+     "Connects a data source to the view.",
+     AnswerByViewHelper},
+    {Keyword::Current,
+     {"?DATASOURCE?", Arguments::Check::ByHandler},
+     "Makes a data source of the view current, or tells which is.",
+     AnswerByViewHelper},
+    {Keyword::Disconnect,
+     {"DATASOURCE", Arguments::Check::ByHandler},
+     "Disconnects a data source from the view.",
+     AnswerByViewHelper},
+    {Keyword::Names, "", "Lists the data sources of the view.", AnswerByViewHelper},
+    {Keyword::Selected,
+     {"?recursive?", Arguments::Check::ByHandler},
+     "Lists the selected items of the current data source.",
+     AnswerByViewHelper},
 };
 
 } // namespace
 
-const CommandLevel viewDataSourceLevel(viewDataSourceRows, Messages::VIEW_DATASOURCE,
-                                       Messages::HELPER_DATASOURCE);
+constexpr CommandLevel viewDataSourceLevel(viewDataSourceRows, Messages::VIEW_DATASOURCE,
+                                           Messages::HELPER_DATASOURCE);
+
+} // namespace znlayer

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <string_view>
 
+namespace znlayer {
+
 /// The lower-case form of an ASCII capital; every other byte as it is.
 constexpr char FoldAscii(char character) {
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character + ('a' - 'A')) : character;
@@ -19,5 +21,7 @@ constexpr bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
     }
     return true;
 }
+
+} // namespace znlayer
 
 #endif

@@ -2,6 +2,8 @@
 
 #include <tcl.h>
 
+namespace znlayer {
+
 Call::Call(znBrowserManagerTcl& callManager, int objc, Tcl_Obj* const objv[])
     : manager(callManager), interp_(callManager.GetTclInterp()), objc_(objc), objv_(objv), code_(TCL_OK) {}
 
@@ -122,3 +124,5 @@ int Call::Finish() {
     if (!replied_) Tcl_ResetResult(interp_);
     return code_;
 }
+
+} // namespace znlayer

@@ -8,6 +8,8 @@
 
 #include <string_view>
 
+namespace znlayer {
+
 using Keyword = ZNBROWSER_TCLAPI_KEYWORD;
 
 /// What an answer function works with. Positions count from the command word, which is 0.
@@ -89,5 +91,7 @@ private:
     bool replied_ = false;
     int code_;
 };
+
+} // namespace znlayer
 
 #endif

@@ -4,6 +4,8 @@
 // accepted, but nothing is done with either.
 #include "frame/call.h"
 
+using namespace znlayer;
+
 const char* const znBrowserTclMessages::COLLECTOR =
     "    znbrowsermanager collector [action] \n\n"
     "    \tActions:\n"

@@ -4,8 +4,12 @@
 
 #include <cstdint>
 
+namespace znlayer {
+
 /// How many commands this thread has begun. A host call may run a script; as long as the count is what it was
 /// before the call, the script has changed nothing, and what was found before is still there.
 inline thread_local std::uint64_t commandsBegun = 0;
+
+} // namespace znlayer
 
 #endif

@@ -1,12 +1,15 @@
 #include "frame/command_entry.h"
 
 #include "znBrowserManagerTcl.h"
+#include "znBrowserMessages.h"
 
 #include <tcl.h>
 
 #include <algorithm>
 #include <exception>
 #include <vector>
+
+namespace znlayer {
 
 namespace {
 
@@ -46,6 +49,8 @@ int CommandProcedure(void* clientData, Tcl_Interp*, int objc, Tcl_Obj* const obj
     } catch (const char* text) {
         return AnswerException(manager, text);
     } catch (...) {
-        return AnswerException(manager, "Unexpected general error");
+        return AnswerException(manager, znBrowserMessages::unexpectedError);
     }
 }
+
+} // namespace znlayer

@@ -2,18 +2,38 @@
 #ifndef COMMAND_TABLE_H
 #define COMMAND_TABLE_H
 
+#include "frame/arguments.h"
 #include "frame/call.h"
 
 #include <cstddef>
 
+namespace znlayer {
+
 struct CommandLevel;
 
-/// One word of a level. It is answered by a function, or leads to the level of the words that follow it. A
-/// row that has both is answered by the function; the level then tells completion what may follow.
+/// One word of a level, and all that is to be told of it. It is answered by a function, or leads to the level
+/// of the words that follow it. A row that has both is answered by the function; the level then tells what
+/// may follow.
 struct CommandRow {
+    using AnswerFunction = void (*)(Call& call);
+
+    /// A word that is answered.
+    constexpr CommandRow(Keyword rowKeyword, Arguments rowArguments, const char* rowSummary,
+                         AnswerFunction rowAnswer, const CommandLevel* rowLevel = nullptr,
+                         const char* const* rowUsage = nullptr)
+        : keyword(rowKeyword), arguments(rowArguments), summary(rowSummary), answer(rowAnswer),
+          level(rowLevel), usage(rowUsage) {}
+    /// A word that only leads on.
+    constexpr CommandRow(Keyword rowKeyword, const char* rowSummary, const CommandLevel* rowLevel)
+        : CommandRow(rowKeyword, "", rowSummary, nullptr, rowLevel) {}
+
     Keyword keyword;
-    void (*answer)(Call& call);
-    const CommandLevel* level = nullptr;
+    Arguments arguments;
+    const char* summary; ///< one sentence
+    AnswerFunction answer;
+    const CommandLevel* level;
+    /// The answer to missing or unreadable arguments where it is not the level's; null where it is.
+    const char* const* usage;
 };
 
 /// The words that may stand at one position. The rows stand in the order in which the usage text lists them.
@@ -38,6 +58,15 @@ struct CommandLevel {
     const char* const* unknownUsage;
 };
 
+/// Whether each row of a table can be reached where only keywords from `first` to `last` get to it.
+template <std::size_t count>
+constexpr bool LieWithin(const CommandRow (&table)[count], Keyword first, Keyword last) {
+    for (const CommandRow& row : table) {
+        if (row.keyword < first || row.keyword > last) return false;
+    }
+    return true;
+}
+
 /// Answers a word that stands at `position` by the level's table, or with the level's text for unknown words.
 void RunWord(Call& call, const CommandLevel& level, int position, Keyword keyword);
 
@@ -47,8 +76,7 @@ void RunLevel(Call& call, const CommandLevel& level, int position);
 /// Runs a whole command family: its words begin at position 2. @return the Tcl code
 int RunFamily(znBrowserManagerTcl& manager, const CommandLevel& level, int objc, Tcl_Obj* const objv[]);
 
-// The levels of the command language, from which completion reads it. Each is defined in the file of its
-// name.
+// The levels of the command language. Each is defined in the file of its name.
 extern const CommandLevel topLevel;
 extern const CommandLevel viewLevel;
 extern const CommandLevel viewColumnLevel;
@@ -72,5 +100,7 @@ extern const CommandLevel dataOperationLevel;
 extern const CommandLevel dataReferenceLevel;
 extern const CommandLevel userInputLevel;
 extern const CommandLevel stateLevel;
+
+} // namespace znlayer
 
 #endif

@@ -1,10 +1,8 @@
-// Which current objects die with an object that the host deletes.
-//
-// The host never tells when an object dies. An operation that deletes one asks before, through the owners
-// that objects name, which of the current objects lie in it, and clears those after the deletion. An object
-// whose owner the host cannot tell counts as lying in the one that dies: no current object is safer than a
-// dead one.
+#include "frame/current_lifetimes.h"
+
+#include "frame/current_kinds.h"
 #include "host/znIBrowser.h"
+#include "host/znIBrowserApplication.h"
 #include "host/znIBrowserCriteria.h"
 #include "host/znIBrowserEvent.h"
 #include "host/znIBrowserFindRequest.h"
@@ -21,20 +19,63 @@
 #include "znBrowserManagerTcl.h"
 
 #include <algorithm>
+#include <type_traits>
+
+namespace znlayer {
 
 namespace {
 
-using Currents = znBrowserCurrentObjects;
+using Manager = znBrowserManagerTcl;
 
-template <class T>
-void ClearIfDoomed(T*& current, const T* doomed) {
-    if (doomed && current == doomed) current = nullptr;
+// ---- How an object tells the owner of a kind; null when it cannot ----
+
+znIBrowserView* OwnerOf(znIBrowserViewColumn* column, const znIBrowserView*) { return column->GetView(); }
+znIBrowserView* OwnerOf(znIBrowserViewProperty* property, const znIBrowserView*) {
+    return property->GetView();
+}
+znIBrowserView* OwnerOf(znIBrowserViewOperation* operation, const znIBrowserView*) {
+    return operation->GetView();
+}
+znIBrowserView* OwnerOf(znIBrowserViewItemFreeFolder* folder, const znIBrowserView*) {
+    return folder->GetView();
 }
 
-template <class T>
-bool MayBe(const T* owner, const T* dying) {
-    return !owner || owner == dying;
+znIBrowserViewColumn* OwnerOf(znIBrowserStyle* style, const znIBrowserViewColumn*) {
+    return style->GetColumn();
 }
+znIBrowserView* OwnerOf(znIBrowserStyle* style, const znIBrowserView*) {
+    znIBrowserViewColumn* const column = style->GetColumn();
+    return column ? column->GetView() : nullptr;
+}
+
+znIBrowserStyle* OwnerOf(znIBrowserStyleElement* element, const znIBrowserStyle*) {
+    return element->GetStyle();
+}
+template <class Owner>
+Owner* OwnerOf(znIBrowserStyleElement* element, const Owner* kind) {
+    znIBrowserStyle* const style = element->GetStyle();
+    return style ? OwnerOf(style, kind) : nullptr;
+}
+
+znIBrowserWindowAccess* OwnerOf(znIBrowserWindowPart* part, const znIBrowserWindowAccess*) {
+    return part->GetWindowAccess();
+}
+znIBrowserWindowAccess* OwnerOf(znIBrowserEvent* event, const znIBrowserWindowAccess*) {
+    return event->GetWindowAccess();
+}
+znIBrowserWindowAccess* OwnerOf(znIBrowserWindowCallback* callback, const znIBrowserWindowAccess*) {
+    znIBrowserEvent* const event = callback->GetEvent();
+    return event ? event->GetWindowAccess() : nullptr;
+}
+znIBrowserWindowAccess* OwnerOf(znIBrowserFindRequest* request, const znIBrowserWindowAccess*) {
+    return request->GetWindowAccess();
+}
+
+znIBrowserDataSourceSimple* OwnerOf(znIBrowserCriteria* criteria, const znIBrowserDataSourceSimple*) {
+    return criteria->GetDataSource();
+}
+
+// ---- Whether an object lies in a dying one ----
 
 template <class T>
 bool HasAncestor(T* object, const T* ancestor) {
@@ -42,17 +83,35 @@ bool HasAncestor(T* object, const T* ancestor) {
     return object != nullptr;
 }
 
+/// Whatever has one owner of that kind.
+template <class Object, class Dying>
+bool MayLieIn(Object* object, Dying* dying, const Manager&) {
+    if constexpr (std::is_same_v<Object, Dying>) {
+        return object == dying;
+    } else {
+        Dying* const owner = OwnerOf(object, dying);
+        return !owner || owner == dying;
+    }
+}
+
+bool MayLieIn(znIBrowserViewItemFreeFolder* folder, znIBrowserViewItemFreeFolder* dying, const Manager&) {
+    return HasAncestor(folder, dying);
+}
+
 /// Asked from both ends, so that one question that the host leaves unanswered does not hide a dying part.
-bool MayLieIn(znIBrowserWindowPart* part, znIBrowserWindowPart* dying) {
+bool MayLieIn(znIBrowserWindowPart* part, znIBrowserWindowPart* dying, const Manager&) {
     if (!part || HasAncestor(part, dying)) return true;
     std::vector<znIBrowserWindowPart*> below;
     dying->GetChildParts(below, true);
     return std::find(below.begin(), below.end(), part) != below.end();
 }
 
-znIBrowserView* ViewOf(znIBrowserStyle* style) {
-    znIBrowserViewColumn* const column = style ? style->GetColumn() : nullptr;
-    return column ? column->GetView() : nullptr;
+bool MayLieIn(znIBrowserEvent* event, znIBrowserWindowPart* dying, const Manager& manager) {
+    return !event || MayLieIn(event->GetWindowPart(), dying, manager);
+}
+
+bool MayLieIn(znIBrowserWindowCallback* callback, znIBrowserWindowPart* dying, const Manager& manager) {
+    return MayLieIn(callback->GetEvent(), dying, manager);
 }
 
 bool Holds(znIBrowserWindowAccess* window, const znBrowserProperty* property,
@@ -75,9 +134,10 @@ bool Holds(znIBrowserWindowAccess* window, const znBrowserProperty* property,
 }
 
 /// The records of find requests name no owner: one is safe when a window other than the dying one holds it.
-bool OtherWindowHolds(znIBrowser* browser, const znIBrowserWindowAccess* dying,
+bool OtherWindowHolds(const Manager& manager, const znIBrowserWindowAccess* dying,
                       const znBrowserProperty* property, const znBrowserCriterion* criterion) {
     std::vector<znIBrowserWindowAccess*> windows;
+    znIBrowser* const browser = manager.GetApplication()->GetBrowser();
     znIBrowserWindowAccessList* const list = browser ? browser->GetWindowAccessList() : nullptr;
     if (list) list->GetWindowAccesses(windows, 0);
     return std::any_of(windows.begin(), windows.end(), [&](znIBrowserWindowAccess* window) {
@@ -85,101 +145,53 @@ bool OtherWindowHolds(znIBrowser* browser, const znIBrowserWindowAccess* dying,
     });
 }
 
+bool MayLieIn(znBrowserProperty* property, znIBrowserWindowAccess* dying, const Manager& manager) {
+    return !OtherWindowHolds(manager, dying, property, nullptr);
+}
+
+bool MayLieIn(znBrowserCriterion* criterion, znIBrowserWindowAccess* dying, const Manager& manager) {
+    return !OtherWindowHolds(manager, dying, nullptr, criterion);
+}
+
 } // namespace
 
-Currents znBrowserManagerTcl::CurrentsInside(znIBrowserView* view) const {
-    Currents doomed;
-    const auto dies = [view](auto* object) { return object && MayBe(object->GetView(), view); };
-    if (current_.view == view) doomed.view = view;
-    if (dies(current_.column)) doomed.column = current_.column;
-    if (dies(current_.viewProperty)) doomed.viewProperty = current_.viewProperty;
-    if (dies(current_.viewOperation)) doomed.viewOperation = current_.viewOperation;
-    if (dies(current_.freeFolder)) doomed.freeFolder = current_.freeFolder;
-    if (current_.style && MayBe(ViewOf(current_.style), view)) doomed.style = current_.style;
-    if (current_.styleElement && MayBe(ViewOf(current_.styleElement->GetStyle()), view))
-        doomed.styleElement = current_.styleElement;
+znBrowserCurrentObjects& CurrentAccess::Of(znBrowserManagerTcl& manager) { return manager.current_; }
+
+const znBrowserCurrentObjects& CurrentAccess::Of(const znBrowserManagerTcl& manager) {
+    return manager.current_;
+}
+
+template <class Dying>
+znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl& manager, Dying* dying) {
+    const znBrowserCurrentObjects& current = CurrentAccess::Of(manager);
+    znBrowserCurrentObjects doomed;
+    ForEachCurrentKind([&](const auto& kind) {
+        if constexpr (std::decay_t<decltype(kind)>::template diesWith<Dying>) {
+            auto* const object = current.*kind.member;
+            if (object && MayLieIn(object, dying, manager)) doomed.*kind.member = object;
+        }
+    });
     return doomed;
 }
 
-Currents znBrowserManagerTcl::CurrentsInside(znIBrowserViewColumn* column) const {
-    Currents doomed;
-    if (current_.column == column) doomed.column = column;
-    if (current_.style && MayBe(current_.style->GetColumn(), column)) doomed.style = current_.style;
-    znIBrowserStyle* const style = current_.styleElement ? current_.styleElement->GetStyle() : nullptr;
-    if (current_.styleElement && (!style || MayBe(style->GetColumn(), column)))
-        doomed.styleElement = current_.styleElement;
-    return doomed;
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserView*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserViewColumn*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserViewProperty*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserStyle*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserStyleElement*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserViewItemFreeFolder*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserWindowAccess*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserWindowPart*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserDataSourceSimple*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserCriteria*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserDataOperation*);
+
+void Forget(znBrowserManagerTcl& manager, const znBrowserCurrentObjects& doomed) {
+    znBrowserCurrentObjects& current = CurrentAccess::Of(manager);
+    ForEachCurrentKind([&](const auto& kind) {
+        auto* const dead = doomed.*kind.member;
+        if (dead && current.*kind.member == dead) current.*kind.member = nullptr;
+    });
 }
 
-Currents znBrowserManagerTcl::CurrentsInside(znIBrowserStyle* style) const {
-    Currents doomed;
-    if (current_.style == style) doomed.style = style;
-    if (current_.styleElement && MayBe(current_.styleElement->GetStyle(), style))
-        doomed.styleElement = current_.styleElement;
-    return doomed;
-}
-
-Currents znBrowserManagerTcl::CurrentsInside(znIBrowserViewItemFreeFolder* folder) const {
-    Currents doomed;
-    if (HasAncestor(current_.freeFolder, folder)) doomed.freeFolder = current_.freeFolder;
-    return doomed;
-}
-
-Currents znBrowserManagerTcl::CurrentsInside(znIBrowserWindowAccess* window) const {
-    Currents doomed;
-    const auto dies = [window](auto* object) { return object && MayBe(object->GetWindowAccess(), window); };
-    if (current_.windowAccess == window) doomed.windowAccess = window;
-    if (dies(current_.windowPart)) doomed.windowPart = current_.windowPart;
-    if (dies(current_.event)) doomed.event = current_.event;
-    znIBrowserEvent* const event = current_.windowCallback ? current_.windowCallback->GetEvent() : nullptr;
-    if (current_.windowCallback && (!event || dies(event))) doomed.windowCallback = current_.windowCallback;
-    if (dies(current_.findRequest)) doomed.findRequest = current_.findRequest;
-    if (current_.findRequestProperty &&
-        !OtherWindowHolds(GetBrowser(), window, current_.findRequestProperty, nullptr))
-        doomed.findRequestProperty = current_.findRequestProperty;
-    if (current_.findRequestPropertyCriterion &&
-        !OtherWindowHolds(GetBrowser(), window, nullptr, current_.findRequestPropertyCriterion))
-        doomed.findRequestPropertyCriterion = current_.findRequestPropertyCriterion;
-    return doomed;
-}
-
-Currents znBrowserManagerTcl::CurrentsInside(znIBrowserWindowPart* part) const {
-    Currents doomed;
-    const auto dies = [part](znIBrowserEvent* event) {
-        return !event || MayLieIn(event->GetWindowPart(), part);
-    };
-    if (current_.windowPart && MayLieIn(current_.windowPart, part)) doomed.windowPart = current_.windowPart;
-    if (current_.event && dies(current_.event)) doomed.event = current_.event;
-    if (current_.windowCallback && dies(current_.windowCallback->GetEvent()))
-        doomed.windowCallback = current_.windowCallback;
-    return doomed;
-}
-
-Currents znBrowserManagerTcl::CurrentsInside(znIBrowserDataSourceSimple* source) const {
-    Currents doomed;
-    if (current_.dataSourceSimple == source) doomed.dataSourceSimple = source;
-    if (current_.list == source) doomed.list = source;
-    if (current_.criteria && MayBe(current_.criteria->GetDataSource(), source))
-        doomed.criteria = current_.criteria;
-    return doomed;
-}
-
-void znBrowserManagerTcl::Forget(const Currents& doomed) {
-    ClearIfDoomed(current_.view, doomed.view);
-    ClearIfDoomed(current_.column, doomed.column);
-    ClearIfDoomed(current_.style, doomed.style);
-    ClearIfDoomed(current_.styleElement, doomed.styleElement);
-    ClearIfDoomed(current_.viewProperty, doomed.viewProperty);
-    ClearIfDoomed(current_.viewOperation, doomed.viewOperation);
-    ClearIfDoomed(current_.freeFolder, doomed.freeFolder);
-    ClearIfDoomed(current_.windowAccess, doomed.windowAccess);
-    ClearIfDoomed(current_.windowPart, doomed.windowPart);
-    ClearIfDoomed(current_.event, doomed.event);
-    ClearIfDoomed(current_.windowCallback, doomed.windowCallback);
-    ClearIfDoomed(current_.findRequest, doomed.findRequest);
-    ClearIfDoomed(current_.findRequestProperty, doomed.findRequestProperty);
-    ClearIfDoomed(current_.findRequestPropertyCriterion, doomed.findRequestPropertyCriterion);
-    ClearIfDoomed(current_.dataSourceSimple, doomed.dataSourceSimple);
-    ClearIfDoomed(current_.list, doomed.list);
-    ClearIfDoomed(current_.criteria, doomed.criteria);
-}
+} // namespace znlayer

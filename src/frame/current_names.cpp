@@ -1,4 +1,5 @@
 // The names of current objects.
+#include "frame/operation.h"
 #include "host/znIBrowserCriteria.h"
 #include "host/znIBrowserDataCtrl.h"
 #include "host/znIBrowserDataOperation.h"
@@ -8,6 +9,8 @@
 #include "host/znIBrowserPopupMenu.h"
 #include "host/znIBrowserPopupMenuItem.h"
 #include "znBrowserManagerTcl.h"
+
+using namespace znlayer;
 
 namespace {
 
@@ -35,14 +38,14 @@ const char* znBrowserManagerTcl::GetCurrentConnectDataSourceSimple() const {
 }
 
 bool znBrowserManagerTcl::GetCurrentCriteria(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out = NameOf(current_.criteria);
     return true;
 }
 
 bool znBrowserManagerTcl::GetCurrentDataOperation(znString& out) {
-    BeginOperation();
-    if (!current_.dataOperation) return Fail("Cannot get name of the current dataoperation");
+    const Operation operation(*this);
+    if (!current_.dataOperation) return operation.Fail("Cannot get name of the current dataoperation");
     out = NameOf(current_.dataOperation);
     return true;
 }
@@ -53,13 +56,13 @@ bool znBrowserManagerTcl::GetCurrentInputField(znString& out) {
 }
 
 bool znBrowserManagerTcl::GetCurrentPopupMenu(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out = NameOf(current_.popupMenu);
     return true;
 }
 
 bool znBrowserManagerTcl::GetCurrentPopupMenuItem(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out = NameOf(current_.popupMenuItem);
     return true;
 }

@@ -1,4 +1,5 @@
 // The current objects: how each is read, stored, cleared and moved with its parent.
+#include "frame/operation.h"
 #include "host/znIBrowser.h"
 #include "host/znIBrowserCriteria.h"
 #include "host/znIBrowserDataCtrl.h"
@@ -14,7 +15,8 @@
 #include "host/znIBrowserViewColumn.h"
 #include "host/znIBrowserWindowAccess.h"
 #include "host/znIBrowserWindowPart.h"
-#include "znBrowserManagerTcl.h"
+
+using namespace znlayer;
 
 namespace {
 
@@ -137,7 +139,7 @@ void znBrowserManagerTcl::SetCurrentStyle(znIBrowserStyle* style) {
 void znBrowserManagerTcl::SetCurrentWindowAccess(znIBrowserWindowAccess* window) {
     current_.windowAccess = window;
     UpdateCurrentFindRequest(window);
-    if (znIBrowser* const browser = GetBrowser()) browser->SetCurrentWindowAccess(window);
+    if (znIBrowser* const browser = BrowserOf(*this)) browser->SetCurrentWindowAccess(window);
 }
 
 void znBrowserManagerTcl::SetCurrentDataSourceSimple(znIBrowserDataSourceSimple* source) {

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <cstdio>
 
+namespace znlayer {
+
 namespace {
 
 struct TypeWord {
@@ -165,3 +167,5 @@ bool VariantToText(const znVariant& value, znString& text) {
     default: return false;
     }
 }
+
+} // namespace znlayer

@@ -10,6 +10,8 @@
 
 #include <string_view>
 
+namespace znlayer {
+
 /// The data type that a script's word names, with all its short forms ("int", "uintarr"); undefined for
 /// any other word. Note that "boolean" is a keyword but no type word: only "bool" is.
 ZNBROWSER_DATA_TYPE DataTypeFromWord(std::string_view word);
@@ -42,5 +44,7 @@ const char* CallbackOperationName(ZNBROWSER_CALLBACK_OPERATION operation);
 /// Writes a host value as text. False, and `text` unchanged, for a value of a type that has no text form.
 /// Of a 64-bit integer only the low 32 bits are shown.
 bool VariantToText(const znVariant& value, znString& text);
+
+} // namespace znlayer
 
 #endif

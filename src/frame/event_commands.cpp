@@ -94,6 +94,8 @@ const char* const znBrowserTclMessages::ON_DRAG_AND_DROP =
     "    \tdroptkindex                       Integer tkindex value.\n"
     "    \tkindex1 ?tkindex2 ... tkindexN?   List of unsigned integer tkindex values.\n\n";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
@@ -223,3 +225,5 @@ void OnColPreselButtonClicked(Call& call) {
     const bool known = call.Is(3, Keyword::On) || call.Is(3, Keyword::Off);
     if (!call.Has(2) || !known) call.Answer(Messages::COLLECTOR);
 }
+
+} // namespace znlayer

@@ -2,6 +2,8 @@
 #ifndef EVENT_COMMANDS_H
 #define EVENT_COMMANDS_H
 
+namespace znlayer {
+
 class Call;
 
 // One answer per event: reads the arguments and calls the manager's handler. A success leaves the result
@@ -25,5 +27,7 @@ void OnSetDropItem(Call& call);
 void OnColListItemSelected(Call& call);
 void OnColOptionItemSelected(Call& call);
 void OnColPreselButtonClicked(Call& call);
+
+} // namespace znlayer
 
 #endif

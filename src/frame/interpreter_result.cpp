@@ -2,6 +2,10 @@
 
 #include <tcl.h>
 
+namespace znlayer {
+
 void AppendToInterpreterResult(Tcl_Interp* interp, const char* text) {
     Tcl_AppendResult(interp, text, static_cast<char*>(nullptr));
 }
+
+} // namespace znlayer

@@ -4,6 +4,10 @@
 
 struct Tcl_Interp;
 
+namespace znlayer {
+
 void AppendToInterpreterResult(Tcl_Interp* interp, const char* text);
+
+} // namespace znlayer
 
 #endif

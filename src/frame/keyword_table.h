@@ -7,6 +7,8 @@
 
 #include <string_view>
 
+namespace znlayer {
+
 using Keyword = ZNBROWSER_TCLAPI_KEYWORD;
 
 /// What a spelling is to its keyword. Every keyword has exactly one plain word, which help and completion
@@ -427,5 +429,7 @@ inline constexpr KeywordRow rows[] = {
 };
 
 } // namespace keyword_table
+
+} // namespace znlayer
 
 #endif

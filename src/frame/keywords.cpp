@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <iterator>
 
+using namespace znlayer;
+
 namespace {
 
 using keyword_table::rows;

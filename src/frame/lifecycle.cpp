@@ -10,6 +10,8 @@
 
 #include <stdexcept>
 
+using namespace znlayer;
+
 namespace {
 
 class BrowserInfo final : public znIBrowserInfo {

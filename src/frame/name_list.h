@@ -8,6 +8,8 @@
 #include <cstddef>
 #include <vector>
 
+namespace znlayer {
+
 /// How an entry is written: as it is, in braces when it holds a blank, or in double quotes.
 enum class EntryForm { Plain, Braced, Quoted };
 
@@ -76,5 +78,7 @@ private:
     std::size_t count_ = 0;
     znString text_;
 };
+
+} // namespace znlayer
 
 #endif

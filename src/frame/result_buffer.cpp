@@ -1,12 +1,12 @@
-// The result buffer, and how operations begin and end.
+// The result buffer.
 #include "frame/text_piece.h"
 #include "frame/word_text.h"
-#include "host/znIBrowser.h"
-#include "host/znIBrowserApplication.h"
 #include "znBrowserManagerTcl.h"
 
 #include <cstdio>
 #include <cstring>
+
+using namespace znlayer;
 
 namespace {
 
@@ -94,38 +94,3 @@ void znBrowserManagerTcl::SetCommand(int objc, Tcl_Obj* const objv[]) {
     SetErrCommand(command);
     ResetBuff();
 }
-
-void znBrowserManagerTcl::BeginOperation() {
-    SetOk();
-    ResetBuff();
-}
-
-bool znBrowserManagerTcl::Fail(const char* message) {
-    SetError(message);
-    return false;
-}
-
-bool znBrowserManagerTcl::FailWith(std::initializer_list<const char*> pieces) {
-    for (const char* const piece : pieces) AppendToBuff(piece, true, false);
-    SetError(buffer_);
-    return false;
-}
-
-bool znBrowserManagerTcl::FailWithHostError() {
-    znIBrowser* const browser = GetBrowser();
-    return Fail(browser ? browser->GetError() : nullptr);
-}
-
-bool znBrowserManagerTcl::HostAnswer(bool accepted) { return accepted || FailWithHostError(); }
-
-bool znBrowserManagerTcl::GiveBuffer(znString& out) {
-    out.assign(buffer_.View());
-    return GetState();
-}
-
-bool znBrowserManagerTcl::GiveBool(bool value, znString& out) {
-    out = value ? znBrowserTclKeywords::KEYWORD_TRUE : znBrowserTclKeywords::KEYWORD_FALSE;
-    return true;
-}
-
-znIBrowser* znBrowserManagerTcl::GetBrowser() const { return application_->GetBrowser(); }

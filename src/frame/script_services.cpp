@@ -1,25 +1,29 @@
 // The services by which the host reaches Tcl scripts, and the requests that the manager passes on to the
 // host.
-#include "frame/messages.h"
+#include "frame/operation.h"
 #include "host/znIBrowser.h"
 #include "host/znIBrowserApplication.h"
 #include "host/znIBrowserView.h"
 #include "znBrowserManagerTcl.h"
+#include "znBrowserMessages.h"
 
 #include <tcl.h>
+
+using namespace znlayer;
 
 const char* znBrowserManagerTcl::GetCurrentView() const {
     return current_.view ? current_.view->GetName().c_str() : "";
 }
 
 bool znBrowserManagerTcl::EvalTclScript(const char* script) {
-    if (!script) return Fail("NULL pointer found");
+    const Operation operation(*this, Operation::State::Kept);
+    if (!script) return operation.Fail("NULL pointer found");
     if (Tcl_Eval(GetTclInterp(), script) == TCL_OK) return true;
-    return Fail("Error while executing TCL script");
+    return operation.Fail("Error while executing TCL script");
 }
 
 bool znBrowserManagerTcl::GetStringFromScript(const char* procName, znString& result, znString argument) {
-    BeginOperation();
+    const Operation operation(*this);
     if (!procName) return GetState();
     AppendToBuff(procName, false, false);
     if (!argument.empty()) AppendToBuffWithQuotes(argument.c_str(), true, false);
@@ -30,7 +34,7 @@ bool znBrowserManagerTcl::GetStringFromScript(const char* procName, znString& re
 }
 
 bool znBrowserManagerTcl::UpdateTclInputScript(const char* script) {
-    BeginOperation();
+    const Operation operation(*this);
     if (!script) return true;
     for (const char* const piece : {"::znbrowser::UpdatePopupInputScript \"", script, "\""})
         AppendToBuff(piece, true, false);
@@ -41,7 +45,7 @@ bool znBrowserManagerTcl::UpdateTclInputScript(const char* script) {
 
 bool znBrowserManagerTcl::UpdateTclFreeFolderSelection(
     const std::vector<znIBrowserViewItemFreeFolder*>& folders) {
-    BeginOperation();
+    const Operation operation(*this);
     if (!EvalTclScript("::znbrowser::ResetSelectedFreeFoldersArray")) return false;
     // Whatever error the commands of that procedure left: it did run.
     if (folders.empty()) return true;
@@ -60,29 +64,30 @@ bool znBrowserManagerTcl::UpdateTclFreeFolderSelection(
 }
 
 bool znBrowserManagerTcl::GetTclNameSpace(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out = application_->GetTclNameSpace();
     return true;
 }
 
 bool znBrowserManagerTcl::SetFlushFlag(bool flush) {
-    if (znIBrowser* const browser = GetBrowser()) browser->SetFlushFlag(flush);
+    if (znIBrowser* const browser = BrowserOf(*this)) browser->SetFlushFlag(flush);
     return GetState();
 }
 
 bool znBrowserManagerTcl::ApplyPendingChanges() {
-    if (!current_.dataCtrl) return Fail(messages::noCurrentDataCtrl);
+    const Operation operation(*this, Operation::State::Kept);
+    if (!current_.dataCtrl) return operation.Fail(znBrowserMessages::noCurrentDataCtrl);
     if (current_.freeFolder) {
-        znIBrowser* const browser = GetBrowser();
+        znIBrowser* const browser = BrowserOf(*this);
         return browser && browser->ApplyPendingChanges(current_.freeFolder);
     }
     // Whatever the buffer still holds goes in front of the message.
-    return FailWith({"Cannot find current freefolder"});
+    return operation.FailBehindBuffer({"Cannot find current freefolder"});
 }
 
 void znBrowserManagerTcl::TemporaryTestFunction() {
     if (!current_.dataCtrl) return;
     if (!current_.freeFolder && current_.view) current_.freeFolder = current_.view->GetRootFreeFolder();
-    znIBrowser* const browser = GetBrowser();
+    znIBrowser* const browser = BrowserOf(*this);
     if (current_.freeFolder && browser) browser->ApplyPendingChanges(current_.freeFolder);
 }

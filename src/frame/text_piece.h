@@ -6,6 +6,8 @@
 
 #include <cstring>
 
+namespace znlayer {
+
 /// Appends a piece to `text`. `separate` puts a blank before it unless the text is empty, `braceIfBlank`
 /// braces a piece that holds a blank, and `quoted` puts double quotes around all of it. Nothing is escaped.
 /// @return false, and nothing is appended, for a null piece
@@ -20,5 +22,7 @@ inline bool AppendPiece(znString& text, const char* piece, bool quoted, bool sep
     if (quoted) text += '"';
     return true;
 }
+
+} // namespace znlayer
 
 #endif

@@ -29,6 +29,8 @@ const char* const znBrowserTclMessages::CHECKBOX = "    znbrowsermanager checkbo
                                                    "    \tActions:\n"
                                                    "    \tnames               show checkbox names\n\n    ";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
@@ -58,10 +60,7 @@ void ElementCurrent(Call& call) {
     call.AnswerValue(&Manager::GetCurrentStyleElement);
 }
 
-void ElementDelete(Call& call) {
-    if (!call.Has(3)) return call.Answer(Messages::VIEW_ELEMENT);
-    call.AnswerOutcome(call.manager.DeleteStyleElement(call.Text(3)));
-}
+void ElementDelete(Call& call) { call.AnswerOutcome(call.manager.DeleteStyleElement(call.Text(3))); }
 
 void ElementDescription(Call& call) {
     if (call.Has(3)) call.AnswerOutcome(call.manager.SetStyleElementDescription(call.Text(3)));
@@ -105,17 +104,34 @@ void CheckBoxCreate(Call& call) {
     if (call.Count() < 6 || !placed) call.Answer(Messages::VIEW_COLUMN);
 }
 
+// The actions on style elements share a text when an element's name cannot be read.
+constexpr const char* const* elementUsage = &Messages::VIEW_ELEMENT;
+
 constexpr CommandRow elementRows[] = {
-    {Keyword::Current, ElementCurrent},
-    {Keyword::Delete, ElementDelete},
-    {Keyword::Description, ElementDescription},
-    {Keyword::Names, ElementNames},
+    {Keyword::Current, "?ELEMENT?", "Makes an element of the current style current, or tells which is.",
+     ElementCurrent, nullptr, elementUsage},
+    {Keyword::Delete, "ELEMENT", "Deletes an element of the current style.", ElementDelete, nullptr,
+     elementUsage},
+    {Keyword::Description, "?TEXT?", "Sets or reads the description of the current element.",
+     ElementDescription, nullptr, elementUsage},
+    {Keyword::Names, "", "Lists the elements of the current style.", ElementNames},
 };
-constexpr CommandRow emptyRows[] = {{Keyword::Show, EmptyShow}};
-constexpr CommandRow noRows[] = {{Keyword::Filter, NoFilter}};
-constexpr CommandRow selectionRows[] = {{Keyword::Clear, Selection}};
-constexpr CommandRow checkBoxRows[] = {{Keyword::Display, CheckBoxDisplay},
-                                       {Keyword::Create, CheckBoxCreate}};
+constexpr CommandRow emptyRows[] = {
+    {Keyword::Show, "?BOOL?", "Sets or reads whether the current folder shows containers that are empty.",
+     EmptyShow},
+};
+constexpr CommandRow noRows[] = {
+    {Keyword::Filter, "", "Shows the items of every data source again.", NoFilter},
+};
+constexpr CommandRow selectionRows[] = {
+    {Keyword::Clear, "", "Deselects everything in every view.", Selection},
+};
+constexpr CommandRow checkBoxRows[] = {
+    {Keyword::Display, HandlerChecks("elem|geom INT ?WINDOW?"),
+     "Switches a check box of the rows that stand for one item.", CheckBoxDisplay},
+    {Keyword::Create, HandlerChecks("beginning|end NAME NAME"), "Is accepted, and makes nothing.",
+     CheckBoxCreate},
+};
 
 constexpr CommandLevel elementLevel(elementRows, Messages::VIEW_COLUMN);
 constexpr CommandLevel emptyLevel(emptyRows, Messages::EMPTY);
@@ -124,60 +140,88 @@ constexpr CommandLevel selectionLevel(selectionRows, Messages::VIEW_SELECTION);
 constexpr CommandLevel checkBoxLevel(checkBoxRows, Messages::VIEW_COLUMN);
 
 constexpr CommandRow topRows[] = {
-    {Keyword::View, nullptr, &viewLevel},
-    {Keyword::Window, nullptr, &windowLevel},
-    {Keyword::App, App},
-    {Keyword::Frame, Frame},
-    {Keyword::State, RunFamilyOf<&Manager::StateTclAPICommands>, &stateLevel},
-    {Keyword::DataCtrl, nullptr, &dataCtrlLevel},
-    {Keyword::Element, nullptr, &elementLevel},
-    {Keyword::Empty, nullptr, &emptyLevel},
-    {Keyword::NoFilterForm, nullptr, &noLevel},
-    {Keyword::Selection, Selection, &selectionLevel},
-    {Keyword::UserInput, nullptr, &userInputLevel},
-    {Keyword::Collector, RunFamilyOf<&Manager::CollectorTclAPICommands>},
-    {Keyword::DataSource, nullptr, &dataSourceLevel},
-    {Keyword::DataOperation, nullptr, &dataOperationLevel},
-    {Keyword::DataReference, nullptr, &dataReferenceLevel},
-    {Keyword::Checkbox, nullptr, &checkBoxLevel},
-    {Keyword::OnTkTreeRequestCollapse, OnRequestCollapse},
-    {Keyword::OnTkTreeRequestCollapseAll, OnRequestCollapseAll},
-    {Keyword::OnTkTreeRequestDeselect, OnRequestDeselect},
-    {Keyword::OnTkTreeSelectionChangeFinished, OnSelectionChangeFinished},
-    {Keyword::OnTkTreeRequestSelectionUpdate, OnRequestSelectionUpdate},
-    {Keyword::OnTkTreeRequestExpand, OnRequestExpand},
-    {Keyword::OnTkTreeRequestExpandAll, OnRequestExpandAll},
-    {Keyword::OnTkTreeRequestSelect, OnRequestSelect},
-    {Keyword::OnTkTreeSetStatePos, OnSetStatePos},
-    {Keyword::OnTkTreeCheckBoxClick, OnCheckBoxClick},
-    {Keyword::OnTkTreeWindowButtonClick, OnWindowButtonClick},
-    {Keyword::OnTkTreeLeftHandClick, OnLeftHandClick},
-    {Keyword::OnTkTreeRightHandClick, OnRightHandClick},
-    {Keyword::OnTkTreePopupMenu, OnPopupMenu},
-    {Keyword::OnTkTreePerformPopupOperation, OnPerformPopupOperation},
-    {Keyword::OnTkTreeSetDropItem, OnSetDropItem},
-    {Keyword::OnTkColListItemSelected, OnColListItemSelected},
-    {Keyword::OnTkColOptionItemSelected, OnColOptionItemSelected},
-    {Keyword::OnTkColPreselButtonClicked, OnColPreselButtonClicked},
+    {Keyword::View, "Views, and what they show.", &viewLevel},
+    {Keyword::Window, "Windows: where views are shown.", &windowLevel},
+    {Keyword::App, HandlerChecks("ANY ..."), "The words of the host application.", App},
+    {Keyword::Frame, "", "Shows what was held back in the current folder.", Frame},
+    {Keyword::State, HandlerChecks(""), "Saved configurations of a window.",
+     RunFamilyOf<&Manager::StateTclAPICommands>, &stateLevel},
+    {Keyword::DataCtrl, "Data controls: the databases.", &dataCtrlLevel},
+    {Keyword::Element, "The elements of the current style.", &elementLevel},
+    {Keyword::Empty, "Containers that are empty.", &emptyLevel},
+    {Keyword::NoFilterForm, "Takes an option back.", &noLevel},
+    {Keyword::Selection, "", "The selection in every view.", Selection, &selectionLevel},
+    {Keyword::UserInput, "Input fields.", &userInputLevel},
+    {Keyword::Collector, HandlerChecks(""), "The virtual collector.",
+     RunFamilyOf<&Manager::CollectorTclAPICommands>},
+    {Keyword::DataSource, "Data sources: the items of a data control, kind by kind.", &dataSourceLevel},
+    {Keyword::DataOperation, "Operations of the current data control.", &dataOperationLevel},
+    {Keyword::DataReference, "The data references of the current data control.", &dataReferenceLevel},
+    {Keyword::Checkbox, "Check boxes of rows.", &checkBoxLevel},
+    // What the trees of a window report. Each event looks at its words itself: what it answers to a bad one
+    // differs from event to event.
+    {Keyword::OnTkTreeRequestCollapse, HandlerChecks("WINDOW INDEX"), "A row was collapsed.",
+     OnRequestCollapse},
+    {Keyword::OnTkTreeRequestCollapseAll, HandlerChecks("WINDOW"),
+     "Everything was collapsed; nothing follows from it.", OnRequestCollapseAll},
+    {Keyword::OnTkTreeRequestDeselect, HandlerChecks("WINDOW INDEX ..."), "Rows were deselected.",
+     OnRequestDeselect},
+    {Keyword::OnTkTreeSelectionChangeFinished, HandlerChecks("WINDOW"),
+     "A change of the selection is complete.", OnSelectionChangeFinished},
+    {Keyword::OnTkTreeRequestSelectionUpdate, HandlerChecks("WINDOW INDEX ..."),
+     "These rows are now the selection.", OnRequestSelectionUpdate},
+    {Keyword::OnTkTreeRequestExpand, HandlerChecks("WINDOW INDEX"), "A row was expanded.", OnRequestExpand},
+    {Keyword::OnTkTreeRequestExpandAll, HandlerChecks("WINDOW"),
+     "Everything was expanded; nothing follows from it.", OnRequestExpandAll},
+    {Keyword::OnTkTreeRequestSelect, HandlerChecks("WINDOW INDEX ..."), "Rows were selected.",
+     OnRequestSelect},
+    {Keyword::OnTkTreeSetStatePos, HandlerChecks("WINDOW INT"), "A position of the state was chosen.",
+     OnSetStatePos},
+    {Keyword::OnTkTreeCheckBoxClick, HandlerChecks("WINDOW COLUMN ELEMENT INDEX BOOL"),
+     "A check box was switched.", OnCheckBoxClick},
+    {Keyword::OnTkTreeWindowButtonClick, HandlerChecks("WINDOW COLUMN ELEMENT INDEX VALUE"),
+     "A button in a cell was pressed.", OnWindowButtonClick},
+    {Keyword::OnTkTreeLeftHandClick, HandlerChecks("WINDOW COLUMN ELEMENT INDEX"), "A cell was clicked.",
+     OnLeftHandClick},
+    {Keyword::OnTkTreeRightHandClick, HandlerChecks("WINDOW COLUMN INDEX ..."),
+     "A cell was clicked with the right button.", OnRightHandClick},
+    {Keyword::OnTkTreePopupMenu, HandlerChecks("WINDOW BOOL"), "A popup menu was opened or closed.",
+     OnPopupMenu},
+    {Keyword::OnTkTreePerformPopupOperation, HandlerChecks("WINDOW VIEWOPERATION VALUE"),
+     "An operation was chosen in a popup menu.", OnPerformPopupOperation},
+    {Keyword::OnTkTreeSetDropItem, HandlerChecks("WINDOW INDEX INDEX ..."),
+     "Rows were dropped on the first one.", OnSetDropItem},
+    {Keyword::OnTkColListItemSelected, HandlerChecks("WINDOW DATASOURCE"),
+     "A data source was chosen for the collector.", OnColListItemSelected},
+    {Keyword::OnTkColOptionItemSelected, HandlerChecks("WINDOW NAME"),
+     "An action was chosen for the collector.", OnColOptionItemSelected},
+    {Keyword::OnTkColPreselButtonClicked, HandlerChecks("WINDOW on|off"),
+     "The collector's preselector was switched; nothing follows from it.", OnColPreselButtonClicked},
 };
 
 /// "data", "pending" and "apply" are keywords, but never actions.
 constexpr Keyword firstAction = Keyword::View;
 constexpr Keyword lastAction = Keyword::OnTkColPreselButtonClicked;
+static_assert(LieWithin(topRows, firstAction, lastAction), "no action outside the range is ever looked up");
+
+bool IsAction(Keyword keyword) { return keyword >= firstAction && keyword <= lastAction; }
 
 } // namespace
 
 constexpr CommandLevel topLevel(topRows, Messages::GENERAL);
 
+} // namespace znlayer
+
 int znBrowserManagerTcl::EvalTclCommand(int objc, Tcl_Obj* const objv[]) {
+    using namespace znlayer;
     if (ProcessingCommand()) return TCL_OK;
     ++commandsBegun;
     SetCommand(objc, objv);
     Call call(*this, objc, objv);
     const Keyword action = call.Word(1);
-    if (action < firstAction || action > lastAction)
-        call.Answer(Messages::GENERAL);
-    else
+    if (IsAction(action))
         RunWord(call, topLevel, 1, action);
+    else
+        call.Answer(Messages::GENERAL);
     return call.Finish();
 }

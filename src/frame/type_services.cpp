@@ -3,6 +3,8 @@
 #include "frame/word_text.h"
 #include "znBrowserManagerTcl.h"
 
+using namespace znlayer;
+
 ZNBROWSER_DATA_TYPE znBrowserManagerTcl::ConvertStringToViewPropertyType(const char* word) {
     return word ? ViewPropertyTypeFromWord(word) : ZNBROWSER_DATA_UNDEFINED;
 }

@@ -3,6 +3,8 @@
 #include "frame/shared_keywords.h"
 #include "frame/word_text.h"
 
+namespace znlayer {
+
 // A keyword is plain data, copied with the word, and the string form is never given up.
 const Tcl_ObjType keywordWordType = {"znkeyword", nullptr, nullptr, nullptr, nullptr};
 
@@ -14,3 +16,5 @@ ZNBROWSER_TCLAPI_KEYWORD LookUpKeyword(Tcl_Obj* word) {
     }
     return keyword;
 }
+
+} // namespace znlayer

@@ -6,6 +6,8 @@
 
 #include <tcl.h>
 
+namespace znlayer {
+
 /// The type of words whose keyword is known. It keeps the keyword beside the string form, as Tcl keeps
 /// numbers and lists, so that a command in a loop looks its words up only once.
 extern const Tcl_ObjType keywordWordType;
@@ -19,5 +21,7 @@ inline ZNBROWSER_TCLAPI_KEYWORD WordKeyword(Tcl_Obj* word) {
         return static_cast<ZNBROWSER_TCLAPI_KEYWORD>(word->internalRep.longValue);
     return LookUpKeyword(word);
 }
+
+} // namespace znlayer
 
 #endif

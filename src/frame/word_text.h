@@ -6,12 +6,17 @@
 
 #include <string_view>
 
+namespace znlayer {
+
 /// The string form of a word, without a call where the word has it already, as words of a command nearly
-/// always do. Without data for a null word. Belongs to the word.
+/// always do. Its `data()` is a C string: a zero stands behind it. Null data for a null word. Belongs to the
+/// word.
 inline std::string_view WordText(Tcl_Obj* word) {
     if (!word) return {};
     if (!word->bytes) Tcl_GetString(word);
     return {word->bytes, static_cast<std::size_t>(word->length)};
 }
+
+} // namespace znlayer
 
 #endif

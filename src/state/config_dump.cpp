@@ -1,6 +1,9 @@
 // The configuration kept in a state, as lines of text: eight sections, each with a heading.
+#include "frame/operation.h"
 #include "host/znIBrowserState.h"
 #include "znBrowserManagerTcl.h"
+
+using namespace znlayer;
 
 namespace {
 
@@ -50,8 +53,8 @@ bool AppendSection(std::vector<znString>& lines, const char* heading, State& sta
 
 // A section that fails ends the dump without a message; the sections before it stay.
 bool znBrowserManagerTcl::GetConfigData(std::vector<znString>& lines) {
-    BeginOperation();
-    if (!current_.state) return Fail("Cannot get handle to the current state");
+    const Operation operation(*this);
+    if (!current_.state) return operation.Fail("Cannot get handle to the current state");
     State& state = *current_.state;
     return AppendSection(lines, " Window Part(s)     Visibilty", state, &State::GetWindowPartVisibility) &&
            AppendSection(lines, " Tree Area Column(s)     Visibilty", state,

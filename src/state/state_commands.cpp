@@ -9,9 +9,12 @@ const char* const znBrowserTclMessages::STATE =
     "    \tsave                   Saves current window's configuration to current state.\n"
     "    \trestore                Restores current window's configuration from current state.\n\n    ";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
+using Messages = znBrowserTclMessages;
 
 constexpr const char* notEnough = "Not enough arguments";
 
@@ -39,36 +42,48 @@ void Restore(Call& call) {
     call.AnswerOutcome(call.manager.RestoreCurrentState(), "Configuration has been restored successfully");
 }
 
-void EntitiesAdd(Call& call) {
-    if (!call.Has(4)) return call.Answer(notEnough);
-    call.AnswerOutcome(call.manager.CurrentStateAddEntities(call.TextsFrom(4)));
+template <bool (Manager::*change)(const std::vector<znString>&)>
+void ChangeEntities(Call& call) {
+    if (call.Count() < 5) return call.Answer(notEnough);
+    call.AnswerOutcome((call.manager.*change)(call.TextsFrom(4)));
 }
 
-void EntitiesRemove(Call& call) {
-    if (!call.Has(4)) return call.Answer(notEnough);
-    call.AnswerOutcome(call.manager.CurrentStateRemoveEntities(call.TextsFrom(4)));
-}
-
-constexpr CommandRow entityRows[] = {{Keyword::Add, EntitiesAdd}, {Keyword::Remove, EntitiesRemove}};
-constexpr CommandLevel entityLevel(entityRows, notEnough, znBrowserTclMessages::GENERAL);
+constexpr CommandRow entityRows[] = {
+    {Keyword::Add, HandlerChecks("NAME ..."), "Adds entities to the current state.",
+     ChangeEntities<&Manager::CurrentStateAddEntities>},
+    {Keyword::Remove, HandlerChecks("NAME ..."), "Removes entities from the current state.",
+     ChangeEntities<&Manager::CurrentStateRemoveEntities>},
+};
+constexpr CommandLevel entityLevel(entityRows, notEnough, Messages::GENERAL);
 
 constexpr CommandRow rows[] = {
-    {Keyword::Current, Current}, {Keyword::Data, Data},       {Keyword::Names, Names},
-    {Keyword::Save, Save},       {Keyword::Restore, Restore}, {Keyword::Entity, nullptr, &entityLevel},
+    {Keyword::Current, "?STATE?", "Makes a state current, or tells which is.", Current, nullptr,
+     &Messages::GENERAL},
+    {Keyword::Data, "", "Prints the configuration that the current state holds.", Data},
+    {Keyword::Names, "", "Lists the states of the current data control.", Names},
+    {Keyword::Save, "", "Saves the configuration of the current window in the current state.", Save},
+    {Keyword::Restore, "", "Brings the current window back to the configuration of the current state.",
+     Restore},
+    {Keyword::Entity, "What the current state holds besides.", &entityLevel},
 };
 
 /// Keywords outside this range get the general usage text, as words that are no keywords do.
+constexpr Keyword firstKeyword = Keyword::Data;
 constexpr Keyword lastKeyword = Keyword::Entity;
+static_assert(LieWithin(rows, firstKeyword, lastKeyword), "no word outside the range is ever looked up");
 
 } // namespace
 
-constexpr CommandLevel stateLevel(rows, znBrowserTclMessages::STATE);
+constexpr CommandLevel stateLevel(rows, Messages::STATE);
+
+} // namespace znlayer
 
 int znBrowserManagerTcl::StateTclAPICommands(int objc, Tcl_Obj* const objv[]) {
+    using namespace znlayer;
     Call call(*this, objc, objv);
     const Keyword keyword = call.Word(2);
-    if (call.Has(2) && (keyword == Keyword::Unknown || keyword > lastKeyword))
-        call.Answer(znBrowserTclMessages::GENERAL);
+    if (objc > 2 && (keyword < firstKeyword || keyword > lastKeyword))
+        call.Answer(Messages::GENERAL);
     else
         RunLevel(call, stateLevel, 2);
     return call.Finish();

@@ -1,9 +1,12 @@
 // States: saved configurations of a window, kept by the data control.
 #include "frame/name_list.h"
+#include "frame/operation.h"
 #include "host/znIBrowser.h"
 #include "host/znIBrowserDataCtrl.h"
 #include "host/znIBrowserState.h"
 #include "znBrowserManagerTcl.h"
+
+using namespace znlayer;
 
 namespace {
 
@@ -18,24 +21,24 @@ znIBrowserStateContainer* StatesOf(znIBrowserDataCtrl* control) {
 } // namespace
 
 bool znBrowserManagerTcl::SetCurrentState(const char* name) {
-    BeginOperation();
-    if (!current_.dataCtrl) return Fail(noDataCtrl);
+    const Operation operation(*this);
+    if (!current_.dataCtrl) return operation.Fail(noDataCtrl);
     znIBrowserStateContainer* const states = StatesOf(current_.dataCtrl);
-    znIBrowserState* const state = states && name ? states->FindState(name) : nullptr;
-    if (!state) return FailWith({"Cannot find state name : ", name});
+    znIBrowserState* const state = FindNamed(states, &znIBrowserStateContainer::FindState, name);
+    if (!state) return operation.Fail({"Cannot find state name : ", name});
     SetCurrentState(state);
     return true;
 }
 
 bool znBrowserManagerTcl::GetCurrentState(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out = current_.state ? current_.state->GetName() : "";
     return true;
 }
 
 bool znBrowserManagerTcl::GetStateNames(znString& out) {
-    BeginOperation();
-    if (!current_.dataCtrl) return Fail(noDataCtrl);
+    const Operation operation(*this);
+    if (!current_.dataCtrl) return operation.Fail(noDataCtrl);
     std::vector<znIBrowserState*> states;
     znIBrowserStateContainer* const container = StatesOf(current_.dataCtrl);
     if (container) container->GetStates(states);
@@ -43,37 +46,37 @@ bool znBrowserManagerTcl::GetStateNames(znString& out) {
 }
 
 bool znBrowserManagerTcl::SaveCurrentState() {
-    BeginOperation();
-    if (!current_.state) return Fail(noState);
-    if (!current_.windowAccess) return Fail(noWindow);
+    const Operation operation(*this);
+    if (!current_.state) return operation.Fail(noState);
+    if (!current_.windowAccess) return operation.Fail(noWindow);
     znIBrowserStateContainer* const states = StatesOf(current_.dataCtrl);
     return (states && states->SaveState(current_.state, current_.windowAccess)) ||
-           Fail("Cannot save configuration to the current state");
+           operation.Fail("Cannot save configuration to the current state");
 }
 
 bool znBrowserManagerTcl::RestoreCurrentState() {
-    BeginOperation();
-    if (!current_.state) return Fail(noState);
-    if (!current_.windowAccess) return Fail(noWindow);
-    znIBrowser* const browser = GetBrowser();
+    const Operation operation(*this);
+    if (!current_.state) return operation.Fail(noState);
+    if (!current_.windowAccess) return operation.Fail(noWindow);
+    znIBrowser* const browser = BrowserOf(*this);
     return (browser && browser->RestoreState(current_.state, current_.windowAccess)) ||
-           Fail("Cannot restore configuration from the current state");
+           operation.Fail("Cannot restore configuration from the current state");
 }
 
 bool znBrowserManagerTcl::CurrentStateAddEntities(const std::vector<znString>& entities) {
-    BeginOperation();
-    if (!current_.dataCtrl) return Fail(noDataCtrl);
-    if (!current_.state) return Fail(noState);
-    znIBrowser* const browser = GetBrowser();
+    const Operation operation(*this);
+    if (!current_.dataCtrl) return operation.Fail(noDataCtrl);
+    if (!current_.state) return operation.Fail(noState);
+    znIBrowser* const browser = BrowserOf(*this);
     return (browser && browser->AddStateEntities(current_.dataCtrl, current_.state, entities)) ||
-           Fail("Cannot add entities to the current state");
+           operation.Fail("Cannot add entities to the current state");
 }
 
 bool znBrowserManagerTcl::CurrentStateRemoveEntities(const std::vector<znString>& entities) {
-    BeginOperation();
-    if (!current_.dataCtrl) return Fail(noDataCtrl);
-    if (!current_.state) return Fail(noState);
-    znIBrowser* const browser = GetBrowser();
+    const Operation operation(*this);
+    if (!current_.dataCtrl) return operation.Fail(noDataCtrl);
+    if (!current_.state) return operation.Fail(noState);
+    znIBrowser* const browser = BrowserOf(*this);
     return (browser && browser->RemoveStateEntities(current_.dataCtrl, current_.state, entities)) ||
-           Fail("Cannot remove entities from the current state");
+           operation.Fail("Cannot remove entities from the current state");
 }

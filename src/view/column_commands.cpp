@@ -1,7 +1,7 @@
 // view column ...
 #include "frame/command_table.h"
+#include "frame/command_words.h"
 #include "host/znIBrowserViewColumn.h"
-#include "view/view_words.h"
 
 #include <cstdlib>
 
@@ -20,6 +20,8 @@ const char* const znBrowserTclMessages::VIEW_COLUMN =
     "    \tshow [true/false]                 Gets/sets the display state of the current column.\n"
     "    \tsort [enabled/disabled]           Gives or enables/disables the sorting for the current "
     "column.\n\n";
+
+namespace znlayer {
 
 namespace {
 
@@ -54,10 +56,7 @@ bool CreateColumn(Call& call) {
     }
 }
 
-void Create(Call& call) {
-    if (!call.Has(4)) return call.Answer(Messages::VIEW_COLUMN);
-    call.AnswerOutcome(CreateColumn(call), call.Text(4));
-}
+void Create(Call& call) { call.AnswerOutcome(CreateColumn(call), call.Text(4)); }
 
 void Delete(Call& call) {
     if (RequireColumn(call))
@@ -69,7 +68,6 @@ void Italic(Call& call) {
 }
 
 void Justify(Call& call) {
-    if (!call.Has(4)) return call.Answer(Messages::VIEW_COLUMN);
     if (!RequireColumn(call)) return;
     call.AnswerOutcome(call.manager.SetViewColumnJustify(ColumnName(call).GetText(), call.Text(4)));
 }
@@ -100,11 +98,19 @@ void Show(Call& call) {
     call.AnswerOutcome(call.manager.ShowScriptedColumn(ColumnName(call).GetText(), show));
 }
 
+void SortByName(Call& call) {
+    call.SetThenAnswer(5, &Manager::SetSortDefaultColumnByCustomProperty,
+                       &Manager::SortDefaultColumnByCustomProperty);
+}
+
+constexpr CommandRow sortRows[] = {
+    {Keyword::ByName, "?PROPERTY?", "Sets or reads by which property the default column is sorted.",
+     SortByName},
+};
+constexpr CommandLevel sortLevel(sortRows, Messages::VIEW_COLUMN);
+
 void Sort(Call& call) {
-    if (call.Is(4, Keyword::ByName)) {
-        return call.SetThenAnswer(5, &Manager::SetSortDefaultColumnByCustomProperty,
-                                  &Manager::SortDefaultColumnByCustomProperty);
-    }
+    if (call.Is(4, Keyword::ByName)) return RunLevel(call, sortLevel, 4);
     SetOrGetEnabled(call, 4, &Manager::SetColumnSorting, &Manager::GetColumnSorting, Messages::VIEW_COLUMN);
 }
 
@@ -121,21 +127,25 @@ void PopupMenu(Call& call) {
 }
 
 constexpr CommandRow columnRows[] = {
-    {Keyword::Caption, Caption},
-    {Keyword::Current, Current},
-    {Keyword::Create, Create},
-    {Keyword::Delete, Delete},
-    {Keyword::Italic, Italic},
-    {Keyword::Justify, Justify},
-    {Keyword::Width, Width},
-    {Keyword::Names, Names},
-    {Keyword::Show, Show},
-    {Keyword::Sort, Sort},
+    {Keyword::Caption, "?TEXT?", "Sets or reads the caption of the current column.", Caption},
+    {Keyword::Current, "?COLUMN?", "Makes a column of the view current, or tells which is.", Current},
+    {Keyword::Create, "NAME ?textbox|checkbox|icon|button? ?MAP?",
+     "Makes a column; an icon column may be given the map of its pictures.", Create},
+    {Keyword::Delete, "", "Deletes the current column.", Delete},
+    {Keyword::Italic, "?enabled|disabled?", "Sets or reads whether the column's texts are italic.", Italic},
+    {Keyword::Justify, "left|center|right", "Sets on which side the column's texts stand.", Justify},
+    {Keyword::Width, "?INT?", "Sets the column's width in pixels, or asks the window for it.", Width},
+    {Keyword::Names, "", "Lists the columns of the view.", Names},
+    {Keyword::Show, "?BOOL?", "Shows or hides the column, or tells whether it is shown.", Show},
+    {Keyword::Sort, "?enabled|disabled?", "Sets or reads whether the column can be sorted.", Sort,
+     &sortLevel},
     // Words that the usage text leaves out.
-    {Keyword::Move, Move},
-    {Keyword::PopupMenu, PopupMenu},
+    {Keyword::Move, "INT", "Moves the column to a place, counted from 0.", Move},
+    {Keyword::PopupMenu, "?POPUPMENU?", "Sets or reads the popup menu of the column.", PopupMenu},
 };
 
 } // namespace
 
 constexpr CommandLevel viewColumnLevel(columnRows, Messages::VIEW_COLUMN);
+
+} // namespace znlayer

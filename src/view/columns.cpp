@@ -1,16 +1,17 @@
 // Columns of the current view.
-#include "frame/deletion.h"
-#include "frame/messages.h"
+#include "frame/current_lifetimes.h"
 #include "frame/name_list.h"
+#include "frame/operation.h"
 #include "host/znIBrowserPopupMenu.h"
 #include "host/znIBrowserView.h"
 #include "host/znIBrowserViewColumn.h"
 #include "host/znIBrowserWindowAccess.h"
-#include "view/ask_browser.h"
 #include "view/view_messages.h"
+#include "znBrowserMessages.h"
 
 #include <string>
 
+using namespace znlayer;
 using namespace view_messages;
 
 namespace {
@@ -18,21 +19,21 @@ namespace {
 constexpr char missing[] = "\" doesn't exists";
 
 /// Unlike other messages these have no blanks between their pieces.
-bool FailOnColumn(znBrowserManagerTcl& manager, const char* name, const char* ending) {
-    manager.SetError(std::string("Column \"") + (name ? name : "") + ending);
-    return false;
+bool FailOnColumn(const Operation& operation, const char* name, const char* ending) {
+    return operation.Fail((std::string("Column \"") + (name ? name : "") + ending).c_str());
 }
 
 znIBrowserViewColumn* FindColumn(znIBrowserView* view, const char* name) {
-    return view && name ? view->FindColumn(name) : nullptr;
+    return FindNamed(view, &znIBrowserView::FindColumn, name);
 }
 
 /// A column of the current view by name; null when there is none, with the error set.
 znIBrowserViewColumn* RequireColumn(znBrowserManagerTcl& manager, const char* name) {
     znIBrowserView* const view = manager.GetCurrentViewPtr();
     znIBrowserViewColumn* const column = FindColumn(view, name);
-    if (!view) manager.SetError(noViewHandle);
-    if (view && !column) FailOnColumn(manager, name, missing);
+    const Operation operation(manager, Operation::State::Kept);
+    if (!view) operation.Fail(noViewHandle);
+    if (view && !column) FailOnColumn(operation, name, missing);
     return column;
 }
 
@@ -41,7 +42,7 @@ znIBrowserViewColumn* RequireScriptedColumn(znBrowserManagerTcl& manager, const 
                                             const char* refusal) {
     znIBrowserViewColumn* const column = RequireColumn(manager, name);
     if (!column || !column->IsBuiltIn()) return column;
-    FailOnColumn(manager, column->GetName(), refusal);
+    FailOnColumn(Operation(manager, Operation::State::Kept), column->GetName(), refusal);
     return nullptr;
 }
 
@@ -50,14 +51,10 @@ template <class... Parameters, class... Arguments>
 bool CreateColumn(znBrowserManagerTcl& manager,
                   bool (znIBrowser::*request)(znIBrowserView*, const char*, Parameters...), const char* name,
                   Arguments... arguments) {
-    manager.SetOk();
-    manager.ResetBuff();
+    const Operation operation(manager);
     znIBrowserView* const view = manager.GetCurrentViewPtr();
-    if (!view || !name) {
-        manager.SetError(view ? nullName : noViewHandle);
-        return false;
-    }
-    if (!AskBrowser(manager, request, view, name, arguments...)) return false;
+    if (!view || !name) return operation.Fail(view ? nullName : noViewHandle);
+    if (!operation.Ask(request, view, name, arguments...)) return false;
     znIBrowserViewColumn* const column = FindColumn(manager.GetCurrentViewPtr(), name);
     // A new column has no style yet: the current one stays as it is.
     if (column) manager.SetCurrentColumn(column);
@@ -85,151 +82,151 @@ bool znBrowserManagerTcl::CreateIconColumn(const char* name, const char* argumen
 }
 
 bool znBrowserManagerTcl::CreateCheckBoxColumn(const char*, const char*) {
-    BeginOperation();
+    const Operation operation(*this);
     return true;
 }
 
 bool znBrowserManagerTcl::CreateComboBoxColumn(const char*, const char*) {
-    BeginOperation();
+    const Operation operation(*this);
     return true;
 }
 
 bool znBrowserManagerTcl::DeleteScriptedColumn(const char* name) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserViewColumn* const column = RequireScriptedColumn(*this, name, "\" cannot be deleted");
     if (!column) return false;
-    const znBrowserCurrentObjects doomed = CurrentsInside(column);
-    const auto deletion = [&] { return AskBrowser(*this, &znIBrowser::DeleteColumn, column); };
-    if (!DeleteAndForget(deletion, [&] { Forget(doomed); })) return false;
+    const znBrowserCurrentObjects doomed = CurrentsInside(*this, column);
+    const auto deletion = [&] { return operation.Ask(&znIBrowser::DeleteColumn, column); };
+    if (!DeleteAndForget(*this, doomed, deletion)) return false;
     SetCurrentColumn(current_.view ? current_.view->GetDefaultColumn() : nullptr);
     return true;
 }
 
 bool znBrowserManagerTcl::ShowScriptedColumn(const char* name, bool show) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserViewColumn* const column = RequireScriptedColumn(*this, name, "\" cannot be showed on/off");
-    return column && HostAnswer(column->SetShown(show));
+    return column && operation.HostAnswer(column->SetShown(show));
 }
 
 bool znBrowserManagerTcl::MoveCurrentColumn(const char* name, int position) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserViewColumn* const column = RequireScriptedColumn(*this, name, "\" cannot be moved");
-    return column && AskBrowser(*this, &znIBrowser::MoveColumn, current_.view, column, position);
+    return column && operation.Ask(&znIBrowser::MoveColumn, current_.view, column, position);
 }
 
 bool znBrowserManagerTcl::SetViewColumnJustify(const char* name, const char* justify) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserViewColumn* const column = RequireScriptedColumn(*this, name, "\" cannot be justified");
-    return column && AskBrowser(*this, &znIBrowser::SetColumnJustify, current_.view, column, justify);
+    return column && operation.Ask(&znIBrowser::SetColumnJustify, current_.view, column, justify);
 }
 
 bool znBrowserManagerTcl::SetViewColumnWidth(const char* name, const char* width) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserViewColumn* const column = RequireColumn(*this, name);
-    return column && AskBrowser(*this, &znIBrowser::SetColumnWidth, column, width);
+    return column && operation.Ask(&znIBrowser::SetColumnWidth, column, width);
 }
 
 bool znBrowserManagerTcl::GetViewColumnWidth(const char* name) {
-    BeginOperation();
-    if (!current_.windowAccess) return Fail(messages::noCurrentWindow);
-    if (!current_.view) return Fail(messages::noCurrentView);
+    const Operation operation(*this);
+    if (!current_.windowAccess) return operation.Fail(znBrowserMessages::noCurrentWindow);
+    if (!current_.view) return operation.Fail(znBrowserMessages::noCurrentView);
     znIBrowserViewColumn* const column = RequireColumn(*this, name);
     if (column) current_.windowAccess->ReportColumnWidth(column);
     return column != nullptr;
 }
 
 bool znBrowserManagerTcl::SetCurrentColumn(const char* name) {
-    BeginOperation();
-    if (!current_.view) return Fail(noViewHandle);
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(noViewHandle);
     znIBrowserViewColumn* const column = FindColumn(current_.view, name);
-    if (!column) return FailWith({"Unable to find column: ", name});
+    if (!column) return operation.Fail({"Unable to find column: ", name});
     SetCurrentColumn(column);
     UpdateCurrentStyle(column);
     return GetState();
 }
 
 bool znBrowserManagerTcl::GetCurrentColumn(znString& out) {
-    BeginOperation();
-    if (!current_.column) return Fail(noColumnName);
+    const Operation operation(*this);
+    if (!current_.column) return operation.Fail(noColumnName);
     out = current_.column->GetName();
     return true;
 }
 
 bool znBrowserManagerTcl::GetColumnNames(znString& out) {
-    BeginOperation();
-    if (!current_.view) return Fail(noViewHandle);
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(noViewHandle);
     std::vector<znIBrowserViewColumn*> columns;
-    if (!current_.view->GetColumns(columns)) return Fail("Cannot get list of view columns");
+    if (!current_.view->GetColumns(columns)) return operation.Fail("Cannot get list of view columns");
     return NameList().AddNames(columns, NullName::IsLeftOut).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::GetColumnCaption(znString& out) {
-    BeginOperation();
-    if (!current_.column) return Fail(noColumnHandle);
+    const Operation operation(*this);
+    if (!current_.column) return operation.Fail(noColumnHandle);
     out = current_.column->GetCaption();
     return true;
 }
 
 bool znBrowserManagerTcl::SetColumnCaption(const char* caption) {
-    BeginOperation();
-    if (!current_.column) return Fail(noColumnHandle);
-    return HostAnswer(current_.column->SetCaption(caption));
+    const Operation operation(*this);
+    if (!current_.column) return operation.Fail(noColumnHandle);
+    return operation.HostAnswer(current_.column->SetCaption(caption));
 }
 
 bool znBrowserManagerTcl::GetColumnItalic(znString& out) {
-    BeginOperation();
-    if (!current_.column) return Fail(noColumnHandle);
-    return GiveBool(current_.column->GetItalic(), out);
+    const Operation operation(*this);
+    if (!current_.column) return operation.Fail(noColumnHandle);
+    return operation.GiveBool(current_.column->GetItalic(), out);
 }
 
 bool znBrowserManagerTcl::SetColumnItalic(bool italic) {
-    BeginOperation();
-    if (!current_.column) return Fail(noColumnHandle);
-    return HostAnswer(current_.column->SetItalic(italic));
+    const Operation operation(*this);
+    if (!current_.column) return operation.Fail(noColumnHandle);
+    return operation.HostAnswer(current_.column->SetItalic(italic));
 }
 
 bool znBrowserManagerTcl::GetColumnSorting(znString& out) {
-    BeginOperation();
-    if (!current_.column) return Fail(noColumnHandle);
-    return GiveBool(current_.column->GetSorting(), out);
+    const Operation operation(*this);
+    if (!current_.column) return operation.Fail(noColumnHandle);
+    return operation.GiveBool(current_.column->GetSorting(), out);
 }
 
 bool znBrowserManagerTcl::SetColumnSorting(bool sorting) {
-    BeginOperation();
-    if (!current_.column) return Fail(noColumnHandle);
-    return HostAnswer(current_.column->SetSorting(sorting));
+    const Operation operation(*this);
+    if (!current_.column) return operation.Fail(noColumnHandle);
+    return operation.HostAnswer(current_.column->SetSorting(sorting));
 }
 
 bool znBrowserManagerTcl::GetViewColumnShownState(znString& out) {
-    BeginOperation();
-    if (!current_.column) return Fail("Cannot get a handle to the current view column");
-    return GiveBool(current_.column->GetShown(), out);
+    const Operation operation(*this);
+    if (!current_.column) return operation.Fail("Cannot get a handle to the current view column");
+    return operation.GiveBool(current_.column->GetShown(), out);
 }
 
 bool znBrowserManagerTcl::SortDefaultColumnByCustomProperty(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     const znIBrowserViewColumn* const column = DefaultColumn(current_.column);
-    if (!column) return Fail(noColumnHandle);
+    if (!column) return operation.Fail(noColumnHandle);
     out = column->GetSortProperty();
     return true;
 }
 
 bool znBrowserManagerTcl::SetSortDefaultColumnByCustomProperty(const char* property) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserViewColumn* const column = DefaultColumn(current_.column);
-    if (!column) return Fail(noColumnHandle);
-    return HostAnswer(column->SetSortProperty(property));
+    if (!column) return operation.Fail(noColumnHandle);
+    return operation.HostAnswer(column->SetSortProperty(property));
 }
 
 bool znBrowserManagerTcl::SetCurrentColumnPopupMenu(const char* name) {
-    BeginOperation();
-    if (!current_.column) return Fail(noColumnHandle);
-    return HostAnswer(current_.column->SetPopupMenu(name));
+    const Operation operation(*this);
+    if (!current_.column) return operation.Fail(noColumnHandle);
+    return operation.HostAnswer(current_.column->SetPopupMenu(name));
 }
 
 bool znBrowserManagerTcl::GetCurrentColumnPopupMenu(znString& out) {
-    BeginOperation();
-    if (!current_.column) return Fail(noColumnHandle);
+    const Operation operation(*this);
+    if (!current_.column) return operation.Fail(noColumnHandle);
     const znIBrowserPopupMenu* const menu = current_.column->GetPopupMenu();
     out = menu ? menu->GetName() : "";
     return true;

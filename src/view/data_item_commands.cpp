@@ -1,8 +1,8 @@
 // view dataitem ...
 #include "frame/command_table.h"
+#include "frame/command_words.h"
 #include "host/znIBrowserView.h"
 #include "view/view_helper_commands.h"
-#include "view/view_words.h"
 
 // The lines that the texts of both kinds of data source share.
 #define SELECTION_FORMS                                                                                      \
@@ -29,6 +29,8 @@ const char* const znBrowserTclMessages::VIEW_DATAITEM_HIERARCHICAL =
     "Deselects dataitems of the current hierarchical datasource in the current view.\n"
     "    \tselect                                   "
     "Selects dataitems of the current hierarchical datasource in the current view.\n" SELECTION_FORMS;
+
+namespace znlayer {
 
 namespace {
 
@@ -60,41 +62,65 @@ constexpr Selectors hierarchical = {
     &Messages::VIEW_DATAITEM_HIERARCHICAL,
 };
 
+bool IsSelect(const Call& call) { return call.Is(4, Keyword::Select); }
+
+/// The word at 6 is not looked at.
+template <const Selectors& selectors>
+void SelectByProperty(Call& call) {
+    bool recursive = true;
+    if (ReadFlag(call, 7, recursive, *selectors.usage))
+        call.AnswerOutcome((call.manager.*selectors.byProperty)(IsSelect(call), recursive));
+}
+
+template <const Selectors& selectors>
+void SelectByValue(Call& call) {
+    bool recursive = true;
+    if (ReadFlag(call, 7, recursive, *selectors.usage))
+        call.AnswerOutcome((call.manager.*selectors.byValue)(call.Text(6), IsSelect(call), recursive));
+}
+
 /// Whatever the kind of data source, a count that is none gets the usage text of the simple form. A negative
 /// one asks for no values.
-void SelectByValues(Call& call, const Selectors& selectors, bool select) {
+template <const Selectors& selectors>
+void SelectByValues(Call& call) {
     constexpr int firstValue = 7;
     int count = 0;
-    if (!call.Has(6)) return call.Answer(*selectors.usage);
     if (!call.Integer(6, count)) return call.Answer(Messages::VIEW_DATAITEM_SIMPLE);
     if (call.Count() - firstValue < count) return call.Answer(Messages::VIEW);
-    call.AnswerOutcome((call.manager.*selectors.byValues)(count, call.TextsFrom(firstValue), select, true));
+    const std::vector<znString> values = call.TextsFrom(firstValue);
+    call.AnswerOutcome((call.manager.*selectors.byValues)(count, values, IsSelect(call), true));
 }
 
-/// The word at 6 is a value, or, where none is wanted, a word that is not looked at.
-void SelectByProperty(Call& call, const Selectors& selectors, bool select) {
-    const bool byValue = call.Is(5, Keyword::ByPropVal);
-    bool recursive = true;
-    if (byValue && !call.Has(6)) return call.Answer(*selectors.usage);
-    if (!ReadFlag(call, 7, recursive, *selectors.usage)) return;
-    call.AnswerOutcome(byValue ? (call.manager.*selectors.byValue)(call.Text(6), select, recursive)
-                               : (call.manager.*selectors.byProperty)(select, recursive));
-}
+template <const Selectors& selectors>
+constexpr CommandRow formRows[] = {
+    {Keyword::ByProp, "?ANY? ?BOOL?", "Only those that have the current view property.",
+     SelectByProperty<selectors>},
+    {Keyword::ByPropVal, "VALUE ?BOOL?", "Only those with that value of the current view property.",
+     SelectByValue<selectors>},
+    {Keyword::ByPropVals, "COUNT ?VALUE? ...",
+     "Only those with one of these values of the current view property.", SelectByValues<selectors>},
+};
+template <const Selectors& selectors>
+constexpr CommandLevel formLevel(formRows<selectors>, *selectors.usage);
 
-void Select(Call& call, const Selectors& selectors) {
-    const bool select = call.Is(4, Keyword::Select);
-    if (!select && !call.Is(4, Keyword::Deselect)) return call.Answer(*selectors.usage);
+template <const Selectors& selectors>
+void Select(Call& call) {
     const Keyword form = call.Word(5);
-    if (form == Keyword::ByProp || form == Keyword::ByPropVal)
-        return SelectByProperty(call, selectors, select);
-    if (form == Keyword::ByPropVals) return SelectByValues(call, selectors, select);
+    if (formLevel<selectors>.Find(form)) return RunWord(call, formLevel<selectors>, 5, form);
     if (call.Has(5) && form != Keyword::TrueWord && form != Keyword::FalseWord)
         return call.Answer(*selectors.usage);
-    call.AnswerOutcome((call.manager.*selectors.all)(select, form != Keyword::FalseWord));
+    call.AnswerOutcome((call.manager.*selectors.all)(IsSelect(call), form != Keyword::FalseWord));
 }
 
-void Simple(Call& call) { Select(call, simple); }
-void Hierarchical(Call& call) { Select(call, hierarchical); }
+template <const Selectors& selectors>
+constexpr CommandRow selectRows[] = {
+    {Keyword::Deselect, "?true|false?", "Deselects the items; with false, not those below them.",
+     Select<selectors>, &formLevel<selectors>},
+    {Keyword::Select, "?true|false?", "Selects the items; with false, not those below them.",
+     Select<selectors>, &formLevel<selectors>},
+};
+template <const Selectors& selectors>
+constexpr CommandLevel selectLevel(selectRows<selectors>, *selectors.usage);
 
 void Selected(Call& call) {
     const znIBrowserView* const view = call.manager.GetCurrentViewPtr();
@@ -109,15 +135,20 @@ void Selected(Call& call) {
 }
 
 constexpr CommandRow dataItemRows[] = {
-    {Keyword::Hierarchical, Hierarchical},
-    {Keyword::Selected, Selected},
-    {Keyword::Simple, Simple},
+    {Keyword::Hierarchical, "The items of the current hierarchical data source.", &selectLevel<hierarchical>},
+    {Keyword::Selected, "?all|recursive? ?recursive?",
+     "Lists the selected items of the current data source, or of all of them.", Selected},
+    {Keyword::Simple, "The items of the current simple data source.", &selectLevel<simple>},
     // The other words are those of the view helper.
-    {Keyword::Current, AnswerByViewHelper},
-    {Keyword::Deselect, AnswerByViewHelper},
-    {Keyword::Select, AnswerByViewHelper},
+    {Keyword::Current, "", "Tells the current item.", AnswerByViewHelper},
+    {Keyword::Deselect, "", "Deselects the items of the helper's current data source.", AnswerByViewHelper,
+     &helperSelectLevel},
+    {Keyword::Select, "", "Selects the items of the helper's current data source.", AnswerByViewHelper,
+     &helperSelectLevel},
 };
 
 } // namespace
 
 constexpr CommandLevel viewDataItemLevel(dataItemRows, Messages::HELPER_DATAITEM);
+
+} // namespace znlayer

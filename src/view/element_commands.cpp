@@ -1,6 +1,6 @@
 // view element ...
 #include "frame/command_table.h"
-#include "view/view_words.h"
+#include "frame/command_words.h"
 
 const char* const znBrowserTclMessages::VIEW_ELEMENT =
     "    znbrowsermanager view element [action] \n\n"
@@ -16,6 +16,8 @@ const char* const znBrowserTclMessages::VIEW_ELEMENT =
     "Deletes the current element in the current view style.\n"
     "    \tnames                                            "
     "Shows a list of names of existing elements in the current view style.\n\n";
+
+namespace znlayer {
 
 namespace {
 
@@ -34,7 +36,6 @@ void ConnectProperty(Call& call) {
 }
 
 void Create(Call& call) {
-    if (!call.Has(4)) return call.Answer(Messages::VIEW_ELEMENT);
     call.AnswerOutcome(call.manager.CreateViewStyleElement(call.Text(4), call.TextOr(5, "")), call.Text(4));
 }
 
@@ -46,17 +47,22 @@ void Delete(Call& call) { RunWithName(call, 4, &Manager::DeleteStyleElement, Mes
 
 void Names(Call& call) { call.AnswerValue(&Manager::GetElementNames); }
 
-constexpr CommandRow connectRows[] = {{Keyword::Property, ConnectProperty}, {Keyword::Map, ConnectMap}};
+constexpr CommandRow connectRows[] = {
+    {Keyword::Property, "?PROPERTY?", "Shows that view property, or the current one.", ConnectProperty},
+    {Keyword::Map, "?MAP?", "Shows what that GUI map, or the current one, gives for a value.", ConnectMap},
+};
 constexpr CommandLevel connectLevel(connectRows, Messages::VIEW_ELEMENT);
 
 constexpr CommandRow elementRows[] = {
-    {Keyword::Connect, nullptr, &connectLevel},
-    {Keyword::Create, Create},
-    {Keyword::Current, Current},
-    {Keyword::Delete, Delete},
-    {Keyword::Names, Names},
+    {Keyword::Connect, "What the current element shows.", &connectLevel},
+    {Keyword::Create, "NAME ?TEXT?", "Makes an element of the current style; the text describes it.", Create},
+    {Keyword::Current, "?ELEMENT?", "Makes an element current, or tells which is.", Current},
+    {Keyword::Delete, "ELEMENT", "Deletes an element of the current style.", Delete},
+    {Keyword::Names, "", "Lists the elements of the current style.", Names},
 };
 
 } // namespace
 
 constexpr CommandLevel viewElementLevel(elementRows, Messages::VIEW_ELEMENT);
+
+} // namespace znlayer

@@ -1,6 +1,6 @@
 // view filter ...
 #include "frame/command_table.h"
-#include "view/view_words.h"
+#include "frame/command_words.h"
 
 const char* const znBrowserTclMessages::VIEW_FILTER =
     "    znbrowsermanager view filter [action] \n\n"
@@ -28,6 +28,8 @@ const char* const znBrowserTclMessages::VIEW_FILTER_STRING =
     "    znbrowsermanager view filter string [action] \n\n"
     "    \tActions:\n"
     "    \tcurrent [pattern]    Gets/sets the string filter of the current view.\n\n";
+
+namespace znlayer {
 
 namespace {
 
@@ -70,22 +72,34 @@ void CurrentString(Call& call) {
     call.SetThenAnswer(5, &Manager::SetFilterString, &Manager::GetFilterString);
 }
 
-constexpr CommandRow optionRows[] = {{Keyword::MatchCase, MatchCase}, {Keyword::MatchWord, MatchWord}};
+constexpr CommandRow optionRows[] = {
+    {Keyword::MatchCase, "?BOOL?", "Sets or reads whether the case of letters counts.", MatchCase},
+    {Keyword::MatchWord, "?BOOL?", "Sets or reads whether only whole words match.", MatchWord},
+};
 constexpr CommandLevel optionLevel(optionRows, Messages::VIEW_FILTER_OPTION);
 
-constexpr CommandRow typeRows[] = {{Keyword::Current, CurrentTypes}, {Keyword::Update, UpdateTypes}};
+constexpr CommandRow typeRows[] = {
+    {Keyword::Current, "?DATASOURCE? ...", "Shows only these data sources, or lists those that are shown.",
+     CurrentTypes},
+    {Keyword::Update, "", "Rebuilds the list of filters, and lists the data sources that are shown.",
+     UpdateTypes},
+};
 constexpr CommandLevel typeLevel(typeRows, Messages::VIEW_FILTER_DATAITEMTYPE);
 
-constexpr CommandRow stringRows[] = {{Keyword::Current, CurrentString}};
+constexpr CommandRow stringRows[] = {
+    {Keyword::Current, "?PATTERN?", "Sets or reads the text that rows must hold to be shown.", CurrentString},
+};
 constexpr CommandLevel stringLevel(stringRows, Messages::VIEW_FILTER_STRING);
 
 constexpr CommandRow filterRows[] = {
-    {Keyword::DataItemType, nullptr, &typeLevel},
-    {Keyword::Group, Group},
-    {Keyword::Option, nullptr, &optionLevel},
-    {Keyword::String, nullptr, &stringLevel},
+    {Keyword::DataItemType, "The data sources whose items are shown.", &typeLevel},
+    {Keyword::Group, "?BOOL?", "Sets or reads whether the list of filters is grouped.", Group},
+    {Keyword::Option, "How texts are compared with the filter.", &optionLevel},
+    {Keyword::String, "The text by which rows are filtered.", &stringLevel},
 };
 
 } // namespace
 
 constexpr CommandLevel viewFilterLevel(filterRows, Messages::VIEW_FILTER);
+
+} // namespace znlayer

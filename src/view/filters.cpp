@@ -1,10 +1,12 @@
 // What the current view shows: its filters by data source and by text.
 #include "frame/name_list.h"
+#include "frame/operation.h"
 #include "host/znIBrowserView.h"
 #include "view/view_messages.h"
 
 #include <unordered_set>
 
+using namespace znlayer;
 using namespace view_messages;
 
 namespace {
@@ -24,87 +26,87 @@ const znString* FindUnknown(const std::vector<znString>& names, const std::vecto
 } // namespace
 
 bool znBrowserManagerTcl::SetViewGroupFilter(bool group) {
-    BeginOperation();
-    if (!current_.view) return Fail(noViewName);
-    return HostAnswer(current_.view->SetGroupFilter(group));
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(noViewName);
+    return operation.HostAnswer(current_.view->SetGroupFilter(group));
 }
 
 bool znBrowserManagerTcl::GetViewGroupFilter(znString& out) {
-    BeginOperation();
-    if (!current_.view) return Fail(noViewName);
-    return GiveBool(current_.view->GetGroupFilter(), out);
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(noViewName);
+    return operation.GiveBool(current_.view->GetGroupFilter(), out);
 }
 
 bool znBrowserManagerTcl::SetCurrentFilter(const std::vector<znString>& names) {
-    BeginOperation();
-    if (!current_.view) return Fail(noViewName);
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(noViewName);
     std::vector<znString> all;
     if (!current_.view->GetFilterNames(all))
-        return FailWith({noFilterList, current_.view->GetName().c_str()});
+        return operation.Fail({noFilterList, current_.view->GetName().c_str()});
     if (const znString* const unknown = FindUnknown(names, all))
-        return FailWith({"Cannot find data source : ", unknown->c_str()});
-    return HostAnswer(current_.view->SetShownFilters(names.empty() ? all : names));
+        return operation.Fail({"Cannot find data source : ", unknown->c_str()});
+    return operation.HostAnswer(current_.view->SetShownFilters(names.empty() ? all : names));
 }
 
 bool znBrowserManagerTcl::GetCurrentFilter(znString& out) {
-    BeginOperation();
-    if (!current_.view) return Fail(noViewName);
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(noViewName);
     std::vector<znString> names;
     if (!current_.view->GetShownFilters(names))
-        return FailWith({noFilterList, current_.view->GetName().c_str()});
+        return operation.Fail({noFilterList, current_.view->GetName().c_str()});
     return NameList(EntryForm::Braced).AddTexts(names).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::GetFilterNames(znString& out) {
-    BeginOperation();
-    if (!current_.view) return Fail(noViewName);
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(noViewName);
     std::vector<znString> names;
     if (!current_.view->GetFilterNames(names))
-        return FailWith({noFilterList, current_.view->GetName().c_str()});
+        return operation.Fail({noFilterList, current_.view->GetName().c_str()});
     return NameList(EntryForm::Braced).AddTexts(names).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::RebuildFilterLists() {
-    BeginOperation();
-    if (!current_.view) return Fail(noViewName);
-    return HostAnswer(current_.view->RebuildFilterLists());
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(noViewName);
+    return operation.HostAnswer(current_.view->RebuildFilterLists());
 }
 
 bool znBrowserManagerTcl::SetFilterString(const char* pattern) {
-    BeginOperation();
-    if (!current_.view) return Fail(noViewHandle);
-    return HostAnswer(current_.view->SetFilterString(pattern));
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(noViewHandle);
+    return operation.HostAnswer(current_.view->SetFilterString(pattern));
 }
 
 bool znBrowserManagerTcl::GetFilterString(znString& out) {
-    BeginOperation();
-    if (!current_.view) return Fail(noViewHandle);
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(noViewHandle);
     out = current_.view->GetFilterString();
     return true;
 }
 
 bool znBrowserManagerTcl::SetFilterMatchCaseFlag(bool& flag) {
-    BeginOperation();
-    if (!current_.view) return Fail(noView);
-    return HostAnswer(current_.view->SetFilterMatchCase(flag));
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(noView);
+    return operation.HostAnswer(current_.view->SetFilterMatchCase(flag));
 }
 
 bool znBrowserManagerTcl::GetFilterMatchCaseFlag(bool& flag) {
-    BeginOperation();
-    if (!current_.view) return Fail(noView);
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(noView);
     flag = current_.view->GetFilterMatchCase();
     return true;
 }
 
 bool znBrowserManagerTcl::SetFilterMatchWordFlag(bool& flag) {
-    BeginOperation();
-    if (!current_.view) return Fail(noView);
-    return HostAnswer(current_.view->SetFilterMatchWord(flag));
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(noView);
+    return operation.HostAnswer(current_.view->SetFilterMatchWord(flag));
 }
 
 bool znBrowserManagerTcl::GetFilterMatchWordFlag(bool& flag) {
-    BeginOperation();
-    if (!current_.view) return Fail(noView);
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(noView);
     flag = current_.view->GetFilterMatchWord();
     return true;
 }

@@ -1,7 +1,7 @@
 // view folder ...
 #include "frame/command_table.h"
+#include "frame/command_words.h"
 #include "view/view_helper_commands.h"
-#include "view/view_words.h"
 
 const char* const znBrowserTclMessages::VIEW_FOLDER =
     "    znbrowsermanager view folder [action] \n\n"
@@ -21,26 +21,39 @@ const char* const znBrowserTclMessages::VIEW_FOLDER =
     "    \tdropitem datasource hierarchical <tree_name>      "
     "Sets the tree that takes the items dropped on the current free folder.\n\n";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
 using Messages = znBrowserTclMessages;
 
-void ChildrenCount(Call& call) {
-    const bool byImage = call.Is(5, Keyword::ByImage);
-    if (!byImage && !call.Is(5, Keyword::ByNumber)) return call.Answer(Messages::VIEW_FOLDER);
-    bool show = false;
+template <bool (Manager::*show)(bool, bool)>
+void ShowCount(Call& call) {
+    bool shown = false;
     bool recursive = false;
-    if (!RequireFlag(call, 6, show, Messages::VIEW_FOLDER)) return;
+    if (!RequireFlag(call, 6, shown, Messages::VIEW_FOLDER)) return;
     if (!ReadFlag(call, 7, recursive, Messages::VIEW_FOLDER)) return;
-    call.AnswerOutcome(byImage ? call.manager.SetFreeFolderShowCountByImage(show, recursive)
-                               : call.manager.SetFreeFolderShowCountByNumber(show, recursive));
+    call.AnswerOutcome((call.manager.*show)(shown, recursive));
 }
 
+constexpr CommandRow countRows[] = {
+    {Keyword::ByImage, "BOOL ?BOOL?", "Lets icons tell how many items there are: none, one or many.",
+     ShowCount<&Manager::SetFreeFolderShowCountByImage>},
+    {Keyword::ByNumber, "BOOL ?BOOL?", "Lets captions tell how many items there are.",
+     ShowCount<&Manager::SetFreeFolderShowCountByNumber>},
+};
+constexpr CommandLevel countLevel(countRows, Messages::VIEW_FOLDER);
+
+constexpr CommandRow childrenRows[] = {
+    {Keyword::Count, "How the number of items is shown; a second true reaches the folders below.",
+     &countLevel},
+};
+constexpr CommandLevel childrenLevel(childrenRows, Messages::VIEW_FOLDER);
+
 void Children(Call& call) {
-    if (!call.Has(4)) return call.AnswerValue(&Manager::GetChildrenFreeFolderNames);
-    if (!call.Is(4, Keyword::Count)) return call.Answer(Messages::VIEW_FOLDER);
-    ChildrenCount(call);
+    if (call.Count() > 4) return RunLevel(call, childrenLevel, 4);
+    call.AnswerValue(&Manager::GetChildrenFreeFolderNames);
 }
 
 void Create(Call& call) { CreateWithName(call, 4, &Manager::CreateFreeFolder, Messages::VIEW_FOLDER); }
@@ -51,7 +64,6 @@ void Current(Call& call) {
 
 /// The name is needed, although the usage text shows none.
 void Delete(Call& call) {
-    if (!call.Has(4)) return call.Answer(Messages::VIEW_FOLDER);
     call.AnswerOutcome(call.manager.DestroyFreeFolder(call.Text(4), call.Is(5, Keyword::Recursive)));
 }
 
@@ -82,7 +94,6 @@ void DataItemType(Call& call) { call.AnswerValue(&Manager::GetChildrenFreeFolder
 
 /// Without a depth it asks for the sorting exception: neither setting can be read, and both say so alike.
 void CreateExpanded(Call& call) {
-    if (!call.Has(4)) return call.Answer(Messages::VIEW_FOLDER);
     if (!call.Has(5)) return call.AnswerValue(&Manager::GetFreeFolderSortingException);
     int depth = 0;
     if (!call.Integer(5, depth)) return call.Answer(Messages::VIEW_FOLDER);
@@ -101,49 +112,62 @@ void TreeParentChild(Call& call) {
     call.AnswerOutcome(call.manager.CreateFolderTreeParentChild(call.Text(5), call.Text(6), call.Text(7)));
 }
 
-void TreeUpdate(Call& call) {
-    if (!call.Has(5)) return call.Answer(Messages::VIEW_FOLDER);
-    call.AnswerOutcome(call.manager.UpdateTreeDataSource(call.Text(5)));
-}
+void TreeUpdate(Call& call) { call.AnswerOutcome(call.manager.UpdateTreeDataSource(call.Text(5))); }
 
 void DropItem(Call& call) {
     RunWithName(call, 6, &Manager::SetDropItemDataSourceHierarchical, Messages::VIEW_FOLDER);
 }
 
 constexpr CommandRow treeRows[] = {
-    {Keyword::TopLevel, TreeToplevel},
-    {Keyword::ParentChild, TreeParentChild},
-    {Keyword::Update, TreeUpdate},
+    {Keyword::TopLevel, "?DATASOURCE? ?REFERENCE?",
+     "Sets the top items of the current folder's tree, or lists what finds them.", TreeToplevel},
+    {Keyword::ParentChild, "?DATASOURCE? ?DATASOURCE? ?REFERENCE?",
+     "Hangs items below those of the first data source, or lists what finds them.", TreeParentChild},
+    {Keyword::Update, "DATASOURCE", "Reads the items of a data source again.", TreeUpdate},
 };
 constexpr CommandLevel treeLevel(treeRows, Messages::VIEW_FOLDER);
 
-constexpr CommandRow dropSourceRows[] = {{Keyword::Hierarchical, DropItem}};
+constexpr CommandRow dropSourceRows[] = {
+    {Keyword::Hierarchical, "HIERARCHICAL", "Sets the tree that takes the items dropped.", DropItem},
+};
 constexpr CommandLevel dropSourceLevel(dropSourceRows, Messages::VIEW_FOLDER);
-constexpr CommandRow dropItemRows[] = {{Keyword::DataSource, nullptr, &dropSourceLevel}};
+constexpr CommandRow dropItemRows[] = {
+    {Keyword::DataSource, "The data source that takes the items dropped.", &dropSourceLevel},
+};
 constexpr CommandLevel dropItemLevel(dropItemRows, Messages::VIEW_FOLDER);
 
 constexpr CommandRow folderRows[] = {
-    {Keyword::Children, Children},
-    {Keyword::Create, Create},
-    {Keyword::Current, Current},
-    {Keyword::Delete, Delete},
-    {Keyword::Empty, Empty},
-    {Keyword::KeepChildrenFoldersInOrderAsCreated, KeepChildrenAsCreated},
-    {Keyword::Style, Style},
-    {Keyword::DropItem, nullptr, &dropItemLevel},
+    {Keyword::Children, "", "The folders in the current folder; alone, their names.", Children,
+     &childrenLevel},
+    {Keyword::Create, "NAME", "Makes a folder in the current folder, and makes it current.", Create},
+    {Keyword::Current, "?FOLDER?", "Makes a folder current, or tells which is.", Current},
+    {Keyword::Delete, "FOLDER ?recursive?", "Deletes a folder; with recursive, also those below it.", Delete},
+    {Keyword::Empty, "?BOOL? ?recursive?", "Sets or reads whether folders that show nothing are shown.",
+     Empty},
+    {Keyword::KeepChildrenFoldersInOrderAsCreated, "?BOOL?",
+     "Sets or reads whether the folders in it keep the order in which they were made.",
+     KeepChildrenAsCreated},
+    {Keyword::Style, "?BOOL?", "Sets or reads whether the items in it are drawn with the folder's style.",
+     Style},
+    {Keyword::DropItem, "What becomes of the items dropped on the current folder.", &dropItemLevel},
     // Words that the usage text leaves out.
-    {Keyword::Bold, Bold},
-    {Keyword::Collapse, Collapse},
-    {Keyword::CreateExpanded, CreateExpanded},
-    {Keyword::DataItemType, DataItemType},
-    {Keyword::DataSource, AnswerByViewHelper, &helperFolderDataSourceLevel},
-    {Keyword::Expand, Expand},
-    {Keyword::Italic, Italic},
-    {Keyword::Selected, Selected},
-    {Keyword::Selection, Selection},
-    {Keyword::Tree, nullptr, &treeLevel},
+    {Keyword::Bold, "BOOL", "Sets whether the caption is bold.", Bold},
+    {Keyword::Collapse, "?BOOL?", "Collapses the current folder; with true, also what is below it.",
+     Collapse},
+    {Keyword::CreateExpanded, "DATASOURCE ?INT?",
+     "Sets how many levels of a data source's items are expanded at first.", CreateExpanded},
+    {Keyword::DataItemType, "", "Lists the data sources in the current folder and below it.", DataItemType},
+    {Keyword::DataSource, "", "The data sources that the current folder shows.", AnswerByViewHelper,
+     &helperFolderDataSourceLevel},
+    {Keyword::Expand, "?BOOL?", "Expands the current folder; with true, also what is below it.", Expand},
+    {Keyword::Italic, "BOOL", "Sets whether the caption is italic.", Italic},
+    {Keyword::Selected, "", "Lists the selected folders below the current one.", Selected},
+    {Keyword::Selection, "", "Lists the selected items in the current folder and below it.", Selection},
+    {Keyword::Tree, "The tree of the current folder, tied together by data references.", &treeLevel},
 };
 
 } // namespace
 
 constexpr CommandLevel viewFolderLevel(folderRows, Messages::VIEW_FOLDER);
+
+} // namespace znlayer

@@ -1,10 +1,11 @@
 // The settings of the current free folder.
+#include "frame/operation.h"
 #include "host/znIBrowserDataCtrl.h"
 #include "host/znIBrowserView.h"
 #include "host/znIBrowserViewItemFreeFolder.h"
-#include "view/ask_browser.h"
 #include "view/view_messages.h"
 
+using namespace znlayer;
 using namespace view_messages;
 
 namespace {
@@ -15,12 +16,9 @@ using Folder = znIBrowserViewItemFreeFolder;
 template <class... Parameters, class... Values>
 bool ChangeFolder(znBrowserManagerTcl& manager, const char* missing,
                   bool (znIBrowser::*request)(Folder*, Parameters...), Values... values) {
-    manager.SetOk();
-    manager.ResetBuff();
+    const Operation operation(manager);
     Folder* const folder = manager.GetCurrentFreeFolderPtr();
-    if (folder) return AskBrowser(manager, request, folder, values...);
-    manager.SetError(missing);
-    return false;
+    return folder ? operation.Ask(request, folder, values...) : operation.Fail(missing);
 }
 
 /// As `ChangeFolder`, for what a folder does with the items of one simple data source.
@@ -30,21 +28,17 @@ bool ChangeItemSetting(znBrowserManagerTcl& manager,
     znIBrowserDataSourceSimple* const source = manager.FindDataSourceSimple(dataSource);
     if (source || !manager.GetCurrentFreeFolderPtr())
         return ChangeFolder(manager, "Cannot get handle to current folder", request, source, value);
-    manager.SetOk();
-    manager.SetError("Cannot find data source simple");
-    return false;
+    return Operation(manager, Operation::State::Kept).Fail("Cannot find data source simple");
 }
 
 /// Expands or collapses the current folder in its view.
 bool ShowContent(znBrowserManagerTcl& manager, bool (znIBrowser::*request)(znIBrowserView*, Folder*, bool),
                  bool recursive) {
-    manager.SetOk();
-    manager.ResetBuff();
+    const Operation operation(manager);
     Folder* const folder = manager.GetCurrentFreeFolderPtr();
     znIBrowserView* const view = manager.GetCurrentViewPtr();
-    if (folder && view) return AskBrowser(manager, request, view, folder, recursive);
-    manager.SetError(folder ? noViewName : noFolderName);
-    return false;
+    if (folder && view) return operation.Ask(request, view, folder, recursive);
+    return operation.Fail(folder ? noViewName : noFolderName);
 }
 
 } // namespace
@@ -62,10 +56,10 @@ bool znBrowserManagerTcl::SetFreeFolderGroupLeafs(bool group) {
 }
 
 bool znBrowserManagerTcl::GetFreeFolderGroupLeafs(znString& out) {
-    BeginOperation();
-    if (!current_.freeFolder) return Fail(noFolderName);
-    znIBrowser* const browser = GetBrowser();
-    return browser && GiveBool(browser->GetFreeFolderGroupLeafs(current_.freeFolder), out);
+    const Operation operation(*this);
+    if (!current_.freeFolder) return operation.Fail(noFolderName);
+    znIBrowser* const browser = BrowserOf(*this);
+    return browser && operation.GiveBool(browser->GetFreeFolderGroupLeafs(current_.freeFolder), out);
 }
 
 bool znBrowserManagerTcl::SetFreeFolderStyle(bool style) {
@@ -73,10 +67,10 @@ bool znBrowserManagerTcl::SetFreeFolderStyle(bool style) {
 }
 
 bool znBrowserManagerTcl::GetFreeFolderStyle(znString& out) {
-    BeginOperation();
-    if (!current_.freeFolder) return Fail(noFolderName);
-    znIBrowser* const browser = GetBrowser();
-    return browser && GiveBool(browser->GetFreeFolderStyle(current_.freeFolder), out);
+    const Operation operation(*this);
+    if (!current_.freeFolder) return operation.Fail(noFolderName);
+    znIBrowser* const browser = BrowserOf(*this);
+    return browser && operation.GiveBool(browser->GetFreeFolderStyle(current_.freeFolder), out);
 }
 
 bool znBrowserManagerTcl::SetFreeFolderShowEmptyContainers(bool show) {
@@ -84,9 +78,9 @@ bool znBrowserManagerTcl::SetFreeFolderShowEmptyContainers(bool show) {
 }
 
 bool znBrowserManagerTcl::GetFreeFolderShowEmptyContainers(znString& out) {
-    BeginOperation();
-    if (!current_.freeFolder) return Fail(noFolderName);
-    return GiveBool(current_.freeFolder->GetShowEmptyContainers(), out);
+    const Operation operation(*this);
+    if (!current_.freeFolder) return operation.Fail(noFolderName);
+    return operation.GiveBool(current_.freeFolder->GetShowEmptyContainers(), out);
 }
 
 bool znBrowserManagerTcl::ShowEmptyFolders(bool show, bool recursive) {
@@ -94,9 +88,9 @@ bool znBrowserManagerTcl::ShowEmptyFolders(bool show, bool recursive) {
 }
 
 bool znBrowserManagerTcl::GetShowEmptyFoldersFlag(znString& out) {
-    BeginOperation();
-    if (!current_.freeFolder) return Fail(noFolderHandle);
-    return GiveBool(current_.freeFolder->GetShowEmptyFolders(), out);
+    const Operation operation(*this);
+    if (!current_.freeFolder) return operation.Fail(noFolderHandle);
+    return operation.GiveBool(current_.freeFolder->GetShowEmptyFolders(), out);
 }
 
 bool znBrowserManagerTcl::SetFreeFolderShowCountByImage(bool show, bool recursive) {
@@ -116,17 +110,18 @@ bool znBrowserManagerTcl::SetItalicFlagToFreeFolder(bool italic) {
 }
 
 bool znBrowserManagerTcl::SetFreeFolderKeepChildrenFreeFoldersAsCreated(bool keep) {
-    BeginOperation();
-    if (!current_.freeFolder) return Fail(noFolderName);
-    znIBrowser* const browser = GetBrowser();
+    const Operation operation(*this);
+    if (!current_.freeFolder) return operation.Fail(noFolderName);
+    znIBrowser* const browser = BrowserOf(*this);
     if (browser && browser->SetFreeFolderKeepChildrenAsCreated(current_.freeFolder, keep)) return true;
-    return Fail("Cannot change the setting for \"keep children free folders in the order created\" variable");
+    return operation.Fail(
+        "Cannot change the setting for \"keep children free folders in the order created\" variable");
 }
 
 bool znBrowserManagerTcl::GetFreeFolderKeepChildrenFreeFoldersAsCreated(znString& out) {
-    BeginOperation();
-    if (!current_.freeFolder) return Fail(noFolderName);
-    return GiveBool(current_.freeFolder->GetKeepChildrenAsCreated(), out);
+    const Operation operation(*this);
+    if (!current_.freeFolder) return operation.Fail(noFolderName);
+    return operation.GiveBool(current_.freeFolder->GetKeepChildrenAsCreated(), out);
 }
 
 bool znBrowserManagerTcl::SetFreeFolderCreateExpandedItem(const char* dataSource, int depth) {

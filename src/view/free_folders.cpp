@@ -1,17 +1,18 @@
 // Free folders: made, chosen, deleted and listed.
 #include "data/item_values.h"
-#include "frame/deletion.h"
-#include "frame/messages.h"
+#include "frame/current_lifetimes.h"
 #include "frame/name_list.h"
+#include "frame/operation.h"
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserView.h"
 #include "host/znIBrowserViewItemFreeFolder.h"
-#include "view/ask_browser.h"
 #include "view/view_messages.h"
+#include "znBrowserMessages.h"
 
 #include <algorithm>
 #include <cstring>
 
+using namespace znlayer;
 using namespace view_messages;
 
 namespace {
@@ -51,97 +52,98 @@ znIBrowserViewItemFreeFolder* FindFolder(znIBrowserViewItemFreeFolder& start,
 
 // What the host shows anew may run scripts: a folder is touched only while it is still the current one.
 bool znBrowserManagerTcl::CreateFreeFolder(const char* name) {
-    BeginOperation();
-    if (!name) return Fail(nullName);
+    const Operation operation(*this);
+    if (!name) return operation.Fail(nullName);
     znIBrowserViewItemFreeFolder* const parent = current_.freeFolder;
-    if (!parent) return Fail(noFolderName);
+    if (!parent) return operation.Fail(noFolderName);
     znIBrowserViewItemFreeFolder* child = parent->FindChildFolder(name);
     if (!child) {
-        if (!AskBrowser(*this, &znIBrowser::CreateFreeFolder, parent, name)) return false;
+        if (!operation.Ask(&znIBrowser::CreateFreeFolder, parent, name)) return false;
         child = current_.freeFolder == parent ? parent->FindChildFolder(name) : nullptr;
     }
     if (!child) return true;
-    znIBrowser* const browser = GetBrowser();
+    znIBrowser* const browser = BrowserOf(*this);
     if (!browser) return false;
     const bool groupLeafs = browser->GetFreeFolderGroupLeafs(parent);
     const bool style = browser->GetFreeFolderStyle(parent);
     SetCurrentFreeFolder(child);
-    const bool grouped = HostAnswer(browser->SetFreeFolderGroupLeafs(child, groupLeafs));
+    const bool grouped = operation.HostAnswer(browser->SetFreeFolderGroupLeafs(child, groupLeafs));
     if (current_.freeFolder != child || browser->SetFreeFolderStyle(child, style)) return grouped;
     // The text of the first refusal stays.
-    return grouped && FailWithHostError();
+    return grouped && operation.FailWithHostError();
 }
 
 bool znBrowserManagerTcl::DestroyFreeFolder(const char* name, bool recursive) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserViewItemFreeFolder* const folder = current_.freeFolder;
-    if (!folder) return Fail(noFolderName);
-    znIBrowserViewItemFreeFolder* const child = name ? folder->FindChildFolder(name) : nullptr;
+    if (!folder) return operation.Fail(noFolderName);
+    znIBrowserViewItemFreeFolder* const child =
+        FindNamed(folder, &znIBrowserViewItemFreeFolder::FindChildFolder, name);
     if (!child)
-        return FailWith({"Cannot find folder: ", name, " in the current folder: ", folder->GetName()});
-    znBrowserCurrentObjects doomed = CurrentsInside(child);
+        return operation.Fail({"Cannot find folder: ", name, " in the current folder: ", folder->GetName()});
+    znBrowserCurrentObjects doomed = CurrentsInside(*this, child);
     // The current list goes with the folder that lists it, unless the current folder lists it as well.
     if (current_.list && IsListedWithin(child, current_.list) && !IsListed(*folder, current_.list))
         doomed.list = current_.list;
-    const auto deletion = [&] { return AskBrowser(*this, &znIBrowser::DestroyFreeFolder, child, recursive); };
-    return DeleteAndForget(deletion, [&] { Forget(doomed); });
+    const auto deletion = [&] { return operation.Ask(&znIBrowser::DestroyFreeFolder, child, recursive); };
+    return DeleteAndForget(*this, doomed, deletion);
 }
 
 bool znBrowserManagerTcl::SetCurrentFreeFolder(const char* name) {
-    BeginOperation();
-    if (!current_.view) return Fail(noViewHandle);
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(noViewHandle);
     znIBrowserViewItemFreeFolder* const root = current_.view->GetRootFreeFolder();
     znIBrowserViewItemFreeFolder* const start = current_.freeFolder ? current_.freeFolder : root;
-    if (!start) return Fail("Cannot get handle to the current free folder");
+    if (!start) return operation.Fail("Cannot get handle to the current free folder");
     znIBrowserViewItemFreeFolder* const folder = FindFolder(*start, root, name);
-    if (!folder) return FailWith({"Cannot not find folder : ", name, " in the current folder"});
+    if (!folder) return operation.Fail({"Cannot not find folder : ", name, " in the current folder"});
     SetCurrentFreeFolder(folder);
     return GetState();
 }
 
 bool znBrowserManagerTcl::GetCurrentFreeFolderName(znString& out) {
-    BeginOperation();
-    return current_.freeFolder ? GetFreeFolderName(current_.freeFolder, out) : Fail(noFolderName);
+    const Operation operation(*this);
+    return current_.freeFolder ? GetFreeFolderName(current_.freeFolder, out) : operation.Fail(noFolderName);
 }
 
 bool znBrowserManagerTcl::GetFreeFolderName(znIBrowserViewItemFreeFolder* folder, znString& out) {
-    BeginOperation();
-    if (!folder) return Fail(messages::nullPointer);
+    const Operation operation(*this);
+    if (!folder) return operation.Fail(znBrowserMessages::nullPointer);
     out = folder->GetName();
     return true;
 }
 
 bool znBrowserManagerTcl::GetChildrenFreeFolderNames(znString& out) {
-    BeginOperation();
-    if (!current_.freeFolder) return Fail(noFolderName);
+    const Operation operation(*this);
+    if (!current_.freeFolder) return operation.Fail(noFolderName);
     Folders folders;
     if (!current_.freeFolder->GetChildFolders(folders))
-        return Fail("Cannot get names of the current free folder children");
+        return operation.Fail("Cannot get names of the current free folder children");
     return NameList(EntryForm::Braced).AddNames(folders, NullName::IsLeftOut).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::GetChildrenFreeFolderConfiguredTypes(znString& out) {
-    BeginOperation();
-    if (!current_.freeFolder) return Fail(noFolderName);
+    const Operation operation(*this);
+    if (!current_.freeFolder) return operation.Fail(noFolderName);
     std::vector<znString> names;
-    if (!current_.freeFolder->GetConfiguredTypes(names)) return FailWithHostError();
+    if (!current_.freeFolder->GetConfiguredTypes(names)) return operation.FailWithHostError();
     return NameList(EntryForm::Braced).AddTexts(names).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::GetFreeFolderSelected(znString& out) {
-    BeginOperation();
-    if (!current_.freeFolder) return Fail(noFolderName);
+    const Operation operation(*this);
+    if (!current_.freeFolder) return operation.Fail(noFolderName);
     std::vector<znString> names;
-    if (!current_.freeFolder->GetSelectedFolderNames(names)) return FailWithHostError();
+    if (!current_.freeFolder->GetSelectedFolderNames(names)) return operation.FailWithHostError();
     return NameList(EntryForm::Braced).AddTexts(names).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::GetFreeFolderSelection(znString& out) {
-    BeginOperation();
-    if (!current_.freeFolder) return Fail(noFolderName);
-    if (!current_.viewProperty) return Fail(noPropertyName);
+    const Operation operation(*this);
+    if (!current_.freeFolder) return operation.Fail(noFolderName);
+    if (!current_.viewProperty) return operation.Fail(noPropertyName);
     znBrowserDataItems items;
-    if (!current_.freeFolder->GetSelection(items)) return FailWithHostError();
+    if (!current_.freeFolder->GetSelection(items)) return operation.FailWithHostError();
     ItemProperty property(*this);
     return GiveItemValues(*this, items, {&property}, out);
 }

@@ -1,7 +1,7 @@
 // view list ...
 #include "frame/command_table.h"
+#include "frame/command_words.h"
 #include "host/znIBrowserDataSourceSimple.h"
-#include "view/view_words.h"
 
 const char* const znBrowserTclMessages::VIEW_LIST =
     "    znbrowsermanager view list [action] \n\n"
@@ -15,6 +15,8 @@ const char* const znBrowserTclMessages::VIEW_LIST =
     "    \tstyle <true|false>                     "
     "Draws the current list with the current style, or with the style of the column.\n\n";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
@@ -22,7 +24,6 @@ using Messages = znBrowserTclMessages;
 
 /// A name, and a flag whose meaning is the host's.
 void NameAndFlag(Call& call, bool (Manager::*action)(const char*, bool)) {
-    if (!call.Has(4)) return call.Answer(Messages::VIEW_LIST);
     bool flag = false;
     if (!ReadFlag(call, 5, flag, Messages::VIEW_LIST)) return;
     call.AnswerOutcome((call.manager.*action)(call.Text(4), flag), call.Text(4));
@@ -61,19 +62,23 @@ void Expand(Call& call) { RunWithFlag(call, 4, &Manager::ExpandFreeFolderList, M
 void Collapse(Call& call) { RunWithFlag(call, 4, &Manager::CollapseFreeFolderList, Messages::VIEW_LIST); }
 
 constexpr CommandRow listRows[] = {
-    {Keyword::Create, Create},
-    {Keyword::Current, Current},
-    {Keyword::Group, Group},
-    {Keyword::Delete, Delete},
-    {Keyword::Names, Names},
-    {Keyword::Style, Style},
+    {Keyword::Create, "DATASOURCE ?BOOL?", "Shows a data source as a list in the current folder.", Create},
+    {Keyword::Current, "?LIST?", "Makes a list current, or tells which is.", Current},
+    {Keyword::Group, "BOOL ?BOOL?", "Sets whether the items of the current list are grouped.", Group},
+    {Keyword::Delete, "LIST", "Takes a list out of the current folder.", Delete},
+    {Keyword::Names, "?BOOL?", "Lists the lists in the current folder; with true, also those below it.",
+     Names},
+    {Keyword::Style, "BOOL", "Draws the current list with the current style, or with the column's.", Style},
     // Words that the usage text leaves out.
-    {Keyword::Add, Add},
-    {Keyword::Caption, Caption},
-    {Keyword::Collapse, Collapse},
-    {Keyword::Expand, Expand},
+    {Keyword::Add, "DATASOURCE ?BOOL?",
+     "Shows a data source as a list; the application decides whether it can be one.", Add},
+    {Keyword::Caption, "TEXT", "Sets what stands above the current list.", Caption},
+    {Keyword::Collapse, "?BOOL?", "Collapses the current list; with true, also what is below it.", Collapse},
+    {Keyword::Expand, "?BOOL?", "Expands the current list; with true, also what is below it.", Expand},
 };
 
 } // namespace
 
 constexpr CommandLevel viewListLevel(listRows, Messages::VIEW_LIST);
+
+} // namespace znlayer

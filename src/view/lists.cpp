@@ -1,14 +1,15 @@
 // The lists of the current free folder.
-#include "frame/messages.h"
 #include "frame/name_list.h"
+#include "frame/operation.h"
 #include "host/znIBrowserDataCtrl.h"
 #include "host/znIBrowserDataSourceSimple.h"
 #include "host/znIBrowserViewItemFreeFolder.h"
-#include "view/ask_browser.h"
 #include "view/view_messages.h"
+#include "znBrowserMessages.h"
 
 #include <cstring>
 
+using namespace znlayer;
 using namespace view_messages;
 
 namespace {
@@ -31,9 +32,10 @@ znIBrowserDataSourceSimple* FindList(znIBrowserViewItemFreeFolder& folder, const
 znIBrowserDataSourceSimple* RequireList(znBrowserManagerTcl& manager, const char* name) {
     znIBrowserViewItemFreeFolder* const folder = manager.GetCurrentFreeFolderPtr();
     znIBrowserDataSourceSimple* const list = folder ? FindList(*folder, name) : nullptr;
-    if (!folder) manager.SetError(noFolderName);
+    const Operation operation(manager, Operation::State::Kept);
+    if (!folder) operation.Fail(noFolderName);
     if (folder && !list)
-        Refuse(manager, {"List of: ", name, "(s) is not configured in the folder: ", folder->GetName()});
+        operation.Fail({"List of: ", name, "(s) is not configured in the folder: ", folder->GetName()});
     return list;
 }
 
@@ -59,89 +61,90 @@ bool ShowContent(znBrowserManagerTcl& manager,
                  bool (znIBrowser::*request)(znIBrowserViewItemFreeFolder*, znIBrowserDataSourceSimple*,
                                              bool),
                  bool recursive) {
-    manager.SetOk();
-    manager.ResetBuff();
+    const Operation operation(manager);
     znIBrowserViewItemFreeFolder* const folder = manager.GetCurrentFreeFolderPtr();
     znIBrowserDataSourceSimple* const list = manager.GetCurrentListPtr();
-    if (folder && list) return AskBrowser(manager, request, folder, list, recursive);
-    manager.SetError(folder ? noListHandle : noFolderHandle);
-    return false;
+    if (folder && list) return operation.Ask(request, folder, list, recursive);
+    return operation.Fail(folder ? noListHandle : noFolderHandle);
 }
 
 } // namespace
 
 bool znBrowserManagerTcl::CreateList(const char* name, bool flag) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserViewItemFreeFolder* const folder = current_.freeFolder;
-    if (!folder) return Fail(noFolderName);
-    if (!current_.dataCtrl) return Fail(messages::noCurrentDataCtrl);
-    znIBrowserDataSourceSimple* const source = name ? current_.dataCtrl->FindDataSourceSimple(name) : nullptr;
+    if (!folder) return operation.Fail(noFolderName);
+    if (!current_.dataCtrl) return operation.Fail(znBrowserMessages::noCurrentDataCtrl);
+    znIBrowserDataSourceSimple* const source =
+        FindNamed(current_.dataCtrl, &znIBrowserDataCtrl::FindDataSourceSimple, name);
     if (!source) {
-        return FailWith(
+        return operation.Fail(
             {"Datasourcesimple ", name, " is not found in the datacontrol: ", current_.dataCtrl->GetName()});
     }
     if (FindList(*folder, name))
-        return FailWith({"List of: ", name, "(s) already configured in the folder: ", folder->GetName()});
-    return AskBrowser(*this, &znIBrowser::AddList, folder, source->GetDataSource(), flag);
+        return operation.Fail(
+            {"List of: ", name, "(s) already configured in the folder: ", folder->GetName()});
+    return operation.Ask(&znIBrowser::AddList, folder, source->GetDataSource(), flag);
 }
 
 bool znBrowserManagerTcl::ListAdd(const char* name, bool flag) {
-    BeginOperation();
-    if (!current_.freeFolder) return Fail(noFolderName);
-    if (!current_.dataCtrl) return Fail(messages::noCurrentDataCtrl);
-    znIBrowserDataSource* const source = name ? current_.dataCtrl->FindDataSource(name) : nullptr;
+    const Operation operation(*this);
+    if (!current_.freeFolder) return operation.Fail(noFolderName);
+    if (!current_.dataCtrl) return operation.Fail(znBrowserMessages::noCurrentDataCtrl);
+    znIBrowserDataSource* const source =
+        FindNamed(current_.dataCtrl, &znIBrowserDataCtrl::FindDataSource, name);
     if (!source) {
-        return FailWith(
+        return operation.Fail(
             {"Datasource ", name, " is not found in the datacontrol: ", current_.dataCtrl->GetName()});
     }
-    return AskBrowser(*this, &znIBrowser::AddList, current_.freeFolder, source, flag);
+    return operation.Ask(&znIBrowser::AddList, current_.freeFolder, source, flag);
 }
 
 bool znBrowserManagerTcl::DeleteList(const char* name) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserDataSourceSimple* const list = RequireList(*this, name);
-    if (!list || !AskBrowser(*this, &znIBrowser::RemoveList, current_.freeFolder, list)) return false;
+    if (!list || !operation.Ask(&znIBrowser::RemoveList, current_.freeFolder, list)) return false;
     if (current_.list == list) ResetCurrentList();
     return true;
 }
 
 bool znBrowserManagerTcl::SetCurrentList(const char* name) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserDataSourceSimple* const list = RequireList(*this, name);
     if (list) SetCurrentList(list);
     return list != nullptr;
 }
 
 bool znBrowserManagerTcl::GetListNames(znString& out, bool recursive) {
-    BeginOperation();
-    if (!current_.freeFolder) return Fail(noFolderName);
+    const Operation operation(*this);
+    if (!current_.freeFolder) return operation.Fail(noFolderName);
     NameList names(EntryForm::Braced);
     if (AddListNames(current_.freeFolder, recursive, names)) return names.Give(*this, out);
-    return FailWith({"Cannot get list of lists for free folder : ", current_.freeFolder->GetName()});
+    return operation.Fail({"Cannot get list of lists for free folder : ", current_.freeFolder->GetName()});
 }
 
 bool znBrowserManagerTcl::SetCurrentListCaption(const char* caption) {
-    BeginOperation();
-    if (!current_.freeFolder) return Fail(noFolderHandle);
-    if (!current_.list) return Fail(noListHandle);
-    return AskBrowser(*this, &znIBrowser::SetListCaption, current_.freeFolder, current_.list, caption);
+    const Operation operation(*this);
+    if (!current_.freeFolder) return operation.Fail(noFolderHandle);
+    if (!current_.list) return operation.Fail(noListHandle);
+    return operation.Ask(&znIBrowser::SetListCaption, current_.freeFolder, current_.list, caption);
 }
 
 bool znBrowserManagerTcl::SetCurrentListGroup(bool group, bool second) {
-    BeginOperation();
-    if (!current_.freeFolder) return Fail(noFolderHandle);
-    if (!current_.list) return Fail(noListHandle);
-    return AskBrowser(*this, &znIBrowser::SetListGroup, current_.freeFolder, current_.list, group, second);
+    const Operation operation(*this);
+    if (!current_.freeFolder) return operation.Fail(noFolderHandle);
+    if (!current_.list) return operation.Fail(noListHandle);
+    return operation.Ask(&znIBrowser::SetListGroup, current_.freeFolder, current_.list, group, second);
 }
 
 bool znBrowserManagerTcl::SetCurrentListStyle(bool use) {
-    BeginOperation();
-    if (!current_.freeFolder) return Fail(noFolderHandle);
-    if (!current_.list) return Fail(noListHandle);
-    if (!current_.style) return Fail(noStyleHandle);
-    if (!current_.column) return Fail(noColumnHandle);
-    return AskBrowser(*this, &znIBrowser::SetListStyle, current_.freeFolder, current_.list, current_.column,
-                      current_.style, use);
+    const Operation operation(*this);
+    if (!current_.freeFolder) return operation.Fail(noFolderHandle);
+    if (!current_.list) return operation.Fail(noListHandle);
+    if (!current_.style) return operation.Fail(noStyleHandle);
+    if (!current_.column) return operation.Fail(noColumnHandle);
+    return operation.Ask(&znIBrowser::SetListStyle, current_.freeFolder, current_.list, current_.column,
+                         current_.style, use);
 }
 
 bool znBrowserManagerTcl::ExpandFreeFolderList(bool recursive) {

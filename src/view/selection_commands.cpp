@@ -7,6 +7,8 @@ const char* const znBrowserTclMessages::VIEW_SELECTION =
     "    \tclear                     clears all selections in the current browser\n"
     "    \ttype <single/multiple>    sets the selection type (single selection or multiple selection.\n";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
@@ -16,11 +18,13 @@ void Single(Call& call) { call.Run(&Manager::SetSingleSelection); }
 void Multiple(Call& call) { call.Run(&Manager::SetMultipleSelection); }
 
 constexpr CommandRow selectionRows[] = {
-    {Keyword::Clear, Clear},
-    {Keyword::Single, Single},
-    {Keyword::Multiple, Multiple},
+    {Keyword::Clear, "", "Deselects everything in the current view.", Clear},
+    {Keyword::Single, "", "Lets users of the current window select one row at a time.", Single},
+    {Keyword::Multiple, "", "Lets users of the current window select any number of rows.", Multiple},
 };
 
 } // namespace
 
 constexpr CommandLevel viewSelectionLevel(selectionRows, znBrowserTclMessages::VIEW_SELECTION);
+
+} // namespace znlayer

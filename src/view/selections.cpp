@@ -1,5 +1,6 @@
 // The selection of the current view: changed by whole data source, by the current view property or by its
 // values.
+#include "frame/operation.h"
 #include "host/znIBrowser.h"
 #include "host/znIBrowserDataSource.h"
 #include "host/znIBrowserDataSourceHierarchical.h"
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 
+using namespace znlayer;
 using namespace view_messages;
 
 namespace {
@@ -71,93 +73,99 @@ Values FirstValues(int count, const Values& values) {
 } // namespace
 
 bool znBrowserManagerTcl::ClearCurrentViewSelection() {
-    BeginOperation();
-    if (!current_.view) return Fail("No current view available");
-    return HostAnswer(current_.view->ClearSelection());
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail("No current view available");
+    return operation.HostAnswer(current_.view->ClearSelection());
 }
 
 bool znBrowserManagerTcl::ClearAllSelection() {
-    BeginOperation();
-    znIBrowser* const browser = GetBrowser();
-    if (!browser) return Fail("Cannot get a handle to browser manager");
+    const Operation operation(*this);
+    znIBrowser* const browser = BrowserOf(*this);
+    if (!browser) return operation.Fail("Cannot get a handle to browser manager");
     std::vector<znIBrowserView*> views;
     if (znIBrowserViewList* const list = browser->GetViewList()) list->GetViews(views, 0);
     for (znIBrowserView* const view : views) {
-        if (view && !view->ClearSelection()) return FailWithHostError();
+        if (view && !view->ClearSelection()) return operation.FailWithHostError();
     }
     return true;
 }
 
 bool znBrowserManagerTcl::SetSingleSelection() {
-    BeginOperation();
-    if (!current_.windowAccess) return Fail(noWindow);
-    return HostAnswer(current_.windowAccess->SetSingleSelection());
+    const Operation operation(*this);
+    if (!current_.windowAccess) return operation.Fail(noWindow);
+    return operation.HostAnswer(current_.windowAccess->SetSingleSelection());
 }
 
 bool znBrowserManagerTcl::SetMultipleSelection() {
-    BeginOperation();
-    if (!current_.windowAccess) return Fail(noWindow);
-    return HostAnswer(current_.windowAccess->SetMultipleSelection());
+    const Operation operation(*this);
+    if (!current_.windowAccess) return operation.Fail(noWindow);
+    return operation.HostAnswer(current_.windowAccess->SetMultipleSelection());
 }
 
 bool znBrowserManagerTcl::SelectDataItemSimples(bool select, bool recursive) {
-    BeginOperation();
+    const Operation operation(*this);
     const Selection on = OfSimple(*this);
-    return on.missing ? Fail(on.missing) : HostAnswer(on.source->SelectItems(on.view, select, recursive));
+    return on.missing ? operation.Fail(on.missing)
+                      : operation.HostAnswer(on.source->SelectItems(on.view, select, recursive));
 }
 
 bool znBrowserManagerTcl::SelectDataItemHierarchicals(bool select, bool recursive) {
-    BeginOperation();
+    const Operation operation(*this);
     const Selection on = OfHierarchical(*this);
-    return on.missing ? Fail(on.missing) : HostAnswer(on.source->SelectItems(on.view, select, recursive));
+    return on.missing ? operation.Fail(on.missing)
+                      : operation.HostAnswer(on.source->SelectItems(on.view, select, recursive));
 }
 
 bool znBrowserManagerTcl::SelectDataItemSimplesByProp(bool select, bool recursive) {
-    BeginOperation();
+    const Operation operation(*this);
     const Selection on = OfSimpleByProperty(*this);
-    if (on.missing) return Fail(on.missing);
+    if (on.missing) return operation.Fail(on.missing);
     if (!on.property->GetDataProperty(current_.dataSourceSimple))
-        return Fail("Cannot get data property for current datasource");
-    return HostAnswer(on.source->SelectItemsByProperty(on.view, on.property, select, recursive));
+        return operation.Fail("Cannot get data property for current datasource");
+    return operation.HostAnswer(on.source->SelectItemsByProperty(on.view, on.property, select, recursive));
 }
 
 bool znBrowserManagerTcl::SelectDataItemHierarchicalsByProp(bool select, bool recursive) {
-    BeginOperation();
+    const Operation operation(*this);
     const Selection on = OfHierarchical(*this).Require(current_.viewProperty, noPropertyName);
-    if (on.missing) return Fail(on.missing);
-    return HostAnswer(on.source->SelectItemsByProperty(on.view, on.property, select, recursive));
+    if (on.missing) return operation.Fail(on.missing);
+    return operation.HostAnswer(on.source->SelectItemsByProperty(on.view, on.property, select, recursive));
 }
 
 bool znBrowserManagerTcl::SelectDataItemSimplesByPropAndValue(const char* value, bool select,
                                                               bool recursive) {
-    BeginOperation();
+    const Operation operation(*this);
     const Selection on = OfSimpleByProperty(*this);
-    if (on.missing) return Fail(on.missing);
-    return HostAnswer(on.source->SelectItemsByValue(on.view, on.property, value, select, recursive));
+    if (on.missing) return operation.Fail(on.missing);
+    return operation.HostAnswer(
+        on.source->SelectItemsByValue(on.view, on.property, value, select, recursive));
 }
 
 bool znBrowserManagerTcl::SelectDataItemHierarchicalsByPropAndValue(const char* value, bool select,
                                                                     bool recursive) {
-    BeginOperation();
+    const Operation operation(*this);
     const Selection on = OfHierarchicalByValue(*this);
-    if (on.missing) return Fail(on.missing);
-    return HostAnswer(on.source->SelectItemsByValue(on.view, on.property, value, select, recursive));
+    if (on.missing) return operation.Fail(on.missing);
+    return operation.HostAnswer(
+        on.source->SelectItemsByValue(on.view, on.property, value, select, recursive));
 }
 
 bool znBrowserManagerTcl::SelectDataItemSimplesByPropAndValues(int count, const Values& values, bool select,
                                                                bool recursive) {
-    BeginOperation();
+    const Operation operation(*this);
     const Selection on = OfSimpleByProperty(*this);
-    if (on.missing) return Fail(on.missing);
+    if (on.missing) return operation.Fail(on.missing);
     const Values wanted = FirstValues(count, values);
-    return HostAnswer(on.source->SelectItemsByValues(on.view, on.property, wanted, select, recursive));
+    return operation.HostAnswer(
+        on.source->SelectItemsByValues(on.view, on.property, wanted, select, recursive));
 }
 
 bool znBrowserManagerTcl::SelectDataItemHierarchicalsByPropAndValues(int count, const Values& values,
                                                                      bool select, bool recursive) {
-    BeginOperation();
+    const Operation operation(*this);
     const Selection on = OfHierarchicalByValue(*this);
-    if (on.missing) return Fail(on.missing);
+    if (on.missing) return operation.Fail(on.missing);
     const Values wanted = FirstValues(count, values);
-    return HostAnswer(on.source->SelectItemsByValues(on.view, on.property, wanted, select, recursive));
+    return operation.HostAnswer(
+        on.source->SelectItemsByValues(on.view, on.property, wanted, select, recursive));
 }

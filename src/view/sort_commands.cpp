@@ -9,6 +9,8 @@ const char* const znBrowserTclMessages::VIEW_SORT =
     "    \tdisabled      Set the sorting state to disabled for the current column in the current view.\n"
     "    \tenabled       Set the sorting state to enabled for the current column in the current view.\n\n";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
@@ -24,12 +26,14 @@ void State(Call& call) {
 }
 
 constexpr CommandRow sortRows[] = {
-    {Keyword::Ascending, Direction},
-    {Keyword::Descending, Direction},
-    {Keyword::Disabled, State},
-    {Keyword::Enabled, State},
+    {Keyword::Ascending, "", "Sorts the current column from small to large.", Direction},
+    {Keyword::Descending, "", "Sorts the current column from large to small.", Direction},
+    {Keyword::Disabled, "", "Switches the sorting of the current view off.", State},
+    {Keyword::Enabled, "", "Switches the sorting of the current view on.", State},
 };
 
 } // namespace
 
 constexpr CommandLevel viewSortLevel(sortRows, znBrowserTclMessages::VIEW_SORT);
+
+} // namespace znlayer

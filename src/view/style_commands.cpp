@@ -1,8 +1,8 @@
 // view style ...
 #include "frame/command_table.h"
+#include "frame/command_words.h"
 #include "host/znIBrowserStyle.h"
 #include "host/znIBrowserViewItemFreeFolder.h"
-#include "view/view_words.h"
 
 const char* const znBrowserTclMessages::VIEW_STYLE =
     "    znbrowsermanager view style [action] ?name? \n\n"
@@ -14,6 +14,8 @@ const char* const znBrowserTclMessages::VIEW_STYLE =
     "    \tdelete                      Deletes the current view style in the current view.\n"
     "    \tnames                       Returns the names of all the existing view styles for the current "
     "view.\n\n";
+
+namespace znlayer {
 
 namespace {
 
@@ -38,14 +40,18 @@ void Delete(Call& call) {
 void Names(Call& call) { call.AnswerValue(&Manager::GetStyleNames); }
 
 constexpr CommandRow styleRows[] = {
-    {Keyword::Connect, Connect},
-    {Keyword::Create, Create},
-    {Keyword::Current, Current},
-    {Keyword::Delete, Delete},
-    {Keyword::Names, Names},
-    {Keyword::Folder, Current}, // an older word for "current", missing in the usage text
+    {Keyword::Connect, "", "Gives the current folder the current style.", Connect},
+    {Keyword::Create, "NAME", "Makes a style of the current column, and makes it current.", Create},
+    {Keyword::Current, "?STYLE?", "Makes a style current, or tells which is.", Current},
+    {Keyword::Delete, "", "Deletes the current style, and tells its name.", Delete},
+    {Keyword::Names, "", "Lists the styles of the current column.", Names},
+    // Missing in the usage text.
+    {Keyword::Folder, "?STYLE?", "Makes a style current, or tells which is; an older word for current.",
+     Current},
 };
 
 } // namespace
 
 constexpr CommandLevel viewStyleLevel(styleRows, Messages::VIEW_STYLE);
+
+} // namespace znlayer

@@ -1,6 +1,6 @@
 // view tree ...
 #include "frame/command_table.h"
-#include "view/view_words.h"
+#include "frame/command_words.h"
 
 const char* const znBrowserTclMessages::VIEW_TREE =
     "    znbrowsermanager view tree [action] ?dataitemtype? \n\n"
@@ -13,6 +13,8 @@ const char* const znBrowserTclMessages::VIEW_TREE =
     "    \tnames                             Returns the names of the trees in the current folder.\n"
     "    \tshow [dataitemtype]               "
     "Gets the shown dataitemtypes of the tree in the current folder, or shows one.\n\n";
+
+namespace znlayer {
 
 namespace {
 
@@ -37,10 +39,7 @@ void Group(Call& call) {
     call.AnswerOutcome(call.manager.SetCurrentTreeGroup(group, second));
 }
 
-void Hide(Call& call) {
-    if (!call.Has(4)) return call.Answer(Messages::VIEW_TREE);
-    call.AnswerOutcome(call.manager.SetShowChildType(call.Text(4), false));
-}
+void Hide(Call& call) { call.AnswerOutcome(call.manager.SetShowChildType(call.Text(4), false)); }
 
 void Names(Call& call) { call.AnswerValue(&Manager::GetTreeNames); }
 
@@ -50,11 +49,20 @@ void Show(Call& call) {
 }
 
 constexpr CommandRow treeRows[] = {
-    {Keyword::Create, Create}, {Keyword::Current, Current}, {Keyword::Delete, Delete},
-    {Keyword::Group, Group},   {Keyword::Hide, Hide},       {Keyword::Names, Names},
-    {Keyword::Show, Show},
+    {Keyword::Create, "HIERARCHICAL", "Shows a hierarchical data source as the tree of the current folder.",
+     Create},
+    {Keyword::Current, "?HIERARCHICAL?", "Makes a hierarchical data source current, or tells which is.",
+     Current},
+    {Keyword::Delete, "TREE", "Takes a tree out of the current folder.", Delete},
+    {Keyword::Group, "BOOL ?BOOL?", "Sets whether children stand together by data source.", Group},
+    {Keyword::Hide, "DATASOURCE", "Hides the children of one data source.", Hide},
+    {Keyword::Names, "", "Lists the trees of the current folder.", Names},
+    {Keyword::Show, "?DATASOURCE?", "Shows the children of one data source, or lists those that are shown.",
+     Show},
 };
 
 } // namespace
 
 constexpr CommandLevel viewTreeLevel(treeRows, Messages::VIEW_TREE);
+
+} // namespace znlayer

@@ -1,7 +1,7 @@
 // view ...: the views themselves, and the way to the families below them.
 #include "data/data_ctrl_commands.h"
 #include "frame/command_table.h"
-#include "view/view_words.h"
+#include "frame/command_words.h"
 
 const char* const znBrowserTclMessages::VIEW =
     "    znbrowsermanager view [action] \n\n"
@@ -43,6 +43,8 @@ const char* const znBrowserTclMessages::VIEW_POPUPMENU =
     "    znbrowsermanager view popupmenu [action] \n\n"
     "    \tPopup menus and their items are served by the host application.\n\n";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
@@ -59,7 +61,6 @@ bool CreateView(Manager& manager, const char* name, bool flag) {
 }
 
 void Create(Call& call) {
-    if (!call.Has(3)) return call.Answer(Messages::VIEW);
     bool flag = false;
     if (!ReadFlag(call, 4, flag, Messages::VIEW)) return;
     call.AnswerOutcome(CreateView(call.manager, call.Text(3), flag), call.Text(3));
@@ -94,7 +95,7 @@ void ApplyPending(Call& call) { call.manager.ApplyPendingChanges(); }
 void PopupMenu(Call& call) { call.Answer(Messages::VIEW_POPUPMENU); }
 
 void Sort(Call& call) {
-    if (call.Has(3)) return RunLevel(call, viewSortLevel, 3);
+    if (call.Count() > 3) return RunLevel(call, viewSortLevel, 3);
     znString sorting;
     znString order;
     if (!call.manager.GetSorting(sorting) || !call.manager.GetAscendingOrder(order))
@@ -102,48 +103,58 @@ void Sort(Call& call) {
     for (const char* const text : {sorting.c_str(), " ", order.c_str()}) call.Answer(text);
 }
 
-constexpr CommandRow groupRows[] = {{Keyword::Children, GroupChildren}};
+constexpr CommandRow groupRows[] = {
+    {Keyword::Children, "?BOOL?", "Sets or reads whether the current folder groups its children.",
+     GroupChildren},
+};
 constexpr CommandLevel groupLevel(groupRows, Messages::VIEW_GROUP);
 
-constexpr CommandRow applyRows[] = {{Keyword::Pending, ApplyPending}};
+constexpr CommandRow applyRows[] = {
+    {Keyword::Pending, "", "Shows what was held back in the current folder.", ApplyPending},
+};
 constexpr CommandLevel applyLevel(applyRows, Messages::VIEW);
 
 constexpr CommandRow viewRows[] = {
-    {Keyword::Column, nullptr, &viewColumnLevel},
-    {Keyword::Create, Create},
-    {Keyword::Current, Current},
-    {Keyword::DataSource, nullptr, &viewDataSourceLevel},
-    {Keyword::Delete, Delete},
-    {Keyword::Element, nullptr, &viewElementLevel},
-    {Keyword::Filter, nullptr, &viewFilterLevel},
-    {Keyword::Flush, Flush},
-    {Keyword::Folder, nullptr, &viewFolderLevel},
-    {Keyword::Group, nullptr, &groupLevel},
-    {Keyword::Italic, Italic},
-    {Keyword::List, nullptr, &viewListLevel},
-    {Keyword::Names, Names},
-    {Keyword::Namespace, Namespace},
-    {Keyword::Operation, nullptr, &viewOperationLevel},
-    {Keyword::Property, nullptr, &viewPropertyLevel},
-    {Keyword::Sort, Sort, &viewSortLevel},
-    {Keyword::Style, nullptr, &viewStyleLevel},
-    {Keyword::Tree, nullptr, &viewTreeLevel},
+    {Keyword::Column, "The columns of the current view.", &viewColumnLevel},
+    {Keyword::Create, "NAME ?BOOL?", "Makes a view; with true, one that connects data sources itself.",
+     Create},
+    {Keyword::Current, "?VIEW?", "Makes a view current, or tells which is.", Current},
+    {Keyword::DataSource, "The data sources of the current view.", &viewDataSourceLevel},
+    {Keyword::Delete, "", "Deletes the current view.", Delete},
+    {Keyword::Element, "The elements of the current style.", &viewElementLevel},
+    {Keyword::Filter, "What the current view shows.", &viewFilterLevel},
+    {Keyword::Flush, "BOOL", "Lets changes reach the windows at once, or holds them back.", Flush},
+    {Keyword::Folder, "The folders of the current view.", &viewFolderLevel},
+    {Keyword::Group, "How the current folder groups what is in it.", &groupLevel},
+    {Keyword::Italic, "?enabled|disabled?", "Sets or reads whether the view's texts are italic.", Italic},
+    {Keyword::List, "The lists of the current folder.", &viewListLevel},
+    {Keyword::Names, "", "Lists the views.", Names},
+    {Keyword::Namespace, "", "Tells the Tcl namespace of the application's scripts.", Namespace},
+    {Keyword::Operation, "What users can do with the items of the current view.", &viewOperationLevel},
+    {Keyword::Property, "The values that the current view shows.", &viewPropertyLevel},
+    {Keyword::Sort, "", "Sorting of the current view; alone, the state and the direction.", Sort,
+     &viewSortLevel},
+    {Keyword::Style, "The styles of the current column.", &viewStyleLevel},
+    {Keyword::Tree, "The trees of the current folder.", &viewTreeLevel},
     // Words that the usage text leaves out.
-    {Keyword::Apply, nullptr, &applyLevel},
-    {Keyword::DataCtrl, AnswerViewDataCtrl, &viewDataCtrlLevel},
-    {Keyword::DataItem, nullptr, &viewDataItemLevel},
-    {Keyword::DataItemList, nullptr, &viewDataItemLevel},
-    {Keyword::DataReference, nullptr, &viewDataReferenceLevel},
-    {Keyword::PopupMenu, PopupMenu},
-    {Keyword::PopupMenuItem, PopupMenu},
-    {Keyword::Redraw, Redraw},
-    {Keyword::Selection, nullptr, &viewSelectionLevel},
+    {Keyword::Apply, "Shows what was held back.", &applyLevel},
+    {Keyword::DataCtrl, "", "The data control of the current view; alone, its name.", AnswerViewDataCtrl,
+     &viewDataCtrlLevel},
+    {Keyword::DataItem, "The items of the current view.", &viewDataItemLevel},
+    {Keyword::DataItemList, "The items of the current view; another word for dataitem.", &viewDataItemLevel},
+    {Keyword::DataReference, "The data references of the current view.", &viewDataReferenceLevel},
+    {Keyword::PopupMenu, "", "Answers who serves popup menus.", PopupMenu},
+    {Keyword::PopupMenuItem, "", "Answers who serves popup menus.", PopupMenu},
+    {Keyword::Redraw, "", "Draws all views again.", Redraw},
+    {Keyword::Selection, "What is selected in the current view.", &viewSelectionLevel},
 };
 
 } // namespace
 
 constexpr CommandLevel viewLevel(viewRows, Messages::VIEW);
 
+} // namespace znlayer
+
 int znBrowserManagerTcl::ViewTclAPICommands(int objc, Tcl_Obj* const objv[]) {
-    return RunFamily(*this, viewLevel, objc, objv);
+    return znlayer::RunFamily(*this, znlayer::viewLevel, objc, objv);
 }

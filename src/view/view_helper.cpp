@@ -2,8 +2,8 @@
 
 #include "data/item_values.h"
 #include "frame/data_types.h"
-#include "frame/messages.h"
 #include "frame/name_list.h"
+#include "frame/operation.h"
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserDataCtrl.h"
 #include "host/znIBrowserDataProperty.h"
@@ -11,9 +11,11 @@
 #include "host/znIBrowserView.h"
 #include "host/znIBrowserViewItemFreeFolder.h"
 #include "view/view_messages.h"
+#include "znBrowserMessages.h"
 
 #include <algorithm>
 
+using namespace znlayer;
 using namespace view_messages;
 
 namespace {
@@ -32,33 +34,33 @@ znBrowserManagerViewTcl& ViewHelperOf(znBrowserManagerTcl& manager) {
 }
 
 bool znBrowserManagerViewTcl::Connect(const char* name) {
-    owner_->BeginOperation();
+    const Operation operation(*owner_);
     znIBrowserView* const view = owner_->GetCurrentViewPtr();
-    if (!view) return owner_->Fail(messages::noCurrentView);
+    if (!view) return operation.Fail(znBrowserMessages::noCurrentView);
     znIBrowserDataCtrl* const control = view->GetDataCtrl();
-    znIBrowserDataSource* const source = control && name ? control->FindDataSource(name) : nullptr;
-    if (!source) return owner_->FailWith({"Cannot find data source : ", name});
-    return view->SetDataSourceConnected(source, true) || owner_->Fail("Cannot connect data source");
+    znIBrowserDataSource* const source = FindNamed(control, &znIBrowserDataCtrl::FindDataSource, name);
+    if (!source) return operation.Fail({"Cannot find data source : ", name});
+    return view->SetDataSourceConnected(source, true) || operation.Fail("Cannot connect data source");
 }
 
 bool znBrowserManagerViewTcl::Disconnect(const char* name) {
-    owner_->BeginOperation();
+    const Operation operation(*owner_);
     znIBrowserView* const view = owner_->GetCurrentViewPtr();
-    if (!view) return owner_->Fail(messages::noCurrentView);
-    znIBrowserDataSource* const source = name ? view->FindDataSource(name) : nullptr;
-    if (!source) return owner_->FailWith({"Cannot find data source : ", name});
-    if (!view->SetDataSourceConnected(source, false)) return owner_->Fail("Cannot create tree");
+    if (!view) return operation.Fail(znBrowserMessages::noCurrentView);
+    znIBrowserDataSource* const source = FindNamed(view, &znIBrowserView::FindDataSource, name);
+    if (!source) return operation.Fail({"Cannot find data source : ", name});
+    if (!view->SetDataSourceConnected(source, false)) return operation.Fail("Cannot create tree");
     if (dataSource_ == source) dataSource_ = nullptr;
     return true;
 }
 
 bool znBrowserManagerViewTcl::SetCurrentDataSource(const char* name) {
-    owner_->BeginOperation();
+    const Operation operation(*owner_);
     znIBrowserView* const view = owner_->GetCurrentViewPtr();
-    if (!view) return owner_->Fail(noViewName);
-    znIBrowserDataSource* const source = name ? view->FindDataSource(name) : nullptr;
+    if (!view) return operation.Fail(noViewName);
+    znIBrowserDataSource* const source = FindNamed(view, &znIBrowserView::FindDataSource, name);
     if (!source) {
-        return owner_->FailWith(
+        return operation.Fail(
             {"DataSource of: ", name, "(s) is not configured in the view: ", view->GetName().c_str()});
     }
     dataSource_ = source;
@@ -66,7 +68,8 @@ bool znBrowserManagerViewTcl::SetCurrentDataSource(const char* name) {
 }
 
 bool znBrowserManagerViewTcl::GetCurrentDataSource(znString& out) {
-    znIBrowserDataSource* const source = RequireSource(false);
+    const Operation operation(*owner_);
+    znIBrowserDataSource* const source = RequireSource(operation, false);
     if (!source) return false;
     out = source->GetName();
     return true;
@@ -78,52 +81,53 @@ znString znBrowserManagerViewTcl::GetCurrentDataSourceName() const {
 }
 
 bool znBrowserManagerViewTcl::GetDataSourceNames(znString& out) {
-    owner_->BeginOperation();
+    const Operation operation(*owner_);
     znIBrowserView* const view = owner_->GetCurrentViewPtr();
-    if (!view) return owner_->Fail(noViewName);
+    if (!view) return operation.Fail(noViewName);
     std::vector<znIBrowserDataSource*> sources;
     if (!view->GetConnectedDataSources(sources))
-        return owner_->Fail("Cannot get list of connected data sources");
+        return operation.Fail("Cannot get list of connected data sources");
     return NameList(EntryForm::Braced).AddNames(sources, NullName::IsLeftOut).Give(*owner_, out);
 }
 
 bool znBrowserManagerViewTcl::SetFolderDataSource(const char* name) {
-    owner_->BeginOperation();
+    const Operation operation(*owner_);
     znIBrowserViewItemFreeFolder* const folder = owner_->GetCurrentFreeFolderPtr();
-    if (!owner_->GetCurrentViewPtr()) return owner_->Fail(noViewName);
-    if (!folder) return owner_->Fail(noFolderName);
-    znIBrowserDataSource* const source = name ? folder->FindDataSource(name) : nullptr;
+    if (!owner_->GetCurrentViewPtr()) return operation.Fail(noViewName);
+    if (!folder) return operation.Fail(noFolderName);
+    znIBrowserDataSource* const source =
+        FindNamed(folder, &znIBrowserViewItemFreeFolder::FindDataSource, name);
     if (!source) {
-        return owner_->FailWith(
+        return operation.Fail(
             {"DataSource of: ", name, "(s) is not configured in the folder: ", folder->GetName()});
     }
-    return owner_->HostAnswer(folder->SetCurrentDataSource(source));
+    return operation.HostAnswer(folder->SetCurrentDataSource(source));
 }
 
 bool znBrowserManagerViewTcl::GetFolderDataSource(znString& out) {
-    owner_->BeginOperation();
+    const Operation operation(*owner_);
     znIBrowserViewItemFreeFolder* const folder = owner_->GetCurrentFreeFolderPtr();
-    if (!owner_->GetCurrentViewPtr()) return owner_->Fail(noViewName);
-    if (!folder) return owner_->Fail(noFolderName);
+    if (!owner_->GetCurrentViewPtr()) return operation.Fail(noViewName);
+    if (!folder) return operation.Fail(noFolderName);
     znIBrowserDataSource* const source = folder->GetCurrentDataSource();
-    if (!source) return owner_->Fail(noDataSourceName);
+    if (!source) return operation.Fail(noDataSourceName);
     out = source->GetName();
     return true;
 }
 
 bool znBrowserManagerViewTcl::SetFolderDataSourceStyle(bool style) {
-    owner_->BeginOperation();
+    const Operation operation(*owner_);
     znIBrowserViewItemFreeFolder* const folder = owner_->GetCurrentFreeFolderPtr();
     znIBrowserViewColumn* const column = owner_->GetCurrentColumnPtr();
-    if (!folder) return owner_->Fail(noFolderName);
-    if (!column) return owner_->Fail(noColumnHandle);
+    if (!folder) return operation.Fail(noFolderName);
+    if (!column) return operation.Fail(noColumnHandle);
     znIBrowserDataSource* const source = folder->GetCurrentDataSource();
-    if (!source) return owner_->Fail(" datasource in the current folder");
-    return owner_->HostAnswer(folder->SetDataSourceStyle(source, column, style));
+    if (!source) return operation.Fail(" datasource in the current folder");
+    return operation.HostAnswer(folder->SetDataSourceStyle(source, column, style));
 }
 
 bool znBrowserManagerViewTcl::GetCurrentItem(znString& out) {
-    owner_->BeginOperation();
+    const Operation operation(*owner_);
     out = "";
     znIBrowserDataProperty* const property = item_ ? ItemProperty(*owner_).Of(item_->source) : nullptr;
     if (property) ReadValueText(*property, *item_, out);
@@ -131,41 +135,44 @@ bool znBrowserManagerViewTcl::GetCurrentItem(znString& out) {
 }
 
 bool znBrowserManagerViewTcl::GetSelectedItems(znString& out, bool recursive) {
-    znIBrowserDataSource* const source = RequireSource(true);
+    const Operation operation(*owner_);
+    znIBrowserDataSource* const source = RequireSource(operation, true);
     if (!source) return false;
     znIBrowserDataSourceSimple* const simple = source->GetSimple();
     ItemProperty property(*owner_);
     if (simple && !property.Of(simple))
-        return owner_->Fail("Cannot get data property for current datasource");
+        return operation.Fail("Cannot get data property for current datasource");
     znBrowserDataItems items;
     if (!owner_->GetCurrentViewPtr()->GetSelectedItems(source, recursive, items))
-        return owner_->FailWithHostError();
+        return operation.FailWithHostError();
     return GiveItemValues(*owner_, items, {&property}, out, ReadValueText);
 }
 
 bool znBrowserManagerViewTcl::GetAllSelectedItems(znString& out, bool recursive) {
-    owner_->BeginOperation();
+    const Operation operation(*owner_);
     znIBrowserView* const view = owner_->GetCurrentViewPtr();
-    if (!view) return owner_->Fail(noViewName);
-    if (!owner_->GetCurrentViewPropertyPtr()) return owner_->Fail(noPropertyName);
+    if (!view) return operation.Fail(noViewName);
+    if (!owner_->GetCurrentViewPropertyPtr()) return operation.Fail(noPropertyName);
     znBrowserDataItems items;
-    if (!view->GetAllSelectedItems(recursive, items)) return owner_->FailWithHostError();
+    if (!view->GetAllSelectedItems(recursive, items)) return operation.FailWithHostError();
     ItemProperty property(*owner_);
     return GiveItemValues(*owner_, items, {&property}, out, ReadValueText);
 }
 
 bool znBrowserManagerViewTcl::SelectItems(bool select, bool recursive) {
-    znIBrowserDataSource* const source = RequireSource(false);
+    const Operation operation(*owner_);
+    znIBrowserDataSource* const source = RequireSource(operation, false);
     if (!source) return false;
-    return owner_->HostAnswer(source->SelectItems(owner_->GetCurrentViewPtr(), select, recursive));
+    return operation.HostAnswer(source->SelectItems(owner_->GetCurrentViewPtr(), select, recursive));
 }
 
 bool znBrowserManagerViewTcl::SelectItemsByValue(const char* value, bool select, bool recursive) {
-    znIBrowserDataSource* const source = RequireSource(true);
+    const Operation operation(*owner_);
+    znIBrowserDataSource* const source = RequireSource(operation, true);
     if (!source) return false;
     znIBrowserView* const view = owner_->GetCurrentViewPtr();
     znIBrowserViewProperty* const property = owner_->GetCurrentViewPropertyPtr();
-    return owner_->HostAnswer(source->SelectItemsByValue(view, property, value, select, recursive));
+    return operation.HostAnswer(source->SelectItemsByValue(view, property, value, select, recursive));
 }
 
 znIBrowserDataSource* znBrowserManagerViewTcl::CurrentDataSource() const {
@@ -175,14 +182,13 @@ znIBrowserDataSource* znBrowserManagerViewTcl::CurrentDataSource() const {
     return std::find(sources.begin(), sources.end(), dataSource_) != sources.end() ? dataSource_ : nullptr;
 }
 
-znIBrowserDataSource* znBrowserManagerViewTcl::RequireSource(bool property) {
-    owner_->BeginOperation();
+znIBrowserDataSource* znBrowserManagerViewTcl::RequireSource(const Operation& operation, bool property) {
     znIBrowserDataSource* source = nullptr;
     if (!owner_->GetCurrentViewPtr())
-        owner_->Fail(noViewName);
+        operation.Fail(noViewName);
     else if (property && !owner_->GetCurrentViewPropertyPtr())
-        owner_->Fail(noPropertyName);
+        operation.Fail(noPropertyName);
     else if (source = CurrentDataSource(); !source)
-        owner_->Fail(noDataSourceName);
+        operation.Fail(noDataSourceName);
     return source;
 }

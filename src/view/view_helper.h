@@ -5,6 +5,9 @@
 #include "host/znutl/znString.h"
 
 struct znBrowserDataItem;
+namespace znlayer {
+class Operation;
+}
 class znBrowserManagerTcl;
 class znIBrowserDataSource;
 class znIBrowserView;
@@ -52,7 +55,7 @@ private:
     znIBrowserDataSource* CurrentDataSource() const;
     /// The helper's current source; null, and an error, when the current view, the source or, with
     /// `property`, a view property is missing.
-    znIBrowserDataSource* RequireSource(bool property);
+    znIBrowserDataSource* RequireSource(const znlayer::Operation& operation, bool property);
 
     const znBrowserDataItem* item_ = nullptr;
     znIBrowserDataSource* dataSource_ = nullptr;

@@ -2,8 +2,8 @@
 #include "view/view_helper_commands.h"
 
 #include "frame/command_table.h"
+#include "frame/command_words.h"
 #include "view/view_helper.h"
-#include "view/view_words.h"
 
 const char* const znBrowserTclMessages::HELPER_VIEW =
     "    znbrowsermanager view [action] \n\n"
@@ -45,6 +45,8 @@ const char* const znBrowserTclMessages::HELPER_FOLDER_DATASOURCE =
     "    \tstyle <true|false>                "
     "Sets the style state of the current datasource of the current folder.\n\n";
 
+namespace znlayer {
+
 namespace {
 
 using Messages = znBrowserTclMessages;
@@ -67,7 +69,6 @@ void SetThenAnswer(Call& call, int position, Action setter, Getter getter) {
 
 /// `word NAME`: the name, or the error.
 void RunThenEcho(Call& call, Action action) {
-    if (!call.Has(4)) return call.Answer(Messages::HELPER_DATASOURCE);
     call.AnswerOutcome((ViewHelperOf(call.manager).*action)(call.Text(4)), call.Text(4));
 }
 
@@ -111,44 +112,70 @@ void SelectedItems(Call& call) {
     call.AnswerOutcome(listed, values.c_str());
 }
 
-void Select(Call& call) {
-    const bool select = call.Is(3, Keyword::Select);
-    if (!call.Has(4)) return call.AnswerOutcome(ViewHelperOf(call.manager).SelectItems(select, false));
+bool IsSelect(const Call& call) { return call.Is(3, Keyword::Select); }
+
+void SelectByValue(Call& call) {
     const bool recursive = call.Is(6, Keyword::Recursive);
-    if (!call.Is(4, Keyword::ByPropVal) || !call.Has(5) || (call.Has(6) && !recursive))
-        return call.Answer(Messages::HELPER_DATAITEM);
-    call.AnswerOutcome(ViewHelperOf(call.manager).SelectItemsByValue(call.Text(5), select, recursive));
+    if (call.Has(6) && !recursive) return call.Answer(Messages::HELPER_DATAITEM);
+    call.AnswerOutcome(
+        ViewHelperOf(call.manager).SelectItemsByValue(call.Text(5), IsSelect(call), recursive));
+}
+
+void Select(Call& call) {
+    if (call.Count() > 4) return RunLevel(call, helperSelectLevel, 4);
+    call.AnswerOutcome(ViewHelperOf(call.manager).SelectItems(IsSelect(call), false));
 }
 
 constexpr CommandRow dataSourceRows[] = {
-    {Keyword::Connect, Connect}, {Keyword::Current, Current},           {Keyword::Disconnect, Disconnect},
-    {Keyword::Names, Names},     {Keyword::Selected, SelectedOfSource},
+    {Keyword::Connect, "DATASOURCE|HIERARCHICAL", "Connects a data source to the current view.", Connect},
+    {Keyword::Current, "?DATASOURCE|HIERARCHICAL?",
+     "Makes a data source of the view current, or tells which is.", Current},
+    {Keyword::Disconnect, "DATASOURCE|HIERARCHICAL", "Disconnects a data source from the current view.",
+     Disconnect},
+    {Keyword::Names, "", "Lists the data sources that are connected to the current view.", Names},
+    {Keyword::Selected, "?recursive?", "Lists the selected items of the current data source.",
+     SelectedOfSource},
 };
 constexpr CommandLevel dataSourceLevel(dataSourceRows, Messages::HELPER_DATASOURCE);
 
+constexpr CommandRow selectRows[] = {
+    {Keyword::ByPropVal, "VALUE ?recursive?", "Only those with that value of the current view property.",
+     SelectByValue},
+};
+
 constexpr CommandRow dataItemRows[] = {
-    {Keyword::Current, CurrentItem},
-    {Keyword::Deselect, Select},
-    {Keyword::Select, Select},
-    {Keyword::Selected, SelectedItems},
+    {Keyword::Current, "", "Tells the current item.", CurrentItem},
+    {Keyword::Deselect, "", "Deselects the items of the current data source.", Select, &helperSelectLevel},
+    {Keyword::Select, "", "Selects the items of the current data source.", Select, &helperSelectLevel},
+    {Keyword::Selected, "?all|recursive? ?recursive?",
+     "Lists the selected items of the current data source, or of all of them.", SelectedItems},
 };
 constexpr CommandLevel dataItemLevel(dataItemRows, Messages::HELPER_DATAITEM);
 
-constexpr CommandRow folderDataSourceRows[] = {{Keyword::Current, FolderCurrent},
-                                               {Keyword::Style, FolderStyle}};
-constexpr CommandRow folderRows[] = {{Keyword::DataSource, nullptr, &helperFolderDataSourceLevel}};
+constexpr CommandRow folderDataSourceRows[] = {
+    {Keyword::Current, "?DATASOURCE|HIERARCHICAL?",
+     "Makes a data source of the current folder current in it, or tells which is.", FolderCurrent},
+    {Keyword::Style, "BOOL", "Sets whether the current one's items are drawn with the folder's style.",
+     FolderStyle},
+};
+constexpr CommandRow folderRows[] = {
+    {Keyword::DataSource, "The data sources that the current folder shows.", &helperFolderDataSourceLevel},
+};
 constexpr CommandLevel folderLevel(folderRows, Messages::HELPER_FOLDER);
 
 constexpr CommandRow helperRows[] = {
-    {Keyword::DataSource, nullptr, &dataSourceLevel},
-    {Keyword::Folder, nullptr, &folderLevel},
-    {Keyword::DataItem, nullptr, &dataItemLevel},
-    {Keyword::DataItemList, nullptr, &dataItemLevel},
+    {Keyword::DataSource, "The data sources of the current view.", &dataSourceLevel},
+    {Keyword::Folder, "The folders of the current view.", &folderLevel},
+    {Keyword::DataItem, "The items of the current view.", &dataItemLevel},
+    {Keyword::DataItemList, "The items of the current view; another word for dataitem.", &dataItemLevel},
 };
 constexpr CommandLevel helperLevel(helperRows, Messages::HELPER_VIEW);
 
 } // namespace
 
 constexpr CommandLevel helperFolderDataSourceLevel(folderDataSourceRows, Messages::HELPER_FOLDER_DATASOURCE);
+constexpr CommandLevel helperSelectLevel(selectRows, Messages::HELPER_DATAITEM);
 
 void AnswerByViewHelper(Call& call) { RunLevel(call, helperLevel, 2); }
+
+} // namespace znlayer

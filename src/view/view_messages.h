@@ -3,6 +3,8 @@
 #ifndef VIEW_MESSAGES_H
 #define VIEW_MESSAGES_H
 
+namespace znlayer {
+
 namespace view_messages {
 
 inline constexpr char nullName[] = "NULL pointer found where name is expected";
@@ -22,5 +24,7 @@ inline constexpr char noDataSourceName[] = "Cannot get name of the current datas
 inline constexpr char noDataItemType[] = "Cannot get handle to current dataitemtype";
 
 } // namespace view_messages
+
+} // namespace znlayer
 
 #endif

@@ -1,6 +1,6 @@
 // view operation ...
 #include "frame/command_table.h"
-#include "view/view_words.h"
+#include "frame/command_words.h"
 
 // clang-format off: the texts keep their lines.
 const char* const znBrowserTclMessages::VIEW_OPERATION =
@@ -20,6 +20,8 @@ const char* const znBrowserTclMessages::VIEW_OPERATION =
     "    \t                                                          Valid datatypes values are: bool, "
     "double, int or string.\n\n";
 // clang-format on
+
+namespace znlayer {
 
 namespace {
 
@@ -49,16 +51,18 @@ void Perform(Call& call) { call.Run(&Manager::PerformViewOperation); }
 void Names(Call& call) { call.Answer(call.manager.GetErrorText()); }
 
 constexpr CommandRow operationRows[] = {
-    {Keyword::Connect, Connect},
-    {Keyword::Create, Create},
-    {Keyword::Current, Current},
-    {Keyword::Script, Script},
-    {Keyword::Perform, Perform},
+    {Keyword::Connect, "", "Lets the current operation perform the current data operation, too.", Connect},
+    {Keyword::Create, "NAME", "Makes an operation of the current view, and makes it current.", Create},
+    {Keyword::Current, "?VIEWOPERATION?", "Makes an operation current, or tells which is.", Current},
+    {Keyword::Script, "SCRIPT", "Sets the script that the current operation runs.", Script},
+    {Keyword::Perform, "", "Performs the current operation.", Perform},
     // Words that the usage text leaves out.
-    {Keyword::Editable, Editable},
-    {Keyword::Names, Names},
+    {Keyword::Editable, "BOOL", "Sets whether users may change the current operation.", Editable},
+    {Keyword::Names, "", "Tells the error that is pending; it lists nothing.", Names},
 };
 
 } // namespace
 
 constexpr CommandLevel viewOperationLevel(operationRows, Messages::VIEW_OPERATION);
+
+} // namespace znlayer

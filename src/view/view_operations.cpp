@@ -1,8 +1,10 @@
 // Operations of the current view.
+#include "frame/operation.h"
 #include "host/znIBrowserView.h"
 #include "host/znIBrowserViewOperation.h"
-#include "view/ask_browser.h"
 #include "view/view_messages.h"
+
+using namespace znlayer;
 
 namespace {
 
@@ -12,24 +14,24 @@ constexpr char noOperationHandle[] = "Cannot get handle to the current view oper
 } // namespace
 
 bool znBrowserManagerTcl::CreateViewOperation(const char* name) {
-    BeginOperation();
-    if (!name) return Fail(view_messages::nullName);
-    return AskBrowser(*this, &znIBrowser::CreateViewOperation, current_.view, name) &&
+    const Operation operation(*this);
+    if (!name) return operation.Fail(view_messages::nullName);
+    return operation.Ask(&znIBrowser::CreateViewOperation, current_.view, name) &&
            SetCurrentViewOperation(name);
 }
 
 bool znBrowserManagerTcl::SetCurrentViewOperation(const char* name) {
-    BeginOperation();
-    if (!current_.view) return Fail(view_messages::noViewName);
-    znIBrowserViewOperation* const operation = name ? current_.view->FindViewOperation(name) : nullptr;
-    if (!operation) return FailWith({"Cannot find dataoperation named: ", name});
-    SetCurrentViewOperation(operation);
+    const Operation operation(*this);
+    if (!current_.view) return operation.Fail(view_messages::noViewName);
+    znIBrowserViewOperation* const found = FindNamed(current_.view, &znIBrowserView::FindViewOperation, name);
+    if (!found) return operation.Fail({"Cannot find dataoperation named: ", name});
+    SetCurrentViewOperation(found);
     return GetState();
 }
 
 bool znBrowserManagerTcl::GetCurrentViewOperation(znString& out) {
-    BeginOperation();
-    if (!current_.viewOperation) return Fail(noOperationName);
+    const Operation operation(*this);
+    if (!current_.viewOperation) return operation.Fail(noOperationName);
     out = current_.viewOperation->GetName();
     return true;
 }
@@ -37,20 +39,20 @@ bool znBrowserManagerTcl::GetCurrentViewOperation(znString& out) {
 bool znBrowserManagerTcl::GetViewOperationNames() { return GetState(); }
 
 bool znBrowserManagerTcl::SetViewOperationScript(const char* script) {
-    BeginOperation();
-    if (!current_.viewOperation) return Fail(noOperationHandle);
-    return HostAnswer(current_.viewOperation->SetScript(script));
+    const Operation operation(*this);
+    if (!current_.viewOperation) return operation.Fail(noOperationHandle);
+    return operation.HostAnswer(current_.viewOperation->SetScript(script));
 }
 
 bool znBrowserManagerTcl::SetViewOperationEditable(bool editable) {
-    BeginOperation();
-    if (!current_.viewOperation) return Fail(noOperationName);
-    return HostAnswer(current_.viewOperation->SetEditable(editable));
+    const Operation operation(*this);
+    if (!current_.viewOperation) return operation.Fail(noOperationName);
+    return operation.HostAnswer(current_.viewOperation->SetEditable(editable));
 }
 
 bool znBrowserManagerTcl::PerformViewOperation() {
-    BeginOperation();
-    if (!current_.viewOperation) return Fail(noOperationHandle);
+    const Operation operation(*this);
+    if (!current_.viewOperation) return operation.Fail(noOperationHandle);
     // Its script may delete everything, the operation included, and may leave an error behind: neither
     // counts.
     current_.viewOperation->Perform();

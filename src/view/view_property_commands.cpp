@@ -1,9 +1,9 @@
 // view property ...
 #include "frame/command_table.h"
+#include "frame/command_words.h"
 #include "frame/data_types.h"
 #include "host/znIBrowserView.h"
 #include "view/view_helper.h"
-#include "view/view_words.h"
 
 const char* const znBrowserTclMessages::VIEW_PROPERTY =
     "    znbrowsermanager view property [action] \n\n"
@@ -21,6 +21,8 @@ const char* const znBrowserTclMessages::VIEW_PROPERTY =
     "    \ttype [integer|double|string]         "
     "Gets/sets the type of the current view property for the current view.\n\n";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
@@ -33,8 +35,7 @@ znString CurrentDataSource(Manager& manager) {
 }
 
 void Connect(Call& call) {
-    if (!call.Has(4)) return call.Answer(Messages::VIEW_PROPERTY);
-    if (!call.manager.GetCurrentViewPtr() || call.Has(6)) return;
+    if (!call.manager.GetCurrentViewPtr() || call.Count() > 6) return;
     const bool namesSource = call.Has(5);
     const znString dataSource = namesSource ? znString(call.Text(4)) : CurrentDataSource(call.manager);
     const char* const dataProperty = call.Text(namesSource ? 5 : 4);
@@ -60,7 +61,6 @@ void Delete(Call& call) {
 void Names(Call& call) { call.AnswerValue(&Manager::GetViewPropertyNames); }
 
 void Script(Call& call) {
-    if (!call.Has(5)) return call.Answer(Messages::VIEW_PROPERTY);
     call.AnswerOutcome(call.manager.SetViewPropertyScript(call.Text(4), call.Text(5), call.TextOr(6, "")));
 }
 
@@ -72,13 +72,23 @@ void Type(Call& call) {
 void Disconnect(Call& call) { RunWithName(call, 4, &Manager::DisconnectProperty, Messages::VIEW_PROPERTY); }
 
 constexpr CommandRow propertyRows[] = {
-    {Keyword::Connect, Connect},       {Keyword::Connected, Connected},
-    {Keyword::Create, Create},         {Keyword::Current, Current},
-    {Keyword::Delete, Delete},         {Keyword::Names, Names},
-    {Keyword::Script, Script},         {Keyword::Type, Type},
-    {Keyword::Disconnect, Disconnect}, // missing in the usage text
+    {Keyword::Connect, "DATAPROPERTY|DATASOURCE|script ?DATAPROPERTY|PROC?",
+     "Connects the current property to a data property, or to a procedure.", Connect},
+    {Keyword::Connected, "", "Lists what the current property is connected to.", Connected},
+    {Keyword::Create, "NAME", "Makes a property of the current view, and makes it current.", Create},
+    {Keyword::Current, "?PROPERTY?", "Makes a property current, or tells which is.", Current},
+    {Keyword::Delete, "", "Deletes the current property.", Delete},
+    {Keyword::Names, "", "Lists the properties of the current view.", Names},
+    {Keyword::Script, "SCRIPT SCRIPT ?TEXT?", "Sets the scripts that take a changed value and that give it.",
+     Script},
+    {Keyword::Type, "?TYPE?", "Sets the type of the current property, and tells it.", Type},
+    // Missing in the usage text.
+    {Keyword::Disconnect, "DATASOURCE|script", "Takes a connection of the current property away.",
+     Disconnect},
 };
 
 } // namespace
 
 constexpr CommandLevel viewPropertyLevel(propertyRows, Messages::VIEW_PROPERTY);
+
+} // namespace znlayer

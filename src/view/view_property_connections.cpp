@@ -1,16 +1,18 @@
 // What view properties show: their connections to data properties.
 #include "frame/data_types.h"
-#include "frame/messages.h"
 #include "frame/name_list.h"
+#include "frame/operation.h"
 #include "host/znIBrowserDataCtrl.h"
 #include "host/znIBrowserDataProperty.h"
 #include "host/znIBrowserDataSource.h"
 #include "host/znIBrowserView.h"
 #include "host/znIBrowserViewProperty.h"
-#include "view/ask_browser.h"
+#include "znBrowserMessages.h"
 
 #include <algorithm>
 #include <cstring>
+
+using namespace znlayer;
 
 namespace {
 
@@ -68,27 +70,26 @@ znIBrowserDataSource* FindDataSource(znIBrowserViewProperty& property, const cha
 /// Connects by one of the schemes, which is refused unless it is that of the property's view.
 bool Connect(znBrowserManagerTcl& manager, znIBrowserViewProperty* property, const char* sourceName,
              const char* propertyName, bool newScheme) {
-    manager.SetOk();
-    manager.ResetBuff();
+    const Operation operation(manager);
     znIBrowserView* const view = property ? property->GetView() : nullptr;
     if (!view || view->UsesNewConnections() != newScheme) return false;
     znIBrowserDataSource* const source = FindDataSource(*property, sourceName);
-    if (!source) return Refuse(manager, {"Cannot find datasource named: ", sourceName});
+    if (!source) return operation.Fail({"Cannot find datasource named: ", sourceName});
     znIBrowserDataProperty* const dataProperty =
-        propertyName ? source->FindDataProperty(propertyName) : nullptr;
+        FindNamed(source, &znIBrowserDataSource::FindDataProperty, propertyName);
     if (!dataProperty) {
-        return Refuse(manager, {"Cannot find property named ", propertyName, " for datasource ", sourceName});
+        return operation.Fail({"Cannot find property named ", propertyName, " for datasource ", sourceName});
     }
     if (!newScheme && ComparedType(dataProperty->GetType()) != property->GetType())
-        return Refuse(manager, {"View property type does not match data property type."});
+        return operation.Fail({"View property type does not match data property type."});
     if (IsConnectedTo(*property, source)) {
-        return Refuse(manager,
-                      {"A connection for Datasource ", sourceName, " already exists.  New connection for ",
-                       sourceName, " ", propertyName, " not made."});
+        return operation.Fail({"A connection for Datasource ", sourceName,
+                               " already exists.  New connection for ", sourceName, " ", propertyName,
+                               " not made."});
     }
     const ConnectRequest request =
         newScheme ? &znIBrowser::ConnectViewPropertyNew : &znIBrowser::ConnectViewProperty;
-    return AskBrowser(manager, request, property, source, dataProperty);
+    return operation.Ask(request, property, source, dataProperty);
 }
 
 /// "source property" as a list of its own; a connection to a script has no source.
@@ -107,15 +108,15 @@ znString Describe(const znBrowserManagerTcl& manager, const znBrowserConnection&
 } // namespace
 
 bool znBrowserManagerTcl::ConnectProperty(const char* dataSource, const char* dataProperty) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserViewProperty* const property = current_.viewProperty;
-    if (!property) return Fail(messages::noCurrentViewProperty);
+    if (!property) return operation.Fail(znBrowserMessages::noCurrentViewProperty);
     if (!HasType(*property)) {
-        return Fail("No view property type defined.  "
-                    "Cannot do connection of database object and property.");
+        return operation.Fail("No view property type defined.  "
+                              "Cannot do connection of database object and property.");
     }
     if (IsScript(dataSource))
-        return AskBrowser(*this, &znIBrowser::ConnectScriptProperty, property, dataProperty);
+        return operation.Ask(&znIBrowser::ConnectScriptProperty, property, dataProperty);
     znIBrowserView* const view = property->GetView();
     return view && view->UsesNewConnections()
                ? CreateViewPropertyConnect_NEW(property, dataSource, dataProperty)
@@ -133,29 +134,30 @@ bool znBrowserManagerTcl::CreateViewPropertyConnect_NEW(znIBrowserViewProperty* 
 }
 
 bool znBrowserManagerTcl::DisconnectProperty(const char* dataSource) {
-    BeginOperation();
-    if (!current_.viewProperty) return Fail(messages::noCurrentViewProperty);
+    const Operation operation(*this);
+    if (!current_.viewProperty) return operation.Fail(znBrowserMessages::noCurrentViewProperty);
     if (!HasType(*current_.viewProperty))
-        return Fail("No view property type defined.  Cannot delete connection.");
+        return operation.Fail("No view property type defined.  Cannot delete connection.");
     return DeleteViewPropertyConnect(dataSource);
 }
 
 bool znBrowserManagerTcl::DeleteViewPropertyConnect(const char* dataSource) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserViewProperty* const property = current_.viewProperty;
-    if (!property) return Fail(messages::noCurrentViewProperty);
+    if (!property) return operation.Fail(znBrowserMessages::noCurrentViewProperty);
     const bool script = IsScript(dataSource);
     znIBrowserDataSource* const source = script ? nullptr : FindDataSource(*property, dataSource);
-    if (!source && !script) return FailWith({"Cannot find datasource named: ", dataSource});
+    if (!source && !script) return operation.Fail({"Cannot find datasource named: ", dataSource});
     if (!IsConnectedTo(*property, source))
-        return FailWith({"A connection for Datasource ", dataSource, " does not exist to delete."});
-    return AskBrowser(*this, &znIBrowser::DisconnectViewProperty, property, source);
+        return operation.Fail({"A connection for Datasource ", dataSource, " does not exist to delete."});
+    return operation.Ask(&znIBrowser::DisconnectViewProperty, property, source);
 }
 
 bool znBrowserManagerTcl::GetConnectionList(znString& out) {
-    BeginOperation();
-    if (!current_.viewProperty) return Fail("Cannot get handle to current view property.");
-    if (!HasType(*current_.viewProperty)) return Fail("No view property type defined.  No connections.");
+    const Operation operation(*this);
+    if (!current_.viewProperty) return operation.Fail("Cannot get handle to current view property.");
+    if (!HasType(*current_.viewProperty))
+        return operation.Fail("No view property type defined.  No connections.");
     NameList list(EntryForm::Braced);
     for (const znBrowserConnection& connection : ConnectionsOf(*current_.viewProperty))
         list.Add(Describe(*this, connection));

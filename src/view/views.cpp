@@ -1,12 +1,14 @@
 // Views: created, chosen, deleted and redrawn.
-#include "frame/deletion.h"
-#include "frame/messages.h"
+#include "frame/current_lifetimes.h"
 #include "frame/name_list.h"
+#include "frame/operation.h"
 #include "host/znIBrowser.h"
 #include "host/znIBrowserView.h"
 #include "host/znIBrowserWindowAccess.h"
-#include "view/ask_browser.h"
 #include "view/view_messages.h"
+#include "znBrowserMessages.h"
+
+using namespace znlayer;
 
 namespace {
 
@@ -30,69 +32,68 @@ std::vector<znIBrowserView*> Views(znIBrowser& browser) {
 
 } // namespace
 
-znIBrowserView* znBrowserManagerTcl::FindView(const char* name) const {
-    znIBrowser* const browser = GetBrowser();
-    znIBrowserViewList* const list = browser ? browser->GetViewList() : nullptr;
-    return list && name ? list->FindView(name) : nullptr;
+znIBrowserView* znlayer::FindView(const znBrowserManagerTcl& manager, const char* name) {
+    znIBrowser* const browser = BrowserOf(manager);
+    return FindNamed(browser ? browser->GetViewList() : nullptr, &znIBrowserViewList::FindView, name);
 }
 
 bool znBrowserManagerTcl::CreateView(const char* name, bool flag) {
-    BeginOperation();
-    znIBrowser* const browser = GetBrowser();
+    const Operation operation(*this);
+    znIBrowser* const browser = BrowserOf(*this);
     if (!name || !browser) return false;
     if (!browser->CreateView(name, flag)) throw "Could not create view";
-    znIBrowserView* const view = FindView(name);
+    znIBrowserView* const view = FindView(*this, name);
     if (!view) return false;
     SetCurrentView(view);
     return true;
 }
 
 bool znBrowserManagerTcl::DeleteView(const char* name) {
-    BeginOperation();
-    znIBrowser* const browser = GetBrowser();
+    const Operation operation(*this);
+    znIBrowser* const browser = BrowserOf(*this);
     if (!browser) return false;
-    znIBrowserView* const view = FindView(name);
-    if (!view) return FailWith({"Cannot find view : ", name});
+    znIBrowserView* const view = FindView(*this, name);
+    if (!view) return operation.Fail({"Cannot find view : ", name});
     if (znIBrowserWindowAccess* const window = FindWindowOf(*browser, view)) {
-        return FailWith({"Cannot delete view : ", view->GetName().c_str(),
-                         " It is used by at least one window : ", window->GetName()});
+        return operation.Fail({"Cannot delete view : ", view->GetName().c_str(),
+                               " It is used by at least one window : ", window->GetName()});
     }
-    const znBrowserCurrentObjects doomed = CurrentsInside(view);
-    const auto deletion = [&] { return AskBrowser(*this, &znIBrowser::DeleteView, view); };
-    if (!DeleteAndForget(deletion, [&] { Forget(doomed); })) return false;
+    const znBrowserCurrentObjects doomed = CurrentsInside(*this, view);
+    const auto deletion = [&] { return operation.Ask(&znIBrowser::DeleteView, view); };
+    if (!DeleteAndForget(*this, doomed, deletion)) return false;
     const std::vector<znIBrowserView*> remaining = Views(*browser);
     UpdateCurrentView(remaining.empty() ? nullptr : remaining.front());
     return GetState();
 }
 
 bool znBrowserManagerTcl::SetCurrentView(const char* name) {
-    BeginOperation();
-    if (!name) return Fail("Cannot set current view to NULL");
-    znIBrowserView* const view = FindView(name);
-    if (!view) return FailWith({"Cannot not find view : ", name});
+    const Operation operation(*this);
+    if (!name) return operation.Fail("Cannot set current view to NULL");
+    znIBrowserView* const view = FindView(*this, name);
+    if (!view) return operation.Fail({"Cannot not find view : ", name});
     UpdateCurrentView(view);
     return GetState();
 }
 
 bool znBrowserManagerTcl::GetViewNames(znString& out) {
-    BeginOperation();
-    znIBrowser* const browser = GetBrowser();
+    const Operation operation(*this);
+    znIBrowser* const browser = BrowserOf(*this);
     return browser && NameList().AddNames(Views(*browser), NullName::IsLeftOut).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::RedrawAllViews() {
-    znIBrowser* const browser = GetBrowser();
+    znIBrowser* const browser = BrowserOf(*this);
     if (!current_.dataCtrl || !browser) return false;
     browser->RedrawViews(current_.dataCtrl);
     return true;
 }
 
 bool znBrowserManagerTcl::SetItalic(bool italic) {
-    BeginOperation();
-    return current_.view ? SetColumnItalic(italic) : Fail(view_messages::noViewName);
+    const Operation operation(*this);
+    return current_.view ? SetColumnItalic(italic) : operation.Fail(view_messages::noViewName);
 }
 
 bool znBrowserManagerTcl::GetItalic(znString& out) {
-    BeginOperation();
-    return current_.view ? GetColumnItalic(out) : Fail(view_messages::noViewName);
+    const Operation operation(*this);
+    return current_.view ? GetColumnItalic(out) : operation.Fail(view_messages::noViewName);
 }

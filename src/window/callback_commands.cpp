@@ -17,12 +17,13 @@ const char* const znBrowserTclMessages::WINDOW_EVENT =
     "    \tcurrent [event]                     Gets/sets the current event of the current part.\n"
     "    \tnames                               Shows the names of the events of the current part.\n\n";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
 
 void CallbackCreate(Call& call) {
-    if (!call.Has(7)) return call.Answer(znBrowserTclMessages::WINDOW_EVENT);
     call.AnswerOutcome(call.manager.CreateWindowCallback(call.Text(6), call.Text(7)), call.Text(6));
 }
 
@@ -49,18 +50,25 @@ void Current(Call& call) { call.SetThenAnswer(5, &Manager::SetCurrentEvent, &Man
 void Names(Call& call) { call.AnswerValue(&Manager::GetWindowPartEventNames); }
 
 constexpr CommandRow callbackRows[] = {
-    {Keyword::Create, CallbackCreate},       {Keyword::Current, CallbackCurrent},
-    {Keyword::Delete, CallbackDelete},       {Keyword::Names, CallbackNames},
-    {Keyword::Operation, CallbackOperation}, {Keyword::Window, CallbackWindow},
+    {Keyword::Create, "NAME TEXT", "Makes a callback; WINDOW_OPERATION: one that runs a window operation.",
+     CallbackCreate},
+    {Keyword::Current, "?CALLBACK?", "Makes a callback of the event current, or tells which is.",
+     CallbackCurrent},
+    {Keyword::Delete, "", "Does nothing.", CallbackDelete},
+    {Keyword::Names, "", "Lists the callbacks of the current event.", CallbackNames},
+    {Keyword::Operation, "?TEXT?", "Sets or reads the operation that the callback runs.", CallbackOperation},
+    {Keyword::Window, "?WINDOW?", "Sets or reads the window on which the callback acts.", CallbackWindow},
 };
 constexpr CommandLevel callbackLevel(callbackRows, znBrowserTclMessages::WINDOW_EVENT);
 
 constexpr CommandRow rows[] = {
-    {Keyword::Callback, nullptr, &callbackLevel},
-    {Keyword::Current, Current},
-    {Keyword::Names, Names},
+    {Keyword::Callback, "The callbacks of the current event.", &callbackLevel},
+    {Keyword::Current, "?EVENT?", "Makes an event of the part current, or tells which is.", Current},
+    {Keyword::Names, "", "Lists the events of the current part.", Names},
 };
 
 } // namespace
 
 constexpr CommandLevel windowPartEventLevel(rows, znBrowserTclMessages::WINDOW_EVENT);
+
+} // namespace znlayer

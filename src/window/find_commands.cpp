@@ -20,6 +20,8 @@ const char* const znBrowserTclMessages::WINDOW_FIND =
     "    \tproperty names                                Shows the properties of the current find request.\n"
     "    \ttype [all|next|previous]                      Gets/sets the type of the current find request.\n\n";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
@@ -52,45 +54,56 @@ void Value(Call& call) {
 void Perform(Call& call) { call.Run(&Manager::PerformCurrentFindRequest); }
 
 void PropertyAdd(Call& call) {
-    if (!call.Has(5)) return Usage(call);
     call.AnswerOutcome(call.manager.AddPropertyToCurrentFindRequest(call.Text(5)));
 }
 
 constexpr CommandRow criterionRows[] = {
-    {Keyword::Current, Text<6, &Manager::SetCurrentFindRequestPropertyCriterion,
-                            &Manager::GetCurrentFindRequestPropertyCriterion>},
-    {Keyword::MatchCase, Flag<&Manager::SetCurrentFindRequestPropertyCriterionMatchcase,
-                              &Manager::GetCurrentFindRequestPropertyCriterionMatchcase>},
-    {Keyword::MatchWord, Flag<&Manager::SetCurrentFindRequestPropertyCriterionMatchword,
-                              &Manager::GetCurrentFindRequestPropertyCriterionMatchword>},
-    {Keyword::Names, Value<&Manager::GetCurrentFindRequestPropertyCriteriaNames>},
-    {Keyword::Type, Text<6, &Manager::SetCurrentFindRequestPropertyCriterionType,
-                         &Manager::GetCurrentFindRequestPropertyCriterionType>},
-    {Keyword::UseRegExp, Flag<&Manager::SetCurrentFindRequestPropertyCriterionUseregexp,
-                              &Manager::GetCurrentFindRequestPropertyCriterionUseregexp>},
-    {Keyword::Value, Text<6, &Manager::SetCurrentFindRequestPropertyCriterionValue,
-                          &Manager::GetCurrentFindRequestPropertyCriterionValue>},
+    {Keyword::Current, "?CRITERION?", "Makes a criterion of the property current, or tells which is.",
+     Text<6, &Manager::SetCurrentFindRequestPropertyCriterion,
+          &Manager::GetCurrentFindRequestPropertyCriterion>},
+    {Keyword::MatchCase, "?BOOL?", "Sets or reads whether letter case matters.",
+     Flag<&Manager::SetCurrentFindRequestPropertyCriterionMatchcase,
+          &Manager::GetCurrentFindRequestPropertyCriterionMatchcase>},
+    {Keyword::MatchWord, "?BOOL?", "Sets or reads whether whole words must match.",
+     Flag<&Manager::SetCurrentFindRequestPropertyCriterionMatchword,
+          &Manager::GetCurrentFindRequestPropertyCriterionMatchword>},
+    {Keyword::Names, "", "Lists the criteria of the current property.",
+     Value<&Manager::GetCurrentFindRequestPropertyCriteriaNames>},
+    {Keyword::Type, "?equalto?", "Sets or reads how values are compared.",
+     Text<6, &Manager::SetCurrentFindRequestPropertyCriterionType,
+          &Manager::GetCurrentFindRequestPropertyCriterionType>},
+    {Keyword::UseRegExp, "?BOOL?", "Sets or reads whether the value is a regular expression.",
+     Flag<&Manager::SetCurrentFindRequestPropertyCriterionUseregexp,
+          &Manager::GetCurrentFindRequestPropertyCriterionUseregexp>},
+    {Keyword::Value, "?TEXT?", "Sets or reads the text to search for.",
+     Text<6, &Manager::SetCurrentFindRequestPropertyCriterionValue,
+          &Manager::GetCurrentFindRequestPropertyCriterionValue>},
 };
 constexpr CommandLevel criterionLevel(criterionRows, znBrowserTclMessages::WINDOW_FIND);
 
 constexpr CommandRow propertyRows[] = {
-    {Keyword::Add, PropertyAdd},
-    {Keyword::Criterion, nullptr, &criterionLevel},
-    {Keyword::Criteria, nullptr, &criterionLevel},
-    {Keyword::Current,
+    {Keyword::Add, "PROPERTY", "Adds a property to the find request.", PropertyAdd},
+    {Keyword::Criterion, "How values of the current property are matched.", &criterionLevel},
+    {Keyword::Criteria, "How values are matched; another word for criterion.", &criterionLevel},
+    {Keyword::Current, "?FINDPROPERTY?", "Makes a property of the find request current, or tells which is.",
      Text<5, &Manager::SetCurrentFindRequestProperty, &Manager::GetCurrentFindRequestProperty>},
-    {Keyword::Names, Value<&Manager::GetFindRequestPropertyNames>},
+    {Keyword::Names, "", "Lists the properties of the find request.",
+     Value<&Manager::GetFindRequestPropertyNames>},
 };
 constexpr CommandLevel propertyLevel(propertyRows, znBrowserTclMessages::WINDOW_FIND);
 
 constexpr CommandRow rows[] = {
-    {Keyword::Current, Text<4, &Manager::SetCurrentFindRequest, &Manager::GetCurrentFindRequest>},
-    {Keyword::Names, Value<&Manager::GetFindRequestNames>},
-    {Keyword::Perform, Perform},
-    {Keyword::Property, nullptr, &propertyLevel},
-    {Keyword::Type, Text<4, &Manager::SetCurrentFindRequestType, &Manager::GetCurrentFindRequestType>},
+    {Keyword::Current, "?FINDREQUEST?", "Makes a find request of the window current, or tells which is.",
+     Text<4, &Manager::SetCurrentFindRequest, &Manager::GetCurrentFindRequest>},
+    {Keyword::Names, "", "Lists the find requests of the window.", Value<&Manager::GetFindRequestNames>},
+    {Keyword::Perform, "", "Searches as the current find request says.", Perform},
+    {Keyword::Property, "The properties on which the find request searches.", &propertyLevel},
+    {Keyword::Type, "?all|next|previous?", "Sets or reads which matches are looked for.",
+     Text<4, &Manager::SetCurrentFindRequestType, &Manager::GetCurrentFindRequestType>},
 };
 
 } // namespace
 
 constexpr CommandLevel windowFindLevel(rows, znBrowserTclMessages::WINDOW_FIND);
+
+} // namespace znlayer

@@ -1,13 +1,16 @@
 // Find requests: what a window searches for, and how. The records of properties and criteria are the host's,
 // and are read and written here directly.
-#include "frame/messages.h"
 #include "frame/name_list.h"
+#include "frame/operation.h"
 #include "frame/shared_keywords.h"
 #include "host/znIBrowser.h"
 #include "host/znIBrowserFindRequest.h"
 #include "host/znIBrowserView.h"
 #include "host/znIBrowserWindowAccess.h"
 #include "znBrowserManagerTcl.h"
+#include "znBrowserMessages.h"
+
+using namespace znlayer;
 
 namespace {
 
@@ -25,10 +28,9 @@ NameList NamesOf(const std::vector<Record*>& records) {
 
 /// Begins the reading or writing of a field of the current criterion; null, and an error, when there is none.
 znBrowserCriterion* BeginField(znBrowserManagerTcl& manager) {
-    manager.SetOk();
-    manager.ResetBuff();
+    const Operation operation(manager);
     znBrowserCriterion* const criterion = manager.GetCurrentFindRequestPropertyCriterionPtr();
-    if (!criterion) manager.SetError("Cannot get handle to current property criterion");
+    if (!criterion) operation.Fail("Cannot get handle to current property criterion");
     return criterion;
 }
 
@@ -50,58 +52,58 @@ bool ReadField(znBrowserManagerTcl& manager, Field znBrowserCriterion::*field, F
 
 // ---- Requests ----
 bool znBrowserManagerTcl::SetCurrentFindRequest(const znString& name) {
-    BeginOperation();
+    const Operation operation(*this);
     if (name.IsNull()) return false;
-    if (!current_.windowAccess) return Fail("Please set current window access first.");
+    if (!current_.windowAccess) return operation.Fail("Please set current window access first.");
     znIBrowserFindRequest* const request = current_.windowAccess->FindFindRequest(name.c_str());
-    if (!request) return FailWith({"Cannot find request: ", name.c_str()});
+    if (!request) return operation.Fail({"Cannot find request: ", name.c_str()});
     SetCurrentFindRequestByPtr(request);
     UpdateCurrentFindRequestProperty(request);
     return true;
 }
 
 bool znBrowserManagerTcl::GetCurrentFindRequest(znString& out) {
-    BeginOperation();
-    if (!current_.findRequest) return Fail(messages::noCurrentFindRequest);
+    const Operation operation(*this);
+    if (!current_.findRequest) return operation.Fail(znBrowserMessages::noCurrentFindRequest);
     out = current_.findRequest->GetName();
     return true;
 }
 
 bool znBrowserManagerTcl::GetFindRequestNames(znString& out) {
-    BeginOperation();
-    if (!current_.windowAccess) return Fail("Cannot get handle to the current windowaccess");
+    const Operation operation(*this);
+    if (!current_.windowAccess) return operation.Fail("Cannot get handle to the current windowaccess");
     std::vector<znIBrowserFindRequest*> requests;
     current_.windowAccess->GetFindRequests(requests);
     return NameList(EntryForm::Plain, ExtraBlanks::Between).AddNames(requests).Give(*this, out);
 }
 
 bool znBrowserManagerTcl::SetCurrentFindRequestType(const znString& word) {
-    BeginOperation();
-    if (!current_.findRequest) return Fail(noRequest);
-    znIBrowser* const browser = GetBrowser();
-    if (!browser) return FailWithHostError();
+    const Operation operation(*this);
+    if (!current_.findRequest) return operation.Fail(noRequest);
+    znIBrowser* const browser = BrowserOf(*this);
+    if (!browser) return operation.FailWithHostError();
     browser->SetFindRequestType(current_.findRequest, SharedKeywords().GetFindRequestTypeEnum(word));
     return true;
 }
 
 bool znBrowserManagerTcl::GetCurrentFindRequestType(znString& out) {
-    BeginOperation();
-    if (!current_.findRequest) return Fail(noRequest);
+    const Operation operation(*this);
+    if (!current_.findRequest) return operation.Fail(noRequest);
     out = SharedKeywords().GetFindRequestTypeString(current_.findRequest->GetType());
     return true;
 }
 
 bool znBrowserManagerTcl::PerformCurrentFindRequest() {
-    BeginOperation();
-    if (!current_.findRequest) return Fail(noRequest);
-    znIBrowser* const browser = GetBrowser();
-    return HostAnswer(browser && browser->PerformFindRequest(current_.findRequest));
+    const Operation operation(*this);
+    if (!current_.findRequest) return operation.Fail(noRequest);
+    znIBrowser* const browser = BrowserOf(*this);
+    return operation.HostAnswer(browser && browser->PerformFindRequest(current_.findRequest));
 }
 
 // ---- Properties ----
 bool znBrowserManagerTcl::AddPropertyToCurrentFindRequest(const znString& name) {
-    BeginOperation();
-    if (!current_.findRequest) return Fail("Please set current window find request first.");
+    const Operation operation(*this);
+    if (!current_.findRequest) return operation.Fail("Please set current window find request first.");
     znIBrowserWindowAccess* const window = current_.findRequest->GetWindowAccess();
     znIBrowserView* const view = window ? window->GetView() : nullptr;
     if (view) view->AddFindRequestProperty(current_.findRequest, name.c_str());
@@ -109,26 +111,26 @@ bool znBrowserManagerTcl::AddPropertyToCurrentFindRequest(const znString& name) 
 }
 
 bool znBrowserManagerTcl::SetCurrentFindRequestProperty(const znString& name) {
-    BeginOperation();
-    if (!current_.findRequest) return Fail("Please set current find request first.");
-    if (name.empty()) return Fail("Name cannot be empty string");
+    const Operation operation(*this);
+    if (!current_.findRequest) return operation.Fail("Please set current find request first.");
+    if (name.empty()) return operation.Fail("Name cannot be empty string");
     znBrowserProperty* const property = current_.findRequest->FindProperty(name.c_str());
-    if (!property) return FailWith({"Cannot find property: ", name.c_str()});
+    if (!property) return operation.Fail({"Cannot find property: ", name.c_str()});
     SetCurrentFindRequestPropertyByPtr(property);
     UpdateCurrentFindRequestPropertyCriterion(property);
     return true;
 }
 
 bool znBrowserManagerTcl::GetCurrentFindRequestProperty(znString& out) {
-    BeginOperation();
-    if (!current_.findRequestProperty) return Fail(noProperty);
+    const Operation operation(*this);
+    if (!current_.findRequestProperty) return operation.Fail(noProperty);
     out = current_.findRequestProperty->name;
     return true;
 }
 
 bool znBrowserManagerTcl::GetFindRequestPropertyNames(znString& out) {
-    BeginOperation();
-    if (!current_.findRequest) return Fail(noRequest);
+    const Operation operation(*this);
+    if (!current_.findRequest) return operation.Fail(noRequest);
     std::vector<znBrowserProperty*> properties;
     current_.findRequest->GetProperties(properties);
     return NamesOf(properties).Give(*this, out);
@@ -136,40 +138,40 @@ bool znBrowserManagerTcl::GetFindRequestPropertyNames(znString& out) {
 
 // ---- Criteria ----
 bool znBrowserManagerTcl::SetCurrentFindRequestPropertyCriterion(const znString& name) {
-    BeginOperation();
-    if (!current_.findRequestProperty) return Fail(noProperty);
+    const Operation operation(*this);
+    if (!current_.findRequestProperty) return operation.Fail(noProperty);
     for (znBrowserCriterion* const criterion : current_.findRequestProperty->criteria) {
         if (criterion->name != name) continue;
         SetCurrentFindRequestPropertyCriterionByPtr(criterion);
         return true;
     }
-    return FailWith({"Cannot find criterion : ", name.c_str()});
+    return operation.Fail({"Cannot find criterion : ", name.c_str()});
 }
 
 bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriterion(znString& out) {
-    BeginOperation();
-    if (!current_.findRequestPropertyCriterion) return Fail(noCriterion);
+    const Operation operation(*this);
+    if (!current_.findRequestPropertyCriterion) return operation.Fail(noCriterion);
     out = current_.findRequestPropertyCriterion->name;
     return true;
 }
 
 bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriteriaNames(znString& out) {
-    BeginOperation();
-    if (!current_.findRequestProperty) return Fail(noProperty);
+    const Operation operation(*this);
+    if (!current_.findRequestProperty) return operation.Fail(noProperty);
     return NamesOf(current_.findRequestProperty->criteria).Give(*this, out);
 }
 
 // One type is supported, and it goes without saying: nothing is stored, whatever type the criterion has.
 bool znBrowserManagerTcl::SetCurrentFindRequestPropertyCriterionType(const znString& word) {
-    BeginOperation();
-    if (!current_.findRequestPropertyCriterion) return Fail(noCriterion);
+    const Operation operation(*this);
+    if (!current_.findRequestPropertyCriterion) return operation.Fail(noCriterion);
     const bool supported = SharedKeywords().GetCriterionTypeEnum(word) == ZNBROWSER_CRITERION_EQUAL_TO;
-    return supported || Fail("Only 'equalto' type currently supported");
+    return supported || operation.Fail("Only 'equalto' type currently supported");
 }
 
 bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriterionType(znString& out) {
-    BeginOperation();
-    if (!current_.findRequestPropertyCriterion) return Fail(noCriterion);
+    const Operation operation(*this);
+    if (!current_.findRequestPropertyCriterion) return operation.Fail(noCriterion);
     out = SharedKeywords().GetCriterionTypeString(current_.findRequestPropertyCriterion->type);
     return true;
 }

@@ -26,6 +26,8 @@ const char* const znBrowserTclMessages::WINDOW_MAP_RECORD =
     "    \tdelete <key>                    Removes a record from the current window map.\n"
     "    \tnames                           Shows the keys and values of the current window map.\n\n";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
@@ -33,11 +35,9 @@ using Manager = znBrowserManagerTcl;
 constexpr char emptyName[] = "Name of '' not allowed for gui map.  Gui map not created.";
 constexpr char noMap[] = "No current window map available";
 
-void Usage(Call& call) { call.Answer(znBrowserTclMessages::WINDOW_MAP); }
 void RecordUsage(Call& call) { call.Answer(znBrowserTclMessages::WINDOW_MAP_RECORD); }
 
 void Create(Call& call) {
-    if (!call.Has(4)) return Usage(call);
     if (!*call.Text(4)) return call.Answer(emptyName);
     if (!call.manager.CreateGuiMap(call.Text(4))) return call.AnswerError();
     // Nothing is said when the host makes no map: the one that was current still is.
@@ -57,7 +57,7 @@ void Delete(Call& call) {
 void Names(Call& call) { call.AnswerValue(&Manager::GetGuiMapNames); }
 
 void Type(Call& call) {
-    if (call.Has(4) && !call.Has(5)) return Usage(call);
+    if (call.Has(4) && !call.Has(5)) return call.Answer(znBrowserTclMessages::WINDOW_MAP);
     if (call.Has(4) && !call.manager.CreateGuiMappingTypetoType(call.Text(4), call.Text(5)))
         return call.AnswerError();
     call.Answer(GuiMapTypeName(call.manager.GetCurrentGuiMapType()));
@@ -91,41 +91,50 @@ void UseKey(Call& call, int position, Use use) {
     return call.Boolean(position, flag) ? call.AnswerOutcome(use(flag)) : RecordUsage(call);
 }
 
+void RecordCreateDisabled(Call& call) {
+    UseKey(call, 6, [&call](auto key) { return call.manager.CreateGuiMapDisabledRecord(key, call.Text(7)); });
+}
+
+constexpr CommandRow recordCreateRows[] = {
+    {Keyword::Disabled, "VALUE TEXT", "Adds a record that shows the disabled form of a PNG file.",
+     RecordCreateDisabled},
+};
+constexpr CommandLevel recordCreateLevel(recordCreateRows, znBrowserTclMessages::WINDOW_MAP_RECORD);
+
 /// "disabled" is an option only before a key and a value: it may be a key itself. Its short form "dis" reads
 /// as "display", which means nothing else here.
 void RecordCreate(Call& call) {
-    if (!call.Has(6)) return RecordUsage(call);
-    const bool disabled = call.Has(7) && (call.Is(5, Keyword::Disabled) || call.Is(5, Keyword::Display));
-    const char* const value = call.Text(disabled ? 7 : 6);
-    UseKey(call, disabled ? 6 : 5, [&call, disabled, value](auto key) {
-        return disabled ? call.manager.CreateGuiMapDisabledRecord(key, value)
-                        : call.manager.CreateGuiMapRecord(key, value);
-    });
+    const bool disabled = call.Is(5, Keyword::Disabled) || call.Is(5, Keyword::Display);
+    if (disabled && call.Count() > 7) return RunWord(call, recordCreateLevel, 5, Keyword::Disabled);
+    UseKey(call, 5, [&call](auto key) { return call.manager.CreateGuiMapRecord(key, call.Text(6)); });
 }
 
 void RecordDelete(Call& call) {
-    if (!call.Has(5)) return RecordUsage(call);
     UseKey(call, 5, [&call](auto key) { return call.manager.DeleteGuiMapRecord(key); });
 }
 
 void RecordNames(Call& call) { call.AnswerValue(&Manager::GetGuiMapRecordNames); }
 
 constexpr CommandRow recordRows[] = {
-    {Keyword::Create, RecordCreate},
-    {Keyword::Delete, RecordDelete},
-    {Keyword::Names, RecordNames},
+    {Keyword::Create, "VALUE TEXT", "Adds a record: a key, and what is shown for it.", RecordCreate,
+     &recordCreateLevel},
+    {Keyword::Delete, "VALUE", "Removes the record of a key.", RecordDelete},
+    {Keyword::Names, "", "Lists the keys and what is shown for them.", RecordNames},
 };
 constexpr CommandLevel recordLevel(recordRows, znBrowserTclMessages::WINDOW_MAP_RECORD);
 
 constexpr CommandRow rows[] = {
-    {Keyword::Create, Create},
-    {Keyword::Current, Current},
-    {Keyword::Delete, Delete},
-    {Keyword::Names, Names},
-    {Keyword::Record, nullptr, &recordLevel},
-    {Keyword::Type, Type},
+    {Keyword::Create, "NAME", "Makes a map and makes it current.", Create},
+    {Keyword::Current, "?MAP?", "Makes a map current, or tells which is.", Current},
+    {Keyword::Delete, "", "Deletes the current map.", Delete},
+    {Keyword::Names, "", "Lists the maps.", Names},
+    {Keyword::Record, "What the current map shows for its keys.", &recordLevel},
+    {Keyword::Type, "?integer|double|unsigned|bool|string? ?icon|string|rgb|button?",
+     "Sets or reads of what type the keys are, and what is shown for them.", Type},
 };
 
 } // namespace
 
 constexpr CommandLevel windowMapLevel(rows, znBrowserTclMessages::WINDOW_MAP);
+
+} // namespace znlayer

@@ -1,25 +1,26 @@
 // znbrowsermanager window listener ...
+#include "frame/command_words.h"
 #include "window/window_levels.h"
+
+namespace znlayer {
 
 namespace {
 
 using Manager = znBrowserManagerTcl;
+using Messages = znBrowserTclMessages;
 
-/// Both need the name of a listener.
-template <bool (Manager::*change)(const char*)>
-void Change(Call& call) {
-    if (!call.Has(4)) return call.Answer(znBrowserTclMessages::WINDOW);
-    call.AnswerOutcome((call.manager.*change)(call.Text(4)));
-}
-
+void Connect(Call& call) { RunWithName(call, 4, &Manager::AddWindowListener, Messages::WINDOW); }
+void Disconnect(Call& call) { RunWithName(call, 4, &Manager::DeleteWindowListener, Messages::WINDOW); }
 void Names(Call& call) { call.AnswerValue(&Manager::GetWindowListenerNames); }
 
 constexpr CommandRow rows[] = {
-    {Keyword::Connect, Change<&Manager::AddWindowListener>},
-    {Keyword::Disconnect, Change<&Manager::DeleteWindowListener>},
-    {Keyword::Names, Names},
+    {Keyword::Connect, "NAME", "Adds a listener, which is told of the window's events.", Connect},
+    {Keyword::Disconnect, "LISTENER", "Removes a listener of the window.", Disconnect},
+    {Keyword::Names, "", "Lists the listeners of the window.", Names},
 };
 
 } // namespace
 
-constexpr CommandLevel windowListenerLevel(rows, znBrowserTclMessages::WINDOW);
+constexpr CommandLevel windowListenerLevel(rows, Messages::WINDOW);
+
+} // namespace znlayer

@@ -26,6 +26,8 @@ const char* const znBrowserTclMessages::WINDOW_OPERATION =
     "    \tActions:\n"
     "    \tnames   Shows the names of the operations of the current window part.\n\n";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
@@ -36,13 +38,19 @@ constexpr char noPart[] = "No current window part available";
 void Usage(Call& call) { call.Answer(znBrowserTclMessages::WINDOW_PART); }
 
 void Create(Call& call) {
-    if (!call.Has(4)) return Usage(call);
     if (call.Is(4, Keyword::TopLevel)) return call.Answer(refusedName);
     call.AnswerOutcome(call.manager.CreateWindowPart(call.Text(4), call.TextOr(5, "")), call.Text(4));
 }
 
+void CurrentTopLevel(Call& call) { call.manager.ResetCurrentWindowPart(); }
+
+constexpr CommandRow currentRows[] = {
+    {Keyword::TopLevel, "", "Makes the main frame of the window the current part.", CurrentTopLevel},
+};
+constexpr CommandLevel currentLevel(currentRows, znBrowserTclMessages::WINDOW_PART);
+
 void Current(Call& call) {
-    if (call.Is(4, Keyword::TopLevel)) return call.manager.ResetCurrentWindowPart();
+    if (call.Is(4, Keyword::TopLevel)) return RunLevel(call, currentLevel, 4);
     call.SetThenAnswer(4, &Manager::SetCurrentWindowPartByName, &Manager::GetCurrentWindowPart);
 }
 
@@ -74,16 +82,23 @@ void Names(Call& call) {
 /// A procedure, and an argument that the host hands to it.
 template <bool (Manager::*set)(const char*, const char*)>
 void SetProc(Call& call) {
-    if (!call.Has(4)) return Usage(call);
     call.AnswerOutcome((call.manager.*set)(call.Text(4), call.TextOr(5, "")));
 }
 
-void Parent(Call& call) {
-    if (call.Has(4)) {
-        const char* const parent = call.Is(4, Keyword::TopLevel) ? nullptr : call.Text(4);
-        if (!call.manager.SetCurrentWindowPartParentByName(parent)) return call.AnswerError();
-    }
+void ParentTopLevel(Call& call) {
+    if (!call.manager.SetCurrentWindowPartParentByName(nullptr)) return call.AnswerError();
     call.AnswerValue(&Manager::GetCurrentWindowPartParent);
+}
+
+constexpr CommandRow parentRows[] = {
+    {Keyword::TopLevel, "", "Moves the current part directly under the main frame of the window.",
+     ParentTopLevel},
+};
+constexpr CommandLevel parentLevel(parentRows, znBrowserTclMessages::WINDOW_PART);
+
+void Parent(Call& call) {
+    if (call.Is(4, Keyword::TopLevel)) return RunLevel(call, parentLevel, 4);
+    call.SetThenAnswer(4, &Manager::SetCurrentWindowPartParentByName, &Manager::GetCurrentWindowPartParent);
 }
 
 void Show(Call& call) {
@@ -95,29 +110,34 @@ void Show(Call& call) {
 
 void OperationNames(Call& call) { call.AnswerValue(&Manager::GetWindowPartOperationNames); }
 
-constexpr CommandRow topLevelRows[] = {{Keyword::TopLevel, Current}};
-constexpr CommandLevel topLevelWord(topLevelRows, znBrowserTclMessages::WINDOW_PART);
-
-constexpr CommandRow operationRows[] = {{Keyword::Names, OperationNames}};
+constexpr CommandRow operationRows[] = {
+    {Keyword::Names, "", "Lists the operations of the current part.", OperationNames},
+};
 constexpr CommandLevel operationLevel(operationRows, znBrowserTclMessages::WINDOW_OPERATION);
 
 constexpr CommandRow rows[] = {
-    {Keyword::Create, Create},
-    {Keyword::CreateProc, SetProc<&Manager::SetWindowPartCreateProc>},
-    {Keyword::Current, Current, &topLevelWord},
-    {Keyword::Info, Info},
-    {Keyword::Delete, Delete},
-    {Keyword::Frame, Frame},
-    {Keyword::Move, Move},
-    {Keyword::Names, Names},
-    {Keyword::PackProc, SetProc<&Manager::SetWindowPartPackProc>},
-    {Keyword::Parent, Parent, &topLevelWord},
-    {Keyword::Show, Show},
+    {Keyword::Create, "NAME ?PART?", "Makes a part, in the main frame or in another part.", Create},
+    {Keyword::CreateProc, "PROC ?TEXT?", "Sets the procedure that fills the part's frame, and its argument.",
+     SetProc<&Manager::SetWindowPartCreateProc>},
+    {Keyword::Current, "?PART?", "Makes a part of the window current, or tells which is.", Current,
+     &currentLevel},
+    {Keyword::Info, "", "Shows a table of the parts under the current part.", Info},
+    {Keyword::Delete, "", "Deletes the current part.", Delete},
+    {Keyword::Frame, "", "Tells the path of the part's frame.", Frame},
+    {Keyword::Move, "INT", "Moves the part to a position among its neighbours.", Move},
+    {Keyword::Names, "?BOOL?", "Lists the parts in the current part; with true, all parts below it.", Names},
+    {Keyword::PackProc, "PROC ?TEXT?", "Sets the procedure that packs the part's frame, and its argument.",
+     SetProc<&Manager::SetWindowPartPackProc>},
+    {Keyword::Parent, "?PART?", "Moves the current part into another, or tells in which it is.", Parent,
+     &parentLevel},
+    {Keyword::Show, "?BOOL?", "Shows or hides the part, or tells whether it is shown.", Show},
     // These have usage texts of their own.
-    {Keyword::Event, nullptr, &windowPartEventLevel},
-    {Keyword::Operation, nullptr, &operationLevel},
+    {Keyword::Event, "The events of the current part.", &windowPartEventLevel},
+    {Keyword::Operation, "What the current part can do.", &operationLevel},
 };
 
 } // namespace
 
 constexpr CommandLevel windowPartLevel(rows, znBrowserTclMessages::WINDOW_PART);
+
+} // namespace znlayer

@@ -1,4 +1,5 @@
 // znbrowsermanager window ...
+#include "frame/command_words.h"
 #include "host/znIBrowserWindowAccess.h"
 #include "window/window_levels.h"
 
@@ -20,13 +21,16 @@ const char* const znBrowserTclMessages::WINDOW =
     "    \tnames                             Shows the existing window name list.\n"
     "    \tpart                              Window part for current window...\n\n";
 
+namespace znlayer {
+
 namespace {
 
 using Manager = znBrowserManagerTcl;
+using Messages = znBrowserTclMessages;
 
 constexpr char noWindow[] = "No current window available";
 
-void Usage(Call& call) { call.Answer(znBrowserTclMessages::WINDOW); }
+void Usage(Call& call) { call.Answer(Messages::WINDOW); }
 
 /// The banner, as a Tcl error.
 void Refuse(Call& call) {
@@ -39,10 +43,7 @@ void CollapseSelected(Call& call) { call.Run(&Manager::CollapseSelectedItems); }
 void ExpandAll(Call& call) { call.Run(&Manager::ExpandAllItems); }
 void ExpandSelected(Call& call) { call.Run(&Manager::ExpandSelectedItems); }
 
-void Create(Call& call) {
-    if (!call.Has(3)) return Usage(call);
-    call.AnswerOutcome(call.manager.CreateWindowAccess(call.Text(3)), call.Text(3));
-}
+void Create(Call& call) { CreateWithName(call, 3, &Manager::CreateWindowAccess, Messages::WINDOW); }
 
 void Current(Call& call) {
     if (!call.Has(3) && !call.manager.GetCurrentWindowAccessPtr()) return call.Answer(noWindow);
@@ -93,37 +94,40 @@ void DropItemNothing(Call&) {}
 void DropItemTopLevel(Call& call) { call.Answer(false); }
 
 constexpr CommandRow dropItemRows[] = {
-    {Keyword::Name, DropItemNothing},
-    {Keyword::TopLevel, DropItemTopLevel},
-    {Keyword::DataItemType, DropItemNothing},
+    {Keyword::Name, "", "Answers nothing.", DropItemNothing},
+    {Keyword::TopLevel, "", "Answers false.", DropItemTopLevel},
+    {Keyword::DataItemType, "", "Answers nothing.", DropItemNothing},
 };
-constexpr CommandLevel dropItemLevel(dropItemRows, znBrowserTclMessages::WINDOW);
+constexpr CommandLevel dropItemLevel(dropItemRows, Messages::WINDOW);
 
 constexpr CommandRow rows[] = {
-    {Keyword::CollapseAll, CollapseAll},
-    {Keyword::CollapseSelected, CollapseSelected},
-    {Keyword::Create, Create},
-    {Keyword::Current, Current},
-    {Keyword::Delete, Delete},
-    {Keyword::ExpandAll, ExpandAll},
-    {Keyword::ExpandSelected, ExpandSelected},
-    {Keyword::Find, nullptr, &windowFindLevel},
-    {Keyword::Frame, Frame},
-    {Keyword::Map, nullptr, &windowMapLevel},
-    {Keyword::Names, Names},
-    {Keyword::Part, nullptr, &windowPartLevel},
+    {Keyword::CollapseAll, "", "Collapses every row of the current window.", CollapseAll},
+    {Keyword::CollapseSelected, "", "Collapses the selected rows of the current window.", CollapseSelected},
+    {Keyword::Create, "NAME", "Makes a window for the current view and makes it current.", Create},
+    {Keyword::Current, "?WINDOW?", "Makes a window and its view current, or tells which is.", Current},
+    {Keyword::Delete, "", "Deletes the current window.", Delete},
+    {Keyword::ExpandAll, "", "Expands every row of the current window.", ExpandAll},
+    {Keyword::ExpandSelected, "", "Expands the selected rows of the current window.", ExpandSelected},
+    {Keyword::Find, "Searches in the current window.", &windowFindLevel},
+    {Keyword::Frame, "?FRAME?", "Sets or reads in which Tk frame the window is shown.", Frame},
+    {Keyword::Map, "The maps that show values as texts, pictures, colours or buttons.", &windowMapLevel},
+    {Keyword::Names, "", "Lists the windows.", Names},
+    {Keyword::Part, "The parts of the current window.", &windowPartLevel},
     // The usage text does not tell of these.
-    {Keyword::Background, Background},
-    {Keyword::DropItem, nullptr, &dropItemLevel},
-    {Keyword::Listener, nullptr, &windowListenerLevel},
-    {Keyword::Post, Post},
-    {Keyword::Stripe, Stripe},
+    {Keyword::Background, "?COLOR? ?BOOL?", "Sets or reads the background colour of the window.", Background},
+    {Keyword::DropItem, "What the current window accepts as drop items.", &dropItemLevel},
+    {Keyword::Listener, "The listeners of the current window.", &windowListenerLevel},
+    {Keyword::Post, "?BOOL?", "Shows the window or takes it away, or tells whether it is shown.", Post},
+    {Keyword::Stripe, "?BOOL? ?all?", "Sets the stripes of the window or of all, or reads the window's.",
+     Stripe},
 };
 
 } // namespace
 
-constexpr CommandLevel windowLevel(rows, znBrowserTclMessages::WINDOW);
+constexpr CommandLevel windowLevel(rows, Messages::WINDOW);
+
+} // namespace znlayer
 
 int znBrowserManagerTcl::WindowTclAPICommands(int objc, Tcl_Obj* const objv[]) {
-    return RunFamily(*this, windowLevel, objc, objv);
+    return znlayer::RunFamily(*this, znlayer::windowLevel, objc, objv);
 }

@@ -4,10 +4,14 @@
 
 #include "frame/command_table.h"
 
+namespace znlayer {
+
 extern const CommandLevel windowPartLevel;
 extern const CommandLevel windowPartEventLevel;
 extern const CommandLevel windowListenerLevel;
 extern const CommandLevel windowMapLevel;
 extern const CommandLevel windowFindLevel;
+
+} // namespace znlayer
 
 #endif

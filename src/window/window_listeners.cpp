@@ -1,7 +1,10 @@
 // Listeners: named procedures that hear of the events of a window.
 #include "frame/name_list.h"
+#include "frame/operation.h"
 #include "host/znIBrowserWindowAccess.h"
 #include "znBrowserManagerTcl.h"
+
+using namespace znlayer;
 
 namespace {
 
@@ -10,20 +13,20 @@ constexpr char noWindow[] = "Cannot find current window!!";
 } // namespace
 
 bool znBrowserManagerTcl::AddWindowListener(const char* name) {
-    BeginOperation();
-    if (!current_.windowAccess) return Fail(noWindow);
-    return HostAnswer(name && current_.windowAccess->AddListener(name));
+    const Operation operation(*this);
+    if (!current_.windowAccess) return operation.Fail(noWindow);
+    return operation.HostAnswer(name && current_.windowAccess->AddListener(name));
 }
 
 bool znBrowserManagerTcl::DeleteWindowListener(const char* name) {
-    BeginOperation();
-    if (!current_.windowAccess) return Fail(noWindow);
-    return HostAnswer(name && current_.windowAccess->DeleteListener(name));
+    const Operation operation(*this);
+    if (!current_.windowAccess) return operation.Fail(noWindow);
+    return operation.HostAnswer(name && current_.windowAccess->DeleteListener(name));
 }
 
 bool znBrowserManagerTcl::GetWindowListenerNames(znString& out) {
-    BeginOperation();
-    if (!current_.windowAccess) return Fail(noWindow);
+    const Operation operation(*this);
+    if (!current_.windowAccess) return operation.Fail(noWindow);
     std::vector<znString> names;
     current_.windowAccess->GetListenerNames(names);
     return NameList(EntryForm::Plain, ExtraBlanks::Between).AddTexts(names).Give(*this, out);

@@ -1,10 +1,13 @@
 // Window parts: the frames into which a window is divided. Without a current part the top level is meant.
-#include "frame/deletion.h"
+#include "frame/current_lifetimes.h"
 #include "frame/name_list.h"
+#include "frame/operation.h"
 #include "host/znIBrowser.h"
 #include "host/znIBrowserWindowAccess.h"
 #include "host/znIBrowserWindowPart.h"
 #include "znBrowserManagerTcl.h"
+
+using namespace znlayer;
 
 namespace {
 
@@ -48,16 +51,16 @@ void AppendPartLine(const znBrowserManagerTcl& manager, znIBrowserWindowPart* pa
 } // namespace
 
 bool znBrowserManagerTcl::CreateWindowPart(const char* name, const char* parent) {
-    BeginOperation();
+    const Operation operation(*this);
     if (!name) return false;
     if (!parent) parent = "";
     znIBrowserWindowAccess* const window = current_.windowAccess;
-    if (!window) return Fail(noWindow);
-    if (window->FindWindowPart(name)) return FailWith({"Window part", name, " already exists"});
+    if (!window) return operation.Fail(noWindow);
+    if (window->FindWindowPart(name)) return operation.Fail({"Window part", name, " already exists"});
     if (*parent && !window->FindWindowPart(parent))
-        return FailWith({"Window part", parent, " doesn't exists"});
-    znIBrowser* const browser = GetBrowser();
-    if (!browser || !browser->CreateWindowPart(window, name, parent)) return FailWithHostError();
+        return operation.Fail({"Window part", parent, " doesn't exists"});
+    znIBrowser* const browser = BrowserOf(*this);
+    if (!browser || !browser->CreateWindowPart(window, name, parent)) return operation.FailWithHostError();
     // A new part of a posted window is filled by a script, which may have deleted the window.
     znIBrowserWindowPart* const part =
         current_.windowAccess == window ? window->FindWindowPart(name) : nullptr;
@@ -68,16 +71,16 @@ bool znBrowserManagerTcl::CreateWindowPart(const char* name, const char* parent)
 }
 
 bool znBrowserManagerTcl::DeleteWindowPart(const char* name) {
-    BeginOperation();
+    const Operation operation(*this);
     if (!name) return false;
     znIBrowserWindowAccess* const window = current_.windowAccess;
-    if (!window) return Fail(noWindow);
+    if (!window) return operation.Fail(noWindow);
     znIBrowserWindowPart* const part = window->FindWindowPart(name);
-    if (!part) return FailWith({"Window part: ", name, " not found"});
-    const znBrowserCurrentObjects doomed = CurrentsInside(part);
-    znIBrowser* const browser = GetBrowser();
+    if (!part) return operation.Fail({"Window part: ", name, " not found"});
+    const znBrowserCurrentObjects doomed = CurrentsInside(*this, part);
+    znIBrowser* const browser = BrowserOf(*this);
     const auto deletion = [&] { return browser && browser->DeleteWindowPart(part); };
-    if (!DeleteAndForget(deletion, [&] { Forget(doomed); })) return FailWithHostError();
+    if (!DeleteAndForget(*this, doomed, deletion)) return operation.FailWithHostError();
     if (current_.windowAccess != window) return true;
     const std::vector<znIBrowserWindowPart*> remaining = PartsUnder(nullptr, window, true);
     SetCurrentWindowPartByPtr(remaining.empty() ? nullptr : remaining.front());
@@ -86,41 +89,42 @@ bool znBrowserManagerTcl::DeleteWindowPart(const char* name) {
 }
 
 bool znBrowserManagerTcl::SetCurrentWindowPartByName(const char* name) {
-    BeginOperation();
+    const Operation operation(*this);
     if (!name) return false;
-    if (!current_.windowAccess) return Fail(noWindowAccess);
+    if (!current_.windowAccess) return operation.Fail(noWindowAccess);
     znIBrowserWindowPart* const part = current_.windowAccess->FindWindowPart(name);
-    if (!part) return FailWith({"Cannot find window part : ", name});
+    if (!part) return operation.Fail({"Cannot find window part : ", name});
     SetCurrentWindowPartByPtr(part);
     UpdateCurrentEvent(part);
     return true;
 }
 
 bool znBrowserManagerTcl::GetCurrentWindowPart(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out = current_.windowPart ? current_.windowPart->GetName() : "";
     return true;
 }
 
 bool znBrowserManagerTcl::SetCurrentWindowPartParent(znIBrowserWindowPart* parent) {
-    BeginOperation();
-    if (!current_.windowAccess) return Fail(noPartToMove);
-    if (!current_.windowPart) return Fail("The current part is toplevel, and no parent can be assigned");
+    const Operation operation(*this);
+    if (!current_.windowAccess) return operation.Fail(noPartToMove);
+    if (!current_.windowPart)
+        return operation.Fail("The current part is toplevel, and no parent can be assigned");
     current_.windowAccess->SetWindowPartParent(current_.windowPart, parent);
     return GetState();
 }
 
 bool znBrowserManagerTcl::SetCurrentWindowPartParentByName(const char* name) {
-    BeginOperation();
+    const Operation operation(*this);
     const bool movable = current_.windowAccess && current_.windowPart;
     znIBrowserWindowPart* const parent =
         movable && name ? current_.windowAccess->FindWindowPart(name) : nullptr;
-    if (movable && name && !parent) return FailWith({"Cannot find window part : ", name});
+    if (movable && name && !parent) return operation.Fail({"Cannot find window part : ", name});
     return SetCurrentWindowPartParent(parent);
 }
 
 bool znBrowserManagerTcl::GetCurrentWindowPartParent(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out.clear();
     const char* name = nullptr;
     if (current_.windowPart) {
@@ -128,79 +132,79 @@ bool znBrowserManagerTcl::GetCurrentWindowPartParent(znString& out) {
         if (!parent) return true;
         name = parent->GetName();
     } else {
-        if (!current_.windowAccess) return Fail(noPartToMove);
+        if (!current_.windowAccess) return operation.Fail(noPartToMove);
         name = current_.windowAccess->GetName();
     }
-    if (!name) return Fail("The current part is toplevel, and no parent can be supplied");
+    if (!name) return operation.Fail("The current part is toplevel, and no parent can be supplied");
     out = name;
     return true;
 }
 
 bool znBrowserManagerTcl::SetWindowPartCreateProc(const char* procedure, const char* argument) {
-    BeginOperation();
-    if (!current_.windowPart) return Fail("Cannot attach the create proc to toplevel");
+    const Operation operation(*this);
+    if (!current_.windowPart) return operation.Fail("Cannot attach the create proc to toplevel");
     current_.windowPart->SetCreateProc(procedure, argument);
     return GetState();
 }
 
 bool znBrowserManagerTcl::SetWindowPartPackProc(const char* procedure, const char* argument) {
-    BeginOperation();
-    if (!current_.windowPart) return Fail("Cannot attach the pack proc to toplevel");
+    const Operation operation(*this);
+    if (!current_.windowPart) return operation.Fail("Cannot attach the pack proc to toplevel");
     current_.windowPart->SetPackProc(procedure, argument);
     return GetState();
 }
 
 bool znBrowserManagerTcl::SetWindowPartPosition(int position) {
-    BeginOperation();
-    if (!current_.windowAccess) return Fail(noWindow);
+    const Operation operation(*this);
+    if (!current_.windowAccess) return operation.Fail(noWindow);
     znIBrowserWindowPart* const part = current_.windowPart;
-    return (part && current_.windowAccess->SetWindowPartPosition(part, position)) || Fail(noPart);
+    return (part && current_.windowAccess->SetWindowPartPosition(part, position)) || operation.Fail(noPart);
 }
 
 bool znBrowserManagerTcl::SetWindowPartShownState(bool shown) {
-    BeginOperation();
-    if (!current_.windowPart) return Fail(noPart);
-    znIBrowser* const browser = GetBrowser();
-    return HostAnswer(browser && browser->SetWindowPartShown(current_.windowPart, shown));
+    const Operation operation(*this);
+    if (!current_.windowPart) return operation.Fail(noPart);
+    znIBrowser* const browser = BrowserOf(*this);
+    return operation.HostAnswer(browser && browser->SetWindowPartShown(current_.windowPart, shown));
 }
 
 bool znBrowserManagerTcl::GetWindowPartShownState(znString& out) {
-    BeginOperation();
-    if (!current_.windowPart) return Fail(noPart);
+    const Operation operation(*this);
+    if (!current_.windowPart) return operation.Fail(noPart);
     znIBrowserWindowAccess* const window = current_.windowPart->GetWindowAccess();
-    return GiveBool(window && window->IsWindowPartShown(current_.windowPart), out);
+    return operation.GiveBool(window && window->IsWindowPartShown(current_.windowPart), out);
 }
 
 bool znBrowserManagerTcl::GetWindowPartFramePath(znString& out) {
-    BeginOperation();
-    if (!current_.windowPart) return Fail(noPart);
+    const Operation operation(*this);
+    if (!current_.windowPart) return operation.Fail(noPart);
     out = current_.windowPart->GetFramePath();
     return true;
 }
 
 bool znBrowserManagerTcl::GetWindowPartNames(znString& out, bool recursive) {
-    BeginOperation();
-    if (!current_.windowAccess) return Fail(noWindowAccess);
+    const Operation operation(*this);
+    if (!current_.windowAccess) return operation.Fail(noWindowAccess);
     return NameList(EntryForm::Plain, ExtraBlanks::Between)
         .AddNames(PartsUnder(current_.windowPart, current_.windowAccess, recursive))
         .Give(*this, out);
 }
 
 bool znBrowserManagerTcl::GetWindowPartInfo(znString& out) {
-    BeginOperation();
-    if (!current_.windowAccess) return Fail(noWindowAccess);
+    const Operation operation(*this);
+    if (!current_.windowAccess) return operation.Fail(noWindowAccess);
     const auto parts = PartsUnder(current_.windowPart, current_.windowAccess, true);
     AppendToBuff("Part\t\t\t\tParent\t\t\tPosition\tFramePath\n", true, false);
     for (znIBrowserWindowPart* const part : parts) AppendPartLine(*this, part, current_.windowAccess);
-    return GiveBuffer(out);
+    return operation.GiveBuffer(out);
 }
 
 bool znBrowserManagerTcl::GetWindowPartOperationNames(znString& out) {
-    BeginOperation();
-    if (!current_.windowPart) return Fail(noPart);
+    const Operation operation(*this);
+    if (!current_.windowPart) return operation.Fail(noPart);
     std::vector<znString> operations;
     znIBrowserWindowAccess* const window = current_.windowPart->GetWindowAccess();
     if (!window || !window->GetOperations(current_.windowPart, operations))
-        return Fail("Cannot get list of operations");
+        return operation.Fail("Cannot get list of operations");
     return NameList(EntryForm::Plain, ExtraBlanks::Between).AddTexts(operations).Give(*this, out);
 }

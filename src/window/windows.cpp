@@ -1,13 +1,16 @@
 // Windows: making, choosing, showing and deleting them.
-#include "frame/deletion.h"
-#include "frame/messages.h"
+#include "frame/current_lifetimes.h"
 #include "frame/name_list.h"
+#include "frame/operation.h"
 #include "host/znIBrowser.h"
 #include "host/znIBrowserApplication.h"
 #include "host/znIBrowserWindowAccess.h"
 #include "znBrowserManagerTcl.h"
+#include "znBrowserMessages.h"
 
 #include <cstring>
+
+using namespace znlayer;
 
 namespace {
 
@@ -28,35 +31,35 @@ std::vector<znIBrowserWindowAccess*> Windows(znIBrowser* browser) {
 
 } // namespace
 
-znIBrowserWindowAccess* znBrowserManagerTcl::FindWindowAccess(const char* name) const {
-    znIBrowser* const browser = GetBrowser();
+znIBrowserWindowAccess* znlayer::FindWindowAccess(const znBrowserManagerTcl& manager, const char* name) {
+    znIBrowser* const browser = BrowserOf(manager);
     znIBrowserWindowAccessList* const list = browser ? browser->GetWindowAccessList() : nullptr;
-    return list && name ? list->FindWindowAccess(name) : nullptr;
+    return FindNamed(list, &znIBrowserWindowAccessList::FindWindowAccess, name);
 }
 
 bool znBrowserManagerTcl::CreateWindowAccess(const char* name) {
-    BeginOperation();
+    const Operation operation(*this);
     if (!name) return false;
-    if (!current_.view) return Fail("Cannot get handle to the current view");
-    if (FindWindowAccess(name)) return FailWith({"Window ", name, " already exists"});
-    znIBrowser* const browser = GetBrowser();
-    if (!browser || !browser->CreateWindowAccess(name, current_.view)) return FailWithHostError();
-    znIBrowserWindowAccess* const window = FindWindowAccess(name);
+    if (!current_.view) return operation.Fail("Cannot get handle to the current view");
+    if (FindWindowAccess(*this, name)) return operation.Fail({"Window ", name, " already exists"});
+    znIBrowser* const browser = BrowserOf(*this);
+    if (!browser || !browser->CreateWindowAccess(name, current_.view)) return operation.FailWithHostError();
+    znIBrowserWindowAccess* const window = FindWindowAccess(*this, name);
     if (!window) return false;
     SetCurrentWindowAccess(window);
     return true;
 }
 
 bool znBrowserManagerTcl::DeleteWindowAccess(const char* name) {
-    BeginOperation();
+    const Operation operation(*this);
     if (!name) return true;
-    znIBrowserWindowAccess* const window = FindWindowAccess(name);
-    if (!window) return FailWith({"Window : ", name, " not found"});
-    const znBrowserCurrentObjects doomed = CurrentsInside(window);
-    znIBrowser* const browser = GetBrowser();
+    znIBrowserWindowAccess* const window = FindWindowAccess(*this, name);
+    if (!window) return operation.Fail({"Window : ", name, " not found"});
+    const znBrowserCurrentObjects doomed = CurrentsInside(*this, window);
+    znIBrowser* const browser = BrowserOf(*this);
     const auto deletion = [&] { return browser && browser->DeleteWindowAccess(window); };
-    if (!DeleteAndForget(deletion, [&] { Forget(doomed); })) return FailWithHostError();
-    const std::vector<znIBrowserWindowAccess*> remaining = Windows(GetBrowser());
+    if (!DeleteAndForget(*this, doomed, deletion)) return operation.FailWithHostError();
+    const std::vector<znIBrowserWindowAccess*> remaining = Windows(BrowserOf(*this));
     if (remaining.empty()) {
         ResetCurrentWindowAccess(); // the host knows that none is left
     } else {
@@ -67,14 +70,14 @@ bool znBrowserManagerTcl::DeleteWindowAccess(const char* name) {
 }
 
 bool znBrowserManagerTcl::SetCurrentWindowAccess(const char* name) {
-    BeginOperation();
+    const Operation operation(*this);
     if (!name) return true;
     if (IsCalled(current_.windowAccess, name)) {
         application_->GetWindowReselectedSignal().Emit(name);
         return true;
     }
-    znIBrowserWindowAccess* const window = FindWindowAccess(name);
-    if (!window) return FailWith({"Cannot not find window access : ", name});
+    znIBrowserWindowAccess* const window = FindWindowAccess(*this, name);
+    if (!window) return operation.Fail({"Cannot not find window access : ", name});
     SetCurrentWindowAccess(window);
     UpdateCurrentView(window->GetView());
     return true;
@@ -82,22 +85,24 @@ bool znBrowserManagerTcl::SetCurrentWindowAccess(const char* name) {
 
 // The name is only given while a column is current: scripts have come to rely on it.
 bool znBrowserManagerTcl::GetCurrentWindowAccess(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     out = current_.column && current_.windowAccess ? current_.windowAccess->GetName() : "";
     return true;
 }
 
 bool znBrowserManagerTcl::GetWindowAccessNames(znString& out) {
-    BeginOperation();
-    return NameList(EntryForm::Plain, ExtraBlanks::Between).AddNames(Windows(GetBrowser())).Give(*this, out);
+    const Operation operation(*this);
+    return NameList(EntryForm::Plain, ExtraBlanks::Between)
+        .AddNames(Windows(BrowserOf(*this)))
+        .Give(*this, out);
 }
 
 bool znBrowserManagerTcl::PostWindowAccess(bool post) {
-    BeginOperation();
+    const Operation operation(*this);
     znIBrowserWindowAccess* const window = current_.windowAccess;
     if (!window) return true;
-    znIBrowser* const browser = GetBrowser();
-    const bool accepted = HostAnswer(browser && browser->PostWindowAccess(window, post));
+    znIBrowser* const browser = BrowserOf(*this);
+    const bool accepted = operation.HostAnswer(browser && browser->PostWindowAccess(window, post));
     // Posting runs the scripts that fill the window, and these may have chosen another one or deleted this
     // one.
     if (current_.windowAccess == window) SetCurrentWindowAccess(window);
@@ -105,69 +110,74 @@ bool znBrowserManagerTcl::PostWindowAccess(bool post) {
 }
 
 bool znBrowserManagerTcl::IsWindowAccessPosted(bool& posted) {
-    BeginOperation();
+    const Operation operation(*this);
     if (current_.windowAccess) posted = current_.windowAccess->IsPosted();
     return true;
 }
 
 bool znBrowserManagerTcl::SetWindowBackgroundColor(const char* color, bool flag) {
-    BeginOperation();
-    if (!current_.windowAccess) return Fail(noHandle);
-    znIBrowser* const browser = GetBrowser();
-    return HostAnswer(browser && browser->SetWindowBackgroundColor(current_.windowAccess, color, flag));
+    const Operation operation(*this);
+    if (!current_.windowAccess) return operation.Fail(noHandle);
+    znIBrowser* const browser = BrowserOf(*this);
+    return operation.HostAnswer(browser &&
+                                browser->SetWindowBackgroundColor(current_.windowAccess, color, flag));
 }
 
 bool znBrowserManagerTcl::GetCurrentWindowBackgroundColor(znString& out) {
-    BeginOperation();
+    const Operation operation(*this);
     if (current_.windowAccess) out = current_.windowAccess->GetBackgroundColor();
     return true;
 }
 
 bool znBrowserManagerTcl::SetWindowStripeDisplay(bool on, bool all) {
-    BeginOperation();
-    if (!all && !current_.windowAccess) return Fail(noHandle);
-    znIBrowser* const browser = GetBrowser();
-    return HostAnswer(browser && browser->SetWindowStripeDisplay(current_.windowAccess, on, all));
+    const Operation operation(*this);
+    if (!all && !current_.windowAccess) return operation.Fail(noHandle);
+    znIBrowser* const browser = BrowserOf(*this);
+    return operation.HostAnswer(browser && browser->SetWindowStripeDisplay(current_.windowAccess, on, all));
 }
 
 bool znBrowserManagerTcl::GetCurrentWindowStripeDisplay(bool& on) {
-    BeginOperation();
+    const Operation operation(*this);
     if (current_.windowAccess) on = current_.windowAccess->GetStripeDisplay();
     return true;
 }
 
 bool znBrowserManagerTcl::SetCurrentWindowTkFrame(const znString& frame) {
-    BeginOperation();
-    if (!current_.windowAccess) return Fail(messages::noCurrentWindow);
-    znIBrowser* const browser = GetBrowser();
-    if (!browser) return FailWithHostError();
+    const Operation operation(*this);
+    if (!current_.windowAccess) return operation.Fail(znBrowserMessages::noCurrentWindow);
+    znIBrowser* const browser = BrowserOf(*this);
+    if (!browser) return operation.FailWithHostError();
     browser->SetWindowTkFrame(current_.windowAccess, frame.c_str());
     return true;
 }
 
 bool znBrowserManagerTcl::GetCurrentWindowTkFrame(znString& out) {
-    BeginOperation();
-    if (!current_.windowAccess) return Fail(noHandle);
+    const Operation operation(*this);
+    if (!current_.windowAccess) return operation.Fail(noHandle);
     out = current_.windowAccess->GetTkFrame();
     return true;
 }
 
 bool znBrowserManagerTcl::CollapseAllItems() {
-    BeginOperation();
-    return current_.windowAccess ? HostAnswer(current_.windowAccess->CollapseAllItems()) : Fail(noTree);
+    const Operation operation(*this);
+    return current_.windowAccess ? operation.HostAnswer(current_.windowAccess->CollapseAllItems())
+                                 : operation.Fail(noTree);
 }
 
 bool znBrowserManagerTcl::CollapseSelectedItems() {
-    BeginOperation();
-    return current_.windowAccess ? HostAnswer(current_.windowAccess->CollapseSelectedItems()) : Fail(noTree);
+    const Operation operation(*this);
+    return current_.windowAccess ? operation.HostAnswer(current_.windowAccess->CollapseSelectedItems())
+                                 : operation.Fail(noTree);
 }
 
 bool znBrowserManagerTcl::ExpandAllItems() {
-    BeginOperation();
-    return current_.windowAccess ? HostAnswer(current_.windowAccess->ExpandAllItems()) : Fail(noTree);
+    const Operation operation(*this);
+    return current_.windowAccess ? operation.HostAnswer(current_.windowAccess->ExpandAllItems())
+                                 : operation.Fail(noTree);
 }
 
 bool znBrowserManagerTcl::ExpandSelectedItems() {
-    BeginOperation();
-    return current_.windowAccess ? HostAnswer(current_.windowAccess->ExpandSelectedItems()) : Fail(noTree);
+    const Operation operation(*this);
+    return current_.windowAccess ? operation.HostAnswer(current_.windowAccess->ExpandSelectedItems())
+                                 : operation.Fail(noTree);
 }

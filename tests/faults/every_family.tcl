@@ -137,9 +137,9 @@ set sections {
     selection {
         {window create win} {window part create part} {window listener connect told}
         {view dataitem simple select} {view dataitem simple select bypropval b}
-        {view dataitem simple deselect byprop x} {view dataitem hierarchical select bypropvals 2 a b}
-        {view dataitem hierarchical select byprop x true} {view dataitem hierarchical deselect bypropval b}
-        {view dataitem simple select bypropvals 1 c} {view dataitem selected} {view dataitem selected all recursive}
+        {view dataitem simple deselect byprop x} {view dataitem hierarchical deselect bypropvals 2 a b}
+        {view dataitem simple deselect bypropval a} {view dataitem hierarchical deselect byprop x true} {view dataitem hierarchical deselect bypropval b}
+        {view dataitem simple deselect bypropvals 1 c} {view dataitem selected} {view dataitem selected all recursive}
         {view datasource simple selected recursive} {view dataitem hierarchical select false}
         {view datasource hierarchical selected} {view dataitemlist selected} {view dataitemlist simple select}
         {view dataitemlist hierarchical select} {view selection single} {view selection multiple}

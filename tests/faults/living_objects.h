@@ -2,6 +2,8 @@
 #ifndef LIVING_OBJECTS_H
 #define LIVING_OBJECTS_H
 
+#include "frame/current_kinds.h"
+#include "frame/current_lifetimes.h"
 #include "model/application.h"
 #include "model/browser.h"
 #include "model/embedded_host.h"
@@ -117,31 +119,8 @@ private:
 /// Calls `visit(kind, pointer)` for each of the manager's current objects.
 template <class Visit>
 void VisitCurrents(const znBrowserManagerTcl& m, Visit visit) {
-    visit("view", m.GetCurrentViewPtr());
-    visit("column", m.GetCurrentColumnPtr());
-    visit("style", m.GetCurrentStylePtr());
-    visit("element", m.GetCurrentStyleElementPtr());
-    visit("view property", m.GetCurrentViewPropertyPtr());
-    visit("folder", m.GetCurrentFreeFolderPtr());
-    visit("list", m.GetCurrentListPtr());
-    visit("view operation", m.GetCurrentViewOperationPtr());
-    visit("window", m.GetCurrentWindowAccessPtr());
-    visit("part", m.GetCurrentWindowPartPtr());
-    visit("event", m.GetCurrentEventPtr());
-    visit("callback", m.GetCurrentWindowCallbackPtr());
-    visit("map", m.GetCurrentGuiMapPtr());
-    visit("find request", m.GetCurrentFindRequestPtr());
-    visit("find property", m.GetCurrentFindRequestPropertyPtr());
-    visit("find criterion", m.GetCurrentFindRequestPropertyCriterionPtr());
-    visit("data control", m.GetCurrentDataCtrlPtr());
-    visit("simple source", m.GetCurrentDataSourceSimplePtr());
-    visit("connect source", m.GetCurrentConnectDataSourceSimplePtr());
-    visit("hierarchical source", m.GetCurrentDataSourceHierarchicalPtr());
-    visit("criteria", m.GetCurrentCriteriaPtr());
-    visit("data operation", m.GetCurrentDataOperationPtr());
-    visit("input field", m.GetCurrentInputFieldPtr());
-    visit("state", m.GetCurrentStatePtr());
-    visit("popup menu", m.GetCurrentPopupMenuPtr());
+    const znBrowserCurrentObjects& current = znlayer::CurrentAccess::Of(m);
+    znlayer::ForEachCurrentKind([&](const auto& kind) { visit(kind.name, current.*kind.member); });
 }
 
 /// The kinds of the manager's current objects that are dead; "" when all live.

@@ -5,6 +5,8 @@
 #include <string>
 #include <utility>
 
+using namespace znlayer;
+
 namespace {
 
 TEST(DataTypes, WordsNameTypesWithoutLetterCase) {

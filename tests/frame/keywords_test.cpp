@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+using namespace znlayer;
+
 namespace {
 
 using keyword_table::rows;

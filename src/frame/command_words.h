@@ -1,8 +1,10 @@
-// How the commands of the view family read their words: a name, a flag, "enabled" or "disabled".
-#ifndef VIEW_WORDS_H
-#define VIEW_WORDS_H
+// How commands read their words: a name, a flag, "enabled" or "disabled".
+#ifndef COMMAND_WORDS_H
+#define COMMAND_WORDS_H
 
 #include "frame/call.h"
+
+namespace znlayer {
 
 using FlagSetter = bool (znBrowserManagerTcl::*)(bool);
 
@@ -65,5 +67,7 @@ inline void CreateWithName(Call& call, int position, Call::TextSetter action, co
     if (!call.Has(position)) return call.Answer(usage);
     call.AnswerOutcome((call.manager.*action)(call.Text(position)), call.Text(position));
 }
+
+} // namespace znlayer
 
 #endif

@@ -1,0 +1,79 @@
+// The kinds of current objects: one table from which everything that concerns all of them is made.
+#ifndef CURRENT_KINDS_H
+#define CURRENT_KINDS_H
+
+#include "znBrowserCurrentObjects.h"
+
+#include <tuple>
+#include <type_traits>
+
+namespace znlayer {
+
+/// One kind of current object: what it is called, where it is kept, and the kinds of objects in which it lies
+/// and with which it dies, outermost last. How an object tells its owner stands in `current_lifetimes.cpp`:
+/// an owner that is named here and unknown there does not compile.
+template <class Kept, class... Owners>
+struct CurrentKind {
+    using Object = Kept;
+    template <class Other>
+    static constexpr bool diesWith = std::is_same_v<Other, Kept> || (std::is_same_v<Other, Owners> || ...);
+
+    const char* name;
+    Kept* znBrowserCurrentObjects::*member;
+};
+
+inline constexpr std::tuple currentKinds{
+    CurrentKind<znIBrowserView>{"view", &znBrowserCurrentObjects::view},
+    CurrentKind<znIBrowserViewColumn, znIBrowserView>{"column", &znBrowserCurrentObjects::column},
+    CurrentKind<znIBrowserStyle, znIBrowserViewColumn, znIBrowserView>{"style",
+                                                                       &znBrowserCurrentObjects::style},
+    CurrentKind<znIBrowserStyleElement, znIBrowserStyle, znIBrowserViewColumn, znIBrowserView>{
+        "style element", &znBrowserCurrentObjects::styleElement},
+    CurrentKind<znIBrowserViewProperty, znIBrowserView>{"view property",
+                                                        &znBrowserCurrentObjects::viewProperty},
+    CurrentKind<znIBrowserViewOperation, znIBrowserView>{"view operation",
+                                                         &znBrowserCurrentObjects::viewOperation},
+    CurrentKind<znIBrowserViewItemFreeFolder, znIBrowserView>{"free folder",
+                                                              &znBrowserCurrentObjects::freeFolder},
+    CurrentKind<znIBrowserDataSourceSimple>{"list", &znBrowserCurrentObjects::list},
+    CurrentKind<znIBrowserPopupMenu>{"popup menu", &znBrowserCurrentObjects::popupMenu},
+    CurrentKind<znIBrowserPopupMenuItem>{"popup menu item", &znBrowserCurrentObjects::popupMenuItem},
+    CurrentKind<znIBrowserWindowAccess>{"window", &znBrowserCurrentObjects::windowAccess},
+    CurrentKind<znIBrowserWindowPart, znIBrowserWindowAccess>{"window part",
+                                                              &znBrowserCurrentObjects::windowPart},
+    CurrentKind<znIBrowserEvent, znIBrowserWindowPart, znIBrowserWindowAccess>{
+        "event", &znBrowserCurrentObjects::event},
+    CurrentKind<znIBrowserWindowCallback, znIBrowserWindowPart, znIBrowserWindowAccess>{
+        "window callback", &znBrowserCurrentObjects::windowCallback},
+    CurrentKind<znIBrowserFindRequest, znIBrowserWindowAccess>{"find request",
+                                                               &znBrowserCurrentObjects::findRequest},
+    CurrentKind<znBrowserProperty, znIBrowserWindowAccess>{"find request property",
+                                                           &znBrowserCurrentObjects::findRequestProperty},
+    CurrentKind<znBrowserCriterion, znIBrowserWindowAccess>{
+        "find request property criterion", &znBrowserCurrentObjects::findRequestPropertyCriterion},
+    CurrentKind<znIBrowserGuiMap>{"GUI map", &znBrowserCurrentObjects::guiMap},
+    CurrentKind<znIBrowserDataCtrl>{"data control", &znBrowserCurrentObjects::dataCtrl},
+    CurrentKind<znIBrowserDataSourceSimple>{"data source simple", &znBrowserCurrentObjects::dataSourceSimple},
+    CurrentKind<znIBrowserDataSourceSimple>{"connect data source simple",
+                                            &znBrowserCurrentObjects::connectDataSourceSimple},
+    CurrentKind<znIBrowserDataSourceHierarchical>{"data source hierarchical",
+                                                  &znBrowserCurrentObjects::dataSourceHierarchical},
+    CurrentKind<znIBrowserCriteria, znIBrowserDataSourceSimple>{"criteria",
+                                                                &znBrowserCurrentObjects::criteria},
+    CurrentKind<znIBrowserDataOperation>{"data operation", &znBrowserCurrentObjects::dataOperation},
+    CurrentKind<znIBrowserInputField>{"input field", &znBrowserCurrentObjects::inputField},
+    CurrentKind<znIBrowserState>{"state", &znBrowserCurrentObjects::state},
+};
+
+static_assert(sizeof(znBrowserCurrentObjects) == std::tuple_size_v<decltype(currentKinds)> * sizeof(void*),
+              "each current object stands in the table");
+
+/// Calls `visit` with each kind.
+template <class Visit>
+constexpr void ForEachCurrentKind(Visit visit) {
+    std::apply([&](const auto&... kind) { (visit(kind), ...); }, currentKinds);
+}
+
+} // namespace znlayer
+
+#endif
