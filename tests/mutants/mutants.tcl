@@ -9,7 +9,8 @@
 # test writing down which of them it reaches. A fault that no test reaches does not count; for each other one, in
 # the order of the seed, the tests that reach it run with it awake, the quick and special ones first, until one
 # fails or takes far too long. A fault in what the compiler evaluates itself (tables, usage texts, constants) cannot
-# be switched, and is not among those counted. One that does not compile is taken out.
+# be switched, and is not among those counted. One that does not compile is taken out, and so is a test that fails
+# without a fault, because it reads the sources.
 #
 # Two tests never share a directory: as many faults as there are cores (ZN_JOBS) are tried at once.
 

@@ -184,6 +184,7 @@ proc places::condition {first last} {
 proc places::literal {n before next} {
     foreach name {text at line} { upvar 1 $name $name }
     set token $text($n)
+    if {$before eq "=" && $next eq ";" && [isFilledIn [expr {$n - 2}]]} { return {} }
     if {$token in {true false}} {
         set other [expr {$token ? "false" : "true"}]
     } elseif {$before ne "case" && [regexp {^[0-9]+[uUlL]*$} $token]} {
@@ -201,6 +202,17 @@ proc places::literal {n before next} {
     list [dict create kind literal line $line($n) lastLine $line($n) \
         edits [list [list $at($n) "(zn_mutants::Awake(%N) ? $other : "] [list [behind $n] )]] \
         shown [list [list $at($n) $other [string length $token]]]]
+}
+
+# Whether a variable is given as an argument before it is used otherwise: its first value is nobody's.
+proc places::isFilledIn {n} {
+    upvar 1 text text
+    set name $text($n)
+    for {set use [expr {$n + 3}]} {[info exists text($use)]} {incr use} {
+        if {$text($use) ne $name} continue
+        return [expr {$text([expr {$use - 1}]) in {( ,} && $text([expr {$use + 1}]) in {) ,}}]
+    }
+    return 0
 }
 
 # A statement left out: an expression, or `break` and the like. A declaration is none.
