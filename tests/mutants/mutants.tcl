@@ -157,7 +157,7 @@ proc build {root copy sources faults} {
 proc faultsAt {tree output faults} {
     set onLine {}
     set inFile {}
-    set pattern [string map [list TREE [regsub -all {\W} $tree {\\&}]] {TREE/([^:\s]+):(\d+):\d+: (?:fatal )?(?:error|note|  )}]
+    set pattern "[regsub -all {\W} $tree {\\&}]/(\[^:\\s]+):(\\d+):\\d+: (?:fatal )?(?:error|note)"
     foreach {- path line} [regexp -all -inline $pattern $output] {
         dict for {number fault} $faults {
             lassign $fault file place
@@ -242,8 +242,8 @@ proc runAsleep {copy tests} {
     forEachAtOnce test [dict keys $tests] {
         set log [file join $::copy reached.$worker]
         file delete $log
-        lassign [runTest [file join $::copy work $worker] 900 [list ZN_MUTANT=0 ZN_MUTANT_LOG=$log] [dict get $::tests $test]] \
-            ended ::seconds($test)
+        lassign [runTest [file join $::copy work $worker] 900 [list ZN_MUTANT=0 ZN_MUTANT_LOG=$log] \
+            [dict get $::tests $test]] ended ::seconds($test)
         if {!$ended} {
             say "left out, since it fails without a fault: $test"
         } elseif {[file exists $log]} {
@@ -254,28 +254,30 @@ proc runAsleep {copy tests} {
     }
 }
 
-# Tries the faults: ::foundBy gets the test that found each, and why, or "".
+# Within a coroutine: the test that finds a fault, and how, or "".
+proc tryOne {worker number} {
+    foreach entry [lsort -real -index 1 [lmap test $::reach($number) {list $test $::cost($test)}]] {
+        set test [lindex $entry 0]
+        set limit [expr {int(10 + 5 * $::seconds($test))}]
+        lassign [runTest [file join $::copy work $worker] $limit [list ZN_MUTANT=$number ZN_MUTANT_LOG=] \
+            [dict get $::tests $test]] ended took
+        if {!$ended} { return [expr {$took < $limit ? $test : "$test, stopped after $limit s"}] }
+    }
+    return ""
+}
+
+# Tries the faults: ::foundBy gets what found each, or "".
 proc tryAll {faults numbers} {
     array set ::foundBy {}
     set ::faults $faults
     set ::total [llength $numbers]
     forEachAtOnce number $numbers {
         set start [clock milliseconds]
-        set ::foundBy($number) ""
-        set order [lsort -real -index 1 [lmap test $::reach($number) {list $test $::cost($test)}]]
-        foreach test [lmap entry $order {lindex $entry 0}] {
-            set limit [expr {int(10 + 5 * $::seconds($test))}]
-            lassign [runTest [file join $::copy work $worker] $limit [list ZN_MUTANT=$number ZN_MUTANT_LOG=] \
-                [dict get $::tests $test]] ended took
-            if {!$ended} {
-                set ::foundBy($number) [expr {$took < $limit ? $test : "$test, stopped after $limit s"}]
-                break
-            }
-        }
+        set ::foundBy($number) [tryOne $worker $number]
         lassign [dict get $::faults $number] path place
-        set verdict [expr {$::foundBy($number) eq "" ? "SURVIVED [llength $order] tests" : "found by $::foundBy($number)"}]
         say [format {[%d/%d] %s:%d %s: %s, %.1f s} [array size ::foundBy] $::total $path [dict get $place line] \
-            [dict get $place kind] $verdict [expr {([clock milliseconds] - $start) / 1000.0}]]
+            [dict get $place kind] [expr {$::foundBy($number) eq "" ? "SURVIVED [llength $::reach($number)] tests"
+            : "found by $::foundBy($number)"}] [expr {([clock milliseconds] - $start) / 1000.0}]]
     }
 }
 
