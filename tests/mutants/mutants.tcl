@@ -233,6 +233,19 @@ proc forEachAtOnce {variable list body} {
     while {$::atWork} { vwait ::atWork }
 }
 
+# Leaves out what would take most of the time: a test of more than ten seconds that takes a quarter of what all take.
+proc leaveOutTheSlow {} {
+    set all [expr [join [list 0 {*}[lmap {test took} [array get ::seconds] {set took}]] +]]
+    foreach test [array names ::seconds] {
+        if {$::seconds($test) < 10 || $::seconds($test) < $all / 4} continue
+        say [format "left out, since it takes %.0f of %.0f s: %s" $::seconds($test) $all $test]
+        foreach number [array names ::reach] {
+            set ::reach($number) [lsearch -all -inline -exact -not $::reach($number) $test]
+            if {![llength $::reach($number)]} { unset ::reach($number) }
+        }
+    }
+}
+
 # Runs every test with the faults asleep. Sets ::seconds, by test, and ::reach, the tests by fault.
 proc runAsleep {copy tests} {
     array set ::seconds {}
@@ -252,6 +265,7 @@ proc runAsleep {copy tests} {
             set ::cost($test) [expr {$::seconds($test) * [llength $numbers]}]
         }
     }
+    leaveOutTheSlow
 }
 
 # Within a coroutine: the test that finds a fault, and how, or "".

@@ -180,7 +180,8 @@ proc places::condition {first last} {
     list [place negated $first $last "zn_mutants::Awake(%N) != static_cast<bool>(" ")" !( )]
 }
 
-# A literal changed: a number one more (a one becomes a zero), a truth value swapped, a letter of a text.
+# A literal changed: a number one more (a one becomes a zero), a truth value swapped, a letter of a text. The names of
+# the host's operations, CLASS::NAME, stay: a test looks for them in the sources themselves.
 proc places::literal {n before next} {
     foreach name {text at line} { upvar 1 $name $name }
     set token $text($n)
@@ -190,7 +191,8 @@ proc places::literal {n before next} {
     } elseif {$before ne "case" && [regexp {^[0-9]+[uUlL]*$} $token]} {
         regexp {^([0-9]+)(.*)$} $token - digits suffix
         set other [expr {$digits eq "1" ? 0 : [scan $digits %lld] + 1}]$suffix
-    } elseif {[string index $token 0] eq "\"" && [string index $before end] ne "\"" && [string index $next 0] ne "\""
+    } elseif {[string index $token 0] eq "\"" && ![string match *::* $token]
+            && [string index $before end] ne "\"" && [string index $next 0] ne "\""
             && [regexp -indices {(?:^|[^\\])([A-Za-z])[^A-Za-z]*$} $token - letter]} {
         set letter [lindex $letter 0]
         set old [string index $token $letter]
