@@ -61,6 +61,7 @@ public:
     }
 
     znhost::CallLog& Log() { return host_->Calls(); }
+    znBrowserManagerTcl& Manager() { return host_->Manager(); }
     void Open() { script_.Eval("run $opening"); }
     void Run(const std::string& section) { script_.Eval("run [dict get $sections " + section + "]"); }
 
