@@ -1,7 +1,8 @@
 # Windows: what stands in one, how it opens and closes, and how it hears of changes.
 #
 # The host knows a window by a number; so does everything here. What is known of window 3 stands in the array
-# ::znbrowser::window3, and no name or text of a user is ever part of a path, of a tag or of a script.
+# ::znbrowser::window3, and no name or text of a user is ever part of a path, of a tag or of a script. Nor is one the
+# result of an `expr`, which would make another number of "007", and an error of "NaN".
 #
 #   name frame path tree  the window's name; the frame in which it stands, its own part of that, and its tree
 #   look                  what the host said last of everything but the rows
@@ -86,8 +87,9 @@ proc ::znbrowser::open {n name frame} {
     array set w [list name $name first 0 full 1 page {} columns {} shown {} active -1 anchor -1 \
         pending {} reported -1 look [host look $n]]
     set w(owns) [expr {$frame eq "" || ![winfo exists $frame]}]
-    set w(frame) [expr {$w(owns) ? [makeToplevel $n $name $frame] : $frame}]
-    set w(path) [expr {$w(frame) eq "." ? "" : $w(frame)}].znbrowser
+    if {$w(owns)} {set frame [makeToplevel $n $name $frame]}
+    set w(frame) $frame
+    set w(path) [string trimright $w(frame) .].znbrowser
     set numberOf($w(frame)) $n
     if {[winfo toplevel $w(frame)] eq "."} {wm deiconify .}
     build $n
@@ -245,9 +247,10 @@ proc ::znbrowser::tell {n words} {
     host error
     host begin $n
     set failed [catch {znbrowsermanager {*}$words} answer]
-    if {[regexp {^\[Command\] [^\n]*\n\t\[Error\] (.*)$} $answer -> answer]} {set failed 1}
+    if {[regexp {^\[Command\] .*?\n\t\[Error\] (.*)$} $answer -> answer]} {set failed 1}
     set refusal [host error]
-    finish $n [expr {$failed ? $answer : $refusal}]
+    if {!$failed} {set answer $refusal}
+    finish $n $answer
     return [expr {!$failed && [isOpen $n]}]
 }
 
@@ -255,7 +258,8 @@ proc ::znbrowser::tell {n words} {
 proc ::znbrowser::finish {n message} {
     set cancelled [host end]
     if {![isOpen $n]} return
-    say $n [expr {$cancelled ? "Cancelled: what is shown is not complete." : $message}]
+    if {$cancelled} {set message "Cancelled: what is shown is not complete."}
+    say $n $message
 }
 
 # Something changed: pairs of a kind of change and a Tk index, or nothing when the host knows what. It is
