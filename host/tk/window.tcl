@@ -148,8 +148,8 @@ proc ::znbrowser::close {n} {
     foreach timer [array names w timer,*] {after cancel $w($timer)}
     unset -nocomplain numberOf($w(tree)) numberOf($w(frame))
     set w(closing) 1
-    if {[winfo exists $w(path)]} {destroy $w(path)}
-    if {[winfo exists $w(frame)]} {clearFrame $w(frame) $w(owns)}
+    if {[stands $w(path)]} {destroy $w(path)}
+    if {[stands $w(frame)]} {clearFrame $w(frame) $w(owns)}
     unset w ;# last: a field that is still there would make its variable anew
 }
 
@@ -164,10 +164,13 @@ proc ::znbrowser::clearFrame {frame owns} {
     }
 }
 
+# Whether there is such a frame; there is none when Tk itself has ended.
+proc ::znbrowser::stands {path} {return [expr {![catch {winfo exists $path} there] && $there}]}
+
 # Whether the window is still there: a script that runs, or somebody else's, may close it at any time.
 proc ::znbrowser::isOpen {n} {
     upvar #0 ::znbrowser::window$n w
-    return [expr {[info exists w(tree)] && ![info exists w(closing)] && [winfo exists $w(tree)]}]
+    return [expr {[info exists w(tree)] && ![info exists w(closing)] && [stands $w(tree)]}]
 }
 
 # Its user closes the window: it is posted no more, and the host closes what is here.
@@ -178,8 +181,8 @@ proc ::znbrowser::unpost {n} {
         after 100 [list ::znbrowser::unpost $n]
         return
     }
-    znbrowsermanager window current $w(name)
-    znbrowsermanager window post false
+    manager window current $w(name)
+    manager window post false
 }
 
 # Somebody destroyed the frame in which the window stood.
@@ -217,6 +220,8 @@ proc ::znbrowser::hidePart {path} {
 }
 
 # ---- Events to the host, and changes from it
+#
+# "manager" is the manager's command, which has another name when a script gave it one.
 
 # An event of the tree: "OnTkTree..." and its arguments behind the window's name.
 proc ::znbrowser::event {n event args} {
@@ -235,9 +240,9 @@ proc ::znbrowser::command {n args} {
 proc ::znbrowser::columnCommand {n column args} {
     upvar #0 ::znbrowser::window$n w
     if {![tell $n [list window current $w(name)]]} {return 0}
-    set before [znbrowsermanager view column current]
+    set before [manager view column current]
     set done [expr {[tell $n [list view column current $column]] && [tell $n $args]}]
-    if {$before ne ""} {catch {znbrowsermanager view column current $before}}
+    if {$before ne ""} {catch {manager view column current $before}}
     return $done
 }
 
@@ -246,7 +251,7 @@ proc ::znbrowser::columnCommand {n column args} {
 proc ::znbrowser::tell {n words} {
     host error
     host begin $n
-    set failed [catch {znbrowsermanager {*}$words} answer]
+    set failed [catch {manager {*}$words} answer]
     if {[regexp {^\[Command\] .*?\n\t\[Error\] (.*)$} $answer -> answer]} {set failed 1}
     set refusal [host error]
     if {!$failed} {set answer $refusal}
