@@ -90,7 +90,7 @@ bool Window::SetWindowPartPosition(znIBrowserWindowPart* part, int position) {
     if (Refused("znIBrowserWindowAccess::SetWindowPartPosition", part, position)) return false;
     WindowPart* const own = Own(part);
     if (!own) return Fail("The part is not one of the window \"" + name_ + "\"");
-    return own->MoveTo(position) ||
+    return PlacePart(*own, position) ||
            Fail("There is no position " + std::to_string(position) + " for the part");
 }
 
@@ -100,7 +100,7 @@ bool Window::SetWindowPartParent(znIBrowserWindowPart* part, znIBrowserWindowPar
     WindowPart* const above = Own(parent);
     if (!own || (parent && !above)) return Fail("The part is not one of the window \"" + name_ + "\"");
     if (above && own->Holds(*above)) return Fail("The part \"" + own->Name() + "\" cannot lie inside itself");
-    own->MoveBelow(above);
+    MovePart(*own, above);
     return true;
 }
 

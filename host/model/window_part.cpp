@@ -95,13 +95,13 @@ const char* WindowPart::GetFramePath() const {
 
 bool WindowPart::SetCreateProc(const char* procedure, const char* argument) {
     if (Refused("znIBrowserWindowPart::SetCreateProc", procedure, argument)) return false;
-    create_ = {Text(procedure), Text(argument)};
+    window_.SetCreateProcedure(*this, {Text(procedure), Text(argument)});
     return true;
 }
 
 bool WindowPart::SetPackProc(const char* procedure, const char* argument) {
     if (Refused("znIBrowserWindowPart::SetPackProc", procedure, argument)) return false;
-    pack_ = {Text(procedure), Text(argument)};
+    window_.SetPackProcedure(*this, {Text(procedure), Text(argument)});
     return true;
 }
 

@@ -206,15 +206,21 @@ void TkWindows::Close(Window& window) {
     const unsigned number = NumberOf(window);
     if (!number) return;
     shown_.erase(number);
-    Run({"::znbrowser::close", std::to_string(number)});
+    std::vector<std::string> words{"::znbrowser::close", std::to_string(number)};
+    for (const auto& part : window.Parts()) words.push_back(part->FramePath());
+    Run(words);
 }
 
 void TkWindows::MakePart(const std::string& frame) { Run({"::znbrowser::makePart", frame}); }
 
-void TkWindows::PackPart(Window& window, const std::string& frame) {
-    Run({"::znbrowser::packPart", std::to_string(NumberOf(window)), frame});
+void TkWindows::PackPart(Window& window, const std::string& frame, const std::vector<std::string>& behind) {
+    std::vector<std::string> words{"::znbrowser::packPart", std::to_string(NumberOf(window)), frame};
+    words.insert(words.end(), behind.begin(), behind.end());
+    Run(words);
 }
 
 void TkWindows::HidePart(const std::string& frame) { Run({"::znbrowser::hidePart", frame}); }
+
+void TkWindows::RemovePart(const std::string& frame) { Run({"::znbrowser::removePart", frame}); }
 
 } // namespace znhost

@@ -49,8 +49,9 @@ public:
 
     void Open(Window& window) override;
     void MakePart(const std::string& frame) override;
-    void PackPart(Window& window, const std::string& frame) override;
+    void PackPart(Window& window, const std::string& frame, const std::vector<std::string>& behind) override;
     void HidePart(const std::string& frame) override;
+    void RemovePart(const std::string& frame) override;
     void Close(Window& window) override;
 
 private:

@@ -140,8 +140,8 @@ proc ::znbrowser::build {n} {
     focus $w(tree)
 }
 
-# The host closes the window: what is left of it on the screen goes.
-proc ::znbrowser::close {n} {
+# The host closes the window: what is left of it on the screen goes, and so do the frames of its parts.
+proc ::znbrowser::close {n args} {
     variable numberOf
     upvar #0 ::znbrowser::window$n w
     if {![info exists w(name)]} return
@@ -149,19 +149,9 @@ proc ::znbrowser::close {n} {
     unset -nocomplain numberOf($w(tree)) numberOf($w(frame))
     set w(closing) 1
     if {[stands $w(path)]} {destroy $w(path)}
-    if {[stands $w(frame)]} {clearFrame $w(frame) $w(owns)}
+    foreach part $args {removePart $part}
+    if {$w(owns) && [stands $w(frame)]} {destroy $w(frame)} ;# a frame of somebody else's stays
     unset w ;# last: a field that is still there would make its variable anew
-}
-
-# A toplevel of its own goes with the window. A frame of somebody else's stays, but for the window's parts.
-proc ::znbrowser::clearFrame {frame owns} {
-    if {$owns} {
-        destroy $frame
-        return
-    }
-    foreach child [winfo children $frame] {
-        if {[regexp {\.part[0-9]+$} $child]} {destroy $child}
-    }
 }
 
 # Whether there is such a frame; there is none when Tk itself has ended.
@@ -201,15 +191,23 @@ proc ::znbrowser::makePart {path} {
     if {![winfo exists $path] && ($parent eq "" || [winfo exists $parent])} {ttk::frame $path}
 }
 
-# Parts stand one below the other, unless their own procedures put them elsewhere; the tree takes the rest.
-proc ::znbrowser::packPart {n path} {
+# Parts stand one below the other, in front of those behind them, unless their own procedures put them elsewhere;
+# the tree takes the rest.
+proc ::znbrowser::packPart {n path args} {
     upvar #0 ::znbrowser::window$n w
     if {![winfo exists $path]} return
-    if {[winfo manager $path] eq ""} {pack $path -side top -fill x}
+    if {[winfo manager $path] eq ""} {
+        set next [lindex [lmap slave [pack slaves [winfo parent $path]] {if {$slave ni $args} continue; set slave}] 0]
+        pack $path -side top -fill x {*}[if {$next ne ""} {list -before $next}]
+    }
     if {[info exists w(path)] && [winfo manager $w(path)] eq "pack"} {
         pack forget $w(path)
         pack $w(path) -side top -fill both -expand 1
     }
+}
+
+proc ::znbrowser::removePart {path} {
+    if {[stands $path]} {destroy $path}
 }
 
 proc ::znbrowser::hidePart {path} {
