@@ -56,7 +56,7 @@ public:
     WindowPart* FindPart(std::string_view name);
     // What becomes of the parts of a posted window becomes of their frames at once, by the procedures of the
     // parts, which may delete the part and the window.
-    WindowPart& AddPart(const std::string& name, WindowPart* parent);
+    void AddPart(const std::string& name, WindowPart* parent);
     void DeletePart(WindowPart& part);
     void ShowPart(WindowPart& part, bool shown);
     /// Moves a part to the end of the children of `parent`, or of the window's own; it must not hold

@@ -121,12 +121,11 @@ void Window::RepackPart(const WindowPart& part) {
 
 // ---- What happens to them ----
 
-WindowPart& Window::AddPart(const std::string& name, WindowPart* parent) {
+void Window::AddPart(const std::string& name, WindowPart* parent) {
+    const std::shared_ptr<Window> self = shared_from_this();
     WindowPart::Parts& siblings = parent ? parent->Children() : parts_;
     siblings.push_back(std::make_unique<WindowPart>(*this, parent, name, ++partsMade_));
-    WindowPart& part = *siblings.back();
-    if (posted_) FillParts({&part}); // it has no procedures yet
-    return part;
+    if (posted_) FillParts({siblings.back().get()});
 }
 
 void Window::DeletePart(WindowPart& part) {
