@@ -150,6 +150,8 @@ Tcl_Interp* MakeInterp() {
     Tcl_Interp* const interp = Tcl_CreateInterp();
     Tcl_MakeSafe(interp);
     Tcl_Eval(interp, "proc value {item} {return v}; proc ignore args {}; interp bgerror {} ignore");
+    Tcl_Eval(interp, "namespace eval znbrowser {proc ResetSelectedFreeFoldersArray {} {}; "
+                     "proc AddToSelectedFreeFoldersArray {name} {}}");
     Tcl_Eval(interp, "catch error"); // so that the variables of the last error are there from the start
     return interp;
 }

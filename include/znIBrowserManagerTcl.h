@@ -22,8 +22,9 @@ public:
     /// @return false, with an error text, for a null script and for one that ends with an error.
     virtual bool EvalTclScript(const char* script) = 0;
     virtual ~znIBrowserManagerTcl() = default;
-    /// Calls a Tcl procedure, with `argument` in double quotes unless it is empty, and gives its result. A
-    /// null name succeeds and changes nothing.
+    /// Calls a Tcl procedure, with `argument` in double quotes unless it is empty, and gives its result. The
+    /// argument arrives as it is: what Tcl would substitute in it is escaped. A null name succeeds and
+    /// changes nothing.
     /// @return false, with an error text, when the procedure fails; `result` stays as it was then.
     virtual bool GetStringFromScript(const char* procName, znString& result, znString argument) = 0;
     /// The name of the current view, valid as long as the view; "" when there is none, never null.
@@ -31,12 +32,13 @@ public:
     /// The interpreter of the application, which owns it.
     virtual Tcl_Interp* GetTclInterp() const = 0;
     /// Hands a popup's input script to "::znbrowser::UpdatePopupInputScript", in double quotes, with a blank
-    /// before and behind it. A null script succeeds and does nothing.
+    /// before and behind it; nothing in it is substituted. A null script succeeds and does nothing.
     /// @return false, with an error text, when the procedure fails.
     virtual bool UpdateTclInputScript(const char* script) = 0;
     /// Tells the scripts which free folders are selected now: calls
     /// "::znbrowser::ResetSelectedFreeFoldersArray", then, for each folder in order,
-    /// "::znbrowser::AddToSelectedFreeFoldersArray" with its name in double quotes, set off by blanks.
+    /// "::znbrowser::AddToSelectedFreeFoldersArray" with its name in double quotes, set off by blanks;
+    /// nothing in the name is substituted.
     /// @return false, with an error text, at the first call that fails, and at a null folder.
     virtual bool UpdateTclFreeFolderSelection(const std::vector<znIBrowserViewItemFreeFolder*>& folders) = 0;
 };

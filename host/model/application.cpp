@@ -25,19 +25,14 @@ private:
     const Tcl_InterpState state_;
 };
 
-/// A list of the words, in the form in which it stands between double quotes: nothing in it is substituted.
-std::string QuotedList(const std::vector<std::string>& words) {
+/// The words as a Tcl list.
+znString ListOf(const std::vector<std::string>& words) {
     std::vector<const char*> texts;
     texts.reserve(words.size());
     for (const std::string& word : words) texts.push_back(word.c_str());
-    char* const list = Tcl_Merge(static_cast<int>(texts.size()), texts.data());
-    std::string quoted;
-    for (const char* character = list; *character; ++character) {
-        if (std::string_view("\\\"$[").find(*character) != std::string_view::npos) quoted += '\\';
-        quoted += *character;
-    }
-    Tcl_Free(list);
-    return quoted;
+    const std::unique_ptr<char, void (*)(char*)> list(Tcl_Merge(static_cast<int>(texts.size()), texts.data()),
+                                                      Tcl_Free);
+    return znString(list.get());
 }
 
 } // namespace
@@ -103,7 +98,7 @@ bool Application::ComputeValue(const std::string& procedure, const std::vector<s
     Tcl_ResetResult(interp_);
     znString result; // written when the procedure ended well, though something refused it may be noted then
     const bool computed =
-        manager_->GetStringFromScript(procedure.c_str(), result, QuotedList(item)) || !result.IsNull();
+        manager_->GetStringFromScript(procedure.c_str(), result, ListOf(item)) || !result.IsNull();
     if (computed) {
         value = result.Str();
     } else {

@@ -42,7 +42,7 @@ bool Browser::DeleteWindowAccess(znIBrowserWindowAccess* window) {
 
 void Browser::SetWindowTkFrame(znIBrowserWindowAccess* window, const char* frame) {
     if (Refused("znIBrowser::SetWindowTkFrame", window, frame) || !window) return;
-    Own(window)->SetTkFrame(TextOf(frame));
+    Own(window)->MoveInto(TextOf(frame));
 }
 
 bool Browser::PostWindowAccess(znIBrowserWindowAccess* window, bool post) {

@@ -7,6 +7,7 @@
 #include "model/window_list.h"
 #include "rows/row_drawing.h"
 #include "store/data_ctrl.h"
+#include "tk/manager_command.h"
 #include "tk/tk_windows.h"
 #include "znBrowserManagerTcl.h"
 #include "znBrowserTclCommandTree.h"
@@ -37,7 +38,7 @@ struct EmbeddedHost::Parts : PreservedInterp {
     explicit Parts(Tcl_Interp* tcl) : PreservedInterp(tcl), application(interp, log) {}
     ~Parts() {
         windows.reset();
-        if (command) Tcl_DeleteCommandFromToken(interp, command);
+        if (command.token) Tcl_DeleteCommandFromToken(interp, command.token);
         application.SetManager(nullptr);
         if (manager) manager->DeleteBrowserManagerCollectorTcl();
         manager.reset();
@@ -50,13 +51,14 @@ struct EmbeddedHost::Parts : PreservedInterp {
     void WatchCommand() {
         Tcl_CmdInfo info;
         if (!Tcl_GetCommandInfo(interp, commandName, &info)) return;
-        command = Tcl_FindCommand(interp, commandName, nullptr, TCL_GLOBAL_ONLY);
-        info.deleteProc = [](ClientData parts) { static_cast<Parts*>(parts)->command = nullptr; };
+        command = {Tcl_FindCommand(interp, commandName, nullptr, TCL_GLOBAL_ONLY), info.objProc,
+                   info.objClientData};
+        info.deleteProc = [](ClientData parts) { static_cast<Parts*>(parts)->command.token = nullptr; };
         info.deleteData = this;
-        Tcl_SetCommandInfoFromToken(command, &info);
+        Tcl_SetCommandInfoFromToken(command.token, &info);
     }
 
-    Tcl_Command command = nullptr;
+    ManagerCommand command;
     CallLog log;
     Application application;
     std::unique_ptr<znBrowserManagerTcl> manager;
@@ -82,7 +84,7 @@ bool EmbeddedHost::CreateDataCtrl(const std::string& name, const std::string& fi
 }
 
 bool EmbeddedHost::ShowWindows(std::string& error) {
-    if (!parts_->windows) parts_->windows = TkWindows::Load(App(), &parts_->command, error);
+    if (!parts_->windows) parts_->windows = TkWindows::Load(App(), parts_->command, error);
     return parts_->windows != nullptr;
 }
 

@@ -21,19 +21,24 @@ void KeepParts(Keeping& keeping) {
 }
 
 void RestoreParts(Restoring& restoring, const Settings& settings) {
-    std::map<const WindowPart*, int> placed; // how many children of a part have found their places
+    Window& window = restoring.Target();
+    std::map<std::string, int> placed; // how many children of a part have found their places
     for (const Setting& setting : settings) {
-        WindowPart* const part = restoring.Target().FindPart(setting.subject);
-        WindowPart* const parent = setting.key.empty() ? nullptr : restoring.Target().FindPart(setting.key);
+        const auto find = [&window, &setting] { return window.FindPart(setting.subject); };
+        WindowPart* part = find();
+        WindowPart* const parent = setting.key.empty() ? nullptr : window.FindPart(setting.key);
         if (!part) {
             restoring.Skip("window part", setting.subject);
             continue;
         }
         if (parent || setting.key.empty()) {
-            if (part->Parent() != parent && !(parent && part->Holds(*parent))) part->MoveBelow(parent);
-            if (part->Parent() == parent) part->MoveTo(placed[parent]++);
+            // Each step may run a script that deletes the part.
+            if (part->Parent() != parent && !(parent && part->Holds(*parent))) window.MovePart(*part, parent);
+            part = find();
+            if (part && part->Parent() == parent) window.PlacePart(*part, placed[setting.key]++);
+            part = find();
         }
-        restoring.Target().ShowPart(*part, IsOn(setting)); // may run a script that deletes the part
+        if (part) window.ShowPart(*part, IsOn(setting));
     }
 }
 

@@ -23,7 +23,7 @@ Window::~Window() { Close(); }
 void Window::Close() {
     if (closed_) return;
     closed_ = true;
-    if (WindowDisplay* const display = browser_.Owner().Display()) display->Close(*this);
+    if (WindowDisplay* const display = Display()) display->Close(*this);
     finder_.reset();
     if (view_) view_->RemoveObserver(*this);
     view_ = nullptr;
@@ -118,82 +118,11 @@ void Window::RunWindowOperation(Window& target, ZNBROWSER_CALLBACK_OPERATION ope
 void Window::Post(bool posted) {
     if (posted == posted_) return;
     const std::shared_ptr<Window> self = shared_from_this();
-    WindowDisplay* const display = browser_.Owner().Display();
+    WindowDisplay* const display = Display();
     posted_ = posted;
     if (display) posted ? display->Open(*this) : display->Close(*this);
-    if (posted) FillParts();
+    if (posted) FillParts(AllParts());
     Fire(posted ? EventKind::Posted : EventKind::Unposted);
-}
-
-void Window::CallForPart(const WindowPart::Procedure& procedure, const std::string& frame) {
-    if (procedure.name.empty()) return;
-    std::vector<std::string> words{procedure.name, frame};
-    if (!procedure.argument.empty()) words.push_back(procedure.argument);
-    Call(words);
-}
-
-/// Calls the create procedures of all parts, then the pack procedures of those that are shown. What is to be
-/// called is noted first: the procedures may change the parts.
-void Window::FillParts() {
-    struct Step {
-        WindowPart::Procedure procedure;
-        std::string frame;
-        bool packs;
-    };
-    std::vector<Step> steps;
-    const std::vector<WindowPart*> parts = AllParts();
-    steps.reserve(2 * parts.size());
-    for (const WindowPart* const part : parts)
-        steps.push_back({part->CreateProcedure(), part->FramePath(), false});
-    for (const WindowPart* const part : parts) {
-        if (part->IsShown()) steps.push_back({part->PackProcedure(), part->FramePath(), true});
-    }
-    for (const Step& step : steps) {
-        const auto display = [this] { return posted_ && !closed_ ? browser_.Owner().Display() : nullptr; };
-        if (closed_) return;
-        CallForPart(step.procedure, step.frame);
-        if (!display()) continue;
-        step.packs ? display()->PackPart(*this, step.frame) : display()->MakePart(step.frame);
-    }
-}
-
-void Window::ShowPart(WindowPart& part, bool shown) {
-    const std::shared_ptr<Window> self = shared_from_this();
-    WindowDisplay* const display = browser_.Owner().Display();
-    const WindowPart::Procedure pack = part.PackProcedure();
-    const std::string frame = part.FramePath();
-    const bool changes = part.IsShown() != shown;
-    part.SetShown(shown);
-    if (!changes || !display || !posted_) return;
-    if (!shown) return display->HidePart(frame);
-    CallForPart(pack, frame);
-    if (posted_ && !closed_) display->PackPart(*this, frame);
-}
-
-// ---- Parts ----
-
-std::vector<WindowPart*> Window::AllParts() const {
-    std::vector<WindowPart*> parts;
-    WindowPart::Append(parts_, true, parts);
-    return parts;
-}
-
-WindowPart* Window::FindPart(std::string_view name) {
-    const std::vector<WindowPart*> parts = AllParts();
-    const auto found =
-        std::find_if(parts.begin(), parts.end(), [name](auto* part) { return part->Name() == name; });
-    return found == parts.end() ? nullptr : *found;
-}
-
-WindowPart& Window::AddPart(const std::string& name, WindowPart* parent) {
-    WindowPart::Parts& siblings = parent ? parent->Children() : parts_;
-    siblings.push_back(std::make_unique<WindowPart>(*this, parent, name, ++partsMade_));
-    return *siblings.back();
-}
-
-void Window::DeletePart(WindowPart& part) {
-    WindowPart::Parts& siblings = part.Parent() ? part.Parent()->Children() : parts_;
-    siblings.erase(siblings.begin() + part.Position());
 }
 
 void Window::Forget(const Window& other) {

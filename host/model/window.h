@@ -20,6 +20,7 @@ class Browser;
 class RowFinder;
 struct FindCriterion;
 class View;
+class WindowDisplay;
 
 /// A window on a view. Its events run scripts, and a script may delete the window: then it is closed at once
 /// (it has no view, no rows and no parts any more) and goes when the event has been handled.
@@ -37,11 +38,12 @@ public:
     View* ShownView() const { return view_; }
     RowModel& Rows() { return rows_; }
     const std::string& TkFrame() const { return tkFrame_; }
+    /// Notes where the display put it.
     void SetTkFrame(std::string frame) { tkFrame_ = std::move(frame); }
-    /// Posting fills the parts: their create procedures are called, then their pack procedures.
+    /// Puts the window and its parts into another frame; when it is posted, at once.
+    void MoveInto(std::string frame);
+    /// Posting fills the parts: their create procedures are called, then the pack procedures of those shown.
     void Post(bool posted);
-    /// Shows or hides a part.
-    void ShowPart(WindowPart& part, bool shown);
     bool HasStripes() const { return stripes_; }
     void SetStripes(bool on);
     const std::string& Background() const { return background_; }
@@ -52,8 +54,18 @@ public:
 
     WindowPart::Parts& Parts() { return parts_; }
     WindowPart* FindPart(std::string_view name);
-    WindowPart& AddPart(const std::string& name, WindowPart* parent);
+    // What becomes of the parts of a posted window becomes of their frames at once, by the procedures of the
+    // parts, which may delete the part and the window.
+    void AddPart(const std::string& name, WindowPart* parent);
     void DeletePart(WindowPart& part);
+    void ShowPart(WindowPart& part, bool shown);
+    /// Moves a part to the end of the children of `parent`, or of the window's own; it must not hold
+    /// `parent`.
+    void MovePart(WindowPart& part, WindowPart* parent);
+    /// False when the position is not one among the part's siblings.
+    bool PlacePart(WindowPart& part, int position);
+    void SetCreateProcedure(WindowPart& part, WindowPart::Procedure procedure);
+    void SetPackProcedure(WindowPart& part, WindowPart::Procedure procedure);
     NamedList<FindRequest>& FindRequests() { return findRequests_; }
     /// Searches by a request of the window. False, with an error text, when it cannot, and when nothing is
     /// found.
@@ -124,7 +136,14 @@ private:
     void Fire(EventKind kind);
     void Call(const std::vector<std::string>& words);
     void CallForPart(const WindowPart::Procedure& procedure, const std::string& frame);
-    void FillParts();
+    WindowPart* PostedPart(unsigned number) const;
+    WindowPart* PostedPart(unsigned number, const std::string& frame) const;
+    WindowDisplay* Display() const;
+    void MakeFrame(unsigned number);
+    void PackFrame(unsigned number);
+    void FillParts(const std::vector<WindowPart*>& parts);
+    void RefillPart(WindowPart& part, const std::string& before);
+    void RepackPart(const WindowPart& part);
     void RunWindowOperation(Window& target, ZNBROWSER_CALLBACK_OPERATION operation);
     void TellSelectedFolders();
     Column* FindColumn(const char* name) const;

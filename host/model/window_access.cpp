@@ -90,7 +90,7 @@ bool Window::SetWindowPartPosition(znIBrowserWindowPart* part, int position) {
     if (Refused("znIBrowserWindowAccess::SetWindowPartPosition", part, position)) return false;
     WindowPart* const own = Own(part);
     if (!own) return Fail("The part is not one of the window \"" + name_ + "\"");
-    return own->MoveTo(position) ||
+    return PlacePart(*own, position) ||
            Fail("There is no position " + std::to_string(position) + " for the part");
 }
 
@@ -99,7 +99,7 @@ void Window::SetWindowPartParent(znIBrowserWindowPart* part, znIBrowserWindowPar
     WindowPart* const own = Own(part);
     WindowPart* const above = Own(parent);
     const bool movable = own && above == parent && !(above && own->Holds(*above));
-    if (movable) own->MoveBelow(above);
+    if (movable) MovePart(*own, above);
 }
 
 // ---- Events ----

@@ -3,6 +3,7 @@
 #define ZN_HOST_WINDOW_DISPLAY_H
 
 #include <string>
+#include <vector>
 
 namespace znhost {
 
@@ -16,10 +17,15 @@ public:
     /// The procedure that creates a part was called, if there is one: now the part's frame must exist.
     virtual void MakePart(const std::string& frame) = 0;
     /// The procedure that packs a part was called, if there is one: now the frame must have its place.
-    virtual void PackPart(Window& window, const std::string& frame) = 0;
+    /// @param behind  the frames of the parts behind it
+    virtual void PackPart(Window& window, const std::string& frame,
+                          const std::vector<std::string>& behind) = 0;
     /// A part of a posted window is hidden.
     virtual void HidePart(const std::string& frame) = 0;
-    /// The window is not posted any more, or goes. Nothing happens when it was not open.
+    /// A part has gone, or stands elsewhere now. Nothing happens when there is no such frame.
+    virtual void RemovePart(const std::string& frame) = 0;
+    /// The window is not posted any more, or goes, and its parts' frames with it. Nothing happens when it was
+    /// not open.
     virtual void Close(Window& window) = 0;
 
 protected:

@@ -95,12 +95,12 @@ const char* WindowPart::GetFramePath() const {
 
 void WindowPart::SetCreateProc(const char* procedure, const char* argument) {
     if (Refused("znIBrowserWindowPart::SetCreateProc", procedure, argument)) return;
-    create_ = {Text(procedure), Text(argument)};
+    window_.SetCreateProcedure(*this, {Text(procedure), Text(argument)});
 }
 
 void WindowPart::SetPackProc(const char* procedure, const char* argument) {
     if (Refused("znIBrowserWindowPart::SetPackProc", procedure, argument)) return;
-    pack_ = {Text(procedure), Text(argument)};
+    window_.SetPackProcedure(*this, {Text(procedure), Text(argument)});
 }
 
 void WindowPart::GetChildParts(std::vector<znIBrowserWindowPart*>& parts, bool recursive) {

@@ -22,6 +22,10 @@ public:
     struct Procedure {
         std::string name;
         std::string argument;
+
+        bool operator==(const Procedure& other) const {
+            return name == other.name && argument == other.argument;
+        }
     };
 
     /// @param number  unlike those of the window's other parts; the frame is named after it, as any user's
@@ -30,14 +34,22 @@ public:
     ~WindowPart() override;
 
     const std::string& Name() const { return name_; }
+    unsigned Number() const { return number_; }
     Window& Owner() const { return window_; }
     WindowPart* Parent() const { return parent_; }
     Parts& Children() { return children_; }
+    /// The children of its parent, itself among them.
+    Parts& Siblings() const;
     std::string FramePath() const;
     /// The place among its parent's children.
     int Position() const;
     const Procedure& CreateProcedure() const { return create_; }
     const Procedure& PackProcedure() const { return pack_; }
+    void SetCreateProcedure(Procedure procedure) { create_ = std::move(procedure); }
+    void SetPackProcedure(Procedure procedure) { pack_ = std::move(procedure); }
+    /// Whether its frame has been made, or is about to be, since the window was posted.
+    bool HasFrame() const { return hasFrame_; }
+    void SetHasFrame(bool has) { hasFrame_ = has; }
     bool IsShown() const { return shown_; }
     void SetShown(bool shown) { shown_ = shown; }
     WindowEvent& Event(EventKind kind) { return *events_[static_cast<std::size_t>(kind)]; }
@@ -61,8 +73,6 @@ public:
     int GetPosition() const override;
 
 private:
-    Parts& Siblings() const;
-
     Window& window_;
     WindowPart* parent_;
     const std::string name_;
@@ -71,6 +81,7 @@ private:
     Procedure create_;
     Procedure pack_;
     bool shown_ = true;
+    bool hasFrame_ = false;
     std::array<std::unique_ptr<WindowEvent>, eventKinds> events_;
     mutable std::string framePath_; ///< the text last given by `GetFramePath`
 };

@@ -14,7 +14,8 @@ proc ::znbrowser::prepareColumns {n} {
 # Makes the columns of the tree those of the view. Those that only look different stay what they are.
 proc ::znbrowser::drawColumns {n} {
     upvar #0 ::znbrowser::window$n w
-    set w(columns) [expr {[dict exists $w(look) columns] ? [dict get $w(look) columns] : ""}]
+    set w(columns) {}
+    if {[dict exists $w(look) columns]} {set w(columns) [dict get $w(look) columns]}
     set shown {}
     set number 0
     foreach column $w(columns) {

@@ -273,7 +273,8 @@ proc ::znbrowser::any::ExpandSmall {control tables nested} {
     if {[IsLarge $control]} return
     set room $openRows
     foreach table $tables {
-        set condition [expr {[dict exists $nested $table] ? [lindex [dict get $nested $table] 1] : ""}]
+        set condition ""
+        if {[dict exists $nested $table]} {set condition [lindex [dict get $nested $table] 1]}
         set count [CountRows $control $table $condition $openTable]
         if {$count == 0 || $count > min($openTable, $room)} continue
         incr room -$count

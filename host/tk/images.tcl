@@ -135,7 +135,8 @@ proc ::znbrowser::prepareImages {} {
 # An image of a row, by the host's name for it; nothing when there is none of that name.
 proc ::znbrowser::imageNamed {name} {
     variable imageData
-    return [expr {[info exists imageData($name)] ? "znbrowser::image::$name" : ""}]
+    if {![info exists imageData($name)]} return
+    return znbrowser::image::$name
 }
 
 proc ::znbrowser::checkImage {value} {

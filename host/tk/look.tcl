@@ -65,7 +65,8 @@ proc ::znbrowser::rowHeight {} {return [expr {max(22, [font metrics znBrowser00 
 
 # A colour that a user named, or another one when Tk knows none of that name.
 proc ::znbrowser::colourOr {wanted other} {
-    return [expr {$wanted ne "" && ![catch {winfo rgb . $wanted}] ? $wanted : $other}]
+    if {$wanted eq "" || [catch {winfo rgb . $wanted}]} {return $other}
+    return $wanted
 }
 
 proc ::znbrowser::makeMenu {path args} {

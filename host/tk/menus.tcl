@@ -14,8 +14,8 @@ proc ::znbrowser::pressRight {n x y state rootX rootY} {
         return
     }
     if {![dict exists $at row]} return
-    set column [expr {[dict exists $at column] ? [dict get $at column] : [firstColumn $n]}]
-    openMenu $n [dict get $at row] $column $rootX $rootY
+    if {![dict exists $at column]} {dict set at column [firstColumn $n]}
+    openMenu $n [dict get $at row] [dict get $at column] $rootX $rootY
 }
 
 # The name of the first column that is shown.
@@ -89,5 +89,5 @@ proc ::znbrowser::copyRow {n row} {
         if {$text ne [lindex $row 4]} {lappend texts $text}
     }
     clipboard clear
-    clipboard append [join $texts \t]
+    clipboard append -- [join $texts \t]
 }

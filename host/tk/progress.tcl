@@ -19,7 +19,7 @@ proc ::znbrowser::makeProgress {n panel} {
     ttk::label $panel.text -style Panel.TLabel -width 18
     ttk::progressbar $panel.bar -mode indeterminate -length 180 -style Browser.Horizontal.TProgressbar
     ttk::button $panel.cancel -text "Cancel" -style Tool.TButton -command [list ::znbrowser::host cancel]
-    bind $panel.cancel <Escape> [list $panel.cancel invoke]
+    bind $panel.cancel <Escape> {%W invoke}
     grid $panel.text -sticky w
     grid $panel.bar $panel.cancel -pady {8 0}
     grid $panel.cancel -padx {14 0}

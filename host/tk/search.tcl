@@ -12,7 +12,7 @@ proc ::znbrowser::buildSearch {n bar} {
     bind $bar.search <Return> [list ::znbrowser::findNext $n next]
     bind $bar.search <Shift-Return> [list ::znbrowser::findNext $n previous]
     bind $bar.search <Escape> [list ::znbrowser::clearSearch $n]
-    bind $bar.search <Down> [list focus $w(tree)]
+    bind $bar.search <Down> [list ::znbrowser::focusTree $n]
     trace add variable ::znbrowser::window${n}(search) write [list ::znbrowser::searchChanged $n]
 }
 
@@ -31,6 +31,11 @@ proc ::znbrowser::searchChanged {n args} {
 
 # The field for scripts and tests.
 proc ::znbrowser::searchField {name} {return [set ::znbrowser::window[number $name](searchField)]}
+
+proc ::znbrowser::focusTree {n} {
+    upvar #0 ::znbrowser::window$n w
+    focus $w(tree)
+}
 
 proc ::znbrowser::focusSearch {n} {
     upvar #0 ::znbrowser::window$n w

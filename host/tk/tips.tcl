@@ -18,7 +18,8 @@ proc ::znbrowser::cutText {n x y} {
     set font [$w(tree) item element cget $at(item) $at(column) $at(element) -font]
     if {$font eq ""} {set font znBrowser00}
     lassign [$w(tree) item bbox $at(item) $at(column) $at(element)] x1 y1 x2 y2
-    return [expr {[font measure $font $text] > $x2 - $x1 + 1 ? $text : ""}]
+    if {[font measure $font $text] <= $x2 - $x1 + 1} {return ""}
+    return $text
 }
 
 proc ::znbrowser::showTip {n text rootX rootY} {

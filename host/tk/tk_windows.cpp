@@ -2,6 +2,7 @@
 
 #include "model/application.h"
 #include "model/window.h"
+#include "tk/manager_command.h"
 #include "tk/tk_scripts.h"
 #include "tk/tk_words.h"
 
@@ -14,6 +15,7 @@ namespace znhost {
 namespace {
 
 constexpr const char* hostCommand = "::znbrowser::host";
+constexpr const char* managerCommand = "::znbrowser::manager";
 
 enum class OnError { Answer, Report };
 
@@ -33,6 +35,10 @@ bool Evaluate(Tcl_Interp* interp, Tcl_Obj* command, std::string& result, OnError
 bool Evaluate(Tcl_Interp* interp, std::string_view script, std::string& result) {
     Tcl_Obj* const text = Tcl_NewStringObj(script.data(), static_cast<int>(script.size()));
     return Evaluate(interp, text, result, OnError::Answer);
+}
+
+int AnswerManagerWords(ClientData windows, Tcl_Interp*, int objc, Tcl_Obj* const objv[]) {
+    return static_cast<TkWindows*>(windows)->EvalManagerCommand(objc, objv);
 }
 
 /// Tk takes the options that it knows out of "argv". These are the script's: Tk sees none while one lives.
@@ -109,10 +115,10 @@ private:
 
 // ---- Loading ----
 
-TkWindows::TkWindows(Application& application, Tcl_Command_* const* command)
-    : application_(application), work_(application.Interp(), command) {}
+TkWindows::TkWindows(Application& application, const ManagerCommand& command)
+    : application_(application), command_(command), work_(application.Interp(), &command.token) {}
 
-std::unique_ptr<TkWindows> TkWindows::Load(Application& application, Tcl_Command_* const* command,
+std::unique_ptr<TkWindows> TkWindows::Load(Application& application, const ManagerCommand& command,
                                            std::string& error) {
     Tcl_Interp* const interp = application.Interp();
     {
@@ -130,6 +136,7 @@ bool TkWindows::LoadScripts(std::string& error) {
     Tcl_Interp* const interp = application_.Interp();
     if (!Evaluate(interp, "wm withdraw .; namespace eval ::znbrowser {}", error)) return false;
     Tcl_CreateObjCommand(interp, hostCommand, AnswerTkWord, this, nullptr);
+    Tcl_CreateObjCommand(interp, managerCommand, AnswerManagerWords, this, nullptr);
     for (const TkScript& script : TkScripts()) {
         if (Evaluate(interp, script.text, error)) continue;
         error.insert(0, std::string(script.file) + ": ");
@@ -142,7 +149,15 @@ TkWindows::~TkWindows() {
     while (!shown_.empty()) Close(shown_.begin()->second->Of());
     application_.SetDisplay(nullptr);
     application_.SetWork(nullptr);
-    if (!Tcl_InterpDeleted(application_.Interp())) Tcl_DeleteCommand(application_.Interp(), hostCommand);
+    if (Tcl_InterpDeleted(application_.Interp())) return;
+    for (const char* const name : {hostCommand, managerCommand})
+        Tcl_DeleteCommand(application_.Interp(), name);
+}
+
+int TkWindows::EvalManagerCommand(int objc, Tcl_Obj* const objv[]) {
+    Tcl_Interp* const interp = application_.Interp();
+    if (work_.IsServing()) return AnswerBusy(nullptr, interp, objc, objv);
+    return command_.procedure(command_.data, interp, objc, objv);
 }
 
 // ---- Windows ----
@@ -191,15 +206,21 @@ void TkWindows::Close(Window& window) {
     const unsigned number = NumberOf(window);
     if (!number) return;
     shown_.erase(number);
-    Run({"::znbrowser::close", std::to_string(number)});
+    std::vector<std::string> words{"::znbrowser::close", std::to_string(number)};
+    for (const auto& part : window.Parts()) words.push_back(part->FramePath());
+    Run(words);
 }
 
 void TkWindows::MakePart(const std::string& frame) { Run({"::znbrowser::makePart", frame}); }
 
-void TkWindows::PackPart(Window& window, const std::string& frame) {
-    Run({"::znbrowser::packPart", std::to_string(NumberOf(window)), frame});
+void TkWindows::PackPart(Window& window, const std::string& frame, const std::vector<std::string>& behind) {
+    std::vector<std::string> words{"::znbrowser::packPart", std::to_string(NumberOf(window)), frame};
+    words.insert(words.end(), behind.begin(), behind.end());
+    Run(words);
 }
 
 void TkWindows::HidePart(const std::string& frame) { Run({"::znbrowser::hidePart", frame}); }
+
+void TkWindows::RemovePart(const std::string& frame) { Run({"::znbrowser::removePart", frame}); }
 
 } // namespace znhost

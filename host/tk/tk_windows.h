@@ -13,10 +13,12 @@
 #include <vector>
 
 struct Tcl_Interp;
+struct Tcl_Obj;
 
 namespace znhost {
 
 class Application;
+struct ManagerCommand;
 
 /// What changed in a window: each kind once, and the row that it is about.
 using TkChanges = std::map<RowChange::Kind, std::uint32_t>;
@@ -26,8 +28,8 @@ using TkChanges = std::map<RowChange::Kind, std::uint32_t>;
 class TkWindows final : public WindowDisplay {
 public:
     /// Loads Tk, the tree widget and the scripts. Null, with the reason in `error`, when that is impossible.
-    /// @param command  where the manager's command is kept
-    static std::unique_ptr<TkWindows> Load(Application& application, Tcl_Command_* const* command,
+    /// @param command  must outlive what is returned
+    static std::unique_ptr<TkWindows> Load(Application& application, const ManagerCommand& command,
                                            std::string& error);
     ~TkWindows();
     TkWindows(const TkWindows&) = delete;
@@ -35,6 +37,8 @@ public:
 
     Application& App() const { return application_; }
     TkWork& Work() { return work_; }
+    /// Evaluates the manager's command, whatever it is called now, and if it has been deleted.
+    int EvalManagerCommand(int objc, Tcl_Obj* const objv[]);
     /// How many windows are open.
     std::size_t Count() const { return shown_.size(); }
     /// The open window of that number; null when there is none.
@@ -45,19 +49,21 @@ public:
 
     void Open(Window& window) override;
     void MakePart(const std::string& frame) override;
-    void PackPart(Window& window, const std::string& frame) override;
+    void PackPart(Window& window, const std::string& frame, const std::vector<std::string>& behind) override;
     void HidePart(const std::string& frame) override;
+    void RemovePart(const std::string& frame) override;
     void Close(Window& window) override;
 
 private:
     class Shown;
 
-    TkWindows(Application& application, Tcl_Command_* const* command);
+    TkWindows(Application& application, const ManagerCommand& command);
     bool LoadScripts(std::string& error);
     unsigned NumberOf(const Window& window) const;
     std::string Run(const std::vector<std::string>& words) const;
 
     Application& application_;
+    const ManagerCommand& command_;
     TkWork work_;
     unsigned opened_ = 0;
     std::map<unsigned, std::unique_ptr<Shown>> shown_;

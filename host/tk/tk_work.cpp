@@ -11,12 +11,6 @@ namespace {
 constexpr auto patience = std::chrono::milliseconds(200);
 constexpr auto pause = std::chrono::milliseconds(100);
 
-int AnswerBusy(ClientData, Tcl_Interp* interp, int, Tcl_Obj* const[]) {
-    Tcl_SetObjResult(interp, Tcl_NewStringObj("the browser is busy", -1));
-    Tcl_SetErrorCode(interp, "ZNBROWSER", "BUSY", nullptr);
-    return TCL_ERROR;
-}
-
 /// While one lives the command gives an error.
 class BlockedCommand {
 public:
@@ -38,6 +32,12 @@ private:
 };
 
 } // namespace
+
+int AnswerBusy(void*, Tcl_Interp* interp, int, Tcl_Obj* const[]) {
+    Tcl_SetObjResult(interp, Tcl_NewStringObj("the browser is busy", -1));
+    Tcl_SetErrorCode(interp, "ZNBROWSER", "BUSY", nullptr);
+    return TCL_ERROR;
+}
 
 void TkWork::Begin(int window) {
     if (depth_++) return;

@@ -8,8 +8,12 @@
 
 struct Tcl_Command_;
 struct Tcl_Interp;
+struct Tcl_Obj;
 
 namespace znhost {
+
+/// What commands of the manager answer while the display is served: an error.
+int AnswerBusy(void* data, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]);
 
 /// Shows that the host works, and a way to cancel, in the window for which it does. The display is served
 /// meanwhile, but the manager's command answers nothing but an error: the work must find what it works on.

@@ -1,7 +1,8 @@
 # Windows: what stands in one, how it opens and closes, and how it hears of changes.
 #
 # The host knows a window by a number; so does everything here. What is known of window 3 stands in the array
-# ::znbrowser::window3, and no name or text of a user is ever part of a path, of a tag or of a script.
+# ::znbrowser::window3, and no name or text of a user is ever part of a path, of a tag or of a script. Nor is one the
+# result of an `expr`, which would make another number of "007", and an error of "NaN".
 #
 #   name frame path tree  the window's name; the frame in which it stands, its own part of that, and its tree
 #   look                  what the host said last of everything but the rows
@@ -86,8 +87,9 @@ proc ::znbrowser::open {n name frame} {
     array set w [list name $name first 0 full 1 page {} columns {} shown {} active -1 anchor -1 \
         pending {} reported -1 look [host look $n]]
     set w(owns) [expr {$frame eq "" || ![winfo exists $frame]}]
-    set w(frame) [expr {$w(owns) ? [makeToplevel $n $name $frame] : $frame}]
-    set w(path) [expr {$w(frame) eq "." ? "" : $w(frame)}].znbrowser
+    if {$w(owns)} {set frame [makeToplevel $n $name $frame]}
+    set w(frame) $frame
+    set w(path) [string trimright $w(frame) .].znbrowser
     set numberOf($w(frame)) $n
     if {[winfo toplevel $w(frame)] eq "."} {wm deiconify .}
     build $n
@@ -138,34 +140,27 @@ proc ::znbrowser::build {n} {
     focus $w(tree)
 }
 
-# The host closes the window: what is left of it on the screen goes.
-proc ::znbrowser::close {n} {
+# The host closes the window: what is left of it on the screen goes, and so do the frames of its parts.
+proc ::znbrowser::close {n args} {
     variable numberOf
     upvar #0 ::znbrowser::window$n w
     if {![info exists w(name)]} return
     foreach timer [array names w timer,*] {after cancel $w($timer)}
     unset -nocomplain numberOf($w(tree)) numberOf($w(frame))
     set w(closing) 1
-    if {[winfo exists $w(path)]} {destroy $w(path)}
-    if {[winfo exists $w(frame)]} {clearFrame $w(frame) $w(owns)}
+    if {[stands $w(path)]} {destroy $w(path)}
+    foreach part $args {removePart $part}
+    if {$w(owns) && [stands $w(frame)]} {destroy $w(frame)} ;# a frame of somebody else's stays
     unset w ;# last: a field that is still there would make its variable anew
 }
 
-# A toplevel of its own goes with the window. A frame of somebody else's stays, but for the window's parts.
-proc ::znbrowser::clearFrame {frame owns} {
-    if {$owns} {
-        destroy $frame
-        return
-    }
-    foreach child [winfo children $frame] {
-        if {[regexp {\.part[0-9]+$} $child]} {destroy $child}
-    }
-}
+# Whether there is such a frame; there is none when Tk itself has ended.
+proc ::znbrowser::stands {path} {return [expr {![catch {winfo exists $path} there] && $there}]}
 
 # Whether the window is still there: a script that runs, or somebody else's, may close it at any time.
 proc ::znbrowser::isOpen {n} {
     upvar #0 ::znbrowser::window$n w
-    return [expr {[info exists w(tree)] && ![info exists w(closing)] && [winfo exists $w(tree)]}]
+    return [expr {[info exists w(tree)] && ![info exists w(closing)] && [stands $w(tree)]}]
 }
 
 # Its user closes the window: it is posted no more, and the host closes what is here.
@@ -176,8 +171,8 @@ proc ::znbrowser::unpost {n} {
         after 100 [list ::znbrowser::unpost $n]
         return
     }
-    znbrowsermanager window current $w(name)
-    znbrowsermanager window post false
+    manager window current $w(name)
+    manager window post false
 }
 
 # Somebody destroyed the frame in which the window stood.
@@ -196,15 +191,23 @@ proc ::znbrowser::makePart {path} {
     if {![winfo exists $path] && ($parent eq "" || [winfo exists $parent])} {ttk::frame $path}
 }
 
-# Parts stand one below the other, unless their own procedures put them elsewhere; the tree takes the rest.
-proc ::znbrowser::packPart {n path} {
+# Parts stand one below the other, in front of those behind them, unless their own procedures put them elsewhere;
+# the tree takes the rest.
+proc ::znbrowser::packPart {n path args} {
     upvar #0 ::znbrowser::window$n w
     if {![winfo exists $path]} return
-    if {[winfo manager $path] eq ""} {pack $path -side top -fill x}
+    if {[winfo manager $path] eq ""} {
+        set next [lindex [lmap slave [pack slaves [winfo parent $path]] {if {$slave ni $args} continue; set slave}] 0]
+        pack $path -side top -fill x {*}[if {$next ne ""} {list -before $next}]
+    }
     if {[info exists w(path)] && [winfo manager $w(path)] eq "pack"} {
         pack forget $w(path)
         pack $w(path) -side top -fill both -expand 1
     }
+}
+
+proc ::znbrowser::removePart {path} {
+    if {[stands $path]} {destroy $path}
 }
 
 proc ::znbrowser::hidePart {path} {
@@ -215,6 +218,8 @@ proc ::znbrowser::hidePart {path} {
 }
 
 # ---- Events to the host, and changes from it
+#
+# "manager" is the manager's command, which has another name when a script gave it one.
 
 # An event of the tree: "OnTkTree..." and its arguments behind the window's name.
 proc ::znbrowser::event {n event args} {
@@ -233,9 +238,9 @@ proc ::znbrowser::command {n args} {
 proc ::znbrowser::columnCommand {n column args} {
     upvar #0 ::znbrowser::window$n w
     if {![tell $n [list window current $w(name)]]} {return 0}
-    set before [znbrowsermanager view column current]
+    set before [manager view column current]
     set done [expr {[tell $n [list view column current $column]] && [tell $n $args]}]
-    if {$before ne ""} {catch {znbrowsermanager view column current $before}}
+    if {$before ne ""} {catch {manager view column current $before}}
     return $done
 }
 
@@ -244,10 +249,11 @@ proc ::znbrowser::columnCommand {n column args} {
 proc ::znbrowser::tell {n words} {
     host error
     host begin $n
-    set failed [catch {znbrowsermanager {*}$words} answer]
-    if {[regexp {^\[Command\] [^\n]*\n\t\[Error\] (.*)$} $answer -> answer]} {set failed 1}
+    set failed [catch {manager {*}$words} answer]
+    if {[regexp {^\[Command\] .*?\n\t\[Error\] (.*)$} $answer -> answer]} {set failed 1}
     set refusal [host error]
-    finish $n [expr {$failed ? $answer : $refusal}]
+    if {!$failed} {set answer $refusal}
+    finish $n $answer
     return [expr {!$failed && [isOpen $n]}]
 }
 
@@ -255,7 +261,8 @@ proc ::znbrowser::tell {n words} {
 proc ::znbrowser::finish {n message} {
     set cancelled [host end]
     if {![isOpen $n]} return
-    say $n [expr {$cancelled ? "Cancelled: what is shown is not complete." : $message}]
+    if {$cancelled} {set message "Cancelled: what is shown is not complete."}
+    say $n $message
 }
 
 # Something changed: pairs of a kind of change and a Tk index, or nothing when the host knows what. It is

@@ -9,7 +9,23 @@
 
 #include <tcl.h>
 
+#include <string_view>
+
 using namespace znlayer;
+
+namespace {
+
+/// A text as it stands between double quotes in a script: what runs the script reads exactly this text.
+znString InQuotes(std::string_view text) {
+    std::string quoted;
+    for (const char character : text) {
+        if (std::string_view("\\\"$[").find(character) != std::string_view::npos) quoted += '\\';
+        quoted += character;
+    }
+    return znString(quoted.c_str());
+}
+
+} // namespace
 
 const char* znBrowserManagerTcl::GetCurrentView() const {
     return current_.view ? current_.view->GetName().c_str() : "";
@@ -26,7 +42,7 @@ bool znBrowserManagerTcl::GetStringFromScript(const char* procName, znString& re
     const Operation operation(*this);
     if (!procName) return GetState();
     AppendToBuff(procName, false, false);
-    if (!argument.empty()) AppendToBuffWithQuotes(argument.c_str(), true, false);
+    if (!argument.empty()) AppendToBuffWithQuotes(InQuotes(argument.View()).c_str(), true, false);
     // The script may use the command, and so the buffer.
     const znString script = buffer_;
     if (EvalTclScript(script.c_str())) result = Tcl_GetStringResult(GetTclInterp());
@@ -36,7 +52,8 @@ bool znBrowserManagerTcl::GetStringFromScript(const char* procName, znString& re
 bool znBrowserManagerTcl::UpdateTclInputScript(const char* script) {
     const Operation operation(*this);
     if (!script) return true;
-    for (const char* const piece : {"::znbrowser::UpdatePopupInputScript \"", script, "\""})
+    const znString quoted = InQuotes(script);
+    for (const char* const piece : {"::znbrowser::UpdatePopupInputScript \"", quoted.c_str(), "\""})
         AppendToBuff(piece, true, false);
     const znString call = buffer_;
     EvalTclScript(call.c_str());
@@ -55,7 +72,7 @@ bool znBrowserManagerTcl::UpdateTclFreeFolderSelection(
         ResetBuff();
         for (const char* const piece : {"::znbrowser::AddToSelectedFreeFoldersArray ", "\""})
             AppendToBuff(piece, true, false);
-        if (!name.empty()) AppendToBuff(name.c_str(), true, false);
+        if (!name.empty()) AppendToBuff(InQuotes(name.View()).c_str(), true, false);
         AppendToBuff("\"", true, false);
         const znString call = buffer_;
         if (!EvalTclScript(call.c_str())) break;

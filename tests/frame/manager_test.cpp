@@ -80,6 +80,21 @@ TEST_F(ManagerTest, ScriptServices) {
     EXPECT_FALSE(manager->UpdateTclFreeFolderSelection({nullptr}));
 }
 
+TEST_F(ManagerTest, TextsReachProceduresAsTheyAre) {
+    application.Eval("proc give {text} {return $text}\n"
+                     "namespace eval ::znbrowser {proc UpdatePopupInputScript {s} {set ::input $s}}");
+    for (const std::string text :
+         {"[set ::ran 1]", "$env(HOME)", "a\"b", "a\\", "\\n", "{", "}", "a\nb", ";set ::ran 1", "-x", "#x",
+          "]", "\t[", "\"; set ::ran 1; #", "\\\n", "$", "a\\\"b"}) {
+        znString result;
+        EXPECT_TRUE(manager->GetStringFromScript("give", result, text)) << text;
+        EXPECT_EQ(result, text);
+        EXPECT_TRUE(manager->UpdateTclInputScript(text.c_str())) << text;
+        EXPECT_EQ(application.Eval("set ::input"), " " + text + " ");
+        EXPECT_EQ(application.Eval("info exists ::ran"), "0") << text;
+    }
+}
+
 TEST_F(ManagerTest, ResultBufferJoinsQuotesAndBraces) {
     const struct {
         const char* text;

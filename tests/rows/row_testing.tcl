@@ -70,7 +70,7 @@ proc index {text} {dict get [row $text] index}
 proc indices {args} {lmap text $args {index $text}}
 proc expand {args} {foreach text $args {zn OnTkTreeRequestExpand W [index $text]}}
 # The texts of all rows, or of those for which `key` is true.
-proc texts {{key index}} {lmap row [zn app rows W] {expr {[dict get $row $key] ? [dict get $row text] : [continue]}}}
+proc texts {{key index}} {lmap row [zn app rows W] {if {![dict get $row $key]} continue; dict get $row text}}
 # Each row as depth and text.
 proc outline {} {join [lmap row [zn app rows W] {return -level 0 "[dict get $row depth]:[dict get $row text]"}]}
 proc cell {text column} {dict get [row $text] cells $column}

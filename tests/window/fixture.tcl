@@ -34,7 +34,8 @@ proc freshTwo {} {
 # The message of a command that is refused; all of its answer when it is not.
 proc refusal {args} {
     set answer [zn {*}$args]
-    return [expr {[regexp {^\[Command\] [^\n]*\n\t\[Error\] (.*)$} $answer -> message] ? $message : "not: $answer"}]
+    if {[regexp {^\[Command\] [^\n]*\n\t\[Error\] (.*)$} $answer -> message]} {return $message}
+    return "not: $answer"
 }
 
 # The host calls that a script makes and whose operations match the pattern.
@@ -43,7 +44,7 @@ proc hostCalls {pattern script} {
     zn app journal on
     uplevel 1 $script
     zn app journal off
-    return [lmap call [zn app journal] {expr {[string match $pattern [lindex $call 0]] ? $call : [continue]}}]
+    return [lmap call [zn app journal] {if {![string match $pattern [lindex $call 0]]} continue; set call}]
 }
 
 proc firstLine {text} {return [lindex [split $text \n] 0]}
