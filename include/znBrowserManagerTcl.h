@@ -1121,6 +1121,8 @@ public:
     bool DataSourceHierarchicalPropertyNames(znString& out);
     bool GetDataSourceHierarchicalCriteriaNames(znString& out);
 
+    // Sharing between views has no words: scripts see only its outcome, in the sources that a view lists.
+
     /// Shows a hierarchical source of another view in the current view as well. An unknown view or source
     /// leaves its text in the result buffer, and the operation succeeds. Silently false for empty names.
     bool CreateDataSourceHierarchicalShare(const znString& dataSource, const znString& view);

@@ -3,9 +3,20 @@
 #include "prompt.h"
 #include "session.h"
 
+#include <cstdlib>
 #include <unistd.h>
 
 namespace {
+
+/// Where the environment names no locale, what is typed is UTF-8: in the locale "C" the line editor would
+/// swallow all keys beyond ASCII. Tcl and the editor look at the environment when they start.
+void ChooseLocaleOfPrompt() {
+    for (const char* const name : {"LC_ALL", "LC_CTYPE", "LANG"}) {
+        const char* const value = std::getenv(name);
+        if (value && *value) return;
+    }
+    setenv("LC_CTYPE", "C.UTF-8", 1);
+}
 
 ExitCode Run(const Options& options) {
     Session session;
@@ -22,6 +33,7 @@ ExitCode Run(const Options& options) {
 int main(int argc, char** argv) {
     Options options;
     if (const std::optional<ExitCode> done = ParseOptions(argc, argv, options)) return *done;
+    if (!options.script && isatty(STDIN_FILENO)) ChooseLocaleOfPrompt();
     Tcl_FindExecutable(argv[0]);
     Tcl_Exit(Run(options));
 }

@@ -74,7 +74,7 @@ Prompt::~Prompt() {
 
 ExitCode Prompt::Run() {
     std::string command;
-    for (;;) {
+    while (isatty(STDIN_FILENO)) { // a command may close it, and open something else in its place
         std::string line;
         switch (editor_.Read(command.empty() ? "% " : "> ", line)) {
         case LineEditor::Outcome::End: PrintLine(TCL_STDOUT, ""); return EXIT_DONE;
@@ -90,6 +90,7 @@ ExitCode Prompt::Run() {
             break;
         }
     }
+    return EXIT_DONE;
 }
 
 void Prompt::Execute(const std::string& command) {

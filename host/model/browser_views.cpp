@@ -37,7 +37,7 @@ bool Browser::DeleteView(znIBrowserView* view) {
     View* const doomed = static_cast<View*>(view);
     const std::shared_ptr<View> hold = doomed ? Views().Remove(*doomed) : nullptr;
     if (!hold) return Fail("There is no such view");
-    for (const auto& other : Views()) other->Forget(*doomed);
+    doomed->EndShares();
     return true;
 }
 

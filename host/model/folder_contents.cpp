@@ -40,6 +40,11 @@ bool FreeFolder::AddTreeLink(const FolderTreeLink& link) {
     return true;
 }
 
+void FreeFolder::SetTreeLinks(std::vector<FolderTreeLink> links) {
+    links_ = std::move(links);
+    Changed(VIEW_ROWS);
+}
+
 FolderList* FreeFolder::FindList(const znIBrowserDataSourceSimple* source) {
     const auto found = std::find_if(lists_.begin(), lists_.end(),
                                     [source](const FolderList& list) { return list.source == source; });

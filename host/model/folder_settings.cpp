@@ -86,6 +86,69 @@ void RestoreFolders(Restoring& restoring, const Settings& settings) {
     }
 }
 
+// ---- Trees tied by data references ----
+
+void KeepTies(Keeping& keeping) {
+    CallLog& log = keeping.view.Log();
+    ForEachFolder(keeping, [&](const std::string& number, FreeFolder& folder) {
+        for (const FolderTreeLink& link : folder.TreeLinks()) {
+            keeping.Add(number, NameOf(log, link.child), NameOf(log, link.reference));
+        }
+    });
+}
+
+void KeepTieParents(Keeping& keeping) {
+    std::size_t number = 0;
+    ForEachFolder(keeping, [&](const std::string&, FreeFolder& folder) {
+        for (const FolderTreeLink& link : folder.TreeLinks()) {
+            if (link.parent) keeping.Add(std::to_string(number), "", NameOf(keeping.view.Log(), link.parent));
+            ++number;
+        }
+    });
+}
+
+/// The tie as the folder has it now, else a new one; without a reference when something of it is gone.
+/// @param parent  null: it finds the top items.
+FolderTreeLink FindTie(Restoring& restoring, const FreeFolder& folder, const Setting& setting,
+                       const std::string* parent) {
+    CallLog& log = restoring.Log();
+    for (const FolderTreeLink& link : folder.TreeLinks()) {
+        if ((link.parent != nullptr) != (parent != nullptr)) continue;
+        if (parent && NameOf(log, link.parent) != *parent) continue;
+        if (NameOf(log, link.child) == setting.key && NameOf(log, link.reference) == setting.value)
+            return link;
+    }
+    FolderTreeLink link{parent ? restoring.FindSource(*parent) : nullptr, restoring.FindSource(setting.key),
+                        restoring.FindReference(setting.value)};
+    if (parent && !link.parent) restoring.Skip("data source", *parent);
+    if (!link.child) restoring.Skip("data source", setting.key);
+    if (!link.reference) restoring.Skip("data reference", setting.value);
+    if (!link.child || (parent && !link.parent)) link.reference = nullptr;
+    return link;
+}
+
+void RestoreTies(Restoring& restoring, const Settings& settings) {
+    const auto& parents = restoring.tieParents;
+    std::unordered_map<FreeFolder*, std::vector<FolderTreeLink>> ties;
+    for (std::size_t number = 0; number < settings.size(); ++number) {
+        FreeFolder* const folder = restoring.Folder(settings[number].subject);
+        if (!folder) continue;
+        const auto parent = parents.find(std::to_string(number));
+        const FolderTreeLink link = FindTie(restoring, *folder, settings[number],
+                                            parent == parents.end() ? nullptr : &parent->second);
+        if (link.reference) ties[folder].push_back(link);
+    }
+    for (FreeFolder* const folder : restoring.folders) {
+        if (folder) folder->SetTreeLinks(std::move(ties[folder]));
+    }
+}
+
+void RestoreTieParents(Restoring& restoring, const Settings& settings) {
+    for (const Setting& setting : settings) restoring.tieParents[setting.subject] = setting.value;
+}
+
+// ---- Settings of folders and trees ----
+
 void KeepFolderOptions(Keeping& keeping) {
     ForEachFolder(keeping, [&](const std::string& number, FreeFolder& folder) {
         for (const FolderOption& option : folderOptions) {
@@ -202,6 +265,8 @@ void RestoreListOptions(Restoring& restoring, const Settings& settings) {
 const std::vector<SettingKind>& FolderKinds() {
     static const std::vector<SettingKind> kinds = {
         {kind::folder, KeepFolders, RestoreFolders},
+        {kind::tieParent, KeepTieParents, RestoreTieParents},
+        {kind::tie, KeepTies, RestoreTies},
         {kind::folderOption, KeepFolderOptions, RestoreFolderOptions},
         {kind::hiddenType, KeepHiddenTypes, RestoreHiddenTypes},
         {kind::list, KeepLists, RestoreLists},

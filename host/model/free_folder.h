@@ -106,6 +106,8 @@ public:
     const std::vector<FolderTreeLink>& TreeLinks() const { return links_; }
     /// False when the folder has that link.
     bool AddTreeLink(const FolderTreeLink& link);
+    /// Exactly these, each once.
+    void SetTreeLinks(std::vector<FolderTreeLink> links);
     const std::vector<FolderList>& Lists() const { return lists_; }
     FolderList* FindList(const znIBrowserDataSourceSimple* source);
     void AddList(znIBrowserDataSourceSimple& source, bool flag);

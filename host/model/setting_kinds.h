@@ -41,15 +41,18 @@ public:
     /// What was skipped, as one text; "" for nothing.
     std::string Skipped() const;
 
-    // Data sources of the view's data control; null for those that are gone.
+    // Data sources and references of the view's data control; null for those that are gone.
     znIBrowserDataSource* FindSource(const std::string& name) const;
     znIBrowserDataSourceSimple* FindSimple(const std::string& name) const;
     znIBrowserDataSourceHierarchical* FindHierarchical(const std::string& name) const;
+    znIBrowserDataReference* FindReference(const std::string& name) const;
 
     /// The folders by their numbers; null for those that are gone.
     std::vector<FreeFolder*> folders;
     FreeFolder* Folder(const std::string& number) const;
     FolderList* List(const std::string& number) const;
+    /// The names of the ties' parents, by the ties' numbers.
+    std::map<std::string, std::string> tieParents;
     /// The lists by their numbers, each as a folder and a data source; null for those that are gone.
     std::vector<std::pair<FreeFolder*, znIBrowserDataSourceSimple*>> lists;
 

@@ -74,6 +74,8 @@ public:
     const std::vector<znIBrowserDataReference*>& ConnectedReferences() const { return references_; }
     /// The hierarchical sources that this view shares with others.
     const std::vector<Share>& Shares() const { return shares_; }
+    /// Lets the views that share their sources with this one forget it.
+    void EndShares();
     /// False, with an error text, when the share exists.
     bool AddShare(View& other, znIBrowserDataSourceHierarchical& source);
 
@@ -185,6 +187,7 @@ private:
     std::vector<znIBrowserDataSource*> connected_;
     std::vector<znIBrowserDataReference*> references_;
     std::vector<Share> shares_;
+    std::vector<std::weak_ptr<View>> sharers_; ///< Who shared something with this view, perhaps no more.
 
     Selection selection_;
     bool sorting_ = true;

@@ -36,6 +36,7 @@ bool View::AddShare(View& other, znIBrowserDataSourceHierarchical& source) {
         return Fail("The view \"" + Name() + "\" already shares the data source \"" + NameOf(log_, &source) +
                     "\" with the view \"" + other.Name() + "\"");
     }
+    other.sharers_.push_back(weak_from_this());
     shares_.push_back(share);
     Changed(VIEW_ROWS);
     return true;
@@ -82,6 +83,13 @@ void View::Forget(const znIBrowserDataOperation& operation) {
 
 void View::Forget(const View& other) {
     RemoveWhere(shares_, [&](const Share& share) { return share.second == &other; });
+}
+
+void View::EndShares() {
+    for (const std::weak_ptr<View>& sharer : sharers_) {
+        if (const std::shared_ptr<View> view = sharer.lock()) view->Forget(*this);
+    }
+    sharers_.clear();
 }
 
 bool View::Uses(znIBrowserDataSource& source) const {

@@ -125,16 +125,6 @@ void Window::Post(bool posted) {
     Fire(posted ? EventKind::Posted : EventKind::Unposted);
 }
 
-void Window::Forget(const Window& other) {
-    for (WindowPart* const part : AllParts()) {
-        for (std::size_t i = 0; i < eventKinds; ++i) {
-            for (const auto& callback : part->Event(static_cast<EventKind>(i)).Callbacks()) {
-                if (callback->ActionWindow() == &other) callback->SetActionWindow(nullptr);
-            }
-        }
-    }
-}
-
 /// Null when the part is not one of this window.
 WindowPart* Window::Own(znIBrowserWindowPart* part) const {
     WindowPart* const own = static_cast<WindowPart*>(part);

@@ -74,8 +74,6 @@ public:
     /// Ends the window's life: lets go of its view, rows and parts.
     void Close();
     bool IsClosed() const { return closed_; }
-    /// Lets go of another window, which is about to be closed.
-    void Forget(const Window& other);
 
     void OnViewChanged(unsigned changes) override;
     void OnExpanded(FreeFolder& folder, znIBrowserDataSourceSimple* list, bool expanded,

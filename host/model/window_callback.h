@@ -5,6 +5,7 @@
 #include "host/znIBrowserWindowCallback.h"
 #include "model/host_call.h"
 
+#include <memory>
 #include <string>
 
 namespace znhost {
@@ -20,8 +21,9 @@ public:
 
     const std::string& Name() const { return name_; }
     bool IsWindowOperation() const { return isWindowOperation_; }
-    Window* ActionWindow() const { return actionWindow_; }
-    void SetActionWindow(Window* window) { actionWindow_ = window; }
+    /// Null when there is none, or none any more.
+    Window* ActionWindow() const;
+    void SetActionWindow(Window* window);
     ZNBROWSER_CALLBACK_OPERATION Operation() const { return operation_; }
     void SetOperation(ZNBROWSER_CALLBACK_OPERATION operation) { operation_ = operation; }
 
@@ -34,7 +36,7 @@ private:
     WindowEvent& event_;
     const std::string name_;
     const bool isWindowOperation_;
-    Window* actionWindow_ = nullptr;
+    std::weak_ptr<Window> actionWindow_;
     ZNBROWSER_CALLBACK_OPERATION operation_ = ZNBROWSER_CALLBACK_UNDEFINED;
 };
 

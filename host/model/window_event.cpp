@@ -39,9 +39,18 @@ const char* WindowCallback::GetName() const {
     return name_.c_str();
 }
 
+Window* WindowCallback::ActionWindow() const {
+    const std::shared_ptr<Window> window = actionWindow_.lock();
+    return window && !window->IsClosed() ? window.get() : nullptr;
+}
+
+void WindowCallback::SetActionWindow(Window* window) {
+    actionWindow_ = window ? window->weak_from_this() : std::weak_ptr<Window>();
+}
+
 znIBrowserWindowAccess* WindowCallback::GetActionWindow() {
     if (Refused("znIBrowserWindowCallback::GetActionWindow")) return nullptr;
-    return actionWindow_;
+    return ActionWindow();
 }
 
 ZNBROWSER_CALLBACK_OPERATION WindowCallback::GetOperation() const {

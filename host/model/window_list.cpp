@@ -12,7 +12,6 @@ WindowList::~WindowList() {
 
 void WindowList::Delete(Window& window) {
     if (current_ == &window) current_ = nullptr;
-    for (const auto& other : windows_) other->Forget(window);
     const std::shared_ptr<Window> held = windows_.Remove(window);
     window.Close();
 }

@@ -71,6 +71,11 @@ znIBrowserDataSourceHierarchical* Restoring::FindHierarchical(const std::string&
     return control ? control->FindDataSourceHierarchical(name.c_str()) : nullptr;
 }
 
+znIBrowserDataReference* Restoring::FindReference(const std::string& name) const {
+    znIBrowserDataCtrl* const control = Shown().DataControl();
+    return control ? control->FindDataReference(name.c_str()) : nullptr;
+}
+
 FreeFolder* Restoring::Folder(const std::string& number) const {
     const std::size_t place = NumberOf(number);
     return place < folders.size() ? folders[place] : nullptr;

@@ -99,12 +99,17 @@ struct DrawnColumn {
     }
 };
 
+/// Rows below this depth are not drawn further to the right: each tells its depth, counted from 0, instead.
+constexpr std::size_t deepestIndent = 40;
+
 /// The text of a row, below and to the right of what it lies in.
 DrawnText TreeText(const RowLook& look, const std::string& text) {
     DrawnText drawn(text);
-    const std::size_t indent = 2 * std::size_t{look.depth};
-    drawn.text.insert(0, std::string(indent, ' ') + (look.expanded ? "▾ " : look.hasRows ? "▸ " : "  "));
-    drawn.places += indent + 2;
+    const std::size_t depth{look.depth};
+    std::string before(2 * std::min(depth, deepestIndent), ' ');
+    if (depth > deepestIndent) before += std::to_string(depth) + " ";
+    drawn.places += before.size() + 2;
+    drawn.text.insert(0, before + (look.expanded ? "▾ " : look.hasRows ? "▸ " : "  "));
     return drawn;
 }
 

@@ -36,6 +36,15 @@ std::vector<DataProperty*> BaseSource::ColumnProperties() {
     return properties;
 }
 
+std::vector<DataProperty*> BaseSource::MissingProperties() const {
+    std::vector<DataProperty*> missing;
+    for (const auto& [name, property] : columnProperties_) {
+        const auto column = table_ ? table_->FindColumn(name) : std::nullopt;
+        if (!column || table_->columns[*column].name != name) missing.push_back(property.get());
+    }
+    return missing;
+}
+
 DataProperty* BaseSource::FindColumnProperty(std::string_view name) {
     LookAgain(); // the table last known will do
     if (!table_) return nullptr;

@@ -9,7 +9,8 @@
 namespace znhost {
 
 /// A table or a view. Each of its columns is an attribute property from the start, named as the column. When
-/// the table is dropped the source stays, without rows, and comes to life again with a table of that name.
+/// the table is dropped all that is made of the source lets go of it. The object itself stays, without rows,
+/// and comes to life again with a table of that name.
 class BaseSource final : public SimpleSource {
 public:
     BaseSource(DataCtrl& control, std::string name) : SimpleSource(control, std::move(name)) {}
@@ -17,6 +18,8 @@ public:
     /// The table as it was when the control last looked; null while there is none.
     const Schema::TablePtr& Table() const { return table_; }
     void SetTable(Schema::TablePtr table);
+    /// The properties of columns that the table had once and has not now.
+    std::vector<DataProperty*> MissingProperties() const;
     /// As `ReadColumn` of the source; a place in its own table.
     bool ReadValue(std::int64_t row, std::size_t column, const std::function<void(Statement&)>& take);
 
@@ -39,7 +42,7 @@ private:
 
     Schema::TablePtr table_;
     std::vector<std::string> valueSql_; // by column, made when first needed
-    // Those of columns that have gone are kept: views may be connected to them.
+    // Those of columns that have gone are kept, for when these come back.
     std::unordered_map<std::string, std::shared_ptr<DataProperty>> columnProperties_;
 };
 

@@ -49,10 +49,14 @@ bool CustomSource::RemoveBase(BaseSource& base) {
     if (!Contains(bases_, &base)) {
         return FailWith("The data source \"" + Name() + "\" is not connected to \"" + base.Name() + "\"");
     }
-    RemoveAll(bases_, &base);
-    if (chosen_ == &base) chosen_ = nullptr;
+    Forget(base);
     Control().ItemsChanged();
     return true;
+}
+
+void CustomSource::Forget(const BaseSource& base) {
+    RemoveAll(bases_, const_cast<BaseSource*>(&base));
+    if (chosen_ == &base) chosen_ = nullptr;
 }
 
 bool CustomSource::ChooseBase(BaseSource& base) {

@@ -18,6 +18,8 @@ public:
     /// The base to which settings refer; null for all.
     BaseSource* ChosenBase() const { return chosen_; }
     std::vector<BaseSource*> BasesOfSettings() const;
+    /// Lets go of a base whose table has gone.
+    void Forget(const BaseSource& base);
 
     std::vector<RowPart> Parts() override;
     BaseSource* BaseAt(std::size_t slot) override;

@@ -34,6 +34,7 @@ bool DataCtrl::RunSql(const std::string& statement, const std::vector<std::strin
     std::string ignored;
     const bool known = database_->ReadStamp(before, ignored);
     const bool done = database_->Run(statement, bound, rows, error);
+    ForgetMissing();
     if (!known || !database_->ReadStamp(after, ignored) || !after.SameRows(before)) ItemsChanged();
     return done;
 }
@@ -68,9 +69,11 @@ bool DataCtrl::Refresh(std::string& error) {
 }
 
 void DataCtrl::TakeOverTables() {
-    for (BaseSource* const base : bases_) base->SetTable(nullptr);
+    const std::vector<BaseSource*> oldBases = std::move(bases_);
+    const std::vector<DataReference*> oldReferences = std::move(references_);
     bases_.clear();
     references_.clear();
+    for (BaseSource* const base : oldBases) base->SetTable(nullptr);
     for (const auto& known : knownReferences_) known.second->SetKey(nullptr, {});
     for (const Schema::TablePtr& table : schema_.Tables()) {
         const auto make = [&] { return std::make_shared<BaseSource>(*this, table->name); };
@@ -79,6 +82,48 @@ void DataCtrl::TakeOverTables() {
         bases_.push_back(&base);
         TakeOverReferences(*table);
     }
+    NoteGone(oldBases, oldReferences);
+}
+
+void DataCtrl::NoteGone(const std::vector<BaseSource*>& bases,
+                        const std::vector<DataReference*>& references) {
+    for (BaseSource* const base : bases) {
+        if (!base->Table() || !base->MissingProperties().empty()) goneBases_.push_back(base);
+    }
+    for (DataReference* const reference : references) {
+        if (!reference->IsThere()) goneReferences_.push_back(reference);
+    }
+}
+
+void DataCtrl::ForgetMissing() {
+    std::string ignored;
+    if (!Refresh(ignored) || database_->InTransaction()) return;
+    while (!goneBases_.empty()) {
+        BaseSource& base = *goneBases_.back();
+        goneBases_.pop_back(); // first: what is told of may run scripts
+        Forget(base);
+    }
+    while (!goneReferences_.empty()) {
+        DataReference& reference = *goneReferences_.back();
+        goneReferences_.pop_back();
+        if (!reference.IsThere()) Forget(reference);
+    }
+}
+
+/// Lets go of the table if it has gone, else of the columns that have.
+void DataCtrl::Forget(BaseSource& base) {
+    if (base.Table()) {
+        for (DataProperty* const property : base.MissingProperties()) Model().Forget(*property);
+        return;
+    }
+    for (const auto& custom : custom_) custom->Forget(base);
+    for (const auto& hierarchical : hierarchical_) hierarchical->Forget(base);
+    Model().Forget(base.Facet());
+}
+
+void DataCtrl::Forget(DataReference& reference) {
+    for (const auto& hierarchical : hierarchical_) hierarchical->ForgetLooseChildren();
+    Model().Forget(reference);
 }
 
 /// A reference is named by the table and the first column of its key. Keys that begin with the same column
@@ -162,6 +207,7 @@ std::vector<SimpleSource*> DataCtrl::SimpleSources() const {
 void DataCtrl::GetDataSourcesSimple(std::vector<znIBrowserDataSourceSimple*>& sources) {
     sources.clear();
     if (Refused("znIBrowserDataCtrl::GetDataSourcesSimple")) return;
+    ForgetMissing();
     LookAgain();
     const std::vector<SimpleSource*> all = SimpleSources();
     sources.assign(all.begin(), all.end());
@@ -263,6 +309,7 @@ bool DataCtrl::GetDataSources(std::vector<znIBrowserDataSource*>& sources) {
 bool DataCtrl::GetDataReferences(std::vector<znIBrowserDataReference*>& references) {
     references.clear();
     if (Refused("znIBrowserDataCtrl::GetDataReferences")) return false;
+    ForgetMissing();
     if (!LookAgain()) return false;
     references.assign(references_.begin(), references_.end());
     return true;

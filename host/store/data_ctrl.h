@@ -50,6 +50,9 @@ public:
     /// Brings sources and references up to date with the tables. @return false, with the reason, when the
     /// database cannot be read at present: they stay as they were.
     bool Refresh(std::string& error);
+    /// Makes the views and the other sources let go of tables, columns and references that the database lost:
+    /// not while a transaction may still bring them back, and never in the middle of a question.
+    void ForgetMissing();
     /// Tells the views that items came, went or changed.
     void ItemsChanged();
     /// Whether a view shows the source or another source is made of it.
@@ -104,6 +107,9 @@ private:
     /// All that are there, as the tables were when last looked at.
     std::vector<SimpleSource*> SimpleSources() const;
     void TakeOverTables();
+    void NoteGone(const std::vector<BaseSource*>& bases, const std::vector<DataReference*>& references);
+    void Forget(BaseSource& base);
+    void Forget(DataReference& reference);
     void TakeOverReferences(const Table& table);
 
     Application& application_;
@@ -118,6 +124,9 @@ private:
     std::unordered_map<std::string, std::shared_ptr<DataReference>> knownReferences_;
     std::vector<BaseSource*> bases_;
     std::vector<DataReference*> references_;
+    // What has gone, or has columns that have, and is still to be let go of.
+    std::vector<BaseSource*> goneBases_;
+    std::vector<DataReference*> goneReferences_;
 
     NamedList<CustomSource> custom_;
     NamedList<HierarchicalSource> hierarchical_;

@@ -23,11 +23,16 @@ bool HierarchicalSource::Has(const SimpleSource& source) const {
     return Contains(Members(), const_cast<SimpleSource*>(&source));
 }
 
-// A source whose own parent is the one that goes loses its place in the tree with it, so what hung on it is
-// taken out too.
 void HierarchicalSource::Forget(const SimpleSource& source) {
     if (parent_ == &source) parent_ = nullptr;
     RemoveWhere(children_, [&source](const Child& child) { return child.source == &source; });
+    ForgetLooseChildren();
+}
+
+// A source whose own parent is the one that goes loses its place in the tree with it, so what hung on it is
+// taken out too.
+void HierarchicalSource::ForgetLooseChildren() {
+    RemoveWhere(children_, [](const Child& child) { return !child.reference->IsThere(); });
     for (std::size_t i = 0; parent_ && i < children_.size();) {
         if (FindMember(*children_[i].source, *children_[i].reference)) {
             ++i;

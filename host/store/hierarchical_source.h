@@ -31,8 +31,10 @@ public:
     std::vector<SimpleSource*> Members() const;
     /// The ties as they stand with the present tables.
     std::vector<RowLink> Links();
-    /// Lets go of a source that is about to be deleted.
+    /// Lets go of a source that is about to be deleted, or whose table has gone.
     void Forget(const SimpleSource& source);
+    /// Takes out the children that hang on nothing any more, and those whose tie has gone.
+    void ForgetLooseChildren();
 
     const char* GetName() const override;
     bool IsConnected() const override;

@@ -49,6 +49,12 @@ inline constexpr const char* option = "option";
 /// A free folder: its name; its parent's number, "" for the root; its tree's name, "" for none. A parent
 /// before its children.
 inline constexpr const char* folder = "folder";
+/// A data reference that ties a folder's tree: the folder's number; the name of the data source whose items
+/// it finds; the reference's name. In their order.
+inline constexpr const char* tie = "tie";
+/// Where a reference finds children: its place among the ties, from 0; nothing; the name of the parents' data
+/// source. None: it finds the top items.
+inline constexpr const char* tieParent = "tie parent";
 /// What is either on or off in a folder: the folder's number; the name; whether it is on.
 inline constexpr const char* folderOption = "folder option";
 /// What a folder's tree does not show: the folder's number; the data source's name; nothing.

@@ -160,6 +160,7 @@ bool SimpleSource::DisconnectBase(znIBrowserDataSourceSimple* base) {
 bool SimpleSource::GetBaseDataSources(std::vector<znIBrowserDataSourceSimple*>& bases) {
     bases.clear();
     if (Refused("znIBrowserDataSourceSimple::GetBaseDataSources")) return false;
+    control_.ForgetMissing();
     if (!IsCustomSource()) return true;
     for (BaseSource* const base : Bases()) bases.push_back(base);
     return true;

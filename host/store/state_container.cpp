@@ -5,6 +5,7 @@
 #include "store/setting.h"
 
 #include <algorithm>
+#include <set>
 
 namespace znhost {
 
@@ -62,13 +63,22 @@ bool State::ReadFolders(Settings& folders) const {
     return true;
 }
 
+/// A tree's name, then the data references that tie it; "" for no tree.
 bool State::GetFolderTrees(std::map<znString, znString>& trees) {
     trees.clear();
     if (Refused("znIBrowserState::GetFolderTrees")) return false;
-    Settings folders;
-    if (!ReadFolders(folders)) return false;
+    Settings folders, ties;
+    if (!ReadFolders(folders) || !Read(kind::tie, ties)) return false;
     for (const Setting& folder : folders) {
         if (!folder.value.empty()) trees[folder.subject] = folder.value;
+    }
+    std::set<std::pair<std::size_t, std::string>> named; // a reference may find top items and children
+    for (const Setting& tie : ties) {
+        const std::size_t number = NumberOf(tie.subject);
+        if (number >= folders.size() || !named.emplace(number, tie.value).second) continue;
+        znString& tree = trees[folders[number].subject];
+        if (!tree.empty()) tree += ' ';
+        tree += tie.value.c_str();
     }
     return true;
 }

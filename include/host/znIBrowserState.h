@@ -25,7 +25,8 @@ public:
     virtual bool GetTreeAreaColumnVisibility(std::map<znString, bool>& visibility) = 0;
     /// The host's options by name: what is switched on or off in the window and its view.
     virtual bool GetOptions(std::map<znString, bool>& options) = 0;
-    /// Folder name to the name of the folder's tree.
+    /// Folder name to the name of the folder's tree; of one that data references tie, to theirs, with blanks
+    /// between.
     virtual bool GetFolderTrees(std::map<znString, znString>& trees) = 0;
     /// Folder name to the names of the folder's lists.
     virtual bool GetFolderLists(std::map<znString, std::vector<znString>>& lists) = 0;

@@ -44,9 +44,17 @@ protected:
 };
 
 TEST_F(SavedStates, WhatIsSkippedIsNamedInTheErrorText) {
+    Do("app sql d {CREATE TABLE bolt (id INTEGER PRIMARY KEY, part INTEGER REFERENCES part)}");
+    Do("view folder current v");
+    Do("view folder create tied");
+    Do("view folder tree toplevel part part.up");
+    Do("view folder tree parentchild part bolt bolt.part");
     const std::vector<std::pair<std::string, std::string>> things = {
-        {"view folder current v", "view folder delete f"},  {"view column create c", "view column delete"},
-        {"view property create p", "view property delete"}, {"window part create t", "window part delete"},
+        {"view folder current v", "app sql d {DROP TABLE bolt}"},
+        {"view folder current v", "view folder delete f"},
+        {"view column create c", "view column delete"},
+        {"view property create p", "view property delete"},
+        {"window part create t", "window part delete"},
         {"window map create m", "window map delete"},
     };
     for (const auto& [make, ignored] : things) Do(make);
@@ -56,7 +64,8 @@ TEST_F(SavedStates, WhatIsSkippedIsNamedInTheErrorText) {
     for (const auto& [ignored, remove] : things) Do(remove);
     for (int round = 0; round < 2; ++round) {
         EXPECT_TRUE(Model().RestoreState(&Saved(), TheWindow()));
-        EXPECT_EQ(Error(), "Not restored, as it does not exist any more: folder \"f\", column \"c\", "
+        EXPECT_EQ(Error(), "Not restored, as it does not exist any more: folder \"f\", data source \"bolt\", "
+                           "data reference \"bolt.part\", column \"c\", "
                            "view property \"p\", GUI map \"m\", window part \"t\"");
     }
 }
