@@ -60,6 +60,8 @@ public:
         EXPECT_TRUE(host_->App().DataControls().Find("m")->Db().RunScript(model, error)) << error;
     }
 
+    znhost::EmbeddedHost& Host() { return *host_; }
+    znBrowserManagerTcl& Manager() { return host_->Manager(); }
     znhost::CallLog& Log() { return host_->Calls(); }
     void Open() { script_.Eval("run $opening"); }
     void Run(const std::string& section) { script_.Eval("run [dict get $sections " + section + "]"); }
