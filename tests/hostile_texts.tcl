@@ -6,9 +6,10 @@ namespace eval hostile {
     proc bytes {hex} {encoding convertfrom identity [binary decode hex $hex]}
 
     # ---- Characters ----
+    # Tcl holds a character beyond the basic plane as a pair of surrogates. It reads \U1F600 as another one.
     variable texts [dict create \
         emoji           "\ud83d\ude00 smile" \
-        emojiOfFour     [bytes f09f9880] ;# as the database holds it, not Tcl \
+        emojiOfFour     [bytes f09f9880] \
         combining       "e\u0301a\u030a\u0327" \
         sharpS          "Stra\u00dfe" \
         turkishI        "\u0130\u0131I" \
