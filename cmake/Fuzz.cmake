@@ -10,6 +10,7 @@ if(sources AND TARGET zn_objects AND TARGET znbrowserhost)
         add_executable(command_fuzz ${sources} "${PROJECT_SOURCE_DIR}/fuzz/replay.cpp")
         add_test(NAME fuzz/corpus COMMAND command_fuzz "${PROJECT_SOURCE_DIR}/fuzz/corpus")
     endif()
+    target_compile_definitions(command_fuzz PRIVATE ZN_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     target_include_directories(command_fuzz PRIVATE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/src")
     target_link_libraries(command_fuzz PRIVATE
         zn_objects znbrowserhost zn_tcl "${ZN_TCL_STUB_LIBRARY}" SQLiteCpp sqlite3)

@@ -3,6 +3,10 @@
 
 include(GoogleTest)
 
+# What Tk and the display's libraries keep for good.
+set(zn_tk_environment
+    "LSAN_OPTIONS=print_suppressions=0:suppressions=${PROJECT_SOURCE_DIR}/tests/tk/leaks.supp")
+
 zn_find_sources(sources tests/*_test.cpp)
 if(sources AND TARGET zn_objects AND TARGET znbrowserhost)
     add_executable(znbrowsertest ${sources})
@@ -12,7 +16,12 @@ if(sources AND TARGET zn_objects AND TARGET znbrowserhost)
     target_compile_options(znbrowsertest PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_link_libraries(znbrowsertest PRIVATE
         zn_objects znbrowserhost zn_tcl "${ZN_TCL_STUB_LIBRARY}" GTest::gtest_main)
-    gtest_discover_tests(znbrowsertest DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES)
+    gtest_discover_tests(znbrowsertest DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES TEST_FILTER "-*OnDisplay*")
+    foreach(suite OnDisplay/AllocationSweep FaultSweepOnDisplay)
+        add_test(NAME "tk/${suite}" COMMAND "${PROJECT_SOURCE_DIR}/tests/tk/on_display.sh"
+            $<TARGET_FILE:znbrowsertest> "--gtest_filter=*${suite}.*")
+        set_tests_properties("tk/${suite}" PROPERTIES TIMEOUT 300 ENVIRONMENT "${zn_tk_environment}")
+    endforeach()
 endif()
 
 if(TARGET znbrowsersh)
@@ -25,7 +34,7 @@ if(TARGET znbrowsersh)
         endif()
         add_test(NAME "${name}" COMMAND ${shell} "${PROJECT_SOURCE_DIR}/tests/all.tcl" "${script}")
         set_tests_properties("${name}" PROPERTIES TIMEOUT 300 ENVIRONMENT
-            "LSAN_OPTIONS=print_suppressions=0:suppressions=${PROJECT_SOURCE_DIR}/tests/tk/leaks.supp")
+            "${zn_tk_environment}")
     endforeach()
 
     zn_find_sources(outputs tests/examples/*.out)

@@ -1,43 +1,26 @@
-// Fuzzes the command: any words, in any order, on a fresh embedded host.
+// Fuzzes the command: any words, in any order, on a fresh embedded host; see input.h for what an input says.
 //
-// An input is lines; a line is a command, its words stand between blanks. Most bytes stand for themselves, so
-// a corpus file reads like a script. The bytes that UTF-8 never has are escapes: 0xF8 to 0xFA and the byte
-// behind take a word from the tables of keywords, names and numbers, 0xFB grows a word, 0xFC and 0xFD are a
-// blank and a line end inside a word. A NUL is what Tcl makes of it, C0 80. An input that begins with "+"
-// starts from a view and its window, one that begins with "*" from a furnished one, any other from nothing.
+// An input that begins with "+" starts from a view and its window, one that begins with "*" from a furnished
+// one. The letter of a hostile database (see hostile_databases.cpp) starts it in the default browser on that,
+// and its rows are read and drawn at the end. Any other starts from nothing. A "~" before that puts the run
+// into a foreign locale.
 //
 // Scripts inside host calls: the word "again" is a Tcl command that runs the next line of the input. As the
 // script of an operation, a listener, a callback or a property it makes the command run inside itself.
 #include "fuzz/fenced_host.h"
+#include "fuzz/hostile_databases.h"
+#include "fuzz/input.h"
 #include "host/znIBrowserPopupMenu.h"
 #include "host/znIBrowserPopupMenuItem.h"
-#include "src/frame/keyword_table.h"
 #include "tests/faults/living_objects.h"
 
+#include <clocale>
 #include <cstdint>
-#include <cstdio>
+#include <cstdlib>
 #include <cstring>
-#include <iterator>
-#include <sstream>
 #include <string_view>
 
-using namespace znlayer;
-
 namespace {
-
-/// The words of a text.
-std::vector<std::string> Split(const char* text) {
-    std::istringstream stream(text);
-    return {std::istream_iterator<std::string>(stream), {}};
-}
-
-const std::vector<std::string> names = Split(
-    "gearbox part assembly feature heavy_part own structure v w win pane title released mass name Name c2 s "
-    "e f g op "
-    "default value again saved POSTED SELECTION_CHANGED WINDOW_OPERATION part.assembly_id assembly.parent_id "
-    "feature.part_id TREE_AREA_SELECT_CHILDREN_ITEMS equalto id>?");
-const std::vector<std::string> numbers = Split("0 1 2 3 5 7 -1 4294967295 2147483647 -2147483648 1e9 1.5 "
-                                               "0x10 4294967296 99999999999999999999 nan 1e999 08 +4");
 
 /// What an input may start from: a view on the gearbox with a tree, and a window that shows it.
 constexpr char opening[] = "datactrl current gearbox\n"
@@ -84,96 +67,48 @@ constexpr char furniture[] = "datasource simple create own Own name\n"
                              "window part create part\n"
                              "window listener connect again\n";
 
-/// The words of a command.
-using Line = std::vector<std::string>;
+/// What is asked of a window on a hostile database when the input has ended.
+constexpr char readings[] = "window current gearbox\n"
+                            "window expandall\n"
+                            "app rows gearbox\n"
+                            "app draw gearbox\n";
 
-/// The lines of one input, handed out one by one: to the top level, or to a script inside a host call.
-class Input {
-public:
-    explicit Input(std::string_view text) : rest_(text) {}
-
-    bool Ended() const { return rest_.empty(); }
-    /// The words of the next line.
-    Line NextLine() {
-        Line words;
-        words.reserve(12);
-        words.emplace_back("znbrowsermanager");
-        bool inWord = false;
-        while (!rest_.empty()) {
-            const std::size_t plain = std::min(rest_.find_first_of(special), rest_.size());
-            if (plain > 0) {
-                if (!inWord) words.emplace_back();
-                inWord = true;
-                words.back().append(rest_, 0, plain);
-                rest_.remove_prefix(plain);
-                continue;
-            }
-            const char byte = Take();
-            if (byte == '\n') break;
-            if (byte == ' ') {
-                inWord = false;
-                continue;
-            }
-            if (!inWord) words.emplace_back();
-            inWord = true;
-            AppendSpecial(words.back(), byte);
-        }
-        return words;
-    }
-
-private:
-    static constexpr std::string_view special{"\0 \n\xF8\xF9\xFA\xFB\xFC\xFD", 9};
-
-    char Take() {
-        const char byte = rest_.front();
-        rest_.remove_prefix(1);
-        return byte;
-    }
-    std::size_t TakeIndex(std::size_t count) {
-        return rest_.empty() ? 0 : static_cast<std::uint8_t>(Take()) % count;
-    }
-    void AppendSpecial(std::string& word, char byte) {
-        constexpr std::size_t longest = 1 << 16;
-        switch (static_cast<std::uint8_t>(byte)) {
-        case 0: word += "\xC0\x80"; break;
-        case 0xF8: word += keyword_table::rows[TakeIndex(std::size(keyword_table::rows))].spelling; break;
-        case 0xF9: word += names[TakeIndex(names.size())]; break;
-        case 0xFA: word += numbers[TakeIndex(numbers.size())]; break;
-        case 0xFB: word.resize(std::min((word.size() + 1) * 64, longest), 'x'); break;
-        case 0xFC: word += ' '; break;
-        default: word += '\n';
-        }
-    }
-
-    std::string_view rest_;
-};
-
-void RunLine(Tcl_Interp* interp, const Line& words) {
+void RunLine(FencedHost& fenced, const Line& words) {
     std::vector<Tcl_Obj*> objects;
     objects.reserve(words.size());
-    for (const std::string& word : words) {
-        objects.push_back(Tcl_NewStringObj(word.data(), static_cast<int>(word.size())));
-        Tcl_IncrRefCount(objects.back());
+    bool hasNull = false;
+    for (const Word& word : words) {
+        hasNull |= word.isNull;
+        objects.push_back(
+            word.isNull ? nullptr : Tcl_NewStringObj(word.text.data(), static_cast<int>(word.text.size())));
+        if (objects.back()) Tcl_IncrRefCount(objects.back());
     }
-    Tcl_EvalObjv(interp, static_cast<int>(objects.size()), objects.data(), TCL_EVAL_GLOBAL);
-    for (Tcl_Obj* const object : objects) Tcl_DecrRefCount(object);
+    // The command turns the words of "app" around in the array that it is given.
+    std::vector<Tcl_Obj*> passed = objects;
+    const int count = static_cast<int>(passed.size());
+    if (hasNull) // Tcl itself takes none
+        fenced.Host().Manager().EvalTclCommand(count, passed.data());
+    else
+        Tcl_EvalObjv(fenced.Interp(), count, passed.data(), TCL_EVAL_GLOBAL);
+    for (Tcl_Obj* const object : objects) {
+        if (object) Tcl_DecrRefCount(object);
+    }
 }
 
-void RunLines(Tcl_Interp* interp, const std::vector<Line>& lines) {
-    for (const Line& line : lines) RunLine(interp, line);
+void RunLines(FencedHost& fenced, const std::vector<Line>& lines) {
+    for (const Line& line : lines) RunLine(fenced, line);
 }
 
-/// The lines of a text, read once.
-std::vector<Line> LinesOf(std::string_view text) {
-    std::vector<Line> lines;
-    for (Input input(text); !input.Ended();) lines.push_back(input.NextLine());
-    return lines;
-}
+/// One run: what is left of its input, and the host.
+struct Run {
+    Input input;
+    FencedHost* fenced = nullptr;
+};
 
 /// The Tcl command "again".
-int RunNextLine(ClientData input, Tcl_Interp* interp, int, Tcl_Obj* const[]) {
-    Input& lines = *static_cast<Input*>(input);
-    if (!lines.Ended()) RunLine(interp, lines.NextLine());
+int RunNextLine(ClientData data, Tcl_Interp* interp, int, Tcl_Obj* const[]) {
+    Run& run = *static_cast<Run*>(data);
+    if (run.fenced && !run.input.Ended()) RunLine(*run.fenced, run.input.NextLine());
     Tcl_SetObjResult(interp, Tcl_NewStringObj("v", 1));
     return TCL_OK;
 }
@@ -184,14 +119,56 @@ void TouchCurrents(znhost::EmbeddedHost& host) {
                   [&host](const char*, auto* current) { znhost::NameOf(host.Calls(), current); });
 }
 
-void WriteDictionary(const char* path) {
-    std::FILE* const file = std::fopen(path, "w");
-    if (!file) std::abort();
-    std::fputs("# Written by \"./dev fuzz dictionary\" from the keyword table.\n", file);
-    for (const KeywordRow& row : keyword_table::rows)
-        std::fprintf(file, "\"%.*s \"\n", static_cast<int>(row.spelling.size()), row.spelling.data());
-    for (const std::string& name : names) std::fprintf(file, "\"%s \"\n", name.c_str());
-    std::fclose(file);
+/// Reads the rows that a window on a hostile database shows at the end. A page of it must fit into memory
+/// many times over, whatever the cells hold.
+void ReadRows(FencedHost& fenced) {
+    static const std::vector<Line> lines = LinesOf(readings);
+    constexpr int longest = 1 << 19;
+    for (const Line& line : lines) {
+        RunLine(fenced, line);
+        int length = 0;
+        Tcl_GetStringFromObj(Tcl_GetObjResult(fenced.Interp()), &length);
+        if (length > longest) Die(std::to_string(length) + " bytes for a page of rows");
+    }
+}
+
+/// Letters with another lower case, numbers with a comma, file names in Latin-1.
+class ForeignLocale {
+public:
+    ForeignLocale() : encoding_(Tcl_GetEncodingName(nullptr)) {
+        if (!std::setlocale(LC_ALL, "tr_TR.UTF-8")) std::setlocale(LC_ALL, "C.UTF-8");
+        Tcl_SetSystemEncoding(nullptr, "iso8859-1");
+    }
+    ~ForeignLocale() {
+        std::setlocale(LC_ALL, "C");
+        Tcl_SetSystemEncoding(nullptr, encoding_.c_str());
+    }
+    ForeignLocale(const ForeignLocale&) = delete;
+    ForeignLocale& operator=(const ForeignLocale&) = delete;
+
+private:
+    std::string encoding_;
+};
+
+void RunInput(std::string_view text) {
+    static const std::vector<Line> openingLines = LinesOf(opening), furnitureLines = LinesOf(furniture);
+    const char start = text.empty() ? '\0' : text.front();
+    const DatabaseImage& image = DatabaseImageOf(start);
+    const bool furnished = start == '*', opened = furnished || start == '+';
+    if (opened || image.IsHostile()) text.remove_prefix(1);
+    Run run{Input(text)};
+    FencedHost fenced(image, &RunNextLine, &run);
+    if (opened) RunLines(fenced, openingLines);
+    if (furnished) RunLines(fenced, furnitureLines);
+    if (image.IsHostile()) fenced.Browse();
+    run.fenced = &fenced;
+    while (!run.input.Ended()) {
+        RunLine(fenced, run.input.NextLine());
+        fenced.RunDue();
+    }
+    if (image.IsHostile()) ReadRows(fenced);
+    TouchCurrents(fenced.Host());
+    run.fenced = nullptr;
 }
 
 } // namespace
@@ -211,19 +188,13 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const std::vector<Line> openingLines = LinesOf(opening), furnitureLines = LinesOf(furniture);
+    FencedHost::Prepare();
     std::string_view text(reinterpret_cast<const char*>(data), size);
-    const char start = text.empty() ? '\0' : text.front();
-    const bool furnished = start == '*', opened = furnished || start == '+';
-    if (opened) text.remove_prefix(1);
-    Input input(text);
-    FencedHost fenced(&RunNextLine, &input);
-    if (opened) RunLines(fenced.Interp(), openingLines);
-    if (furnished) RunLines(fenced.Interp(), furnitureLines);
-    while (!input.Ended()) {
-        RunLine(fenced.Interp(), input.NextLine());
-        fenced.RunDue();
+    if (text.empty() || text.front() != '~') {
+        RunInput(text);
+        return 0;
     }
-    TouchCurrents(fenced.Host());
+    const ForeignLocale foreign;
+    RunInput(text.substr(1));
     return 0;
 }

@@ -1,68 +1,20 @@
 #include "fuzz/fenced_host.h"
 
+#include "fuzz/hostile_databases.h"
 #include "host/model/application.h"
 #include "host/store/data_ctrl.h"
+#include "host/tk/tk_scripts.h"
 
 #include <sanitizer/asan_interface.h>
 #include <sqlite3.h>
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <memory_resource>
 #include <string>
 #include <utility>
 
 namespace {
-
-[[noreturn]] void Die(const std::string& reason) {
-    std::fprintf(stderr, "fuzz: %s\n", reason.c_str());
-    std::abort();
-}
-
-/// The tables of the gearbox that hang together, with few columns and few rows: reading the tables takes most
-/// of the time of a run.
-constexpr char tables[] =
-    "CREATE TABLE assembly (id INTEGER PRIMARY KEY, parent_id INTEGER REFERENCES assembly (id), name TEXT, "
-    "code TEXT);"
-    "CREATE TABLE part (id INTEGER PRIMARY KEY, assembly_id INTEGER REFERENCES assembly (id), name TEXT, "
-    "mass REAL,"
-    " colour INTEGER, released BOOLEAN);"
-    "CREATE TABLE feature (id INTEGER PRIMARY KEY, part_id INTEGER REFERENCES part (id), name TEXT, diameter "
-    "REAL);"
-    "CREATE VIEW heavy_part AS SELECT id, name, mass FROM part WHERE mass >= 1;"
-    "INSERT INTO assembly VALUES (1, NULL, 'Gearbox', 'GB'), (2, 1, 'Housing', 'GB-HOU'), (3, 2, 'Rear "
-    "cover', NULL);"
-    "INSERT INTO part VALUES (1, 2, 'Main case', 11.5, 255, 1), (2, 3, 'bolt', 0.02, NULL, 0), (3, NULL, '', "
-    "NULL, 0, NULL);"
-    "INSERT INTO feature VALUES (1, 1, 'hole 1', 8.5), (2, 1, 'hole 2', 8.5), (3, 2, 'thread', 8)";
-
-/// The small gearbox as the bytes of a database file.
-class SmallGearbox {
-public:
-    SmallGearbox() {
-        sqlite3* database = nullptr;
-        sqlite3_open(":memory:", &database);
-        if (sqlite3_exec(database, tables, nullptr, nullptr, nullptr)) Die(sqlite3_errmsg(database));
-        bytes_ = sqlite3_serialize(database, "main", &size_, 0);
-        sqlite3_close(database);
-    }
-    ~SmallGearbox() { sqlite3_free(bytes_); }
-    SmallGearbox(const SmallGearbox&) = delete;
-    SmallGearbox& operator=(const SmallGearbox&) = delete;
-
-    void CopyTo(sqlite3* database) const {
-        auto* const copy = static_cast<unsigned char*>(sqlite3_malloc64(static_cast<sqlite3_uint64>(size_)));
-        std::memcpy(copy, bytes_, static_cast<std::size_t>(size_));
-        constexpr unsigned own = SQLITE_DESERIALIZE_FREEONCLOSE | SQLITE_DESERIALIZE_RESIZEABLE;
-        if (sqlite3_deserialize(database, "main", copy, size_, size_, own)) Die(sqlite3_errmsg(database));
-    }
-
-private:
-    unsigned char* bytes_ = nullptr;
-    sqlite3_int64 size_ = 0;
-};
 
 /// SQLite's file system, but for named files, which cannot be opened or deleted.
 void FenceFiles() {
@@ -128,30 +80,73 @@ bool HurrySqlite() {
            sqlite3_config(SQLITE_CONFIG_MALLOC, &memory) == SQLITE_OK;
 }
 
-const SmallGearbox& Gearbox() {
-    static const bool hurries = HurrySqlite();
-    if (!hurries) Die("SQLite is in use already");
-    static const SmallGearbox gearbox;
-    static const bool isFenced = (FenceFiles(), true);
-    static_cast<void>(isFenced);
-    return gearbox;
-}
+/// The steps that SQLite may still make in this run, in thousands.
+int stepsLeft;
 
-/// Ends what runs too long: SQLite asks every 1000 steps.
-void LimitSteps(sqlite3* database, int* left) {
+/// Limits a new connection, whoever opens it, and ends what runs too long: SQLite asks every 1000 steps.
+int LimitConnection(sqlite3* database, char**, const sqlite3_api_routines*) {
     sqlite3_progress_handler(
-        database, 1000, [](void* count) { return --*static_cast<int*>(count) < 0 ? 1 : 0; }, left);
+        database, 1000, [](void*) { return --stepsLeft < 0 ? 1 : 0; }, nullptr);
     sqlite3_limit(database, SQLITE_LIMIT_ATTACHED, 0);
     sqlite3_limit(database, SQLITE_LIMIT_LENGTH, 1 << 20);
+    return SQLITE_OK;
+}
+
+/// Whether the text holds what Tcl makes of a NUL, or of a character beyond the basic plane: both are no
+/// UTF-8.
+bool IsInTclForm(std::string_view text) {
+    for (std::size_t at = 0; (at = text.find_first_of("\xC0\xED", at)) != text.npos; ++at) {
+        const auto byte = [text, at](std::size_t i) {
+            return at + i < text.size() ? static_cast<unsigned char>(text[at + i]) : 0U;
+        };
+        if (byte(0) == 0xC0 && byte(1) == 0x80) return true;
+        if (byte(0) == 0xED && (byte(1) & 0xF0U) == 0xA0 && byte(3) == 0xED && (byte(4) & 0xF0U) == 0xB0)
+            return true;
+    }
+    return false;
+}
+
+/// Looks at each statement as it begins, with the values bound to it: what comes from Tcl must come as UTF-8.
+int LookAtStatement(unsigned, void*, void* statement, void*) {
+    char* const sql = sqlite3_expanded_sql(static_cast<sqlite3_stmt*>(statement));
+    if (sql && IsInTclForm(sql)) Die(std::string("the database is told what is not UTF-8: ") + sql);
+    sqlite3_free(sql);
+    return 0;
+}
+
+/// Whoever calls this took a name of the model for a script.
+int NameThatRan(ClientData, Tcl_Interp*, int, Tcl_Obj* const[]) {
+    Die("a name of the model ran as a script");
+}
+
+/// The default browser, and what the host calls in the applications' scripts.
+void AddScripts(Tcl_Interp* interp) {
+    Tcl_Eval(interp, R"(
+        proc value {item} {return v}
+        proc ignore args {}
+        interp bgerror {} ignore
+        proc puts args {}
+        proc tcl::mathfunc::min args {lindex [lsort -real $args] 0}
+        proc tcl::mathfunc::max args {lindex [lsort -real $args] end}
+        namespace eval znbrowser {
+            proc ResetSelectedFreeFoldersArray {} {}
+            proc AddToSelectedFreeFoldersArray {name} {}
+            proc UpdatePopupInputScript {script} {}
+        })");
+    for (const znhost::TkScript& script : znhost::TkScripts()) {
+        if (script.file != "default_browser.tcl") continue;
+        if (Tcl_EvalEx(interp, script.text.data(), static_cast<int>(script.text.size()), TCL_EVAL_GLOBAL) !=
+            TCL_OK)
+            Die(Tcl_GetStringResult(interp));
+    }
 }
 
 /// A new safe interpreter.
 Tcl_Interp* MakeInterp() {
     Tcl_Interp* const interp = Tcl_CreateInterp();
     Tcl_MakeSafe(interp);
-    Tcl_Eval(interp, "proc value {item} {return v}; proc ignore args {}; interp bgerror {} ignore");
-    Tcl_Eval(interp, "namespace eval znbrowser {proc ResetSelectedFreeFoldersArray {} {}; "
-                     "proc AddToSelectedFreeFoldersArray {name} {}}");
+    AddScripts(interp);
+    Tcl_CreateObjCommand(interp, "name_that_ran", NameThatRan, nullptr, nullptr);
     Tcl_Eval(interp, "catch error"); // so that the variables of the last error are there from the start
     return interp;
 }
@@ -183,18 +178,29 @@ struct KeptInterp {
 
 } // namespace
 
-FencedHost::FencedHost(Tcl_ObjCmdProc* again, void* data) : interp_(keptInterp.Take()) {
-    const SmallGearbox& gearbox = Gearbox();
+void FencedHost::Prepare() {
+    static const bool isReady = [] {
+        Tcl_FindExecutable(nullptr); // makes the encodings known
+        if (!HurrySqlite()) Die("SQLite is in use already");
+        DatabaseImages();
+        FenceFiles();
+        return sqlite3_auto_extension(reinterpret_cast<void (*)()>(&LimitConnection)) == SQLITE_OK;
+    }();
+    if (!isReady) Die("SQLite takes no limits");
+}
+
+FencedHost::FencedHost(const DatabaseImage& image, Tcl_ObjCmdProc* again, void* data)
+    : interp_(keptInterp.Take()) {
+    stepsLeft = image.IsHostile() ? 300 : 2000;
     Tcl_CreateObjCommand(interp_, "again", again, data, nullptr);
     host_ = std::make_unique<znhost::EmbeddedHost>(interp_);
     std::string error;
     if (!host_->CreateDataCtrl("gearbox", "", error)) Die(error);
     sqlite3* const database = host_->App().DataControls().Find("gearbox")->Db().Handle();
-    gearbox.CopyTo(database);
-    static int stepsLeft;
-    stepsLeft = 2000;
-    LimitSteps(database, &stepsLeft);
-    Tcl_Eval(interp_, "expr {[info cmdcount] + 20000}");
+    image.CopyTo(database);
+    // What the hostile ones hold is read and asked for again as it is.
+    if (!image.IsHostile()) sqlite3_trace_v2(database, SQLITE_TRACE_STMT, LookAtStatement, nullptr);
+    Tcl_Eval(interp_, "expr {[info cmdcount] + 40000}");
     int lastCommand = 0;
     Tcl_GetIntFromObj(nullptr, Tcl_GetObjResult(interp_), &lastCommand);
     Tcl_LimitSetCommands(interp_, lastCommand);
@@ -207,6 +213,8 @@ FencedHost::~FencedHost() {
     Tcl_DeleteCommand(interp_, "again");
     keptInterp.GiveBack(interp_);
 }
+
+void FencedHost::Browse() { Tcl_Eval(interp_, "::znbrowser::any::browse gearbox"); }
 
 void FencedHost::RunDue() {
     for (int due = 0; due < 8 && Tcl_DoOneEvent(TCL_IDLE_EVENTS | TCL_DONT_WAIT); ++due) continue;

@@ -1,4 +1,4 @@
-// A host for fuzzing: fresh for each input, on a small copy of the gearbox, and fenced in.
+// A host for fuzzing: fresh for each input, on a copy of a small database, and fenced in.
 #ifndef FENCED_HOST_H
 #define FENCED_HOST_H
 
@@ -7,19 +7,26 @@
 #include <memory>
 #include <tcl.h>
 
+class DatabaseImage;
+
 /// Nothing that an input says reaches a file or another program, or lasts for ever: the interpreter is a safe
 /// one that runs a limited number of commands, SQLite opens no files, attaches nothing and runs a limited
 /// number of steps.
 class FencedHost {
 public:
+    /// Fences SQLite in, and starts Tcl; before anything else uses them.
+    static void Prepare();
+    /// @param image what the data control "gearbox" holds
     /// @param again the Tcl command "again", called with `data`
-    FencedHost(Tcl_ObjCmdProc* again, void* data);
+    FencedHost(const DatabaseImage& image, Tcl_ObjCmdProc* again, void* data);
     ~FencedHost();
     FencedHost(const FencedHost&) = delete;
     FencedHost& operator=(const FencedHost&) = delete;
 
     Tcl_Interp* Interp() const { return interp_; }
     znhost::EmbeddedHost& Host() { return *host_; }
+    /// Opens the default browser on the database.
+    void Browse();
     /// Runs what scripts left to be done when nothing else is: errors in the background, say.
     void RunDue();
 

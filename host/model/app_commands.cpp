@@ -258,6 +258,8 @@ std::vector<const AppWord*> AppWordsBelow(const std::vector<std::string>& words)
 }
 
 int Application::EvalAppCommand(int objc, Tcl_Obj* const objv[]) {
+    // C++ clients may pass null words: the command ends before the first.
+    objc = static_cast<int>(std::find(objv, objv + objc, nullptr) - objv);
     const AppCall whole(*this, objc, objv);
     const std::string first = whole.Text(0);
     const std::string second = whole.Text(1);

@@ -8,6 +8,7 @@
 
 #include <tcl.h>
 
+#include <exception>
 #include <utility>
 
 namespace znhost {
@@ -19,16 +20,28 @@ constexpr const char* managerCommand = "::znbrowser::manager";
 
 enum class OnError { Answer, Report };
 
+/// The result of the command in whose course something else is evaluated, put back whatever happens.
+class KeptResult {
+public:
+    explicit KeptResult(Tcl_Interp* interp) : interp_(interp), state_(Tcl_SaveInterpState(interp, TCL_OK)) {}
+    ~KeptResult() { Tcl_RestoreInterpState(interp_, state_); }
+    KeptResult(const KeptResult&) = delete;
+    KeptResult& operator=(const KeptResult&) = delete;
+
+private:
+    Tcl_Interp* const interp_;
+    const Tcl_InterpState state_;
+};
+
 /// Evaluates a command at the global level. The result of the command in whose course this happens is as it
 /// was. @return false when it failed; `result` receives the result, or the message.
 bool Evaluate(Tcl_Interp* interp, Tcl_Obj* command, std::string& result, OnError onError) {
-    const Tcl_InterpState state = Tcl_SaveInterpState(interp, TCL_OK);
+    const KeptResult kept(interp);
     Tcl_IncrRefCount(command);
     const int code = Tcl_EvalObjEx(interp, command, TCL_EVAL_GLOBAL | TCL_EVAL_DIRECT);
     Tcl_DecrRefCount(command);
     result = Tcl_GetStringResult(interp);
     if (code != TCL_OK && onError == OnError::Report) Tcl_BackgroundException(interp, code);
-    Tcl_RestoreInterpState(interp, state);
     return code == TCL_OK;
 }
 
@@ -92,7 +105,8 @@ public:
     Window& Of() const { return window_; }
 
     void OnRowsChanged(const std::vector<RowChange>& changes) override {
-        if (changes_.empty()) Tcl_DoWhenIdle(Tell, this);
+        if (!isDue_) Tcl_DoWhenIdle(Tell, this);
+        isDue_ = true;
         for (const RowChange& change : changes) {
             // Where to scroll is said by the last; everything else needs to be said once.
             if (change.kind == RowChange::Shown) changes_.erase(change.kind);
@@ -102,15 +116,26 @@ public:
     TkChanges TakeChanges() { return std::exchange(changes_, {}); }
 
 private:
+    /// Called by Tcl, which knows no exceptions. What could not be told for want of memory is told with the
+    /// next change.
     static void Tell(ClientData data) {
-        const Shown& self = *static_cast<Shown*>(data);
-        self.owner_.Run({"::znbrowser::changed", std::to_string(self.number_)});
+        Shown& self = *static_cast<Shown*>(data);
+        Tcl_Interp* const interp = self.owner_.application_.Interp();
+        self.isDue_ = false;
+        try {
+            self.owner_.Run({"::znbrowser::changed", std::to_string(self.number_)});
+        } catch (const std::exception& failure) {
+            const KeptResult kept(interp);
+            Tcl_SetObjResult(interp, Tcl_NewStringObj(failure.what(), -1));
+            Tcl_BackgroundException(interp, TCL_ERROR);
+        }
     }
 
     const TkWindows& owner_;
     Window& window_;
     const unsigned number_;
     TkChanges changes_;
+    bool isDue_ = false; ///< Tcl is going to tell
 };
 
 // ---- Loading ----

@@ -291,10 +291,7 @@ bool ReadArguments(Tcl_Interp* interp, const TkWord& word, int objc, Tcl_Obj* co
     return true;
 }
 
-} // namespace
-
-int AnswerTkWord(void* windows, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
-    TkWindows& open = *static_cast<TkWindows*>(windows);
+int Answer(TkWindows& open, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
     int number = 0;
     if (objc < 2) {
         Tcl_WrongNumArgs(interp, 1, objv, "WORD ?NUMBER ...?");
@@ -313,12 +310,19 @@ int AnswerTkWord(void* windows, Tcl_Interp* interp, int objc, Tcl_Obj* const obj
     if (!window) return Fail(interp, "there is no open window " + std::to_string(number));
     Question question{*window, {}, {}};
     if (!ReadArguments(interp, *known, objc, objv, question)) return TCL_ERROR;
-    try {
-        Tcl_SetObjResult(interp, known->answer(question));
-    } catch (const std::exception& failure) {
-        return Fail(interp, failure.what());
-    }
+    Tcl_SetObjResult(interp, known->answer(question));
     return TCL_OK;
+}
+
+} // namespace
+
+int AnswerTkWord(void* windows, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
+    try {
+        return Answer(*static_cast<TkWindows*>(windows), interp, objc, objv);
+    } catch (const std::exception& failure) { // memory ran out: Tcl knows no exceptions
+        Tcl_SetObjResult(interp, Tcl_NewStringObj(failure.what(), -1));
+        return TCL_ERROR;
+    }
 }
 
 } // namespace znhost

@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <iostream>
 #include <new>
-#include <tuple>
 
 namespace {
 
@@ -60,23 +59,31 @@ void operator delete[](void* memory, const std::nothrow_t&) noexcept { operator 
 
 namespace {
 
-/// A section of the script, "opening" for what stands before each; and whether what follows fails, too.
-using SweptSection = std::tuple<std::string, bool>;
+/// What one sweep lets fail.
+struct Swept {
+    std::string section;       ///< of the script; "opening" for what stands before each
+    bool andFollowing = false; ///< what follows it fails, too
+    std::size_t first = 1;     ///< the first allocation to fail
+    std::size_t step = 1;      ///< how many later the next one, in a run of its own
+    std::string part;          ///< its name, when the sweep is one of several over the section
+};
 
-class AllocationSweep : public testing::TestWithParam<SweptSection> {
+class AllocationSweep : public testing::TestWithParam<Swept> {
 protected:
     /// Runs the section and lets its n-th allocation fail; 0: none.
     /// @return false when there were fewer
     bool FailAllocation(std::size_t n) {
         SCOPED_TRACE("allocation " + std::to_string(n));
-        const auto& [section, andFollowing] = GetParam();
-        const bool isOpening = section == "opening";
-        const std::string script = isOpening ? "run $opening" : "run [dict get $sections " + section + "]";
+        const bool isOpening = GetParam().section == "opening", isShown = GetParam().section == "display";
+        const std::string script = isOpening ? "run $opening"
+                                   : isShown ? "show $display"
+                                             : "run [dict get $sections " + GetParam().section + "]";
         const long before = allocations.living;
         {
             SweepRun run(script_);
+            if (isShown) run.ShowWindows();
             if (!isOpening) run.Open();
-            allocations = {n > 0, andFollowing, n - 1, false, allocations.living};
+            allocations = {n > 0, GetParam().andFollowing, n - 1, false, allocations.living};
             const int code = Tcl_EvalEx(script_.Interp(), script.c_str(), -1, TCL_EVAL_GLOBAL);
             allocations.armed = false;
             EXPECT_EQ(code, TCL_OK) << Tcl_GetStringResult(script_.Interp());
@@ -91,28 +98,41 @@ protected:
     SweepScript script_;
 };
 
-// With "from then on", every third allocation is enough: what follows it fails anyway.
 TEST_P(AllocationSweep, AllocationsFailAndTheCommandGoesOn) {
-    const std::size_t step = std::get<bool>(GetParam()) ? 3 : 1;
     std::size_t failed = 0;
     FailAllocation(0);
-    for (std::size_t n = 1; FailAllocation(n); n += step) ++failed;
+    for (std::size_t n = GetParam().first; FailAllocation(n); n += GetParam().step) ++failed;
     std::cout << failed << " allocations failed, each in a run of its own\n";
-    EXPECT_GT(failed, 100u / step) << "the script no longer allocates";
+    EXPECT_GT(failed, 100u / GetParam().step) << "the script no longer allocates";
 }
 
-std::vector<std::string> OpeningAndSections() {
+/// With "from then on", every third allocation is enough: what follows it fails anyway. The rows allocate by
+/// far the most: their sweep comes in parts, which can run side by side.
+std::vector<Swept> OpeningAndSections() {
     std::vector<std::string> names = SweepScript().Sections();
     names.emplace_back("opening");
-    return names;
+    std::vector<Swept> sweeps;
+    for (const std::string& name : names) {
+        sweeps.push_back({name, true, 1, 3, ""});
+        const std::size_t parts = name == "rows" ? 6 : 1;
+        for (std::size_t part = 1; part <= parts; ++part)
+            sweeps.push_back({name, false, part, parts, parts > 1 ? std::to_string(part) : ""});
+    }
+    return sweeps;
 }
 
-INSTANTIATE_TEST_SUITE_P(, AllocationSweep,
-                         testing::Combine(testing::ValuesIn(OpeningAndSections()), testing::Bool()),
-                         [](const auto& each) {
-                             return std::get<0>(each.param) +
-                                    (std::get<1>(each.param) ? "FromThenOn" : "Once");
-                         });
+std::string NameOfSweep(const testing::TestParamInfo<Swept>& sweep) {
+    return sweep.param.section + (sweep.param.andFollowing ? "FromThenOn" : "Once") + sweep.param.part;
+}
+
+INSTANTIATE_TEST_SUITE_P(, AllocationSweep, testing::ValuesIn(OpeningAndSections()), NameOfSweep);
+
+// Opening a window takes its time, so only some of the allocations fail. Tk itself does not take part: its
+// memory is not operator new's.
+INSTANTIATE_TEST_SUITE_P(OnDisplay, AllocationSweep,
+                         testing::Values(Swept{"display", false, 1, 499, ""},
+                                         Swept{"display", true, 1, 997, ""}),
+                         NameOfSweep);
 
 TEST(AllocationFault, AManagerThatIsNotFinishedLeavesNoCommand) {
     bool finished = false;

@@ -2,6 +2,20 @@
 # again on a host of its own, behind the opening. Whatever fails below, each line must come back.
 proc zn {args} {catch {znbrowsermanager {*}$args}}
 proc run {section} {foreach line $section {zn {*}$line}}
+interp bgerror {} told
+# The same in a window on a display: behind each line Tk does what that brought about, and the user goes on.
+proc show {section} {
+    foreach line $section {
+        run [list $line]
+        update
+        if {[catch {znbrowser::tree win} tree]} continue
+        foreach {event options} {
+            Motion {-x 40 -y 30} ButtonPress-1 {-x 40 -y 30} ButtonRelease-1 {-x 40 -y 30} KeyPress-Down {}
+            KeyPress-b {} ButtonPress-5 {}
+        } {catch {event generate $tree <$event> {*}$options}}
+        update
+    }
+}
 proc value {item} {return v}
 proc told {args} {foreach family {view window state datactrl} {zn $family current}}
 namespace eval znbrowser {
@@ -197,4 +211,17 @@ set sections {
         {window map create g} {window map delete} {view datactrl disconnect} {view delete} {view current}
         {view create last} {view current last} {view delete}
     }
+}
+
+set display {
+    {window create win} {window part create part} {window listener connect told} {window post true}
+    {view list current unit} {window expandall} {OnTkTreeRequestSelect win 1 4} {view column caption C}
+    {view column create c3} {view column current c3} {view style create ticks} {view element create tick}
+    {view element connect property flag} {app sql m {INSERT INTO unit VALUES (4, 1, 'd', 0), (5, 4, 'b', 1)}}
+    {view sort enabled} {view column sort byname title} {view filter string current b} {view filter string current {}}
+    {window find property add title} {window find property current title} {window find property criterion current b}
+    {window find perform} {window stripe true all} {window background red true} {view column show false}
+    {window part show false} {OnTkTreePopupMenu win true} {view folder current v} {view folder create late}
+    {app sql m {DELETE FROM unit WHERE id = 2}} {window collapseall} {window post false} {window post true} {view delete}
+    {window delete}
 }

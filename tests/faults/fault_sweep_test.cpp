@@ -51,19 +51,34 @@ TEST(FaultSweepScript, UsesEveryRowOfEveryCommandTable) {
     ExpectEveryRow(KeywordPaths(), {}, znlayer::topLevel, seen);
 }
 
-class FaultSweep : public testing::TestWithParam<std::pair<CallLog::Fault, bool>> {
+/// How a call fails, and whether those that follow fail, too.
+using CallFault = std::pair<CallLog::Fault, bool>;
+
+class FaultSweep : public testing::TestWithParam<CallFault> {
 protected:
     /// Runs a section, or the opening when `section` is empty, with that call failing.
     /// @return false when there were fewer calls
     bool FailCall(std::size_t n, const std::string& section) {
         SCOPED_TRACE(section + " call " + std::to_string(n));
         SweepRun run(script_);
+        if (section == "display") run.ShowWindows();
         if (!section.empty()) run.Open();
         run.Log().FailCall(n, GetParam().first, GetParam().second);
-        section.empty() ? run.Open() : run.Run(section);
+        if (section.empty())
+            run.Open();
+        else if (section == "display")
+            script_.Eval("show $display");
+        else
+            run.Run(section);
         const bool failed = run.Log().HasFailed();
         run.Log().FailCall(0);
         run.Check();
+        return failed;
+    }
+    /// Lets each `step`-th call of a section fail. @return how many did
+    std::size_t Sweep(const std::string& section, std::size_t step) {
+        std::size_t failed = 0;
+        for (std::size_t n = 1; FailCall(n, section); n += step) ++failed;
         return failed;
     }
 
@@ -73,23 +88,32 @@ protected:
 // With "from then on", every third call is enough: what follows it fails anyway.
 TEST_P(FaultSweep, EveryHostCallFailsAndTheCommandGoesOn) {
     const std::size_t step = GetParam().second ? 3 : 1;
-    std::size_t failed = 0;
-    std::vector<std::string> sections = script_.Sections();
-    sections.emplace_back();
-    for (const std::string& section : sections) {
-        for (std::size_t n = 1; FailCall(n, section); n += step) ++failed;
-    }
+    std::size_t failed = Sweep("", step);
+    for (const std::string& section : script_.Sections()) failed += Sweep(section, step);
     std::cout << failed << " host calls failed, each in a run of its own\n";
     EXPECT_GT(failed, 1300u / step) << "the script no longer reaches the host";
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    , FaultSweep,
-    testing::Values(std::pair(CallLog::Fault::Refuse, false), std::pair(CallLog::Fault::Throw, false),
-                    std::pair(CallLog::Fault::Refuse, true), std::pair(CallLog::Fault::Throw, true)),
-    [](const auto& each) {
-        return std::string(each.param.first == CallLog::Fault::Refuse ? "Refused" : "Thrown") +
-               (each.param.second ? "FromThenOn" : "Once");
-    });
+class FaultSweepOnDisplay : public FaultSweep {};
+
+TEST_P(FaultSweepOnDisplay, HostCallsFailAndTheWindowGoesOn) {
+    const std::size_t step = GetParam().second ? 97 : 29;
+    const std::size_t failed = Sweep("display", step);
+    std::cout << failed << " host calls failed, each in a run of its own\n";
+    EXPECT_GT(failed, 100u / step) << "the window no longer reaches the host";
+}
+
+const CallFault callFaults[] = {{CallLog::Fault::Refuse, false},
+                                {CallLog::Fault::Throw, false},
+                                {CallLog::Fault::Refuse, true},
+                                {CallLog::Fault::Throw, true}};
+
+std::string NameOfFault(const testing::TestParamInfo<CallFault>& fault) {
+    return std::string(fault.param.first == CallLog::Fault::Refuse ? "Refused" : "Thrown") +
+           (fault.param.second ? "FromThenOn" : "Once");
+}
+
+INSTANTIATE_TEST_SUITE_P(, FaultSweep, testing::ValuesIn(callFaults), NameOfFault);
+INSTANTIATE_TEST_SUITE_P(, FaultSweepOnDisplay, testing::ValuesIn(callFaults), NameOfFault);
 
 } // namespace

@@ -21,6 +21,7 @@
 class SweepScript {
 public:
     SweepScript() : interp_(Tcl_CreateInterp()) {
+        EXPECT_EQ(Tcl_Init(interp_), TCL_OK) << Tcl_GetStringResult(interp_);
         const std::string file = std::string(ZN_SOURCE_DIR) + "/tests/faults/every_family.tcl";
         EXPECT_EQ(Tcl_EvalFile(interp_, file.c_str()), TCL_OK) << Tcl_GetStringResult(interp_);
         std::istringstream names(Eval("dict keys $sections"));
@@ -60,8 +61,14 @@ public:
         EXPECT_TRUE(host_->App().DataControls().Find("m")->Db().RunScript(model, error)) << error;
     }
 
-    znhost::CallLog& Log() { return host_->Calls(); }
+    znhost::EmbeddedHost& Host() { return *host_; }
     znBrowserManagerTcl& Manager() { return host_->Manager(); }
+    znhost::CallLog& Log() { return host_->Calls(); }
+    /// From now on posted windows stand on the display.
+    void ShowWindows() {
+        std::string error;
+        EXPECT_TRUE(host_->ShowWindows(error)) << error;
+    }
     void Open() { script_.Eval("run $opening"); }
     void Run(const std::string& section) { script_.Eval("run [dict get $sections " + section + "]"); }
 
