@@ -1,6 +1,6 @@
 #include "session.h"
 
-#include "base/file_name.h"
+#include "base/native.h"
 #include "base/tcl_values.h"
 #include "model/embedded_host.h"
 #include "strict.h"

@@ -248,12 +248,16 @@ bool BeginsWithFolded(std::string_view text, std::string_view beginning) {
     return true;
 }
 
-std::string Cut(std::string_view text, std::size_t most) {
-    if (text.size() <= most) return std::string(text);
+std::string_view Beginning(std::string_view text, std::size_t most) {
+    if (text.size() <= most) return text;
     for (int i = 0; i < 3 && most > 0 && Continues(ByteAt(text, most)); ++i) --most;
     // The halves of one character for Tcl.
     if (most >= 3 && IsHigh(ThreeBytesAt(text, most - 3))) most -= 3;
-    return std::string(text.substr(0, most)) + "…";
+    return text.substr(0, most);
+}
+
+std::string Cut(std::string_view text, std::size_t most) {
+    return std::string(Beginning(text, most)) + (text.size() > most ? "…" : "");
 }
 
 } // namespace znhost

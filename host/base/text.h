@@ -38,8 +38,9 @@ std::string Fold(std::string_view text);
 /// Whether the text begins with the other one, letter case aside.
 bool BeginsWithFolded(std::string_view text, std::string_view beginning);
 
-/// Not more than the first `most` bytes of the text, no character cut in two, and behind them "…" when that
-/// is not all. It is for texts in either form.
+/// Not more than the first `most` bytes of the text, no character cut in two. It is for texts in either form.
+std::string_view Beginning(std::string_view text, std::size_t most);
+/// The same, and behind it "…" when that is not all.
 std::string Cut(std::string_view text, std::size_t most);
 
 } // namespace znhost

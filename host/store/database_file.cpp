@@ -1,6 +1,6 @@
 #include "store/database_file.h"
 
-#include "base/file_name.h"
+#include "base/native.h"
 
 #include <filesystem>
 

@@ -1,4 +1,4 @@
-#include "base/file_name.h"
+#include "base/native.h"
 
 #include <memory>
 #include <tcl.h>
@@ -17,8 +17,6 @@ std::string Convert(Conversion convert, const std::string& text) {
     return result;
 }
 
-std::string ToNative(const std::string& text) { return Convert(Tcl_UtfToExternalDString, text); }
-
 std::string SystemEncoding() { return Tcl_GetEncodingName(nullptr); }
 
 struct Release {
@@ -26,6 +24,10 @@ struct Release {
 };
 
 } // namespace
+
+std::string FromNative(const std::string& bytes) { return Convert(Tcl_ExternalToUtfDString, bytes); }
+
+std::string ToNative(const std::string& text) { return Convert(Tcl_UtfToExternalDString, text); }
 
 bool NativeFileName(const std::string& name, std::string& native, std::string& error) {
     const std::unique_ptr<Tcl_Obj, Release> path(
@@ -47,8 +49,6 @@ bool NativeFileName(const std::string& name, std::string& native, std::string& e
     error = "the system encoding, " + SystemEncoding() + ", has no such name";
     return false;
 }
-
-std::string FromNative(const std::string& bytes) { return Convert(Tcl_ExternalToUtfDString, bytes); }
 
 bool FileOfNative(const std::string& bytes, std::string& name, std::string& error) {
     name = FromNative(bytes);
