@@ -1,5 +1,7 @@
 #include "base/native.h"
 
+#include "base/tcl_values.h"
+
 #include <memory>
 #include <tcl.h>
 
@@ -30,8 +32,7 @@ std::string FromNative(const std::string& bytes) { return Convert(Tcl_ExternalTo
 std::string ToNative(const std::string& text) { return Convert(Tcl_UtfToExternalDString, text); }
 
 bool NativeFileName(const std::string& name, std::string& native, std::string& error) {
-    const std::unique_ptr<Tcl_Obj, Release> path(
-        Tcl_NewStringObj(name.data(), static_cast<int>(name.size())));
+    const std::unique_ptr<Tcl_Obj, Release> path(NewText(name));
     Tcl_IncrRefCount(path.get());
     Tcl_Interp* const scratch = Tcl_CreateInterp(); // takes the error text
     const char* const translated = Tcl_FSGetTranslatedStringPath(scratch, path.get());

@@ -1,5 +1,6 @@
 #include "rows/text_matcher.h"
 
+#include "base/tcl_values.h"
 #include "base/text.h"
 
 #include <tcl.h>
@@ -57,7 +58,7 @@ TextMatcher::TextMatcher(std::string_view pattern, const Options& options) : opt
     if (options.regexp) {
         const std::string expression =
             options.matchWord ? "\\m(?:" + std::string(pattern) + ")\\M" : std::string(pattern);
-        expression_.reset(Tcl_NewStringObj(expression.data(), static_cast<int>(expression.size())));
+        expression_.reset(NewText(expression));
         Tcl_IncrRefCount(expression_.get());
         const int flags = TCL_REG_ADVANCED | (options.matchCase ? 0 : TCL_REG_NOCASE);
         Tcl_Interp* const scratch = Tcl_CreateInterp(); // takes the error text
@@ -92,7 +93,7 @@ bool TextMatcher::FindPlain(std::string_view text) const {
 bool TextMatcher::FindRegexp(std::string_view text) const {
     const int flags = TCL_REG_ADVANCED | (options_.matchCase ? 0 : TCL_REG_NOCASE);
     const Tcl_RegExp compiled = Tcl_GetRegExpFromObj(nullptr, expression_.get(), flags);
-    Tcl_Obj* const object = Tcl_NewStringObj(text.data(), static_cast<int>(text.size()));
+    Tcl_Obj* const object = NewText(text);
     Tcl_IncrRefCount(object);
     const bool found = compiled && Tcl_RegExpExecObj(nullptr, compiled, object, 0, 0, 0) > 0;
     Tcl_DecrRefCount(object);
