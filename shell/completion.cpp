@@ -1,5 +1,6 @@
 #include "completion.h"
 
+#include "base/text.h"
 #include "model/embedded_host.h"
 #include "znBrowserTclCommandTree.h"
 #include "znBrowserTclKeywords.h"
@@ -176,10 +177,6 @@ std::vector<std::string> FindWords(const TypedCommand& typed, const ObjectNames&
     return found;
 }
 
-bool IsInsideCharacter(std::string_view text, std::size_t position) {
-    return position < text.size() && (static_cast<unsigned char>(text[position]) & 0xC0) == 0x80;
-}
-
 /// The longest text, in whole characters, with which all of `texts` begin; there is at least one of them.
 std::string CommonBeginning(const std::vector<std::string>& texts) {
     const std::string& first = texts.front();
@@ -189,8 +186,7 @@ std::string CommonBeginning(const std::vector<std::string>& texts) {
         const auto ends = std::mismatch(first.begin(), end, text.begin(), text.end());
         length = static_cast<std::size_t>(ends.first - first.begin());
     }
-    while (IsInsideCharacter(first, length)) --length;
-    return first.substr(0, length);
+    return std::string(znhost::Beginning(first, length));
 }
 
 /// The beginning of a word that is still to be typed on: a brace that it needs stays open.

@@ -1,5 +1,7 @@
 #include "line_editor.h"
 
+#include "base/native.h"
+
 #include <unistd.h>
 
 #include <algorithm>
@@ -20,8 +22,10 @@ int CountCharacters(const std::string& text) {
 }
 
 /// Prints the words below the line, in columns.
-void ListWords(const std::vector<std::string>& words) {
+void ListWords(const std::vector<std::string>& choices) {
+    std::vector<std::string> words;
     std::size_t width = 0;
+    for (const std::string& choice : choices) words.push_back(znhost::ToNative(choice));
     for (const std::string& word : words) width = std::max(width, word.size() + 2);
     const std::size_t columns = std::max<std::size_t>(1, SCREEN_WIDTH / width);
     for (std::size_t i = 0; i < words.size(); ++i) {
@@ -57,8 +61,9 @@ LineEditor::Outcome LineEditor::Read(const std::string& prompt, std::string& lin
            1); // before the prompt shows: what is typed at it must not meet the old mode
     const char* const text = el_gets(editor_, &count);
     if (!text || count <= 0) return count < 0 ? Outcome::Interrupted : Outcome::End;
-    line.assign(text, static_cast<std::size_t>(count));
-    history_.Add(line.substr(0, line.find_last_not_of('\n') + 1));
+    const std::string typed(text, static_cast<std::size_t>(count));
+    history_.Add(typed.substr(0, typed.find_last_not_of('\n') + 1));
+    line = znhost::FromNative(typed);
     return Outcome::Line;
 }
 
@@ -94,11 +99,13 @@ int LineEditor::ReadCharacter(EditLine* editor, wchar_t* character) {
 // Types what is certain of the word; lists what it may be when that is nothing new.
 unsigned char LineEditor::Complete(EditLine* editor, int) {
     const LineInfo* const info = el_line(editor);
-    const Completion completion = Self(editor).services_.complete(std::string(info->buffer, info->cursor));
+    const std::string typed(info->buffer, info->cursor);
+    const Completion completion = Self(editor).services_.complete(znhost::FromNative(typed));
     if (completion.choices.empty()) return CC_REFRESH_BEEP;
     if (!completion.replacement.empty()) {
-        el_deletestr(editor, CountCharacters(completion.replaced));
-        return el_insertstr(editor, completion.replacement.c_str()) == 0 ? CC_REFRESH : CC_ERROR;
+        el_deletestr(editor, CountCharacters(znhost::ToNative(completion.replaced)));
+        return el_insertstr(editor, znhost::ToNative(completion.replacement).c_str()) == 0 ? CC_REFRESH
+                                                                                           : CC_ERROR;
     }
     ListWords(completion.choices);
     return CC_REDISPLAY;

@@ -1,10 +1,15 @@
 #include "session.h"
 
+#include "base/native.h"
+#include "base/tcl_values.h"
 #include "model/embedded_host.h"
 #include "strict.h"
 #include "tk/tk_scripts.h"
 
 #include <algorithm>
+
+using znhost::FromNative;
+using znhost::NewText;
 
 namespace {
 
@@ -15,22 +20,9 @@ const char* const BROWSE = "::znbrowser::any::browse";
 /// How many columns of a browser fit a terminal; a window has a scroll bar.
 const int TEXT_COLUMNS = 8;
 
-/// A word of the command line as Tcl keeps text.
-std::string FromNative(const std::string& text) {
-    Tcl_DString converted;
-    Tcl_ExternalToUtfDString(nullptr, text.data(), static_cast<int>(text.size()), &converted);
-    std::string result(Tcl_DStringValue(&converted), static_cast<std::size_t>(Tcl_DStringLength(&converted)));
-    Tcl_DStringFree(&converted);
-    return result;
-}
-
 bool IsBlank(Tcl_Obj* text) {
     const std::string_view all = Tcl_GetString(text);
     return all.find_first_not_of(" \t\r\n") == all.npos;
-}
-
-Tcl_Obj* NewText(const std::string& text) {
-    return Tcl_NewStringObj(text.data(), static_cast<int>(text.size()));
 }
 
 } // namespace
@@ -85,13 +77,15 @@ void Session::SetArguments(const Options& options) {
 
 bool Session::AddDatabases(const std::vector<DatabaseOption>& databases) {
     for (const DatabaseOption& database : databases) {
+        std::string file;
         std::string error;
-        if (!host_->CreateDataCtrl(FromNative(database.name), FromNative(database.file), error)) {
+        const std::string name = FromNative(database.name);
+        if (!znhost::FileOfNative(database.file, file, error) || !host_->CreateDataCtrl(name, file, error)) {
             PrintLine(TCL_STDERR,
                       "znbrowsersh: --db " + FromNative(database.name + "=" + database.file) + ": " + error);
             return false;
         }
-        browsed_.push_back(FromNative(database.name));
+        browsed_.push_back(name);
     }
     return true;
 }
@@ -123,7 +117,13 @@ bool Session::Browse(const std::string& control) {
 }
 
 ExitCode Session::RunScript(const std::string& file) {
-    Tcl_Obj* const path = NewText(FromNative(file));
+    std::string name;
+    std::string error;
+    if (!znhost::FileOfNative(file, name, error)) {
+        PrintLine(TCL_STDERR, "znbrowsersh: cannot open the script: " + error);
+        return EXIT_FAILED;
+    }
+    Tcl_Obj* const path = NewText(name);
     Tcl_IncrRefCount(path);
     const int code = Tcl_FSEvalFileEx(interp_, path, nullptr);
     Tcl_DecrRefCount(path);

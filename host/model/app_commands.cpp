@@ -1,6 +1,7 @@
 // The host's own words, as one table. To add a word, write its answer and give it a row.
 #include "model/app_commands.h"
 
+#include "base/tcl_values.h"
 #include "model/data_app_commands.h"
 #include "model/data_sources.h"
 #include "model/state_app_commands.h"
@@ -16,16 +17,6 @@ namespace znhost {
 namespace {
 
 constexpr std::size_t anyNumber = static_cast<std::size_t>(-1);
-
-Tcl_Obj* NewText(std::string_view text) {
-    return Tcl_NewStringObj(text.data(), static_cast<int>(text.size()));
-}
-
-Tcl_Obj* NewList(const std::vector<std::string>& words) {
-    Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
-    for (const std::string& word : words) Tcl_ListObjAppendElement(nullptr, list, NewText(word));
-    return list;
-}
 
 std::string TextOf(Tcl_Obj* object) {
     int length = 0;

@@ -1,5 +1,6 @@
 #include "model/application.h"
 
+#include "base/tcl_values.h"
 #include "model/data_sources.h"
 #include "model/long_work.h"
 #include "store/data_ctrl.h"
@@ -79,12 +80,8 @@ bool Application::CallProcedure(const std::vector<std::string>& words, std::stri
         return false;
     }
     const KeptResult kept(interp_);
-    Tcl_Obj* const command = Tcl_NewListObj(0, nullptr);
+    Tcl_Obj* const command = NewList(words);
     Tcl_IncrRefCount(command);
-    for (const std::string& word : words) {
-        Tcl_ListObjAppendElement(nullptr, command,
-                                 Tcl_NewStringObj(word.data(), static_cast<int>(word.size())));
-    }
     const int code = Tcl_EvalObjEx(interp_, command, TCL_EVAL_GLOBAL);
     Tcl_DecrRefCount(command);
     result = Tcl_GetStringResult(interp_);

@@ -1,6 +1,7 @@
 // A window: its life, its parts and listeners, and the scripts that it runs.
 #include "model/window.h"
 
+#include "base/tcl_values.h"
 #include "model/application.h"
 #include "model/browser.h"
 #include "model/window_display.h"
@@ -67,11 +68,8 @@ void Window::SetBackground(std::string colour) {
 
 /// Calls a Tcl procedure; an error goes to the interpreter's background error handler.
 void Window::Call(const std::vector<std::string>& words) {
-    Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
+    Tcl_Obj* const list = NewList(words);
     Tcl_IncrRefCount(list);
-    for (const std::string& word : words) {
-        Tcl_ListObjAppendElement(nullptr, list, Tcl_NewStringObj(word.data(), static_cast<int>(word.size())));
-    }
     const std::string script = Tcl_GetString(list);
     Tcl_DecrRefCount(list);
     browser_.Owner().RunScript(script);

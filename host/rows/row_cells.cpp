@@ -1,5 +1,6 @@
 #include "rows/row_cells.h"
 
+#include "base/text.h"
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserDataProperty.h"
 #include "model/browser.h"
@@ -127,7 +128,7 @@ bool RowCells::ReadText(const Element& element, const Item& item, std::string& t
     znIBrowserDataProperty* const property = element.property->DataProperty(source);
     znString value;
     if (!property || !property->GetValueString({source, item.row}, 0, value)) return false;
-    text = value.Str();
+    text = Cut(value.View(), longestCell);
     return true;
 }
 

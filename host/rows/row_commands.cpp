@@ -1,5 +1,6 @@
 #include "rows/row_commands.h"
 
+#include "base/tcl_values.h"
 #include "model/app_commands.h"
 #include "model/window_list.h"
 #include "rows/row_drawing.h"
@@ -21,6 +22,10 @@ const char* KindName(RowKind kind) {
 
 namespace {
 
+/// Of the texts of all rows asked for at once: Tcl ends the process above 2 GiB, and writing a list of such
+/// texts may double them for each level of the list.
+constexpr std::size_t mostBytes = std::size_t{1} << 27;
+
 /// The window that the first argument names, held; null, and the error stands in the interpreter, when there
 /// is none.
 std::shared_ptr<Window> WindowOf(AppCall& call) {
@@ -30,18 +35,18 @@ std::shared_ptr<Window> WindowOf(AppCall& call) {
     return nullptr;
 }
 
-Tcl_Obj* NewText(const std::string& text) {
-    return Tcl_NewStringObj(text.data(), static_cast<int>(text.size()));
-}
-
 void Put(Tcl_Obj* dictionary, const char* key, Tcl_Obj* value) {
     Tcl_DictObjPut(nullptr, dictionary, Tcl_NewStringObj(key, -1), value);
 }
 
-Tcl_Obj* NewRow(RowModel& rows, const RowLook& look) {
+/// @param bytes grows by the bytes of the row's texts
+Tcl_Obj* NewRow(RowModel& rows, const RowLook& look, std::size_t& bytes) {
     Tcl_Obj* const cells = Tcl_NewDictObj();
+    bytes += look.text.size();
     for (const RowCell& cell : look.cells) {
-        Tcl_DictObjPut(nullptr, cells, NewText(cell.column->Name()), NewText(cell.Text()));
+        const std::string text = cell.Text();
+        bytes += text.size();
+        Tcl_DictObjPut(nullptr, cells, NewText(cell.column->Name()), NewText(text));
     }
     Tcl_Obj* const row = Tcl_NewDictObj();
     Put(row, "index", Tcl_NewWideIntObj(look.index));
@@ -67,11 +72,17 @@ int AnswerRows(AppCall& call) {
     if (call.Count() > 2 && !call.Number(2, "COUNT", count)) return TCL_ERROR;
     const RowModel::Answering answering(window->Rows());
     Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
-    for (const RowLook& look :
-         window->Rows().Read(static_cast<std::int64_t>(first), static_cast<std::int64_t>(count))) {
-        Tcl_ListObjAppendElement(nullptr, list, NewRow(window->Rows(), look));
-    }
-    return call.Answer(list);
+    std::size_t bytes = 0;
+    window->Rows().ReadEach(static_cast<std::int64_t>(first), static_cast<std::int64_t>(count),
+                            [&](const RowLook& look) {
+                                Tcl_ListObjAppendElement(nullptr, list, NewRow(window->Rows(), look, bytes));
+                                return bytes <= mostBytes;
+                            });
+    if (bytes <= mostBytes) return call.Answer(list);
+    Tcl_DecrRefCount(list);
+    return call.Fail("the rows are too large: the limit is " + std::to_string(mostBytes) +
+                         " bytes, ask for fewer with FIRST and COUNT",
+                     "ROWS", call.Text(0));
 }
 
 int AnswerDraw(AppCall& call) {

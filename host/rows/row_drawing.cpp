@@ -1,11 +1,11 @@
 #include "rows/row_drawing.h"
 
+#include "base/text.h"
 #include "model/view.h"
 #include "model/window.h"
 
 #include <algorithm>
 #include <limits>
-#include <tcl.h>
 #include <vector>
 
 namespace znhost {
@@ -15,16 +15,17 @@ namespace {
 constexpr std::size_t widest = 48; ///< longer texts are cut off
 
 struct Range {
-    Tcl_UniChar first;
-    Tcl_UniChar last;
+    char32_t first;
+    char32_t last;
 };
 
 /// Characters that take two places on a terminal.
-constexpr Range wideRanges[] = {{0x1100, 0x115F}, {0x2E80, 0x303E}, {0x3041, 0x33FF}, {0x3400, 0x4DBF},
-                                {0x4E00, 0x9FFF}, {0xA000, 0xA4CF}, {0xAC00, 0xD7A3}, {0xF900, 0xFAFF},
-                                {0xFE30, 0xFE6F}, {0xFF00, 0xFF60}, {0xFFE0, 0xFFE6}};
+constexpr Range wideRanges[] = {{0x1100, 0x115F},   {0x2E80, 0x303E},  {0x3041, 0x33FF}, {0x3400, 0x4DBF},
+                                {0x4E00, 0x9FFF},   {0xA000, 0xA4CF},  {0xAC00, 0xD7A3}, {0xF900, 0xFAFF},
+                                {0xFE30, 0xFE6F},   {0xFF00, 0xFF60},  {0xFFE0, 0xFFE6}, {0x1F300, 0x1F64F},
+                                {0x1F900, 0x1F9FF}, {0x20000, 0x3FFFD}};
 
-std::size_t PlacesOf(Tcl_UniChar character) {
+std::size_t PlacesOf(char32_t character) {
     const bool isWide =
         std::any_of(std::begin(wideRanges), std::end(wideRanges), [character](const Range& range) {
             return character >= range.first && character <= range.last;
@@ -40,20 +41,21 @@ struct DrawnText {
 
     DrawnText() = default;
     explicit DrawnText(const std::string& full) {
-        for (const char* at = full.c_str(); *at;) {
-            Tcl_UniChar character = 0;
-            const int length = Tcl_UtfToUniChar(at, &character);
+        for (std::string_view rest = full; !rest.empty();) {
+            std::string_view behind = rest;
+            const char32_t character = TakeCharacter(behind);
             const std::size_t more = PlacesOf(character);
-            const bool isLast = at[length] == '\0';
-            if (places + more > widest - (isLast ? 0 : 1)) {
+            if (places + more > widest - (behind.empty() ? 0 : 1)) {
                 text += "…";
                 ++places;
                 return;
             }
-            text += character < ' ' || character == 0x7F ? " "
-                                                         : std::string(at, static_cast<std::size_t>(length));
+            if (character < ' ' || character == 0x7F)
+                text += ' ';
+            else
+                text += rest.substr(0, rest.size() - behind.size());
             places += more;
-            at += length;
+            rest = behind;
         }
     }
 };
@@ -164,12 +166,16 @@ std::string DrawRows(Window& window) {
         columns.push_back({column.get(), {}, 0});
         columns.back().Add(DrawnText(Caption(*view, *column)));
     }
-    const std::vector<RowLook> looks = window.Rows().Read(0, std::numeric_limits<std::int64_t>::max());
-    for (const RowLook& look : looks) AddRow(look, columns);
+    std::vector<bool> selected;
+    window.Rows().ReadEach(0, std::numeric_limits<std::int64_t>::max(), [&](const RowLook& look) {
+        AddRow(look, columns);
+        selected.push_back(look.selected);
+        return true;
+    });
     std::string text = DrawLine(columns, 0) + "\n" + DrawRule(columns);
-    for (std::size_t i = 0; i < looks.size(); ++i) {
+    for (std::size_t i = 0; i < selected.size(); ++i) {
         std::string line = DrawLine(columns, i + 1);
-        if (looks[i].selected) line.replace(0, 1, "*");
+        if (selected[i]) line.replace(0, 1, "*");
         text += "\n" + line;
     }
     return text;

@@ -151,6 +151,18 @@ std::vector<RowLook> RowModel::Read(std::int64_t first, std::int64_t count) {
     return LooksOf(rows);
 }
 
+void RowModel::ReadEach(std::int64_t first, std::int64_t count,
+                        const std::function<bool(const RowLook&)>& take) {
+    constexpr std::int64_t atOnce = 1000;
+    const Answering answering(*this);
+    while (count > 0) {
+        const std::vector<RowLook> looks = Read(first, std::min(count, atOnce));
+        if (looks.empty() || !std::all_of(looks.begin(), looks.end(), take)) return;
+        first += atOnce;
+        count -= atOnce;
+    }
+}
+
 std::vector<RowLook> RowModel::ReadBelow(std::uint32_t index, std::int64_t first, std::int64_t count) {
     const Answering answering(*this);
     std::vector<Row> rows;

@@ -78,6 +78,8 @@ public:
     std::int64_t Count();
     /// How the rows from position `first` on look, at most `count` of them.
     std::vector<RowLook> Read(std::int64_t first, std::int64_t count);
+    /// The same, row by row as long as `take` is true: for more rows than are to be held at once.
+    void ReadEach(std::int64_t first, std::int64_t count, const std::function<bool(const RowLook&)>& take);
     /// How the rows directly below that one look (0: at the top), from the `first`; for a tree filled by
     /// branch.
     std::vector<RowLook> ReadBelow(std::uint32_t index, std::int64_t first, std::int64_t count);

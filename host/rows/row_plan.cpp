@@ -1,11 +1,11 @@
 #include "rows/row_plan.h"
 
+#include "base/text.h"
 #include "model/data_sources.h"
 #include "model/view.h"
 #include "rows/text_matcher.h"
 
 #include <algorithm>
-#include <strings.h>
 
 namespace znhost {
 
@@ -86,7 +86,7 @@ void RowPlan::AddChildFolders(const RowContent& folder, std::vector<RowContent>&
     Column* const column = view_.SortColumn();
     if (settings.keepChildrenAsCreated || column != &view_.DefaultColumn()) return;
     std::stable_sort(contents.begin(), contents.end(), [this](const RowContent& a, const RowContent& b) {
-        const int order = strcasecmp(a.folder->Name().c_str(), b.folder->Name().c_str());
+        const int order = Fold(a.folder->Name()).compare(Fold(b.folder->Name()));
         return view_.SortsAscending() ? order < 0 : order > 0;
     });
 }

@@ -1,29 +1,53 @@
 #include "rows/text_matcher.h"
 
+#include "base/tcl_values.h"
+#include "base/text.h"
+
 #include <tcl.h>
 
 namespace znhost {
 
 namespace {
 
-/// The text in lower case, in a storage that is used again.
-const std::string& Fold(std::string_view text, std::string& folded) {
-    folded.assign(text);
-    // Lower case may be shorter than what it was made of, never longer.
-    if (!folded.empty()) folded.resize(static_cast<std::size_t>(Tcl_UtfToLower(folded.data())));
-    return folded;
+/// Tcl knows the letters of the basic plane.
+bool IsWordCharacter(char32_t character) {
+    return character < 0x10000 && (Tcl_UniCharIsAlnum(static_cast<int>(character)) || character == '_');
 }
-
-bool IsWordCharacter(Tcl_UniChar character) { return Tcl_UniCharIsAlnum(character) || character == '_'; }
 
 /// Whether a word begins or ends between the two characters at `place`.
 bool IsWordBorder(std::string_view text, std::size_t place) {
     if (place == 0 || place >= text.size()) return true;
-    Tcl_UniChar before = 0;
-    Tcl_UniChar after = 0;
-    Tcl_UtfToUniChar(Tcl_UtfPrev(text.data() + place, text.data()), &before);
-    Tcl_UtfToUniChar(text.data() + place, &after);
-    return !IsWordCharacter(before) || !IsWordCharacter(after);
+    std::string_view after = text.substr(place);
+    return !IsWordCharacter(LastCharacter(text.substr(0, place))) || !IsWordCharacter(TakeCharacter(after));
+}
+
+/// Takes a character off both, if the pattern has one that lets it.
+bool TakeBoth(std::string_view& text, std::string_view& pattern) {
+    if (pattern.empty()) return false;
+    const char32_t wanted = TakeCharacter(pattern);
+    return TakeCharacter(text) == wanted || wanted == U'?';
+}
+
+/// Whether the pattern, with its "*" and "?", is the whole text. Only the last "*" that was met ever takes
+/// more, which is enough: the time is at most the product of the lengths.
+bool MatchesGlob(std::string_view text, std::string_view pattern) {
+    std::string_view textBehind; // what that "*" has not taken, and the pattern behind it
+    std::string_view patternBehind;
+    bool starred = false;
+    while (!text.empty()) {
+        if (!pattern.empty() && pattern.front() == '*') {
+            pattern.remove_prefix(1);
+            starred = true;
+            textBehind = text;
+            patternBehind = pattern;
+        } else if (!TakeBoth(text, pattern)) {
+            if (!starred) return false;
+            TakeCharacter(textBehind);
+            text = textBehind;
+            pattern = patternBehind;
+        }
+    }
+    return pattern.find_first_not_of('*') == pattern.npos;
 }
 
 } // namespace
@@ -34,7 +58,7 @@ TextMatcher::TextMatcher(std::string_view pattern, const Options& options) : opt
     if (options.regexp) {
         const std::string expression =
             options.matchWord ? "\\m(?:" + std::string(pattern) + ")\\M" : std::string(pattern);
-        expression_.reset(Tcl_NewStringObj(expression.data(), static_cast<int>(expression.size())));
+        expression_.reset(NewText(expression));
         Tcl_IncrRefCount(expression_.get());
         const int flags = TCL_REG_ADVANCED | (options.matchCase ? 0 : TCL_REG_NOCASE);
         Tcl_Interp* const scratch = Tcl_CreateInterp(); // takes the error text
@@ -48,16 +72,12 @@ TextMatcher::TextMatcher(std::string_view pattern, const Options& options) : opt
     } else {
         Fold(pattern, pattern_);
     }
-    // Of Tcl's glob patterns only "*" and "?" are wanted.
-    for (std::size_t i = 0; options_.glob && i < pattern_.size(); ++i) {
-        if (pattern_[i] == '[' || pattern_[i] == '\\') pattern_.insert(i++, 1, '\\');
-    }
 }
 
 bool TextMatcher::Matches(std::string_view text) const {
     if (options_.regexp) return error_.empty() && FindRegexp(text);
     if (!options_.matchCase) text = Fold(text, folded_);
-    if (options_.glob) return Tcl_StringMatch(std::string(text).c_str(), pattern_.c_str()) != 0;
+    if (options_.glob) return MatchesGlob(text, pattern_);
     return FindPlain(text);
 }
 
@@ -73,7 +93,7 @@ bool TextMatcher::FindPlain(std::string_view text) const {
 bool TextMatcher::FindRegexp(std::string_view text) const {
     const int flags = TCL_REG_ADVANCED | (options_.matchCase ? 0 : TCL_REG_NOCASE);
     const Tcl_RegExp compiled = Tcl_GetRegExpFromObj(nullptr, expression_.get(), flags);
-    Tcl_Obj* const object = Tcl_NewStringObj(text.data(), static_cast<int>(text.size()));
+    Tcl_Obj* const object = NewText(text);
     Tcl_IncrRefCount(object);
     const bool found = compiled && Tcl_RegExpExecObj(nullptr, compiled, object, 0, 0, 0) > 0;
     Tcl_DecrRefCount(object);

@@ -11,7 +11,7 @@ struct Tcl_Obj;
 namespace znhost {
 
 /// A search pattern. Plain texts are found anywhere in the text; one with "*" or "?" is a glob pattern for
-/// the whole text; a regular expression is one of Tcl's.
+/// the whole text, in which each stands for characters, not bytes; a regular expression is one of Tcl's.
 class TextMatcher {
 public:
     struct Options {

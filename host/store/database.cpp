@@ -1,5 +1,8 @@
 #include "store/database.h"
 
+#include "base/text.h"
+#include "store/database_file.h"
+
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
 #include <algorithm>
@@ -12,16 +15,20 @@ namespace {
 constexpr int busyTimeout = 250; // milliseconds: a window is waiting
 constexpr std::size_t idleStatements = 64;
 
+/// The most bytes of one value, and of all rows that are asked for at once. Tcl ends the process above 2 GiB,
+/// and writing a list of such texts may double them for each level of the list.
+constexpr std::size_t largestValue = 1 << 28;
+constexpr std::size_t longestSql = 1 << 24;
+
+std::string Limit(std::size_t bytes) { return std::to_string(bytes) + " bytes"; }
+
 } // namespace
 
 std::unique_ptr<Database> Database::OpenFile(const std::string& path, std::string& error) {
     std::string reason;
-    // An empty name would be a nameless database that vanishes when it is closed.
+    std::string native;
     std::unique_ptr<Database> database;
-    if (path.empty())
-        reason = "the file name is empty";
-    else
-        database = Open(path.c_str(), reason);
+    if (FindDatabaseFile(path, native, reason)) database = Open(native.c_str(), reason);
     if (!database) error = "cannot open the database \"" + path + "\": " + reason;
     return database;
 }
@@ -36,7 +43,7 @@ std::unique_ptr<Database> Database::Open(const char* path, std::string& error) {
         // SQLite looks into the file only when it must.
         return database->Execute("SELECT 1 FROM sqlite_schema", error) ? std::move(database) : nullptr;
     } catch (const SQLite::Exception& failure) {
-        error = failure.what();
+        error = ToTcl(failure.what());
         return nullptr;
     }
 }
@@ -44,11 +51,19 @@ std::unique_ptr<Database> Database::Open(const char* path, std::string& error) {
 Database::Database(std::unique_ptr<SQLite::Database> connection) : connection_(std::move(connection)) {
     // No statement may damage the database file itself.
     sqlite3_db_config(Handle(), SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_limit(Handle(), SQLITE_LIMIT_LENGTH, static_cast<int>(largestValue));
+    sqlite3_limit(Handle(), SQLITE_LIMIT_SQL_LENGTH, static_cast<int>(longestSql));
 }
 
 Database::~Database() = default;
 
 sqlite3* Database::Handle() const { return connection_->getHandle(); }
+
+std::string Database::Reason(int outcome) const {
+    if (outcome == SQLITE_TOOBIG)
+        return "a text, blob or row is too large: the limit is " + Limit(largestValue);
+    return ToTcl(sqlite3_errmsg(Handle()));
+}
 
 Statement Database::Prepare(std::string_view sql) {
     std::list<PreparedStatement> taken;
@@ -76,24 +91,29 @@ Statement Database::PrepareAnew(std::string_view sql, std::list<PreparedStatemen
 
 bool Database::Compile(std::string_view sql, PreparedStatement& prepared, std::string& error) {
     prepared.sql = sql;
-    if (sql.find('\0') != sql.npos) { // SQLite would silently run what stands before it
+    const std::string text = FromTcl(sql);
+    if (text.find('\0') != text.npos) { // SQLite would silently run what stands before it
         error = "a NUL character in the SQL statement";
+        return false;
+    }
+    if (text.size() > longestSql) {
+        error = "the SQL statement is too long: the limit is " + Limit(longestSql);
         return false;
     }
     sqlite3_stmt* handle = nullptr;
     const char* tail = nullptr;
-    const char* const text = prepared.sql.c_str();
-    const int outcome = sqlite3_prepare_v3(Handle(), text, -1, SQLITE_PREPARE_PERSISTENT, &handle, &tail);
+    const int outcome =
+        sqlite3_prepare_v3(Handle(), text.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &handle, &tail);
     prepared.handle.reset(handle);
     if (outcome != SQLITE_OK) {
-        error = sqlite3_errmsg(Handle());
+        error = Reason(outcome);
         return false;
     }
     if (!handle) {
         error = "no SQL statement in \"" + prepared.sql + "\"";
         return false;
     }
-    return EndsAt(tail, text + prepared.sql.size(), error);
+    return EndsAt(tail, text.c_str() + text.size(), error);
 }
 
 /// Whether nothing but blanks and comments follows the first statement.
@@ -106,7 +126,7 @@ bool Database::EndsAt(const char* tail, const char* end, std::string& error) {
         if (second || outcome != SQLITE_OK) {
             const std::string_view text(tail, static_cast<std::size_t>(end - tail));
             const std::size_t first = std::min(text.find_first_not_of(" \t\r\n\f;"), text.size());
-            error = "one SQL statement at a time; this follows the first: " + std::string(text.substr(first));
+            error = "one SQL statement at a time; this follows the first: " + ToTcl(text.substr(first));
             return false;
         }
         tail = rest; // behind a lone semicolon
@@ -150,10 +170,15 @@ bool Database::Run(std::string_view sql, const std::vector<Value>& values, Rows&
     const int columns = statement.ColumnCount();
     // What gives no rows and changes none itself begins or ends transactions.
     if (columns == 0 && statement.IsReadOnly()) NoteRollback();
-    while (statement.Next()) {
+    for (std::size_t bytes = 0; statement.Next();) {
         std::vector<std::string>& row = rows.emplace_back();
         row.reserve(static_cast<std::size_t>(columns));
-        for (int column = 0; column < columns; ++column) row.emplace_back(statement.Text(column));
+        for (int column = 0; column < columns; ++column)
+            bytes += row.emplace_back(statement.Text(column)).size() + 1;
+        if (bytes <= largestValue) continue;
+        rows.clear();
+        error = "the rows are too large: the limit is " + Limit(largestValue) + ", ask for fewer";
+        return false;
     }
     return statement.Finish(error);
 }
@@ -168,8 +193,9 @@ bool Database::Execute(std::string_view sql, std::string& error) {
 bool Database::RunScript(const std::string& script, std::string& error) {
     const bool inTransaction = InTransaction();
     NoteRollback();
-    if (connection_->tryExec(script) == SQLITE_OK) return true;
-    error = connection_->getErrorMsg();
+    const int outcome = connection_->tryExec(FromTcl(script));
+    if (outcome == SQLITE_OK) return true;
+    error = Reason(outcome);
     std::string ignored; // the script's error is the one to tell
     if (!inTransaction && InTransaction()) Execute("ROLLBACK", ignored);
     return false;

@@ -16,7 +16,9 @@ struct sqlite3;
 namespace znhost {
 
 /// A connection to a database file, or to a database in memory. Failures come as `false` and SQLite's own
-/// text; no SQLite exception leaves the class. All objects made from a database must go before it does.
+/// text; no SQLite exception leaves the class. Texts are in Tcl's form on this side of the class, and in the
+/// database's on the other. A value has at most 256 MiB, a statement 16 MiB. All objects made from a database
+/// must go before it does.
 class Database {
 public:
     using Rows = std::vector<std::vector<std::string>>;
@@ -36,8 +38,9 @@ public:
         }
     };
 
-    /// Opens the database file, which is created when it is missing. Null, with a message that names the file
-    /// and SQLite's reason, when the file cannot be opened, holds something else, or is locked.
+    /// Opens the database file, which is created when it is missing and its directory is there. Null, with a
+    /// message that names the file and the reason, when it is no regular file, cannot be opened, holds
+    /// something else, or is locked.
     static std::unique_ptr<Database> OpenFile(const std::string& path, std::string& error);
     /// A new, empty database that lives as long as the connection.
     static std::unique_ptr<Database> OpenMemory(std::string& error);
@@ -50,7 +53,7 @@ public:
     /// The same for a text that will hardly come again, such as one with a name in it: it is not kept.
     Statement PrepareOnce(std::string_view sql);
     /// Runs one statement with a value for each of its `?`, and gives its rows as texts (a NULL as an empty
-    /// one).
+    /// one). Rows of more than 256 MiB in all are a failure.
     bool Run(std::string_view sql, const std::vector<Value>& values, Rows& rows, std::string& error);
     /// Runs one statement and drops its rows.
     bool Execute(std::string_view sql, std::string& error);
@@ -75,8 +78,11 @@ public:
     void SetGoesOn(std::function<bool()> goesOn) { goesOn_ = std::move(goesOn); }
     bool GoesOn() const { return !goesOn_ || goesOn_(); }
 
-    /// The connection, for the other files of this folder.
+    // ---- For the other files of this folder ----
+    /// The connection.
     sqlite3* Handle() const;
+    /// What SQLite tells about the outcome of the last call.
+    std::string Reason(int outcome) const;
 
     /// A name as an identifier in SQL: in double quotes, those inside doubled.
     static std::string Quoted(std::string_view name);

@@ -1,5 +1,6 @@
 #include "store/row_lister.h"
 
+#include "base/text.h"
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserDataProperty.h"
 #include "model/view.h"
@@ -22,27 +23,23 @@ bool IsText(const Value& value) { return std::holds_alternative<std::string>(val
 
 bool IsNothing(const Value& value) { return std::holds_alternative<std::monostate>(value); }
 
-char Folded(char character) {
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
-}
-
-bool LessText(const std::string& a, const std::string& b) {
-    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char one, char two) {
-        return static_cast<unsigned char>(Folded(one)) < static_cast<unsigned char>(Folded(two));
-    });
-}
-
-/// Nothing before numbers, numbers before texts.
+/// Of keys: nothing before numbers, numbers before texts.
 bool ComesBefore(const Value& a, const Value& b) {
     const int kindOfA = IsNothing(a) ? 0 : IsText(a) ? 2 : 1;
     const int kindOfB = IsNothing(b) ? 0 : IsText(b) ? 2 : 1;
     if (kindOfA != kindOfB) return kindOfA < kindOfB;
     if (kindOfA == 0) return false;
-    if (kindOfA == 2) return LessText(std::get<std::string>(a), std::get<std::string>(b));
+    if (kindOfA == 2) return std::get<std::string>(a) < std::get<std::string>(b);
     if (a.index() == b.index() && std::holds_alternative<std::int64_t>(a)) {
         return std::get<std::int64_t>(a) < std::get<std::int64_t>(b);
     }
     return RealOf(a) < RealOf(b);
+}
+
+/// What a value is sorted by.
+Value KeyOf(Value value) {
+    if (std::string* const text = std::get_if<std::string>(&value)) *text = Fold(*text);
+    return value;
 }
 
 /// Columns of a statement that list a field of each of them.
@@ -136,7 +133,7 @@ bool RowLister::ReadPart(const RowPart& part, std::vector<std::int64_t>& rows) {
         rows.push_back(source_.RowOf({part.slot, statement.Integer(0)}));
         if (!IsSorted()) continue;
         const Field& field = fields_.back();
-        keys_.push_back(field.computed ? Cell() : CellOf(field, statement, reading.places.back()));
+        keys_.push_back(field.computed ? Cell() : KeyOf(CellOf(field, statement, reading.places.back())));
     }
     std::string error;
     return statement.Finish(error) || source_.FailWith(error);
@@ -212,8 +209,8 @@ bool RowLister::Fulfils(const RowCondition& condition, const Field& field, const
     const Cell wanted = CellOfText(field, condition.value);
     if (IsText(cell) != IsText(wanted)) return false;
     switch (condition.compare) {
-    case RowCondition::Compare::Less: return ComesBefore(cell, wanted);
-    case RowCondition::Compare::More: return ComesBefore(wanted, cell);
+    case RowCondition::Compare::Less: return ComesBefore(KeyOf(cell), KeyOf(wanted));
+    case RowCondition::Compare::More: return ComesBefore(KeyOf(wanted), KeyOf(cell));
     default: return IsText(cell) ? cell == wanted : RealOf(cell) == RealOf(wanted);
     }
 }
@@ -253,7 +250,7 @@ void RowLister::Compute(std::vector<std::int64_t>& rows) {
         rows[kept] = rows[i];
         if (IsSorted()) {
             keys_[kept] =
-                isLeft(fields_.back()) ? ComputedCell(fields_.back(), rows[i]) : std::move(keys_[i]);
+                isLeft(fields_.back()) ? KeyOf(ComputedCell(fields_.back(), rows[i])) : std::move(keys_[i]);
         }
         ++kept;
     }

@@ -20,6 +20,10 @@ namespace znhost {
 class RowSource;
 class WantedValues;
 
+/// The most bytes of a text in a cell; nobody looks at more of it, and Tcl cannot hold many that are larger.
+/// The whole text is had with `GetValueString`.
+constexpr std::size_t longestCell = 1 << 16;
+
 /// How the items of one source hang below those of another: along a data reference. Either the child's table
 /// holds the foreign key (an item has any number of children), or the parent's does (it has at most one
 /// child: the item that it refers to). When both could be meant, the child's is. Parent and child are the
@@ -113,7 +117,7 @@ public:
     virtual bool IsStored(znIBrowserDataProperty* property) = 0;
     /// Replaces what `texts` holds by the values of stored properties, row by row, as `GetValueString` and
     /// `GetText` give them, and none where an item has no value: a page of a window, with one look at each
-    /// row.
+    /// row. A text of more than `longestCell` bytes is cut.
     virtual void ReadTexts(const std::vector<std::int64_t>& rows,
                            const std::vector<znIBrowserDataProperty*>& properties,
                            std::vector<std::optional<std::string>>& texts) = 0;

@@ -169,7 +169,8 @@ void SimpleSource::ReadTexts(const std::vector<std::int64_t>& rows,
             const bool found = statement.Next();
             for (std::size_t j = 0; found && j < properties.size(); ++j) {
                 const int column = static_cast<int>(j);
-                if (!statement.IsNull(column)) texts[i * properties.size() + j] = statement.Text(column);
+                if (statement.IsNull(column)) continue;
+                texts[i * properties.size() + j] = statement.TextUpTo(column, longestCell);
             }
             statement.Rewind();
         }

@@ -1,5 +1,6 @@
 #include "store/sql_guard.h"
 
+#include "base/text.h"
 #include "store/schema.h"
 
 #include <sqlite3.h>
@@ -112,7 +113,7 @@ private:
         // Recursive queries only come from views here.
         if (action == SQLITE_SELECT || action == SQLITE_READ || action == SQLITE_RECURSIVE) return SQLITE_OK;
         if (action == SQLITE_FUNCTION && name) {
-            functions_.emplace_back(name);
+            functions_.push_back(ToTcl(name));
             return SQLITE_OK;
         }
         refused_ = true;
@@ -139,9 +140,9 @@ bool IsHarmless(Database& database, const std::string& function, std::string& er
 
 bool CheckExpression(Database& database, std::string_view table, std::string_view code, int& parameters,
                      std::string& error) {
-    if (!TextCheck(code).Passes(error)) return false;
     const std::string sql =
-        "SELECT 1 FROM main." + Database::Quoted(table) + " WHERE (" + std::string(code) + ")";
+        FromTcl("SELECT 1 FROM main." + Database::Quoted(table) + " WHERE (" + std::string(code) + ")");
+    if (!TextCheck(FromTcl(code)).Passes(error)) return false;
     std::vector<std::string> functions;
     int count = 0;
     {
@@ -150,8 +151,7 @@ bool CheckExpression(Database& database, std::string_view table, std::string_vie
         const int outcome = sqlite3_prepare_v2(database.Handle(), sql.c_str(), -1, &handle, nullptr);
         const std::unique_ptr<sqlite3_stmt, FinalizeStatement> statement(handle);
         if (outcome != SQLITE_OK || !sqlite3_stmt_readonly(handle)) {
-            error =
-                watch.Refused() ? "it would do more than compare values" : sqlite3_errmsg(database.Handle());
+            error = watch.Refused() ? "it would do more than compare values" : database.Reason(outcome);
             return false;
         }
         count = sqlite3_bind_parameter_count(handle);

@@ -1,5 +1,6 @@
 #include "store/statement.h"
 
+#include "base/text.h"
 #include "store/database.h"
 
 #include <sqlite3.h>
@@ -29,7 +30,7 @@ void Statement::Check(int resultCode) {
     // The connection's message tells more than the code, but is about the last call on the connection only.
     sqlite3* const connection = sqlite3_db_handle(Handle());
     const bool described = sqlite3_errcode(connection) == resultCode;
-    error_ = described ? sqlite3_errmsg(connection) : sqlite3_errstr(resultCode);
+    error_ = described ? owner_->Reason(resultCode) : sqlite3_errstr(resultCode);
 }
 
 void Statement::Bind(int position, std::int64_t value) {
@@ -42,6 +43,7 @@ void Statement::Bind(int position, double value) {
 
 void Statement::Bind(int position, std::string_view text) {
     if (failed_) return;
+    text = FromTcl(text, converted_);
     const char* const data = text.data() ? text.data() : ""; // a null pointer would bind NULL
     Check(sqlite3_bind_text64(Handle(), position, data, text.size(), SQLITE_TRANSIENT, SQLITE_UTF8));
 }
@@ -89,7 +91,14 @@ std::int64_t Statement::Integer(int column) const { return sqlite3_column_int64(
 
 double Statement::Real(int column) const { return sqlite3_column_double(Handle(), column); }
 
-std::string_view Statement::Text(int column) const {
+std::string_view Statement::Text(int column) const { return ToTcl(Bytes(column), converted_); }
+
+std::string Statement::TextUpTo(int column, std::size_t most) const {
+    const std::string_view bytes = Bytes(column);
+    return bytes.size() <= most ? std::string(ToTcl(bytes, converted_)) : ToTcl(Cut(bytes, most));
+}
+
+std::string_view Statement::Bytes(int column) const {
     const unsigned char* const text = sqlite3_column_text(Handle(), column);
     if (!text) return "";
     const int bytes = sqlite3_column_bytes(Handle(), column); // to be asked after the conversion to text

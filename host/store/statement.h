@@ -34,8 +34,8 @@ struct PreparedStatement {
 ///     return parts.Finish(error);
 ///
 /// The first failure is kept; from then on every call is harmless and does nothing, so that one look at the
-/// end suffices. On destruction the statement goes back to the database, ready for its next use. It must not
-/// outlive the database.
+/// end suffices. Texts, names and errors are in Tcl's form here, and the database's behind. On destruction
+/// the statement goes back to the database, ready for its next use. It must not outlive the database.
 class Statement {
 public:
     Statement(Statement&& other) noexcept = default;
@@ -65,6 +65,8 @@ public:
     std::int64_t Integer(int column) const;
     double Real(int column) const;
     std::string_view Text(int column) const;
+    /// At most so many bytes of the text as it is stored, with "…" behind them when there are more.
+    std::string TextUpTo(int column, std::size_t most) const;
     /// The value as it is stored; the bytes of a blob as a text.
     Value Get(int column) const;
 
@@ -80,11 +82,13 @@ private:
     explicit Statement(std::string reason);
 
     sqlite3_stmt* Handle() const { return prepared_.empty() ? nullptr : prepared_.front().handle.get(); }
+    std::string_view Bytes(int column) const;
     void Check(int resultCode);
     bool Interrupt();
 
     Database* owner_ = nullptr;
     std::list<PreparedStatement> prepared_; // one, or none after a failed preparation
+    mutable std::string converted_; // the text last bound or given, when it differs from the database's
     std::string error_;
     bool failed_ = false;
     bool finished_ = false;

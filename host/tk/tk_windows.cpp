@@ -1,5 +1,6 @@
 #include "tk/tk_windows.h"
 
+#include "base/tcl_values.h"
 #include "model/application.h"
 #include "model/window.h"
 #include "tk/manager_command.h"
@@ -46,8 +47,7 @@ bool Evaluate(Tcl_Interp* interp, Tcl_Obj* command, std::string& result, OnError
 }
 
 bool Evaluate(Tcl_Interp* interp, std::string_view script, std::string& result) {
-    Tcl_Obj* const text = Tcl_NewStringObj(script.data(), static_cast<int>(script.size()));
-    return Evaluate(interp, text, result, OnError::Answer);
+    return Evaluate(interp, NewText(script), result, OnError::Answer);
 }
 
 int AnswerManagerWords(ClientData windows, Tcl_Interp*, int objc, Tcl_Obj* const objv[]) {
@@ -193,12 +193,7 @@ std::string TkWindows::Run(const std::vector<std::string>& words) const {
     Tcl_Interp* const interp = application_.Interp();
     std::string result;
     if (Tcl_InterpDeleted(interp)) return result;
-    Tcl_Obj* const command = Tcl_NewListObj(0, nullptr);
-    for (const std::string& word : words) {
-        Tcl_ListObjAppendElement(nullptr, command,
-                                 Tcl_NewStringObj(word.data(), static_cast<int>(word.size())));
-    }
-    return Evaluate(interp, command, result, OnError::Report) ? result : std::string();
+    return Evaluate(interp, NewList(words), result, OnError::Report) ? result : std::string();
 }
 
 unsigned TkWindows::NumberOf(const Window& window) const {

@@ -1,5 +1,7 @@
 #include "tk/tk_words.h"
 
+#include "base/tcl_values.h"
+#include "base/text.h"
 #include "model/application.h"
 #include "model/popup_menu.h"
 #include "model/view.h"
@@ -18,11 +20,7 @@ namespace {
 
 // ---- Values for Tcl ----
 
-Tcl_Obj* NewText(std::string_view text) {
-    return Tcl_NewStringObj(text.data(), static_cast<int>(text.size()));
-}
-
-Tcl_Obj* NewList(std::initializer_list<Tcl_Obj*> objects) {
+Tcl_Obj* ListOf(std::initializer_list<Tcl_Obj*> objects) {
     return Tcl_NewListObj(static_cast<int>(objects.size()), objects.begin());
 }
 
@@ -78,10 +76,10 @@ ColumnNumbers NumberColumns(const Window& window) {
 }
 
 Tcl_Obj* NewCell(const RowCell& cell, int column) {
-    Tcl_Obj* const list = NewList({Tcl_NewIntObj(column)});
+    Tcl_Obj* const list = ListOf({Tcl_NewIntObj(column)});
     for (const CellElement& element : cell.elements) {
-        Append(list, NewList({NewText(KindName(element.kind)), NewText(element.text), NewText(element.colour),
-                              NewText(element.name)}));
+        Append(list, ListOf({NewText(KindName(element.kind)), NewText(element.text), NewText(element.colour),
+                             NewText(element.name)}));
     }
     return list;
 }
@@ -92,11 +90,11 @@ Tcl_Obj* NewRow(const RowLook& look, const ColumnNumbers& columns) {
         const auto column = columns.find(cell.column);
         if (column != columns.end()) Append(cells, NewCell(cell, column->second));
     }
-    return NewList({Tcl_NewWideIntObj(look.index), Tcl_NewWideIntObj(look.parent),
-                    Tcl_NewWideIntObj(look.depth), NewText(KindName(look.kind)), NewText(look.text),
-                    Tcl_NewBooleanObj(look.expanded), Tcl_NewBooleanObj(look.selected),
-                    Tcl_NewBooleanObj(look.hasRows), Tcl_NewBooleanObj(look.bold),
-                    Tcl_NewBooleanObj(look.italic), NewText(look.icon), cells});
+    return ListOf({Tcl_NewWideIntObj(look.index), Tcl_NewWideIntObj(look.parent),
+                   Tcl_NewWideIntObj(look.depth), NewText(KindName(look.kind)), NewText(look.text),
+                   Tcl_NewBooleanObj(look.expanded), Tcl_NewBooleanObj(look.selected),
+                   Tcl_NewBooleanObj(look.hasRows), Tcl_NewBooleanObj(look.bold),
+                   Tcl_NewBooleanObj(look.italic), NewText(look.icon), cells});
 }
 
 Tcl_Obj* NewColumn(const View& view, const Column& column) {
@@ -175,14 +173,11 @@ Tcl_Obj* FindBeginning(const Question& question) {
     constexpr std::int64_t most = 100000;
     RowModel& rows = question.window.Rows();
     const RowModel::Answering answering(rows);
-    const int length = Tcl_NumUtfChars(question.text.c_str(), -1);
     std::int64_t position = question.numbers[0];
     for (std::int64_t seen = 0; seen < most; seen += atOnce) {
         const std::vector<RowLook> looks = rows.Read(position, atOnce);
         const auto found = std::find_if(looks.begin(), looks.end(), [&](const RowLook& look) {
-            return Tcl_NumUtfChars(look.text.c_str(), -1) >= length &&
-                   Tcl_UtfNcasecmp(look.text.c_str(), question.text.c_str(),
-                                   static_cast<unsigned long>(length)) == 0;
+            return BeginsWithFolded(look.text, question.text);
         });
         if (found != looks.end()) return Tcl_NewWideIntObj(position + (found - looks.begin()));
         if (looks.empty()) break;

@@ -4,6 +4,9 @@
 
 namespace znlayer {
 
+/// Tcl ends the process above 2 GiB, and a list in which the answer stands may be twice as long.
+constexpr std::size_t longestAnswer = std::size_t{1} << 29;
+
 Call::Call(znBrowserManagerTcl& callManager, int objc, Tcl_Obj* const objv[])
     : manager(callManager), interp_(callManager.GetTclInterp()), objc_(objc), objv_(objv), code_(TCL_OK) {}
 
@@ -64,12 +67,22 @@ void Call::Answer(std::string_view text) {
         result = replied_ ? Tcl_DuplicateObj(result) : Tcl_NewObj();
         Tcl_SetObjResult(interp_, result);
     }
+    int before = 0;
+    if (replied_) Tcl_GetStringFromObj(result, &before);
+    if (text.size() > longestAnswer - static_cast<std::size_t>(before)) return AnswerTooLarge();
     const int length = static_cast<int>(text.size());
     if (replied_)
         Tcl_AppendToObj(result, text.data(), length);
     else
         Tcl_SetStringObj(result, text.data(), length);
     replied_ = true;
+}
+
+void Call::AnswerTooLarge() {
+    manager.SetError(
+        ("The answer is too large: the limit is " + std::to_string(longestAnswer) + " bytes").c_str());
+    replied_ = false;
+    AnswerError();
 }
 
 void Call::Answer(bool value) {

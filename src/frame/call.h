@@ -57,6 +57,7 @@ public:
     Tcl_Obj* const* Words() const { return objv_; }
 
     // ---- The reply ----
+    /// More than 512 MiB in all are refused: then the reply is the error banner that says so.
     void Answer(std::string_view text);
     void Answer(const char* text) { Answer(std::string_view(text ? text : "")); }
     void Answer(const znString& text) { Answer(text.View()); }
@@ -85,6 +86,8 @@ public:
     int Finish();
 
 private:
+    void AnswerTooLarge();
+
     Tcl_Interp* interp_;
     int objc_;
     Tcl_Obj* const* objv_;

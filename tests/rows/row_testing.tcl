@@ -53,10 +53,10 @@ proc start {} {
 }
 
 # A column with a property of the parts.
-proc addColumn {name type} {
+proc addColumn {name type {source part}} {
     zn view property create $name
     zn view property type $type
-    zn view property connect part $name
+    zn view property connect $source $name
     zn view column create $name
 }
 

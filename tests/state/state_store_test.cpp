@@ -64,7 +64,7 @@ TEST_F(StoreTest, TablesComeWithTheFirstStateAndWindowsNeedNotLookAgain) {
 }
 
 TEST_F(StoreTest, StatesKeepWhatIsWrittenAndNothingOfBefore) {
-    const std::string odd("\0 {'\"\\\n\xc3\xbc", 9);
+    const std::string odd = "\xC0\x80 {'\"\\\n\xC3\xBC\xED\xA0\xBD\xED\xB8\x80\xED\xB3\xBF";
     EXPECT_EQ(Done(store.Create("z", error) && store.Create("a", error)), "");
     EXPECT_EQ(Done(store.Create("a", error)), "A state \"a\" already exists");
     EXPECT_EQ(Done(store.Create("", error)), "A state needs a name");

@@ -24,6 +24,7 @@ TEST(ValueOfWord, NumbersAreThoseThatReadBackAsWritten) {
 TEST(Database, WhatCannotBeOpenedIsRefusedWithTheReason) {
     const TemporaryDirectory directory;
     std::ofstream(directory.File("letter")) << std::string(4096, 'x');
+    std::filesystem::create_symlink("nowhere", directory.File("link"));
     std::string error;
     const auto busy = Database::OpenFile(directory.File("busy"), error);
     ASSERT_TRUE(busy) << error;
@@ -31,8 +32,16 @@ TEST(Database, WhatCannotBeOpenedIsRefusedWithTheReason) {
     const std::pair<std::string, std::string> cases[] = {
         {directory.File("letter"), "file is not a database"},
         {directory.File("busy"), "database is locked"},
-        {directory.File("missing/file"), "unable to open database file"},
-        {directory.File(""), "unable to open database file"},
+        {directory.File("missing/file"), "its directory does not exist"},
+        {directory.File("file/"), "it is the name of a directory"},
+        {directory.File("link"), "it is a link to a file that does not exist"},
+        {directory.File("letter/file"), "its directory does not exist"},
+        {directory.File("."), "it is a directory"},
+        {"/dev/null", "it is a device"},
+        {"file:/tmp/x", "a URI is no file name; a file of that name is \"./file:/tmp/x\""},
+        {":memory:", "a database in memory has no file name: leave it out"},
+        {"a\xC0\x80z", "no file of the system has such a name"},
+        {"~no such user", "user \"no such user\" doesn't exist"},
         {"", "the file name is empty"},
     };
     for (const auto& [path, reason] : cases) {
@@ -51,6 +60,15 @@ TEST(Database, RunsOneStatementWithItsValues) {
         {"SELECT ?, ?, ?, ?", {std::int64_t{7}, 2.5, "it's", Value()}, "7,2.5,it's,"},
         {"SELECT typeof(?), typeof(?)", {Value(), std::string()}, "null,text"},
         {"SELECT hex(?)", {std::string("a\0b", 3)}, "610062"},
+        {"SELECT hex(?)", {"a\xC0\x80z"}, "61007A"},
+        {"SELECT hex(?)", {"\xED\xA0\xBD\xED\xB8\x80"}, "F09F9880"},
+        {"SELECT hex('\xED\xA0\xBD\xED\xB8\x80')", {}, "F09F9880"},
+        {"SELECT char(0, 128512), CAST(x'61FF' AS TEXT)",
+         {},
+         "\xC0\x80\xED\xA0\xBD\xED\xB8\x80,a\xED\xB3\xBF"},
+        {"SELECT x'00FF'", {}, "\xC0\x80\xED\xB3\xBF"},
+        {"SELECT \xED\xA0\xBD\xED\xB8\x80", {}, "no such column: \xED\xA0\xBD\xED\xB8\x80"},
+        {"SELECT 1; \xED\xB3\xBF", {}, "one SQL statement at a time; this follows the first: \xED\xB3\xBF"},
         {"REPLACE INTO t VALUES (1, 'x'), (2, 'y')", {}, ""},
         {"REPLACE INTO t VALUES (3, 'z') RETURNING b", {}, "z"},
         {"SELECT * FROM t WHERE a < ?", {std::int64_t{3}}, "1,x|2,y"},
@@ -61,6 +79,7 @@ TEST(Database, RunsOneStatementWithItsValues) {
         {"SELECT 1; rubbish", {}, "one SQL statement at a time; this follows the first: rubbish"},
         {" -- nothing", {}, "no SQL statement in \" -- nothing\""},
         {std::string("SELECT 1\0; DELETE FROM t", 24), {}, "a NUL character in the SQL statement"},
+        {"SELECT 1\xC0\x80; DELETE FROM t", {}, "a NUL character in the SQL statement"},
         {"SELEKT 1", {}, "near \"SELEKT\": syntax error"},
         {"SELECT * FROM nowhere", {}, "no such table: nowhere"},
         {"INSERT INTO t VALUES (1, 'twice')", {}, "UNIQUE constraint failed: t.a"},
