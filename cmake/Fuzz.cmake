@@ -12,5 +12,5 @@ if(sources AND TARGET zn_objects AND TARGET znbrowserhost)
     endif()
     target_include_directories(command_fuzz PRIVATE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/src")
     target_link_libraries(command_fuzz PRIVATE
-        zn_objects znbrowserhost zn_tcl "${ZN_TCL_STUB_LIBRARY}" SQLiteCpp sqlite3)
+        zn_objects znbrowserhost zn_tcl "${ZN_TCL_STUB_LIBRARY}" sqlite3)
 endif()

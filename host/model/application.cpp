@@ -5,6 +5,7 @@
 #include "store/data_ctrl.h"
 #include "znIBrowserManagerTcl.h"
 
+#include <algorithm>
 #include <memory>
 #include <tcl.h>
 
@@ -62,9 +63,17 @@ bool Application::AddDataCtrl(const std::string& name, const std::string& file, 
     return true;
 }
 
-bool Application::GoesOn() const { return !work_ || work_->GoesOn(); }
+std::string_view Application::WhyStop() const {
+    if (interrupted_) return "interrupted";
+    if (work_ && !work_->GoesOn()) return "cancelled";
+    if (IsHurried() && std::chrono::steady_clock::now() >= until_) return tooLong;
+    return work_ && !work_->HasTime() ? tooLong : std::string_view();
+}
 
-bool Application::HasTime() const { return !work_ || work_->HasTime(); }
+Application::Hurry::Hurry(Application& application, std::chrono::milliseconds time)
+    : application_(application), outer_(application.until_) {
+    application.until_ = std::min(outer_, std::chrono::steady_clock::now() + time);
+}
 
 // The lambda makes a script that ends with "return" end well; the script itself runs at the global level.
 bool Application::RunScript(const std::string& script) {

@@ -33,6 +33,12 @@ public:
     /// The host's own words that may follow "znbrowsermanager app WORD ...", for completion and help; empty
     /// where arguments stand, or where the words lead nowhere.
     static std::vector<std::string> GetAppWords(const std::vector<std::string>& words);
+    /// Stops what takes long, an SQL statement above all, and whatever like that follows: it fails with
+    /// "interrupted". May be called by a signal handler, and by any thread.
+    void Interrupt() noexcept;
+    /// What follows an `Interrupt` may take long again.
+    void Resume() noexcept;
+
     /// Loads Tk: from now on each posted window stands on the display. Once it answered true, calling it
     /// again changes nothing. @return false, with the reason in `error`, when there is no display or Tk or
     /// its tree widget is not installed; windows stay without a face then

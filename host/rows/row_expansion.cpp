@@ -38,8 +38,7 @@ struct RowModel::Listed {
 
 bool RowModel::GoesOn() const {
     if (!view_) return true;
-    const Application& application = view_->Owner().Owner();
-    return application.GoesOn() && application.HasTime();
+    return view_->Owner().Owner().WhyStop().empty();
 }
 
 /// Lists what stands in a container. Scripts give the values by which rows are sorted, so the tree is left as

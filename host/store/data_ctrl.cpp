@@ -17,7 +17,7 @@ DataCtrl::DataCtrl(Application& application, std::string name, std::unique_ptr<D
     : HostObject(application.Log()), application_(application), name_(std::move(name)),
       database_(std::move(database)), schema_(*database_), copies_(*database_),
       states_(*database_, application.Log()) {
-    database_->SetGoesOn([this] { return application_.GoesOn(); });
+    database_->SetWhyStop([this] { return application_.WhyStop(); });
 }
 
 DataCtrl::~DataCtrl() = default;

@@ -1,7 +1,5 @@
 #include "store/database.h"
 
-#include <SQLiteCpp/Database.h>
-#include <SQLiteCpp/Exception.h>
 #include <algorithm>
 #include <iterator>
 #include <sqlite3.h>
@@ -9,7 +7,12 @@
 namespace znhost {
 namespace {
 
-constexpr int busyTimeout = 250; // milliseconds: a window is waiting
+// A window is waiting. Who waited in vain does not wait for the same again, statement after statement.
+constexpr auto busyTimeout = std::chrono::milliseconds(250);
+constexpr auto restAfterWaiting = std::chrono::seconds(1);
+constexpr int pauseWhileWaiting = 5; // milliseconds
+
+constexpr int stepsBetweenQuestions = 4096; // of the database's machine: a fraction of a millisecond
 constexpr std::size_t idleStatements = 64;
 
 } // namespace
@@ -29,26 +32,69 @@ std::unique_ptr<Database> Database::OpenFile(const std::string& path, std::strin
 std::unique_ptr<Database> Database::OpenMemory(std::string& error) { return Open(":memory:", error); }
 
 std::unique_ptr<Database> Database::Open(const char* path, std::string& error) {
-    const int flags = SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE;
-    try {
-        std::unique_ptr<Database> database(
-            new Database(std::make_unique<SQLite::Database>(path, flags, busyTimeout)));
-        // SQLite looks into the file only when it must.
-        return database->Execute("SELECT 1 FROM sqlite_schema", error) ? std::move(database) : nullptr;
-    } catch (const SQLite::Exception& failure) {
-        error = failure.what();
+    sqlite3* handle = nullptr;
+    const int outcome = sqlite3_open_v2(path, &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    Connection connection(handle); // there is one even when it could not be opened
+    if (outcome != SQLITE_OK) {
+        error = handle ? sqlite3_errmsg(handle) : sqlite3_errstr(outcome);
         return nullptr;
     }
+    std::unique_ptr<Database> database(new Database(std::move(connection)));
+    // SQLite looks into the file only when it must.
+    return database->Execute("SELECT 1 FROM sqlite_schema", error) ? std::move(database) : nullptr;
 }
 
-Database::Database(std::unique_ptr<SQLite::Database> connection) : connection_(std::move(connection)) {
+// The program may end in the middle of a statement: then the connection stays until that has gone, too.
+void CloseConnection::operator()(sqlite3* connection) const { sqlite3_close_v2(connection); }
+
+Database::Database(Connection connection) : connection_(std::move(connection)) {
     // No statement may damage the database file itself.
     sqlite3_db_config(Handle(), SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    const auto isStopped = [](void* self) -> int { return static_cast<Database*>(self)->IsStopped(); };
+    sqlite3_progress_handler(Handle(), stepsBetweenQuestions, isStopped, this);
+    const auto waits = [](void* self, int tries) -> int {
+        return static_cast<Database*>(self)->WaitForOthers(tries);
+    };
+    sqlite3_busy_handler(Handle(), waits, this);
 }
 
-Database::~Database() = default;
+Database::~Database() {
+    sqlite3_progress_handler(Handle(), 0, nullptr, nullptr);
+    sqlite3_busy_handler(Handle(), nullptr, nullptr);
+}
 
-sqlite3* Database::Handle() const { return connection_->getHandle(); }
+sqlite3* Database::Handle() const { return connection_.get(); }
+
+// ---- What takes long
+
+bool Database::IsStopped() noexcept {
+    try {
+        stopped_ = whyStop_ ? whyStop_() : std::string_view();
+    } catch (const std::exception&) { // nothing may be thrown through SQLite
+        stopped_ = "out of memory";
+    }
+    return !stopped_.empty();
+}
+
+/// Another connection holds a lock: whether to try once more.
+bool Database::WaitForOthers(int tries) noexcept {
+    const Clock::time_point now = Clock::now();
+    if (tries == 0) waitsSince_ = now;
+    if (now - gaveUp_ < restAfterWaiting) return false;
+    if (now - waitsSince_ >= busyTimeout) {
+        gaveUp_ = now;
+        return false;
+    }
+    if (IsStopped()) return false;
+    sqlite3_sleep(pauseWhileWaiting);
+    return true;
+}
+
+bool Database::MayPass(std::string_view error) {
+    return error == sqlite3_errstr(SQLITE_BUSY) || error == sqlite3_errstr(SQLITE_LOCKED);
+}
+
+// ---- Statements
 
 Statement Database::Prepare(std::string_view sql) {
     std::list<PreparedStatement> taken;
@@ -168,8 +214,8 @@ bool Database::Execute(std::string_view sql, std::string& error) {
 bool Database::RunScript(const std::string& script, std::string& error) {
     const bool inTransaction = InTransaction();
     NoteRollback();
-    if (connection_->tryExec(script) == SQLITE_OK) return true;
-    error = connection_->getErrorMsg();
+    if (sqlite3_exec(Handle(), script.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK) return true;
+    error = sqlite3_errmsg(Handle());
     std::string ignored; // the script's error is the one to tell
     if (!inTransaction && InTransaction()) Execute("ROLLBACK", ignored);
     return false;

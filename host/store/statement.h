@@ -81,14 +81,12 @@ private:
 
     sqlite3_stmt* Handle() const { return prepared_.empty() ? nullptr : prepared_.front().handle.get(); }
     void Check(int resultCode);
-    bool Interrupt();
 
     Database* owner_ = nullptr;
     std::list<PreparedStatement> prepared_; // one, or none after a failed preparation
     std::string error_;
     bool failed_ = false;
     bool finished_ = false;
-    unsigned steps_ = 0;
 };
 
 } // namespace znhost

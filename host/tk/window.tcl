@@ -173,6 +173,7 @@ proc ::znbrowser::unpost {n} {
     upvar #0 ::znbrowser::window$n w
     if {![info exists w(name)]} return
     if {[host busy]} {
+        if {[winfo exists $w(path).progress]} {host cancel} ;# nobody waits for it any longer
         after 100 [list ::znbrowser::unpost $n]
         return
     }
