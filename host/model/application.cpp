@@ -121,6 +121,31 @@ bool Application::ComputeValue(const std::string& procedure, const std::vector<s
     return computed;
 }
 
+void Application::ReportError(const std::string& text) {
+    log_.SetError(text);
+    if (Tcl_InterpDeleted(interp_)) return;
+    const KeptResult kept(interp_);
+    Tcl_SetObjResult(interp_, Tcl_NewStringObj(text.data(), static_cast<int>(text.size())));
+    Tcl_BackgroundException(interp_, TCL_ERROR);
+}
+
+void Application::Notify(const std::function<bool(znIBrowserManagerTcl&)>& service) {
+    if (!manager_ || Tcl_InterpDeleted(interp_)) return;
+    const KeptResult kept(interp_);
+    Tcl_ResetResult(interp_);
+    if (service(*manager_)) return;
+    // A service may also be refused because of what a procedure left behind: then no script has failed.
+    Tcl_Obj* const options = Tcl_GetReturnOptions(interp_, TCL_ERROR);
+    Tcl_IncrRefCount(options);
+    Tcl_Obj* const key = Tcl_NewStringObj("-errorinfo", -1);
+    Tcl_IncrRefCount(key);
+    Tcl_Obj* place = nullptr;
+    Tcl_DictObjGet(nullptr, options, key, &place);
+    if (place) Tcl_BackgroundException(interp_, TCL_ERROR);
+    Tcl_DecrRefCount(key);
+    Tcl_DecrRefCount(options);
+}
+
 znIBrowserDataCtrl* Application::FindDataCtrl(const char* name) {
     if (Refused("znIBrowserApplication::FindDataCtrl", name)) return nullptr;
     return dataControls_.Find(TextOf(name));

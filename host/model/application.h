@@ -6,9 +6,11 @@
 #include "model/browser.h"
 #include "model/host_call.h"
 #include "model/named_list.h"
+#include "model/read_trouble.h"
 
 #include <atomic>
 #include <chrono>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -63,6 +65,14 @@ public:
     /// Whether the time is limited.
     bool IsHurried() const { return until_ != forEver; }
 
+    /// What could not be read of late.
+    ReadTrouble& Trouble() { return trouble_; }
+    /// Gives an error that no answer can tell to the interpreter's background error handler.
+    void ReportError(const std::string& text);
+    /// Calls a service of the manager by which scripts are notified. An error in one of their procedures goes
+    /// to the background error handler; the interpreter's result is as it was.
+    void Notify(const std::function<bool(znIBrowserManagerTcl&)>& service);
+
     NamedList<DataCtrl>& DataControls() { return dataControls_; }
     /// Adds a data control on a database file, made when missing, or on one in memory when `file` is "".
     /// @return false, with the reason in `error`, and without a data control.
@@ -94,6 +104,7 @@ private:
     znIBrowserManagerTcl* manager_ = nullptr;
     WindowDisplay* display_ = nullptr;
     LongWork* work_ = nullptr;
+    ReadTrouble trouble_;
     std::atomic<bool> interrupted_{false};
     static constexpr auto forEver = std::chrono::steady_clock::time_point::max();
     std::chrono::steady_clock::time_point until_ = forEver;

@@ -127,6 +127,7 @@ private:
     void FillParts();
     void RunWindowOperation(Window& target, ZNBROWSER_CALLBACK_OPERATION operation);
     void TellSelectedFolders();
+    bool FailOnTrouble();
     Column* FindColumn(const char* name) const;
     struct Click;
     bool FindClicked(const char* column, const char* element, unsigned int index, Click& click);

@@ -66,9 +66,13 @@ int AnswerRows(AppCall& call) {
     if (call.Count() > 1 && !call.Number(1, "FIRST", first)) return TCL_ERROR;
     if (call.Count() > 2 && !call.Number(2, "COUNT", count)) return TCL_ERROR;
     const RowModel::Answering answering(window->Rows());
+    window->Rows().TakeTrouble();
+    const std::vector<RowLook> looks =
+        window->Rows().Read(static_cast<std::int64_t>(first), static_cast<std::int64_t>(count));
+    const std::string trouble = window->Rows().TakeTrouble();
+    if (!trouble.empty()) return call.Fail("the rows cannot be read: " + trouble, "READ");
     Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
-    for (const RowLook& look :
-         window->Rows().Read(static_cast<std::int64_t>(first), static_cast<std::int64_t>(count))) {
+    for (const RowLook& look : looks) {
         Tcl_ListObjAppendElement(nullptr, list, NewRow(window->Rows(), look));
     }
     return call.Answer(list);

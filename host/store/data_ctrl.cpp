@@ -16,7 +16,8 @@ std::shared_ptr<DataCtrl> DataCtrl::Open(Application& application, const std::st
 DataCtrl::DataCtrl(Application& application, std::string name, std::unique_ptr<Database> database)
     : HostObject(application.Log()), application_(application), name_(std::move(name)),
       database_(std::move(database)), schema_(*database_), copies_(*database_),
-      states_(*database_, application.Log()) {
+      states_(*database_, application.Log(),
+              [this](const std::string& error) { application_.ReportError(name_ + ": " + error); }) {
     database_->SetWhyStop([this] { return application_.WhyStop(); });
 }
 
@@ -162,7 +163,8 @@ std::vector<SimpleSource*> DataCtrl::SimpleSources() const {
 void DataCtrl::GetDataSourcesSimple(std::vector<znIBrowserDataSourceSimple*>& sources) {
     sources.clear();
     if (Refused("znIBrowserDataCtrl::GetDataSourcesSimple")) return;
-    LookAgain();
+    std::string error;
+    if (!Refresh(error)) application_.ReportError(name_ + ": the tables cannot be read: " + error);
     const std::vector<SimpleSource*> all = SimpleSources();
     sources.assign(all.begin(), all.end());
 }
