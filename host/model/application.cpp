@@ -122,7 +122,6 @@ bool Application::ComputeValue(const std::string& procedure, const std::vector<s
 }
 
 void Application::ReportError(const std::string& text) {
-    log_.SetError(text);
     if (Tcl_InterpDeleted(interp_)) return;
     const KeptResult kept(interp_);
     Tcl_SetObjResult(interp_, Tcl_NewStringObj(text.data(), static_cast<int>(text.size())));

@@ -17,7 +17,7 @@ DataCtrl::DataCtrl(Application& application, std::string name, std::unique_ptr<D
     : HostObject(application.Log()), application_(application), name_(std::move(name)),
       database_(std::move(database)), schema_(*database_), copies_(*database_),
       states_(*database_, application.Log(),
-              [this](const std::string& error) { application_.ReportError(name_ + ": " + error); }) {
+              [this](const std::string& error) { Report("the saved states cannot be read", error); }) {
     database_->SetWhyStop([this] { return application_.WhyStop(); });
 }
 
@@ -99,6 +99,12 @@ void DataCtrl::TakeOverReferences(const Table& table) {
     }
 }
 
+/// What failed in a question whose answer has no place for it.
+void DataCtrl::Report(const char* what, const std::string& error) {
+    Fail(error);
+    application_.ReportError(name_ + ": " + what + ": " + error);
+}
+
 bool DataCtrl::LookAgain() {
     std::string error;
     return Refresh(error) || Fail(error);
@@ -164,7 +170,7 @@ void DataCtrl::GetDataSourcesSimple(std::vector<znIBrowserDataSourceSimple*>& so
     sources.clear();
     if (Refused("znIBrowserDataCtrl::GetDataSourcesSimple")) return;
     std::string error;
-    if (!Refresh(error)) application_.ReportError(name_ + ": the tables cannot be read: " + error);
+    if (!Refresh(error)) Report("the tables cannot be read", error);
     const std::vector<SimpleSource*> all = SimpleSources();
     sources.assign(all.begin(), all.end());
 }
