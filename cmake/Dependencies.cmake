@@ -1,7 +1,6 @@
 # The libraries, all from Debian packages. `./dev build` installs the ones that are missing.
 
 find_package(PkgConfig REQUIRED)
-find_package(SQLiteCpp REQUIRED)
 find_package(CLI11 REQUIRED)
 find_package(GTest REQUIRED)
 find_package(benchmark REQUIRED)

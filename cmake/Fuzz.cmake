@@ -13,5 +13,5 @@ if(sources AND TARGET zn_objects AND TARGET znbrowserhost)
     target_compile_definitions(command_fuzz PRIVATE ZN_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     target_include_directories(command_fuzz PRIVATE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/src")
     target_link_libraries(command_fuzz PRIVATE
-        zn_objects znbrowserhost zn_tcl "${ZN_TCL_STUB_LIBRARY}" SQLiteCpp sqlite3)
+        zn_objects znbrowserhost zn_tcl "${ZN_TCL_STUB_LIBRARY}" sqlite3)
 endif()

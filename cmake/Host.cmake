@@ -16,5 +16,5 @@ if(sources)
 
     add_library(znbrowserhost STATIC ${sources} "${tk_source}")
     target_include_directories(znbrowserhost PUBLIC "${PROJECT_SOURCE_DIR}/host")
-    target_link_libraries(znbrowserhost PUBLIC zn_headers zn_tcl PRIVATE SQLiteCpp sqlite3)
+    target_link_libraries(znbrowserhost PUBLIC zn_headers zn_tcl PRIVATE sqlite3)
 endif()

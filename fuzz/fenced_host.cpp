@@ -80,15 +80,9 @@ bool HurrySqlite() {
            sqlite3_config(SQLITE_CONFIG_MALLOC, &memory) == SQLITE_OK;
 }
 
-/// The steps that SQLite may still make in this run, in thousands.
-int stepsLeft;
-
-/// Limits a new connection, whoever opens it, and ends what runs too long: SQLite asks every 1000 steps.
+/// Limits a new connection, whoever opens it.
 int LimitConnection(sqlite3* database, char**, const sqlite3_api_routines*) {
-    sqlite3_progress_handler(
-        database, 1000, [](void*) { return --stepsLeft < 0 ? 1 : 0; }, nullptr);
     sqlite3_limit(database, SQLITE_LIMIT_ATTACHED, 0);
-    sqlite3_limit(database, SQLITE_LIMIT_LENGTH, 1 << 20);
     return SQLITE_OK;
 }
 
@@ -191,13 +185,15 @@ void FencedHost::Prepare() {
 
 FencedHost::FencedHost(const DatabaseImage& image, Tcl_ObjCmdProc* again, void* data)
     : interp_(keptInterp.Take()) {
-    stepsLeft = image.IsHostile() ? 300 : 2000;
+    patience_.questions = image.IsHostile() ? 80 : 500;
     Tcl_CreateObjCommand(interp_, "again", again, data, nullptr);
     host_ = std::make_unique<znhost::EmbeddedHost>(interp_);
     std::string error;
     if (!host_->CreateDataCtrl("gearbox", "", error)) Die(error);
     sqlite3* const database = host_->App().DataControls().Find("gearbox")->Db().Handle();
+    sqlite3_limit(database, SQLITE_LIMIT_LENGTH, 1 << 20);
     image.CopyTo(database);
+    host_->App().SetWork(&patience_);
     // What the hostile ones hold is read and asked for again as it is.
     if (!image.IsHostile()) sqlite3_trace_v2(database, SQLITE_TRACE_STMT, LookAtStatement, nullptr);
     Tcl_Eval(interp_, "expr {[info cmdcount] + 40000}");
@@ -208,6 +204,7 @@ FencedHost::FencedHost(const DatabaseImage& image, Tcl_ObjCmdProc* again, void* 
 }
 
 FencedHost::~FencedHost() {
+    host_->App().SetWork(nullptr);
     host_.reset();
     RunDue();
     Tcl_DeleteCommand(interp_, "again");

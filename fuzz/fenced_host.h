@@ -3,6 +3,7 @@
 #define FENCED_HOST_H
 
 #include "host/model/embedded_host.h"
+#include "host/model/long_work.h"
 
 #include <memory>
 #include <tcl.h>
@@ -31,7 +32,16 @@ public:
     void RunDue();
 
 private:
+    /// Ends what runs too long: statements ask in the middle of their steps, every few thousand, and nothing
+    /// that takes long goes on once the questions of a run are used up.
+    struct Patience final : znhost::LongWork {
+        bool GoesOn() override { return --questions >= 0; }
+        bool HasTime() override { return true; }
+        int questions = 0;
+    };
+
     Tcl_Interp* interp_;
+    Patience patience_;
     std::unique_ptr<znhost::EmbeddedHost> host_;
 };
 

@@ -27,7 +27,8 @@ Words Split(const char* text) {
 const Words& Keywords() {
     static const Words keywords = [] {
         Words spellings;
-        for (const znlayer::KeywordRow& row : znlayer::keyword_table::rows) spellings.emplace_back(row.spelling);
+        for (const znlayer::KeywordRow& row : znlayer::keyword_table::rows)
+            spellings.emplace_back(row.spelling);
         return spellings;
     }();
     return keywords;

@@ -3,12 +3,9 @@
 #include "completion.h"
 #include "help.h"
 
-#include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
 
-#include <cerrno>
-#include <csignal>
 #include <iterator>
 #include <sstream>
 
@@ -24,52 +21,18 @@ const char* const HELP = R"(znbrowsersh is Tcl with one command more.
 TAB completes command words and object names, the arrow keys recall earlier lines, Ctrl-R searches
 them, Ctrl-C drops the line or stops the running command.)";
 
-// Ctrl-C. A signal has no other way to its receiver than what is global: the mark that stops a running
-// command, and the pipe that wakes the waiting prompt.
-Tcl_AsyncHandler cancelHandler = nullptr;
-int wakePipe[2] = {-1, -1};
-
-void HandleInterrupt(int) {
-    const int saved = errno;
-    if (cancelHandler) Tcl_AsyncMark(cancelHandler);
-    if (write(wakePipe[1], "", 1) < 0) errno = saved; // full: the prompt is woken already
-    errno = saved;
-}
-
-/// Forgets interrupts; tells whether there was one.
-bool TakeInterrupt() {
-    bool found = false;
-    for (char byte = 0; read(wakePipe[0], &byte, 1) > 0;) found = true;
-    return found;
-}
-
 void MarkReadable(ClientData flag, int) { *static_cast<bool*>(flag) = true; }
 
 } // namespace
 
 Prompt::Prompt(Session& session)
-    : session_(session), interp_(session.GetInterp()),
+    : session_(session), interp_(session.GetInterp()), interrupts_(session.GetInterrupts()),
       editor_({[this] { return WaitForInput(); },
                [this](const std::string& text) {
                    return CompleteTyped(text,
                                         [this](const std::string& kind) { return session_.GetNames(kind); });
                }}) {
-    if (pipe2(wakePipe, O_CLOEXEC | O_NONBLOCK) != 0) wakePipe[0] = wakePipe[1] = -1;
-    cancelHandler = Tcl_AsyncCreate(CancelCommand, this);
-    struct sigaction action = {};
-    action.sa_handler = HandleInterrupt;
-    sigaction(SIGINT, &action, nullptr);
     Tcl_SetVar2Ex(interp_, "tcl_interactive", nullptr, Tcl_NewIntObj(1), TCL_GLOBAL_ONLY);
-}
-
-Prompt::~Prompt() {
-    std::signal(SIGINT, SIG_DFL);
-    Tcl_AsyncDelete(cancelHandler);
-    cancelHandler = nullptr;
-    for (int& end : wakePipe) {
-        close(end);
-        end = -1;
-    }
 }
 
 ExitCode Prompt::Run() {
@@ -94,16 +57,17 @@ ExitCode Prompt::Run() {
 }
 
 void Prompt::Execute(const std::string& command) {
-    TakeInterrupt();
-    executing_ = true;
-    const int code = Tcl_RecordAndEval(interp_, command.c_str(), TCL_EVAL_GLOBAL);
-    Tcl_Obj* const result = Tcl_GetObjResult(interp_);
-    int length = 0;
-    Tcl_GetStringFromObj(result, &length);
-    if (length > 0) PrintLine(code == TCL_OK ? TCL_STDOUT : TCL_STDERR, result);
-    session_.ServePending();
-    executing_ = false;
-    TakeInterrupt();
+    interrupts_.Take();
+    {
+        const Interrupts::Running running(interrupts_);
+        const int code = Tcl_RecordAndEval(interp_, command.c_str(), TCL_EVAL_GLOBAL);
+        Tcl_Obj* const result = Tcl_GetObjResult(interp_);
+        int length = 0;
+        Tcl_GetStringFromObj(result, &length);
+        if (length > 0) PrintLine(code == TCL_OK ? TCL_STDOUT : TCL_STDERR, result);
+        session_.ServePending();
+    }
+    interrupts_.Take();
 }
 
 // "help" is a word of the prompt, not a command: a script may define its own, which then is the one called.
@@ -124,25 +88,20 @@ bool Prompt::AnswerHelp(const std::string& command) const {
 bool Prompt::WaitForInput() {
     const bool tkLoaded = Tcl_FindCommand(interp_, "winfo", nullptr, TCL_GLOBAL_ONLY) != nullptr;
     if (tkLoaded) return WaitWithEvents();
-    pollfd sources[] = {{STDIN_FILENO, POLLIN, 0}, {wakePipe[0], POLLIN, 0}};
+    pollfd sources[] = {{STDIN_FILENO, POLLIN, 0}, {interrupts_.WakeDescriptor(), POLLIN, 0}};
     while (poll(sources, 2, -1) < 0) {
     }
-    return !TakeInterrupt();
+    return !interrupts_.Take();
 }
 
 bool Prompt::WaitWithEvents() {
     bool typed = false;
     bool woken = false;
     Tcl_CreateFileHandler(STDIN_FILENO, TCL_READABLE, MarkReadable, &typed);
-    Tcl_CreateFileHandler(wakePipe[0], TCL_READABLE, MarkReadable, &woken);
+    const int wake = interrupts_.WakeDescriptor();
+    Tcl_CreateFileHandler(wake, TCL_READABLE, MarkReadable, &woken);
     while (!typed && !woken) Tcl_DoOneEvent(TCL_ALL_EVENTS);
-    Tcl_DeleteFileHandler(wakePipe[0]);
+    Tcl_DeleteFileHandler(wake);
     Tcl_DeleteFileHandler(STDIN_FILENO);
-    return !TakeInterrupt();
-}
-
-int Prompt::CancelCommand(ClientData prompt, Tcl_Interp*, int code) {
-    const Prompt& self = *static_cast<Prompt*>(prompt);
-    if (self.executing_) Tcl_CancelEval(self.interp_, nullptr, nullptr, TCL_CANCEL_UNWIND);
-    return code;
+    return !interrupts_.Take();
 }

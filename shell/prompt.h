@@ -2,6 +2,7 @@
 #ifndef SHELL_PROMPT_H
 #define SHELL_PROMPT_H
 
+#include "interrupts.h"
 #include "line_editor.h"
 #include "session.h"
 
@@ -10,7 +11,6 @@
 class Prompt {
 public:
     explicit Prompt(Session& session);
-    ~Prompt();
     Prompt(const Prompt&) = delete;
     Prompt& operator=(const Prompt&) = delete;
 
@@ -22,12 +22,11 @@ private:
     bool AnswerHelp(const std::string& command) const;
     bool WaitForInput();
     bool WaitWithEvents();
-    static int CancelCommand(ClientData prompt, Tcl_Interp* interp, int code);
 
     Session& session_;
     Tcl_Interp* interp_;
+    Interrupts& interrupts_;
     LineEditor editor_;
-    bool executing_ = false;
 };
 
 #endif

@@ -31,12 +31,17 @@ Session::Session() : interp_(Tcl_CreateInterp()) { Tcl_CreateExitHandler(CloseAt
 
 Session::~Session() {
     Tcl_DeleteExitHandler(CloseAtExit, this);
-    host_.reset();
+    Close();
     Tcl_DeleteInterp(interp_);
 }
 
+void Session::Close() {
+    interrupts_.reset();
+    host_.reset();
+}
+
 // `exit` in a script leaves through Tcl_Exit, and no destructor runs.
-void Session::CloseAtExit(ClientData session) { static_cast<Session*>(session)->host_.reset(); }
+void Session::CloseAtExit(ClientData session) { static_cast<Session*>(session)->Close(); }
 
 bool Session::Start(const Options& options) {
     if (Tcl_Init(interp_) != TCL_OK) {
@@ -45,6 +50,7 @@ bool Session::Start(const Options& options) {
     }
     SetArguments(options);
     host_ = std::make_unique<znhost::EmbeddedHost>(interp_);
+    interrupts_ = std::make_unique<Interrupts>(interp_, *host_);
     if (options.strict && !MakeStrict(interp_, COMMAND)) {
         PrintLine(TCL_STDERR, std::string("znbrowsersh: the host registered no command ") + COMMAND);
         return false;
@@ -99,6 +105,7 @@ bool Session::Browse(const std::string& control) {
     const auto script = std::find_if(scripts.begin(), scripts.end(),
                                      [](const auto& one) { return one.file == DEFAULT_BROWSER; });
     const std::string_view text = script->text;
+    const Interrupts::Running running(*interrupts_);
     int code = Tcl_EvalEx(interp_, text.data(), static_cast<int>(text.size()), TCL_EVAL_GLOBAL);
     if (code == TCL_OK) {
         Tcl_Obj* const command = Tcl_NewListObj(0, nullptr);
@@ -125,7 +132,11 @@ ExitCode Session::RunScript(const std::string& file) {
     }
     Tcl_Obj* const path = NewText(name);
     Tcl_IncrRefCount(path);
-    const int code = Tcl_FSEvalFileEx(interp_, path, nullptr);
+    int code = TCL_OK;
+    {
+        const Interrupts::Running running(*interrupts_);
+        code = Tcl_FSEvalFileEx(interp_, path, nullptr);
+    }
     Tcl_DecrRefCount(path);
     return Finish(code);
 }
@@ -143,6 +154,7 @@ ExitCode Session::RunStandardInput() {
         if (!OpenBrowsers()) return EXIT_FAILED;
         return Finish(TCL_OK);
     } else {
+        const Interrupts::Running running(*interrupts_);
         code = Tcl_EvalObjEx(interp_, script, TCL_EVAL_DIRECT | TCL_EVAL_GLOBAL);
         if (code == TCL_ERROR) { // say where, as Tcl does for a file
             const int line = Tcl_GetErrorLine(interp_);
@@ -157,14 +169,18 @@ ExitCode Session::Finish(int code) {
     const bool failed = code != TCL_OK && code != TCL_RETURN;
     if (failed) PrintFailure(code);
     ServePending();
-    if (failed) return EXIT_FAILED;
-    ShowToTheEnd();
-    return EXIT_DONE;
+    return failed || !ShowToTheEnd() ? EXIT_FAILED : EXIT_DONE;
 }
 
-void Session::ShowToTheEnd() {
+bool Session::ShowToTheEnd() {
     DrawWindows();
-    while (windows_ == Windows::OnDisplay && host_->OpenWindows() > 0) Tcl_DoOneEvent(TCL_ALL_EVENTS);
+    while (windows_ == Windows::OnDisplay && host_->OpenWindows() > 0) {
+        Tcl_DoOneEvent(TCL_ALL_EVENTS);
+        if (!interrupts_->Take()) continue;
+        PrintLine(TCL_STDERR, "znbrowsersh: interrupted");
+        return false;
+    }
+    return true;
 }
 
 void Session::DrawWindows() const {

@@ -2,6 +2,7 @@
 #ifndef SHELL_SESSION_H
 #define SHELL_SESSION_H
 
+#include "interrupts.h"
 #include "options.h"
 
 #include <tcl.h>
@@ -9,10 +10,6 @@
 #include <memory>
 #include <string>
 #include <vector>
-
-namespace znhost {
-class EmbeddedHost;
-}
 
 /// A stock Tcl interpreter with one command more, znbrowsermanager. Ends in the right order however the
 /// program ends: the host first, its databases closed, then the interpreter.
@@ -49,6 +46,8 @@ public:
     /// The names that may stand for an argument of that kind now; for "", those of all that scripts name
     /// most.
     std::vector<std::string> GetNames(const std::string& kind) const;
+    /// Ctrl-C: a session that has started looks after it.
+    Interrupts& GetInterrupts() { return *interrupts_; }
 
 private:
     bool AddDatabases(const std::vector<DatabaseOption>& databases);
@@ -56,8 +55,10 @@ private:
     void FindDisplay();
     bool Browse(const std::string& control);
     ExitCode Finish(int code);
-    void ShowToTheEnd();
+    /// @return false when it was interrupted
+    bool ShowToTheEnd();
     void PrintFailure(int code);
+    void Close();
     static void CloseAtExit(ClientData session);
 
     /// What is to become of windows.
@@ -67,6 +68,7 @@ private:
     Windows windows_ = Windows::Hidden;
     std::vector<std::string> browsed_; ///< the data controls of the command line
     std::unique_ptr<znhost::EmbeddedHost> host_;
+    std::unique_ptr<Interrupts> interrupts_;
 };
 
 /// Writes one line to Tcl's standard channel `channel` (TCL_STDOUT, TCL_STDERR), in its encoding.

@@ -93,6 +93,14 @@ int DataCtrlNames(AppCall& call) {
     return call.Answer(names);
 }
 
+int Sql(AppCall& call);
+
+/// As `Sql`, for who would rather do without the answer than wait.
+int Glance(AppCall& call) {
+    const Application::Hurry hurry(call.App(), std::chrono::milliseconds(100));
+    return Sql(call);
+}
+
 int Sql(AppCall& call) {
     DataCtrl* const control = call.DataControl(0);
     if (!control) return TCL_ERROR;
@@ -154,6 +162,8 @@ constexpr AppWord appWords[] = {
      CreateDataCtrl},
     {"datactrl names", "", "lists the data controls", 0, 0, DataCtrlNames},
     {"draw", "WINDOW", "draws what a window shows, as a table", 1, 1, AnswerDraw},
+    {"glance", "NAME STATEMENT ?VALUE ...?", "runs one SQL statement, but no longer than a tenth of a second",
+     2, anyNumber, Glance},
     {"help", "", "lists these words", 0, 0, Help},
     {"inputfield create", "DATACTRL NAME TYPE",
      "adds a user input field: bool, unsigned, integer, double or string", 3, 3, AppCreateInputField},

@@ -6,6 +6,7 @@
 #include "store/data_ctrl.h"
 #include "znIBrowserManagerTcl.h"
 
+#include <algorithm>
 #include <memory>
 #include <tcl.h>
 
@@ -58,9 +59,17 @@ bool Application::AddDataCtrl(const std::string& name, const std::string& file, 
     return true;
 }
 
-bool Application::GoesOn() const { return !work_ || work_->GoesOn(); }
+std::string_view Application::WhyStop() const {
+    if (interrupted_) return "interrupted";
+    if (work_ && !work_->GoesOn()) return "cancelled";
+    if (IsHurried() && std::chrono::steady_clock::now() >= until_) return tooLong;
+    return work_ && !work_->HasTime() ? tooLong : std::string_view();
+}
 
-bool Application::HasTime() const { return !work_ || work_->HasTime(); }
+Application::Hurry::Hurry(Application& application, std::chrono::milliseconds time)
+    : application_(application), outer_(application.until_) {
+    application.until_ = std::min(outer_, std::chrono::steady_clock::now() + time);
+}
 
 // The lambda makes a script that ends with "return" end well; the script itself runs at the global level.
 bool Application::RunScript(const std::string& script) {
@@ -102,6 +111,30 @@ bool Application::ComputeValue(const std::string& procedure, const std::vector<s
         Tcl_BackgroundException(interp_, TCL_ERROR);
     }
     return computed;
+}
+
+void Application::ReportError(const std::string& text) {
+    if (Tcl_InterpDeleted(interp_)) return;
+    const KeptResult kept(interp_);
+    Tcl_SetObjResult(interp_, Tcl_NewStringObj(text.data(), static_cast<int>(text.size())));
+    Tcl_BackgroundException(interp_, TCL_ERROR);
+}
+
+void Application::Notify(const std::function<bool(znIBrowserManagerTcl&)>& service) {
+    if (!manager_ || Tcl_InterpDeleted(interp_)) return;
+    const KeptResult kept(interp_);
+    Tcl_ResetResult(interp_);
+    if (service(*manager_)) return;
+    // A service may also be refused because of what a procedure left behind: then no script has failed.
+    Tcl_Obj* const options = Tcl_GetReturnOptions(interp_, TCL_ERROR);
+    Tcl_IncrRefCount(options);
+    Tcl_Obj* const key = Tcl_NewStringObj("-errorinfo", -1);
+    Tcl_IncrRefCount(key);
+    Tcl_Obj* place = nullptr;
+    Tcl_DictObjGet(nullptr, options, key, &place);
+    if (place) Tcl_BackgroundException(interp_, TCL_ERROR);
+    Tcl_DecrRefCount(key);
+    Tcl_DecrRefCount(options);
 }
 
 znIBrowserDataCtrl* Application::FindDataCtrl(const char* name) {

@@ -6,8 +6,13 @@
 #include "model/browser.h"
 #include "model/host_call.h"
 #include "model/named_list.h"
+#include "model/read_trouble.h"
 
+#include <atomic>
+#include <chrono>
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class znIBrowserManagerTcl;
@@ -34,12 +39,39 @@ public:
     WindowDisplay* Display() const { return display_; }
     void SetDisplay(WindowDisplay* display) { display_ = display; }
 
-    /// Whether somebody still waits for what takes long; true when nobody looks after that.
-    bool GoesOn() const;
-    /// Whether there is time for more of what need not be done to the end.
-    bool HasTime() const;
-    /// It is not owned.
+    // What takes long. Whatever does asks again and again.
+    /// Why what is under way is to be left as it is; "" as long as it may go on.
+    std::string_view WhyStop() const;
+    /// What `WhyStop` answers when the time for it is over: it may be tried again with more time.
+    static constexpr std::string_view tooLong = "it takes too long";
+    /// Stops what is under way and, until `Resume`, all that follows. For signal handlers and other threads.
+    void Interrupt() noexcept { interrupted_ = true; }
+    void Resume() noexcept { interrupted_ = false; }
+    /// Who looks after the one that waits; null: nobody does. It is not owned.
     void SetWork(LongWork* work) { work_ = work; }
+
+    /// While one lives there is no more time than this; of several the one that ends first counts.
+    class Hurry {
+    public:
+        Hurry(Application& application, std::chrono::milliseconds time);
+        ~Hurry() { application_.until_ = outer_; }
+        Hurry(const Hurry&) = delete;
+        Hurry& operator=(const Hurry&) = delete;
+
+    private:
+        Application& application_;
+        const std::chrono::steady_clock::time_point outer_;
+    };
+    /// Whether the time is limited.
+    bool IsHurried() const { return until_ != forEver; }
+
+    /// What could not be read of late.
+    ReadTrouble& Trouble() { return trouble_; }
+    /// Gives an error that no answer can tell to the interpreter's background error handler.
+    void ReportError(const std::string& text);
+    /// Calls a service of the manager by which scripts are notified. An error in one of their procedures goes
+    /// to the background error handler; the interpreter's result is as it was.
+    void Notify(const std::function<bool(znIBrowserManagerTcl&)>& service);
 
     NamedList<DataCtrl>& DataControls() { return dataControls_; }
     /// Adds a data control on a database file, made when missing, or on one in memory when `file` is "".
@@ -72,6 +104,10 @@ private:
     znIBrowserManagerTcl* manager_ = nullptr;
     WindowDisplay* display_ = nullptr;
     LongWork* work_ = nullptr;
+    ReadTrouble trouble_;
+    std::atomic<bool> interrupted_{false};
+    static constexpr auto forEver = std::chrono::steady_clock::time_point::max();
+    std::chrono::steady_clock::time_point until_ = forEver;
     znSignal<single_threaded, const char*> windowReselected_;
     // The browser goes first: what it holds points into the data controls.
     NamedList<DataCtrl> dataControls_;

@@ -83,6 +83,10 @@ bool EmbeddedHost::CreateDataCtrl(const std::string& name, const std::string& fi
     return App().AddDataCtrl(name, file, error);
 }
 
+void EmbeddedHost::Interrupt() noexcept { parts_->application.Interrupt(); }
+
+void EmbeddedHost::Resume() noexcept { parts_->application.Resume(); }
+
 bool EmbeddedHost::ShowWindows(std::string& error) {
     if (!parts_->windows) parts_->windows = TkWindows::Load(App(), parts_->command, error);
     return parts_->windows != nullptr;

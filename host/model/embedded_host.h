@@ -44,6 +44,12 @@ public:
     /// The names that an argument of that kind may be now (`znBrowserTclCommandTree::GetNames`). No call is
     /// recorded, and none of the refusals that wait is used up.
     std::vector<std::string> GetNames(const std::string& kind) const;
+    /// Stops what takes long, an SQL statement above all, and whatever like that follows: it fails with
+    /// "interrupted". May be called by a signal handler, and by any thread.
+    void Interrupt() noexcept;
+    /// What follows an `Interrupt` may take long again.
+    void Resume() noexcept;
+
     /// Loads Tk: from now on each posted window stands on the display. Once it answered true, calling it
     /// again changes nothing. @return false, with the reason in `error`, when there is no display or Tk or
     /// its tree widget is not installed; windows stay without a face then

@@ -9,7 +9,7 @@ class LongWork {
 public:
     /// False: nobody waits any longer, and the work is to be left as it is.
     virtual bool GoesOn() = 0;
-    /// False: the work was to be done as far as there is time, and that is over. What was begun is finished.
+    /// False: the work was to be done as far as there is time, and that is over.
     virtual bool HasTime() = 0;
 
 protected:

@@ -17,8 +17,15 @@ bool Window::RequestExpand(unsigned int index) {
     if (Refused("znIBrowserWindowAccess::RequestExpand", index)) return false;
     const std::shared_ptr<Window> self = shared_from_this();
     if (!rows_.Expand(index)) return false;
+    const bool read = FailOnTrouble(); // what listens to the event may read as well
     Fire(EventKind::ItemExpanded);
-    return true;
+    return read;
+}
+
+/// @return false, with the reason, when something that was to be shown could not be read
+bool Window::FailOnTrouble() {
+    const std::string trouble = rows_.TakeTrouble();
+    return trouble.empty() || Fail(trouble);
 }
 
 bool Window::RequestCollapse(unsigned int index) {
@@ -33,14 +40,14 @@ bool Window::ExpandAllItems() {
     if (Refused("znIBrowserWindowAccess::ExpandAllItems")) return false;
     const std::shared_ptr<Window> self = shared_from_this();
     rows_.ExpandAll();
-    return true;
+    return FailOnTrouble();
 }
 
 bool Window::ExpandSelectedItems() {
     if (Refused("znIBrowserWindowAccess::ExpandSelectedItems")) return false;
     const std::shared_ptr<Window> self = shared_from_this();
     rows_.ExpandSelected();
-    return true;
+    return FailOnTrouble();
 }
 
 bool Window::CollapseAllItems() {
@@ -104,7 +111,7 @@ void Window::TellSelectedFolders() {
         held.push_back(folder->shared_from_this());
         folders.push_back(folder);
     }
-    application.Manager()->UpdateTclFreeFolderSelection(folders);
+    application.Notify([&folders](auto& manager) { return manager.UpdateTclFreeFolderSelection(folders); });
 }
 
 bool Window::SetSingleSelection() {

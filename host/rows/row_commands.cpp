@@ -71,6 +71,7 @@ int AnswerRows(AppCall& call) {
     if (call.Count() > 1 && !call.Number(1, "FIRST", first)) return TCL_ERROR;
     if (call.Count() > 2 && !call.Number(2, "COUNT", count)) return TCL_ERROR;
     const RowModel::Answering answering(window->Rows());
+    window->Rows().TakeTrouble();
     Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
     std::size_t bytes = 0;
     window->Rows().ReadEach(static_cast<std::int64_t>(first), static_cast<std::int64_t>(count),
@@ -78,8 +79,10 @@ int AnswerRows(AppCall& call) {
                                 Tcl_ListObjAppendElement(nullptr, list, NewRow(window->Rows(), look, bytes));
                                 return bytes <= mostBytes;
                             });
-    if (bytes <= mostBytes) return call.Answer(list);
+    const std::string trouble = window->Rows().TakeTrouble();
+    if (trouble.empty() && bytes <= mostBytes) return call.Answer(list);
     Tcl_DecrRefCount(list);
+    if (!trouble.empty()) return call.Fail("the rows cannot be read: " + trouble, "READ");
     return call.Fail("the rows are too large: the limit is " + std::to_string(mostBytes) +
                          " bytes, ask for fewer with FIRST and COUNT",
                      "ROWS", call.Text(0));

@@ -27,6 +27,7 @@ const RowContent& ContentOf(const TreePart& part) {
 struct RowModel::Listed {
     RowContent content;
     std::vector<std::int64_t> rows;
+    std::string problem; ///< why the rows could not be read; "" when they could
 
     TreePart MakePart() && {
         return content.kind == RowKind::Item ? RowTree::MakeBlock(std::move(content), std::move(rows))
@@ -38,22 +39,33 @@ struct RowModel::Listed {
 
 bool RowModel::GoesOn() const {
     if (!view_) return true;
-    const Application& application = view_->Owner().Owner();
-    return application.GoesOn() && application.HasTime();
+    return view_->Owner().Owner().WhyStop().empty();
 }
 
 /// Lists what stands in a container. Scripts give the values by which rows are sorted, so the tree is left as
 /// it is meanwhile. False when the work must be given up.
-bool RowModel::ListBelow(RowNode& node, std::vector<Listed>& all) const {
+bool RowModel::ListBelow(RowNode& node, std::vector<Listed>& all) {
+    if (!node.block && node.content.IsNote()) return true;
     const Row row = RowTree::RowOf(node);
+    const ReadTrouble::Watch whole(App().Trouble()); // the filter is made with what stands below
     for (RowContent& content :
          node.block ? plan_.Below(row.Content(), row.Number()) : plan_.Below(node.content)) {
-        Listed listed{std::move(content), {}};
+        Listed listed{std::move(content), {}, {}};
         if (listed.content.kind == RowKind::Item) listed.rows = plan_.List(listed.content);
         if (stopped_) return false;
+        if (listed.content.kind == RowKind::Item && whole.Seen()) listed.problem = whole.Text();
         all.push_back(std::move(listed));
     }
+    NoteTrouble(whole);
     return true;
+}
+
+/// A row that stands where the rows of the block would, and says why they cannot be read.
+TreePart RowModel::MakeNote(const Listed& listed) {
+    RowContent content = listed.content;
+    content.kind = RowKind::List;
+    content.note = listed.problem;
+    return RowTree::MakeNode(std::move(content));
 }
 
 /// Makes what stands in a container. False when there is nothing, or the work must be given up.
@@ -62,7 +74,8 @@ bool RowModel::Fill(RowNode& node) {
     if (!ListBelow(node, all)) return false;
     std::vector<TreePart> parts;
     parts.reserve(all.size());
-    for (Listed& listed : all) parts.push_back(std::move(listed).MakePart());
+    for (Listed& listed : all)
+        parts.push_back(listed.problem.empty() ? std::move(listed).MakePart() : MakeNote(listed));
     tree_.SetParts(node, std::move(parts));
     return !node.parts.empty();
 }
@@ -354,7 +367,7 @@ void RowModel::RefreshNode(RowNode& node) {
             return ContentOf(*entry.second).IsSame(all[i].content);
         });
         if (known == range.second) {
-            parts[i] = std::move(all[i]).MakePart();
+            parts[i] = all[i].problem.empty() ? std::move(all[i]).MakePart() : MakeNote(all[i]);
             continue;
         }
         stay[i] = known->second;
@@ -369,6 +382,7 @@ void RowModel::RefreshNode(RowNode& node) {
 
 void RowModel::Update(const TreePart& part, Listed&& now) {
     if (part.block) {
+        if (!now.problem.empty()) return; // what is shown stays shown
         part.block->content = std::move(now.content);
         tree_.SetRows(*part.block, std::move(now.rows));
     } else {

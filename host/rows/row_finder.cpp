@@ -1,6 +1,8 @@
 #include "rows/row_finder.h"
 
 #include "host/znIBrowserDataSourceSimple.h"
+#include "model/application.h"
+#include "model/browser.h"
 #include "model/view.h"
 #include "rows/text_matcher.h"
 
@@ -63,8 +65,10 @@ bool operator==(const FindCriterion& a, const FindCriterion& b) {
 RowFinder::RowFinder(View& view, RowModel& model, std::vector<FindCriterion> criteria)
     : model_(model), criteria_(std::move(criteria)) {
     const RowModel::Answering answering(model);
+    const ReadTrouble::Watch watch(view.Owner().Owner().Trouble());
     revision_ = model.Revision();
     if (!model.IsStopped() && Prepare(view)) Walk();
+    if (watch.Seen() && error_.empty()) error_ = watch.Text();
     if (model.IsStopped()) error_ = "What was to be searched has been deleted";
 }
 

@@ -4,6 +4,8 @@
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserDataSourceHierarchical.h"
 #include "host/znIBrowserDataSourceSimple.h"
+#include "model/application.h"
+#include "model/browser.h"
 #include "model/view.h"
 
 #include <algorithm>
@@ -73,6 +75,13 @@ void RowModel::LetGo() noexcept {
     cells_.Forget();
     tree_.Clear();
     tree_.Root().content.folder.reset();
+    shown_.clear();
+    ForgetCounts();
+}
+
+void RowModel::ForgetCounts() noexcept {
+    slow_.clear();
+    uncounted_.clear();
 }
 
 void RowModel::TakeOver() {
@@ -84,6 +93,8 @@ void RowModel::TakeOver() {
     }
     const unsigned changes = std::exchange(pending_, 0U);
     if (changes & ~unsigned{VIEW_SELECTION}) ++revision_;
+    if (changes & VIEW_COLUMNS) shown_.clear();
+    if (changes & (VIEW_ROWS | VIEW_CELLS)) ForgetCounts();
     if (!(changes & VIEW_ROWS)) return;
     plan_.Forget();
     Refresh();
@@ -191,7 +202,10 @@ std::int64_t RowModel::CountBelow(std::uint32_t index) {
     const Answering answering(*this);
     const Row row = Find(index);
     if (!row) return -1;
-    return row.IsItem() ? plan_.Count(row.Content(), row.Number()) : plan_.Count(row.Content());
+    if (row.IsItem()) return plan_.Count(row.Content(), row.Number());
+    constexpr auto timeToCount = std::chrono::milliseconds(100);
+    const Application::Hurry hurry(App(), timeToCount);
+    return CountOf(row).value_or(-1);
 }
 
 std::int64_t RowModel::PositionOf(std::uint32_t index) {
@@ -242,15 +256,39 @@ bool RowModel::IsSelected(const Row& row) const {
 
 /// How the rows look, those of each block at once. Fewer when the work had to be given up.
 std::vector<RowLook> RowModel::LooksOf(const std::vector<Row>& rows) {
+    PlacesByBlock places;
+    std::vector<RowLook> looks = LooksOfContainers(rows, places);
+    for (const auto& [block, inBlock] : places) {
+        if (!stopped_) LookAtItems(*block, inBlock, rows, looks);
+    }
+    if (stopped_) looks.clear();
+    KeepLooks(looks);
+    return looks;
+}
+
+/// As many as are on a screen are kept.
+void RowModel::KeepLooks(const std::vector<RowLook>& looks) {
+    constexpr std::size_t most = 1000;
+    if (looks.empty() || looks.size() > most || !trouble_.empty()) return;
+    shown_.clear();
+    for (const RowLook& look : looks) {
+        if (look.kind == RowKind::Item) shown_.emplace(look.index, look);
+    }
+}
+
+/// The looks of the containers, and the places of items by their blocks. Whether there is something in a
+/// container is not worth a wait.
+std::vector<RowLook> RowModel::LooksOfContainers(const std::vector<Row>& rows, PlacesByBlock& places) {
+    constexpr auto timeForContainers = std::chrono::milliseconds(100);
+    const Application::Hurry hurry(App(), timeForContainers);
     std::vector<RowLook> looks(rows.size());
-    std::unordered_map<const RowBlock*, std::vector<std::size_t>> places;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const Row& row = rows[i];
         if (row.IsItem()) {
             places[row.block].push_back(i);
         } else {
-            looks[i] = LookOf(row.Content());
-            looks[i].hasRows = row.IsExpanded() || plan_.HasRows(row.Content());
+            looks[i] = LookOf(row);
+            looks[i].hasRows = row.IsExpanded() || MayHaveRows(row);
         }
         looks[i].index = row.Index();
         if (const Row above = RowTree::RowOf(row.Owner())) looks[i].parent = above.Index();
@@ -258,10 +296,6 @@ std::vector<RowLook> RowModel::LooksOf(const std::vector<Row>& rows) {
         looks[i].expanded = row.IsExpanded();
         looks[i].selected = IsSelected(row);
     }
-    for (const auto& [block, inBlock] : places) {
-        if (!stopped_) LookAtItems(*block, inBlock, rows, looks);
-    }
-    if (stopped_) looks.clear();
     return looks;
 }
 
@@ -270,10 +304,23 @@ void RowModel::LookAtItems(const RowBlock& block, const std::vector<std::size_t>
     std::vector<std::int64_t> numbers;
     numbers.reserve(places.size());
     for (const std::size_t place : places) numbers.push_back(rows[place].Number());
+    const ReadTrouble::Watch watch(App().Trouble());
     const std::vector<bool> have = plan_.HaveRows(block.content, numbers);
     std::vector<ItemCells> items = cells_.Read(block.content, numbers, [this] { return stopped_; });
+    const bool failed = NoteTrouble(watch);
     for (std::size_t i = 0; i < items.size(); ++i) {
         RowLook& look = looks[places[i]];
+        if (failed) {
+            const auto shown = shown_.find(look.index);
+            if (shown == shown_.end()) {
+                look.text = "cannot be read: " + watch.Text();
+            } else {
+                look.hasRows = look.expanded || shown->second.hasRows;
+                look.text = shown->second.text;
+                look.cells = shown->second.cells;
+            }
+            continue;
+        }
         look.hasRows = look.expanded || have[i];
         look.text = std::move(items[i].name);
         look.cells = std::move(items[i].cells);
@@ -281,13 +328,20 @@ void RowModel::LookAtItems(const RowBlock& block, const std::vector<std::size_t>
 }
 
 /// What a container shows of itself.
-RowLook RowModel::LookOf(const RowContent& container) const {
+RowLook RowModel::LookOf(const Row& row) {
+    const RowContent& container = row.Content();
     const FolderSettings& settings = container.folder->Settings();
     RowLook look;
     look.kind = container.kind;
     look.icon = container.kind == RowKind::Folder ? "folder"
                 : container.kind == RowKind::Tree ? "tree"
                                                   : "list";
+    if (container.IsNote()) {
+        look.icon.clear();
+        look.italic = true;
+        look.text = "cannot be read: " + container.note;
+        return look;
+    }
     if (container.kind == RowKind::Folder) {
         look.text = container.folder->Name();
         look.bold = settings.bold;
@@ -302,11 +356,81 @@ RowLook RowModel::LookOf(const RowContent& container) const {
         if (look.text.empty()) look.text = NameOf(log_, source);
     }
     if (!settings.countByNumber && !settings.countByImage) return look;
-    const std::int64_t count = plan_.Count(container);
-    if (settings.countByNumber) look.text += " (" + std::to_string(count) + ")";
-    if (settings.countByImage)
-        look.icon = count == 0 ? "count_none" : count == 1 ? "count_one" : "count_many";
+    const std::optional<std::int64_t> count = CountOf(row);
+    if (settings.countByNumber) look.text += " (" + (count ? std::to_string(*count) : "?") + ")";
+    if (settings.countByImage && count)
+        look.icon = *count == 0 ? "count_none" : *count == 1 ? "count_one" : "count_many";
     return look;
+}
+
+// ---- What cannot be read, or not in time ----
+
+Application& RowModel::App() const { return view_->Owner().Owner(); }
+
+/// What others keep from being read is read again with the next question. @return whether there was trouble
+bool RowModel::NoteTrouble(const ReadTrouble::Watch& watch) {
+    if (!watch.Seen()) return false;
+    trouble_ = watch.Text();
+    if (watch.Why() == ReadTrouble::Kind::Passing) pending_ |= VIEW_ROWS;
+    return true;
+}
+
+RowModel::Place RowModel::PlaceOf(const RowContent& container) {
+    const void* const source = container.source;
+    return {container.folder.get(), container.kind == RowKind::Tree ? container.scope->tree : source};
+}
+
+/// Whether there was no time to look: then it is not tried again before the data change, but when there is
+/// nothing else to do.
+bool RowModel::IsTooLong(const ReadTrouble::Watch& watch, const RowContent& container) {
+    if (!watch.Seen() || watch.Why() != ReadTrouble::Kind::TooLong) return false;
+    if (slow_.emplace(PlaceOf(container), std::nullopt).second) uncounted_.push_back(container);
+    return true;
+}
+
+/// How many rows are shown directly below; nothing when some of them could not be read.
+std::optional<std::int64_t> RowModel::CountIn(const RowNode& node) {
+    std::int64_t count = 0;
+    for (const TreePart& part : node.parts) {
+        if (part.node && part.node->content.IsNote()) return std::nullopt;
+        count += part.node ? 1 : static_cast<std::int64_t>(part.block->rows.size());
+    }
+    return count;
+}
+
+/// How many rows lie directly below; nothing when that is not known.
+std::optional<std::int64_t> RowModel::CountOf(const Row& row) {
+    const RowContent& container = row.Content();
+    if (row.IsExpanded()) return CountIn(*row.node);
+    if (const auto slow = slow_.find(PlaceOf(container)); slow != slow_.end()) return slow->second;
+    const ReadTrouble::Watch watch(App().Trouble());
+    const std::int64_t count = plan_.Count(container);
+    if (IsTooLong(watch, container) || NoteTrouble(watch)) return std::nullopt;
+    return count;
+}
+
+bool RowModel::MayHaveRows(const Row& row) {
+    const RowContent& container = row.Content();
+    const auto slow = slow_.find(PlaceOf(container));
+    if (slow != slow_.end()) return !slow->second || *slow->second > 0;
+    const ReadTrouble::Watch watch(App().Trouble());
+    const bool has = plan_.HasRows(container);
+    if (!IsTooLong(watch, container)) NoteTrouble(watch);
+    return has;
+}
+
+void RowModel::CountMore() {
+    constexpr auto timeToCount = std::chrono::milliseconds(150);
+    const Answering answering(*this);
+    if (!view_ || uncounted_.empty()) return;
+    const Application::Hurry hurry(App(), timeToCount);
+    const RowContent container = std::move(uncounted_.back());
+    uncounted_.pop_back();
+    const ReadTrouble::Watch watch(App().Trouble());
+    const std::int64_t count = plan_.Count(container);
+    if (watch.Seen()) return;
+    slow_[PlaceOf(container)] = count;
+    Tell(RowChange::AllCells);
 }
 
 } // namespace znhost

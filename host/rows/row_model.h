@@ -3,14 +3,18 @@
 #define ZN_HOST_ROW_MODEL_H
 
 #include "model/host_call.h"
+#include "model/read_trouble.h"
 #include "rows/row_cells.h"
 #include "rows/row_changes.h"
 #include "rows/row_plan.h"
 #include "rows/row_tree.h"
 
 #include <cstdint>
+#include <map>
+#include <optional>
 #include <set>
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -21,6 +25,7 @@ class znIBrowserDataSource;
 
 namespace znhost {
 
+class Application;
 class FreeFolder;
 class View;
 
@@ -85,7 +90,8 @@ public:
     std::vector<RowLook> ReadBelow(std::uint32_t index, std::int64_t first, std::int64_t count);
     bool Has(std::uint32_t index);
     bool HasAll(const std::vector<std::uint32_t>& indices);
-    /// How many rows lie directly below, or would when it is expanded; -1 for an unknown index.
+    /// How many rows lie directly below, or would when it is expanded; -1 for an unknown index, and when that
+    /// cannot be found out in a moment.
     std::int64_t CountBelow(std::uint32_t index);
     /// The row's position from the top; -1 for an unknown index.
     std::int64_t PositionOf(std::uint32_t index);
@@ -173,6 +179,15 @@ public:
     /// Counts the changes of rows and cells: what was found at another number may be out of date.
     std::uint64_t Revision() const { return revision_; }
 
+    // What could not be read. What was shown before stays shown, and is read again with the next question as
+    // soon as others allow it; where nothing was shown a row says why.
+    /// The last reason since this was asked; "" for none.
+    std::string TakeTrouble() { return std::exchange(trouble_, {}); }
+    /// Whether the number of rows of something shown is not known, because there was no time to count them.
+    bool IsUncounted() const { return !uncounted_.empty(); }
+    /// Counts the rows of one of those, in the time that a person does not notice.
+    void CountMore();
+
 private:
     /// A change of the tree. It cannot begin while a question is being answered: a script asked for it then.
     class Change {
@@ -188,6 +203,7 @@ private:
     bool GoesOn() const;
     void EndAnswer() noexcept;
     void LetGo() noexcept;
+    void ForgetCounts() noexcept;
     void TakeOver();
     void Note(const RowChange& change) noexcept;
     void Deliver() noexcept;
@@ -196,16 +212,26 @@ private:
     bool IsReady() const { return view_ && !stopped_ && !tree_.IsChanging() && !tree_.IsBroken(); }
     /// No row when the index is unknown.
     Row Find(std::uint32_t index) const { return IsReady() ? tree_.Find(index) : Row(); }
+    Application& App() const;
+    bool NoteTrouble(const ReadTrouble::Watch& watch);
     std::vector<RowLook> LooksOf(const std::vector<Row>& rows);
+    using PlacesByBlock = std::unordered_map<const RowBlock*, std::vector<std::size_t>>;
+    std::vector<RowLook> LooksOfContainers(const std::vector<Row>& rows, PlacesByBlock& places);
+    void KeepLooks(const std::vector<RowLook>& looks);
+    static std::optional<std::int64_t> CountIn(const RowNode& node);
+    std::optional<std::int64_t> CountOf(const Row& container);
+    bool MayHaveRows(const Row& container);
+    bool IsTooLong(const ReadTrouble::Watch& watch, const RowContent& container);
     void LookAtItems(const RowBlock& block, const std::vector<std::size_t>& places,
                      const std::vector<Row>& rows, std::vector<RowLook>& looks);
-    RowLook LookOf(const RowContent& container) const;
+    RowLook LookOf(const Row& container);
     bool HasRows(const Row& row) const;
     bool IsSelected(const Row& row) const;
     std::vector<std::uint32_t> SelectedIndices();
 
     struct Listed;
-    bool ListBelow(RowNode& node, std::vector<Listed>& all) const;
+    bool ListBelow(RowNode& node, std::vector<Listed>& all);
+    static TreePart MakeNote(const Listed& listed);
     bool Fill(RowNode& node);
     void FillAndExpand(RowNode& top);
     void ExpandAsCreated(RowNode& node, int depth, std::vector<std::pair<RowNode*, int>>& open);
@@ -239,6 +265,13 @@ private:
     bool delivering_ = false;
     std::uint64_t revision_ = 0;
     std::set<std::uint32_t> selectedContainers_; ///< of trees and lists: their Tk indices
+    std::string trouble_;
+    std::unordered_map<std::uint32_t, RowLook> shown_; ///< the items read last, for when they cannot be read
+    using Place = std::pair<const FreeFolder*, const void*>;
+    static Place PlaceOf(const RowContent& container);
+    std::map<Place, std::optional<std::int64_t>>
+        slow_; ///< what takes long to count, and its count when known
+    std::vector<RowContent> uncounted_;
     std::vector<RowChange> changes_;
     std::vector<RowObserver*> observers_;
 };

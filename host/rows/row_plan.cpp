@@ -1,6 +1,8 @@
 #include "rows/row_plan.h"
 
 #include "base/text.h"
+#include "model/application.h"
+#include "model/browser.h"
 #include "model/data_sources.h"
 #include "model/view.h"
 #include "rows/text_matcher.h"
@@ -192,6 +194,7 @@ void RowPlan::Filter(RowScope& scope, const std::vector<RowSource*>& tops, const
     const TextFilter& filter = view_.Filter();
     if (filter.pattern.empty()) return;
     std::shared_ptr<const RowFilter>& known = filters_[{&folder, what}];
+    const ReadTrouble::Watch watch(Trouble());
     if (!known) {
         TextMatcher::Options options;
         options.matchCase = filter.matchCase;
@@ -208,6 +211,7 @@ void RowPlan::Filter(RowScope& scope, const std::vector<RowSource*>& tops, const
         known = std::make_shared<RowFilter>(tops, scope.links, conditions, [] { return false; });
     }
     scope.filter = known;
+    if (watch.Seen()) filters_.erase({&folder, what}); // it does not know all that matches
 }
 
 // ---- Rows ----
@@ -231,16 +235,22 @@ std::int64_t RowPlan::CountRows(const RowContent& block) {
 bool RowPlan::HasRows(const RowContent& container) const {
     if (container.kind == RowKind::List && container.link.reference)
         return true; // a group is only there with items
+    if (container.IsNote()) return false;
+    const ReadTrouble::Watch watch(Trouble());
     const std::vector<RowContent> below = Below(container);
-    return std::any_of(below.begin(), below.end(), [](const RowContent& content) {
-        return content.kind != RowKind::Item || CountRows(content) > 0;
+    return std::any_of(below.begin(), below.end(), [&watch](const RowContent& content) {
+        return content.kind != RowKind::Item || CountRows(content) > 0 || watch.Seen();
     });
 }
 
-bool RowPlan::HasRows(const RowContent& block, const RowLink& link, std::int64_t row) {
+bool RowPlan::HasRows(const RowContent& block, const RowLink& link, std::int64_t row) const {
     const RowFilter* const filter = block.scope->filter.get();
-    return filter ? filter->KeepsBelow(link, row) : link.child->HasChildren(link, row);
+    if (filter) return filter->KeepsBelow(link, row);
+    const ReadTrouble::Watch watch(Trouble());
+    return link.child->HasChildren(link, row) || watch.Seen();
 }
+
+const ReadTrouble& RowPlan::Trouble() const { return view_.Owner().Owner().Trouble(); }
 
 std::vector<bool> RowPlan::HaveRows(const RowContent& block, const std::vector<std::int64_t>& rows) const {
     std::vector<bool> have(rows.size(), false);
@@ -248,9 +258,10 @@ std::vector<bool> RowPlan::HaveRows(const RowContent& block, const std::vector<s
     for (const RowLink& link : block.scope->links) {
         if (link.parent != block.source) continue;
         std::vector<bool> along;
+        const ReadTrouble::Watch watch(Trouble());
         if (!filter) link.child->HaveChildren(link, rows, along);
         for (std::size_t i = 0; i < rows.size(); ++i) {
-            if (filter ? filter->KeepsBelow(link, rows[i]) : along[i]) have[i] = true;
+            if (filter ? filter->KeepsBelow(link, rows[i]) : along[i] || watch.Seen()) have[i] = true;
         }
     }
     return have;
@@ -258,6 +269,7 @@ std::vector<bool> RowPlan::HaveRows(const RowContent& block, const std::vector<s
 
 std::int64_t RowPlan::Count(const RowContent& container) const {
     std::int64_t count = 0;
+    if (container.IsNote()) return count;
     for (const RowContent& content : Below(container))
         count += content.kind == RowKind::Item ? CountRows(content) : 1;
     return count;

@@ -14,6 +14,7 @@
 namespace znhost {
 
 class Column;
+class ReadTrouble;
 class Style;
 class View;
 class ViewProperty;
@@ -45,7 +46,7 @@ public:
     /// The rows of a block, in order.
     std::vector<std::int64_t> List(const RowContent& block) const;
 
-    // Whether there is anything below, and how many rows directly below.
+    // Whether there is anything below, and how many rows directly below. What cannot be read may be there.
     bool HasRows(const RowContent& container) const;
     bool HasRows(const RowContent& block, std::int64_t row) const { return HaveRows(block, {row})[0]; }
     std::vector<bool> HaveRows(const RowContent& block, const std::vector<std::int64_t>& rows) const;
@@ -59,7 +60,8 @@ public:
     ViewProperty* PropertyOf(const Column& column, const Style* style) const;
 
 private:
-    static bool HasRows(const RowContent& block, const RowLink& link, std::int64_t row);
+    bool HasRows(const RowContent& block, const RowLink& link, std::int64_t row) const;
+    const ReadTrouble& Trouble() const;
     std::vector<RowContent> InFolder(const RowContent& folder) const;
     void AddChildFolders(const RowContent& folder, std::vector<RowContent>& contents) const;
     void AddTopItems(const RowContent& folder, std::vector<RowContent>& contents) const;

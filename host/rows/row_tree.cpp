@@ -9,7 +9,7 @@ namespace znhost {
 
 bool RowContent::IsSame(const RowContent& other) const {
     return kind == other.kind && folder == other.folder && source == other.source && link == other.link &&
-           parent == other.parent && top == other.top;
+           parent == other.parent && top == other.top && note == other.note;
 }
 
 TreePart::TreePart() = default;

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <exception>
 #include <memory>
+#include <string>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -36,6 +37,9 @@ struct RowContent {
     RowLink link;                          ///< without a reference: all items of the source
     std::int64_t parent = 0;               ///< the item whose children they are
     bool top = false;                      ///< they are nobody's children
+    std::string note; ///< of a list: it stands where rows would, and says why they cannot be read
+
+    bool IsNote() const { return !note.empty(); }
 
     /// Whether both mean the same things, now and at an earlier time.
     bool IsSame(const RowContent& other) const;

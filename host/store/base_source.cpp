@@ -17,7 +17,7 @@ std::vector<RowPart> BaseSource::Parts() {
     }
     std::string error;
     if (!Control().Copies().Refresh(*table_, error)) {
-        FailWith(error);
+        FailToRead(error);
         return {};
     }
     return {RowPart{0, table_, {}, {}}};
@@ -80,10 +80,10 @@ bool BaseSource::ReadValue(std::int64_t row, std::size_t column,
     if (seen && column <= seen->columns.size() && TryRead(row, column, take, found, error)) return found;
     Control().Refresh(error);
     if (table_ == seen || !table_ || column > table_->columns.size()) {
-        if (!error.empty()) FailWith(error);
+        if (!error.empty()) FailToRead(error);
         return false;
     }
-    if (!TryRead(row, column, take, found, error)) FailWith(error);
+    if (!TryRead(row, column, take, found, error)) FailToRead(error);
     return found;
 }
 

@@ -16,8 +16,9 @@ std::shared_ptr<DataCtrl> DataCtrl::Open(Application& application, const std::st
 DataCtrl::DataCtrl(Application& application, std::string name, std::unique_ptr<Database> database)
     : HostObject(application.Log()), application_(application), name_(std::move(name)),
       database_(std::move(database)), schema_(*database_), copies_(*database_),
-      states_(*database_, application.Log()) {
-    database_->SetGoesOn([this] { return application_.GoesOn(); });
+      states_(*database_, application.Log(),
+              [this](const std::string& error) { Report("the saved states cannot be read", error); }) {
+    database_->SetWhyStop([this] { return application_.WhyStop(); });
 }
 
 DataCtrl::~DataCtrl() = default;
@@ -143,6 +144,12 @@ void DataCtrl::TakeOverReferences(const Table& table) {
     }
 }
 
+/// What failed in a question whose answer has no place for it.
+void DataCtrl::Report(const char* what, const std::string& error) {
+    Fail(error);
+    application_.ReportError(name_ + ": " + what + ": " + error);
+}
+
 bool DataCtrl::LookAgain() {
     std::string error;
     return Refresh(error) || Fail(error);
@@ -208,7 +215,8 @@ void DataCtrl::GetDataSourcesSimple(std::vector<znIBrowserDataSourceSimple*>& so
     sources.clear();
     if (Refused("znIBrowserDataCtrl::GetDataSourcesSimple")) return;
     ForgetMissing();
-    LookAgain();
+    std::string error;
+    if (!Refresh(error)) Report("the tables cannot be read", error);
     const std::vector<SimpleSource*> all = SimpleSources();
     sources.assign(all.begin(), all.end());
 }

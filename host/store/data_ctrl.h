@@ -103,6 +103,7 @@ public:
 private:
     /// As `Refresh`, with the reason as the browser object's error text.
     bool LookAgain();
+    void Report(const char* what, const std::string& error);
     bool CheckNewSource(const std::string& name);
     /// All that are there, as the tables were when last looked at.
     std::vector<SimpleSource*> SimpleSources() const;

@@ -3,8 +3,6 @@
 #include "base/text.h"
 #include "store/database_file.h"
 
-#include <SQLiteCpp/Database.h>
-#include <SQLiteCpp/Exception.h>
 #include <algorithm>
 #include <iterator>
 #include <sqlite3.h>
@@ -12,7 +10,12 @@
 namespace znhost {
 namespace {
 
-constexpr int busyTimeout = 250; // milliseconds: a window is waiting
+// A window is waiting. Who waited in vain does not wait for the same again, statement after statement.
+constexpr auto busyTimeout = std::chrono::milliseconds(250);
+constexpr auto restAfterWaiting = std::chrono::seconds(1);
+constexpr int pauseWhileWaiting = 5; // milliseconds
+
+constexpr int stepsBetweenQuestions = 4096; // of the database's machine: a fraction of a millisecond
 constexpr std::size_t idleStatements = 64;
 
 /// The most bytes of one value, and of all rows that are asked for at once. Tcl ends the process above 2 GiB,
@@ -36,28 +39,71 @@ std::unique_ptr<Database> Database::OpenFile(const std::string& path, std::strin
 std::unique_ptr<Database> Database::OpenMemory(std::string& error) { return Open(":memory:", error); }
 
 std::unique_ptr<Database> Database::Open(const char* path, std::string& error) {
-    const int flags = SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE;
-    try {
-        std::unique_ptr<Database> database(
-            new Database(std::make_unique<SQLite::Database>(path, flags, busyTimeout)));
-        // SQLite looks into the file only when it must.
-        return database->Execute("SELECT 1 FROM sqlite_schema", error) ? std::move(database) : nullptr;
-    } catch (const SQLite::Exception& failure) {
-        error = ToTcl(failure.what());
+    sqlite3* handle = nullptr;
+    const int outcome = sqlite3_open_v2(path, &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    Connection connection(handle); // there is one even when it could not be opened
+    if (outcome != SQLITE_OK) {
+        error = ToTcl(handle ? sqlite3_errmsg(handle) : sqlite3_errstr(outcome));
         return nullptr;
     }
+    std::unique_ptr<Database> database(new Database(std::move(connection)));
+    // SQLite looks into the file only when it must.
+    return database->Execute("SELECT 1 FROM sqlite_schema", error) ? std::move(database) : nullptr;
 }
 
-Database::Database(std::unique_ptr<SQLite::Database> connection) : connection_(std::move(connection)) {
+// The program may end in the middle of a statement: then the connection stays until that has gone, too.
+void CloseConnection::operator()(sqlite3* connection) const { sqlite3_close_v2(connection); }
+
+Database::Database(Connection connection) : connection_(std::move(connection)) {
     // No statement may damage the database file itself.
     sqlite3_db_config(Handle(), SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_limit(Handle(), SQLITE_LIMIT_LENGTH, static_cast<int>(largestValue));
     sqlite3_limit(Handle(), SQLITE_LIMIT_SQL_LENGTH, static_cast<int>(longestSql));
+    const auto isStopped = [](void* self) -> int { return static_cast<Database*>(self)->IsStopped(); };
+    sqlite3_progress_handler(Handle(), stepsBetweenQuestions, isStopped, this);
+    const auto waits = [](void* self, int tries) -> int {
+        return static_cast<Database*>(self)->WaitForOthers(tries);
+    };
+    sqlite3_busy_handler(Handle(), waits, this);
 }
 
-Database::~Database() = default;
+Database::~Database() {
+    sqlite3_progress_handler(Handle(), 0, nullptr, nullptr);
+    sqlite3_busy_handler(Handle(), nullptr, nullptr);
+}
 
-sqlite3* Database::Handle() const { return connection_->getHandle(); }
+sqlite3* Database::Handle() const { return connection_.get(); }
+
+// ---- What takes long
+
+bool Database::IsStopped() noexcept {
+    try {
+        stopped_ = whyStop_ ? whyStop_() : std::string_view();
+    } catch (const std::exception&) { // nothing may be thrown through SQLite
+        stopped_ = "out of memory";
+    }
+    return !stopped_.empty();
+}
+
+/// Another connection holds a lock: whether to try once more.
+bool Database::WaitForOthers(int tries) noexcept {
+    const Clock::time_point now = Clock::now();
+    if (tries == 0) waitsSince_ = now;
+    if (now - gaveUp_ < restAfterWaiting) return false;
+    if (now - waitsSince_ >= busyTimeout) {
+        gaveUp_ = now;
+        return false;
+    }
+    if (IsStopped()) return false;
+    sqlite3_sleep(pauseWhileWaiting);
+    return true;
+}
+
+bool Database::MayPass(std::string_view error) {
+    return error == sqlite3_errstr(SQLITE_BUSY) || error == sqlite3_errstr(SQLITE_LOCKED);
+}
+
+// ---- Statements
 
 std::string Database::Reason(int outcome) const {
     if (outcome == SQLITE_TOOBIG)
@@ -193,7 +239,7 @@ bool Database::Execute(std::string_view sql, std::string& error) {
 bool Database::RunScript(const std::string& script, std::string& error) {
     const bool inTransaction = InTransaction();
     NoteRollback();
-    const int outcome = connection_->tryExec(FromTcl(script));
+    const int outcome = sqlite3_exec(Handle(), FromTcl(script).c_str(), nullptr, nullptr, nullptr);
     if (outcome == SQLITE_OK) return true;
     error = Reason(outcome);
     std::string ignored; // the script's error is the one to tell

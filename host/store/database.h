@@ -4,21 +4,24 @@
 
 #include "store/statement.h"
 
+#include <chrono>
 #include <functional>
 #include <unordered_map>
 #include <vector>
 
-namespace SQLite {
-class Database;
-}
 struct sqlite3;
 
 namespace znhost {
 
+/// Closes the connection as soon as no statement is in use any more.
+struct CloseConnection {
+    void operator()(sqlite3* connection) const;
+};
+
 /// A connection to a database file, or to a database in memory. Failures come as `false` and SQLite's own
-/// text; no SQLite exception leaves the class. Texts are in Tcl's form on this side of the class, and in the
-/// database's on the other. A value has at most 256 MiB, a statement 16 MiB. All objects made from a database
-/// must go before it does.
+/// text. Texts are in Tcl's form on this side of the class, and in the database's on the other. A value has at
+/// most 256 MiB, a statement 16 MiB. All objects made from a database must go before it does, unless the program
+/// ends in the middle of their use.
 class Database {
 public:
     using Rows = std::vector<std::vector<std::string>>;
@@ -74,9 +77,14 @@ public:
     std::int64_t LastInsertedRow() const;
 
     // ---- What takes long ----
-    /// Statements that give many rows ask it every now and then; with false they fail.
-    void SetGoesOn(std::function<bool()> goesOn) { goesOn_ = std::move(goesOn); }
-    bool GoesOn() const { return !goesOn_ || goesOn_(); }
+    /// Why what is under way is to stop; "" as long as it may go on. The text lives on.
+    using WhyStop = std::function<std::string_view()>;
+    /// Asked again and again while a statement runs, also in the middle of a step, and while it waits for
+    /// the lock of another connection: a statement that is to stop fails with that text. What is asked must
+    /// not use the database.
+    void SetWhyStop(WhyStop whyStop) { whyStop_ = std::move(whyStop); }
+    /// Whether a failure with this text may pass by itself: others use the database at present.
+    static bool MayPass(std::string_view error);
 
     // ---- For the other files of this folder ----
     /// The connection.
@@ -89,22 +97,30 @@ public:
 
 private:
     friend class Statement;
-    explicit Database(std::unique_ptr<SQLite::Database> connection);
+    using Connection = std::unique_ptr<sqlite3, CloseConnection>;
+    using Clock = std::chrono::steady_clock;
+
+    explicit Database(Connection connection);
     static std::unique_ptr<Database> Open(const char* path, std::string& error);
 
     Statement PrepareAnew(std::string_view sql, std::list<PreparedStatement>&& taken);
     bool Compile(std::string_view sql, PreparedStatement& prepared, std::string& error);
     bool EndsAt(const char* tail, const char* end, std::string& error);
     void TakeBack(std::list<PreparedStatement>&& prepared);
+    bool IsStopped() noexcept;
+    bool WaitForOthers(int tries) noexcept;
 
-    std::unique_ptr<SQLite::Database> connection_; // closed last: the statements below need it
+    Connection connection_; // closed last: the statements below need it
     // The statements not in use, the latest first. The same text may be there more than once: a statement
     // used inside a loop over its own rows needs a second one.
     std::list<PreparedStatement> idle_;
     std::unordered_multimap<std::string_view, std::list<PreparedStatement>::iterator> idleBySql_;
     std::int64_t rollbacks_ = 0;
     std::int64_t disregarded_ = 0;
-    std::function<bool()> goesOn_;
+    WhyStop whyStop_;
+    std::string_view stopped_; ///< why the last statement that was stopped was
+    Clock::time_point waitsSince_;
+    Clock::time_point gaveUp_; ///< waiting for others
 };
 
 } // namespace znhost

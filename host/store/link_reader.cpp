@@ -103,7 +103,7 @@ bool LinkReader::ForEachPair(Visit&& visit) {
                   source_[LINK_CHILD]->RowOf({child.slot, statement.Integer(1)}));
         }
         std::string error;
-        if (!statement.Finish(error)) return source_[LINK_CHILD]->FailWith(error);
+        if (!statement.Finish(error)) return source_[LINK_CHILD]->FailToRead(error);
     }
     return true;
 }
@@ -123,7 +123,7 @@ bool LinkReader::RelatedByIndex(LinkEnd end, std::int64_t other, Rows& rows) {
         DataCtrl& control = source_[end]->Control();
         Database::Stamp now;
         std::string error;
-        if (!control.Db().ReadStamp(now, error)) return source_[end]->FailWith(error);
+        if (!control.Db().ReadStamp(now, error)) return source_[end]->FailToRead(error);
         index_[end] = control.Indexes().Find(link_, end == LINK_CHILD, now);
         if (!index_[end]) {
             const auto pairs = std::make_shared<LinkIndexes::Pairs>();
@@ -170,7 +170,7 @@ bool LinkReader::RelatedBySql(LinkEnd end, std::int64_t other, Rows& rows, bool 
             if (firstOnly) return true;
         }
         std::string error;
-        if (!statement.Finish(error)) return source_[end]->FailWith(error);
+        if (!statement.Finish(error)) return source_[end]->FailToRead(error);
     }
     return true;
 }
@@ -203,7 +203,7 @@ bool LinkReader::HaveChildren(const Rows& parents, std::vector<bool>& have) {
             statement.Rewind();
         }
         std::string error;
-        if (!statement.Finish(error)) return source_[LINK_CHILD]->FailWith(error);
+        if (!statement.Finish(error)) return source_[LINK_CHILD]->FailToRead(error);
     }
     return true;
 }

@@ -136,7 +136,7 @@ bool RowLister::ReadPart(const RowPart& part, std::vector<std::int64_t>& rows) {
         keys_.push_back(field.computed ? Cell() : KeyOf(CellOf(field, statement, reading.places.back())));
     }
     std::string error;
-    return statement.Finish(error) || source_.FailWith(error);
+    return statement.Finish(error) || source_.FailToRead(error);
 }
 
 /// Reads the part by an index, if one of the conditions can be answered so. @return false, and `rows` is as

@@ -19,13 +19,22 @@ bool SimpleSource::FailWith(std::string text) const {
     return Fail(std::move(text));
 }
 
+bool SimpleSource::FailToRead(const std::string& reason) const {
+    using Kind = ReadTrouble::Kind;
+    const Kind kind = Database::MayPass(reason)        ? Kind::Passing
+                      : reason == Application::tooLong ? Kind::TooLong
+                                                       : Kind::Lasting;
+    control_.App().Trouble().Note(name_, reason, kind);
+    return FailWith(reason);
+}
+
 bool SimpleSource::FailNotCustom() const {
     return FailWith("The data source \"" + name_ + "\" is a base data source: it cannot be changed");
 }
 
 bool SimpleSource::LookAgain() const {
     std::string error;
-    return control_.Refresh(error) || FailWith(error);
+    return control_.Refresh(error) || FailToRead(error);
 }
 
 bool SimpleSource::ReadColumn(RowPlace place, std::size_t column,

@@ -34,6 +34,8 @@ public:
     void SetFilterCaption(std::string caption) { filterCaption_ = std::move(caption); }
     /// Notes why something of this source was refused: here and in the browser object. @return false
     bool FailWith(std::string text) const;
+    /// Notes that rows could not be read, as well among the application's troubles. @return false
+    bool FailToRead(const std::string& reason) const;
 
     // Rows. Row numbers are those of the data items; a place tells the table and the row number there.
     /// The tables of the source as they are now, without those that cannot be read at present; the reason

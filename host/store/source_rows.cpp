@@ -1,5 +1,6 @@
 // The rows of a simple data source: listed, counted, linked, named.
 #include "host/znBrowserDataItems.h"
+#include "model/application.h"
 #include "store/data_ctrl.h"
 #include "store/data_property.h"
 #include "store/link_reader.h"
@@ -33,7 +34,7 @@ std::int64_t SimpleSource::Count(const RowQuery& query) {
         part.Bind(statement);
         if (statement.Next()) count += statement.Integer(0);
         std::string error;
-        if (!statement.Finish(error)) FailWith(error);
+        if (!statement.Finish(error)) FailToRead(error);
     }
     return count;
 }
@@ -61,7 +62,7 @@ bool SimpleSource::HasRow(std::int64_t row) {
         statement.Bind(part.Bind(statement), place.row);
         const bool found = statement.Next();
         std::string error;
-        return statement.Finish(error) ? found : FailWith(error);
+        return statement.Finish(error) ? found : FailToRead(error);
     }
     return false;
 }
@@ -175,14 +176,16 @@ void SimpleSource::ReadTexts(const std::vector<std::int64_t>& rows,
             statement.Rewind();
         }
         std::string error;
-        if (!statement.Finish(error)) FailWith(error);
+        if (!statement.Finish(error)) FailToRead(error);
     }
 }
 
 void SimpleSource::GetDataItems(znBrowserDataItems& items) {
     items.Clear();
     if (Refused("znIBrowserDataSourceSimple::GetDataItems")) return;
+    const ReadTrouble::Watch watch(control_.App().Trouble());
     List({}, items.rows);
+    if (watch.Seen()) control_.App().ReportError(watch.Text());
     if (!items.rows.empty()) items.runs.push_back({this, 0});
 }
 

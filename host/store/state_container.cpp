@@ -146,7 +146,7 @@ void StateContainer::GetStates(std::vector<znIBrowserState*>& states) {
     if (Refused("znIBrowserStateContainer::GetStates")) return;
     std::vector<std::string> names;
     std::string error;
-    if (!store_.Names(names, error)) log_.SetError(error);
+    if (!store_.Names(names, error)) report_(error);
     for (const std::string& name : names) states.push_back(&Named(name));
 }
 
@@ -154,7 +154,7 @@ znIBrowserState* StateContainer::FindState(const char* name) {
     if (Refused("znIBrowserStateContainer::FindState", name)) return nullptr;
     std::vector<std::string> names;
     std::string error;
-    if (!store_.Names(names, error)) log_.SetError(error);
+    if (!store_.Names(names, error)) report_(error);
     const bool exists = std::find(names.begin(), names.end(), TextOf(name)) != names.end();
     return exists ? &Named(TextOf(name)) : nullptr;
 }

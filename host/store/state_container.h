@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+#include <functional>
+
 namespace znhost {
 
 class StateContainer;
@@ -52,8 +54,12 @@ public:
     using EntityChange = bool (StateStore::*)(std::string_view name, const std::vector<std::string>& entities,
                                               std::string& error);
 
-    /// The database must outlive the container.
-    StateContainer(Database& database, CallLog& log) : HostObject(log), store_(database) {}
+    using Report = std::function<void(const std::string& error)>;
+
+    /// The database must outlive the container. `report` takes errors of questions whose answer has no place
+    /// for them.
+    StateContainer(Database& database, CallLog& log, Report report)
+        : HostObject(log), store_(database), report_(std::move(report)) {}
 
     StateStore& Store() { return store_; }
     /// The state of that name as an object, which stays as long as the container; made when there is none.
@@ -70,6 +76,7 @@ private:
     const State* Own(const znIBrowserState* state) const;
 
     StateStore store_;
+    const Report report_;
     NamedList<State> states_; ///< those that were ever asked for
 };
 

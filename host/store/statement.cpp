@@ -7,12 +7,6 @@
 
 namespace znhost {
 
-namespace {
-
-constexpr unsigned stepsBetweenQuestions = 1 << 12;
-
-} // namespace
-
 void FinalizeStatement::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 
 Statement::Statement(Database& owner, std::list<PreparedStatement>&& prepared)
@@ -27,6 +21,10 @@ Statement::~Statement() {
 void Statement::Check(int resultCode) {
     if (resultCode == SQLITE_OK || failed_) return;
     failed_ = true;
+    if (resultCode == SQLITE_INTERRUPT && !owner_->stopped_.empty()) {
+        error_ = owner_->stopped_;
+        return;
+    }
     // The connection's message tells more than the code, but is about the last call on the connection only.
     sqlite3* const connection = sqlite3_db_handle(Handle());
     const bool described = sqlite3_errcode(connection) == resultCode;
@@ -59,20 +57,11 @@ int Statement::ParameterCount() const { return sqlite3_bind_parameter_count(Hand
 
 bool Statement::Next() {
     if (failed_ || finished_) return false;
-    if (++steps_ % stepsBetweenQuestions == 0 && !owner_->GoesOn()) return Interrupt();
     const int outcome = sqlite3_step(Handle());
     if (outcome == SQLITE_ROW) return true;
     finished_ = true;
     if (outcome != SQLITE_DONE) Check(outcome);
     // Done with: a statement that is not reset keeps its lock on the database. What failed stays failed.
-    sqlite3_reset(Handle());
-    return false;
-}
-
-/// Nobody waits for the rows any longer.
-bool Statement::Interrupt() {
-    failed_ = true;
-    error_ = "interrupted";
     sqlite3_reset(Handle());
     return false;
 }

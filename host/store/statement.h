@@ -84,7 +84,6 @@ private:
     sqlite3_stmt* Handle() const { return prepared_.empty() ? nullptr : prepared_.front().handle.get(); }
     std::string_view Bytes(int column) const;
     void Check(int resultCode);
-    bool Interrupt();
 
     Database* owner_ = nullptr;
     std::list<PreparedStatement> prepared_; // one, or none after a failed preparation
@@ -92,7 +91,6 @@ private:
     std::string error_;
     bool failed_ = false;
     bool finished_ = false;
-    unsigned steps_ = 0;
 };
 
 } // namespace znhost

@@ -11,6 +11,7 @@ namespace eval ::znbrowser::any {
     variable columnLimit 60    ;# more are not made
     variable openRows 60       ;# small tables are opened at first, up to so many rows together ...
     variable openTable 30      ;# ... when they have no more than these
+    variable openTime 500      ;# milliseconds to find that out
     variable largeFile 1e8     ;# in larger ones nothing is counted or opened at first: it takes too long
 }
 
@@ -272,10 +273,15 @@ proc ::znbrowser::any::ExpandSmall {control tables nested} {
     Do view folder expand false
     if {[IsLarge $control]} return
     set room $openRows
+    set end [expr {[clock milliseconds] + $::znbrowser::any::openTime}]
     foreach table $tables {
+        if {[clock milliseconds] > $end} break
         set condition ""
         if {[dict exists $nested $table]} {set condition [lindex [dict get $nested $table] 1]}
-        set count [CountRows $control $table $condition $openTable]
+        # The values, too: what a view computes may take longer than to find that it has a row.
+        set statement "SELECT * FROM [Quoted $table] $condition LIMIT $openTable + 1"
+        if {[catch {Do app glance $control $statement} rows]} continue
+        set count [llength $rows]
         if {$count == 0 || $count > min($openTable, $room)} continue
         incr room -$count
         if {[dict exists $nested $table]} {

@@ -163,6 +163,7 @@ Tcl_Obj* Look(const Question& question) {
     Put(dictionary, "background", NewText(window.Background()));
     Put(dictionary, "single", Tcl_NewBooleanObj(window.Rows().IsSingle()));
     Put(dictionary, "scroll", Tcl_NewIntObj(window.ScrollPosition()));
+    Put(dictionary, "uncounted", Tcl_NewBooleanObj(window.Rows().IsUncounted()));
     if (window.ShownView()) PutView(dictionary, *window.ShownView());
     return dictionary;
 }
@@ -191,6 +192,14 @@ Tcl_Obj* Prune(const Question& question) {
     return Tcl_NewObj();
 }
 
+/// Counts the rows of one more of those that took too long: whether there are more.
+Tcl_Obj* Count(const Question& question) {
+    question.window.Rows().CountMore();
+    return Tcl_NewBooleanObj(question.window.Rows().IsUncounted());
+}
+
+Tcl_Obj* Trouble(const Question& question) { return NewText(question.window.Rows().TakeTrouble()); }
+
 struct TkWord {
     const char* word;
     const char* arguments;
@@ -200,6 +209,7 @@ struct TkWord {
 };
 
 constexpr TkWord tkWords[] = {
+    {"count", "NUMBER", 0, false, Count},
     {"find", "NUMBER FIRST TEXT", 1, true, FindBeginning},
     {"indices", "NUMBER FIRST COUNT", 2, false, Indices},
     {"look", "NUMBER", 0, false, Look},
@@ -207,6 +217,7 @@ constexpr TkWord tkWords[] = {
     {"position", "NUMBER INDEX", 1, false, Position},
     {"prune", "NUMBER", 0, false, Prune},
     {"selected", "NUMBER", 0, false, Selected},
+    {"trouble", "NUMBER", 0, false, Trouble},
 };
 
 int Fail(Tcl_Interp* interp, const std::string& message) {

@@ -3,6 +3,7 @@
 #include <tcl.h>
 
 #include <string>
+#include <utility>
 
 namespace znhost {
 
@@ -11,24 +12,52 @@ namespace {
 constexpr auto patience = std::chrono::milliseconds(200);
 constexpr auto pause = std::chrono::milliseconds(100);
 
-/// While one lives the command gives an error.
-class BlockedCommand {
+int PutOffExit(ClientData work, Tcl_Interp*, int objc, Tcl_Obj* const objv[]) {
+    static_cast<TkWork*>(work)->PutOff(objc, objv);
+    return TCL_OK;
+}
+
+/// While one lives the command does something else.
+class ReplacedCommand {
 public:
-    explicit BlockedCommand(Tcl_Command_* const* command) : command_(command) {
+    ReplacedCommand(Tcl_Command_* const* command, Tcl_ObjCmdProc* procedure, ClientData data)
+        : command_(command) {
         if (!*command_ || !Tcl_GetCommandInfoFromToken(*command_, &info_)) return;
-        Tcl_CmdInfo busy = info_;
-        busy.objProc = AnswerBusy;
-        Tcl_SetCommandInfoFromToken(*command_, &busy);
+        Tcl_CmdInfo other = info_;
+        other.objProc = procedure;
+        other.objClientData = data;
+        Tcl_SetCommandInfoFromToken(*command_, &other);
     }
-    ~BlockedCommand() {
+    ~ReplacedCommand() {
         if (*command_ && info_.objProc) Tcl_SetCommandInfoFromToken(*command_, &info_);
     }
-    BlockedCommand(const BlockedCommand&) = delete;
-    BlockedCommand& operator=(const BlockedCommand&) = delete;
+    ReplacedCommand(const ReplacedCommand&) = delete;
+    ReplacedCommand& operator=(const ReplacedCommand&) = delete;
 
 private:
     Tcl_Command_* const* const command_;
     Tcl_CmdInfo info_{};
+};
+
+/// `exit` as it is called now; null when a script has taken it away.
+class ExitCommand {
+public:
+    ExitCommand(Tcl_Interp* interp, TkWork& work)
+        : interp_(interp), command_(Find(interp)), replaced_(&command_, PutOffExit, &work) {}
+    ~ExitCommand() {
+        if (Find(interp_) != command_) command_ = nullptr;
+    }
+    ExitCommand(const ExitCommand&) = delete;
+    ExitCommand& operator=(const ExitCommand&) = delete;
+
+private:
+    static Tcl_Command Find(Tcl_Interp* interp) {
+        return Tcl_FindCommand(interp, "exit", nullptr, TCL_GLOBAL_ONLY);
+    }
+
+    Tcl_Interp* const interp_;
+    Tcl_Command command_;
+    const ReplacedCommand replaced_;
 };
 
 } // namespace
@@ -37,6 +66,31 @@ int AnswerBusy(void*, Tcl_Interp* interp, int, Tcl_Obj* const[]) {
     Tcl_SetObjResult(interp, Tcl_NewStringObj("the browser is busy", -1));
     Tcl_SetErrorCode(interp, "ZNBROWSER", "BUSY", nullptr);
     return TCL_ERROR;
+}
+
+TkWork::TkWork(Tcl_Interp* interp, Tcl_Command_* const* command)
+    : interp_(interp), command_(command), leaving_(Tcl_AsyncCreate(Leave, this)) {}
+
+TkWork::~TkWork() {
+    Tcl_AsyncDelete(leaving_);
+    if (exit_) Tcl_DecrRefCount(exit_);
+}
+
+void TkWork::PutOff(int objc, Tcl_Obj* const objv[]) {
+    if (!exit_) Tcl_IncrRefCount(exit_ = Tcl_NewListObj(objc, objv));
+    Cancel();
+}
+
+/// Tcl calls it between two commands: nothing that works on a database is in the middle of a step then.
+int TkWork::Leave(void* work, Tcl_Interp*, int code) {
+    TkWork& self = *static_cast<TkWork*>(work);
+    if (!self.exit_) return code;
+    Tcl_Obj* const words = std::exchange(self.exit_, nullptr);
+    // It does not return, unless it fails.
+    if (Tcl_EvalObjEx(self.interp_, words, TCL_EVAL_GLOBAL) != TCL_OK)
+        Tcl_BackgroundException(self.interp_, TCL_ERROR);
+    Tcl_DecrRefCount(words);
+    return code;
 }
 
 void TkWork::Begin(int window) {
@@ -61,10 +115,16 @@ bool TkWork::GoesOn() {
     if (cancelled_) return false;
     const Clock::time_point now = Clock::now();
     if (now - begun_ < patience || (shown_ && now - served_ < pause)) return true;
+    Serve();
+    return !cancelled_;
+}
+
+void TkWork::Serve() {
     serving_ = true;
     shown_ = true;
     {
-        const BlockedCommand blocked(command_);
+        const ReplacedCommand blocked(command_, AnswerBusy, nullptr);
+        const ExitCommand waiting(interp_, *this);
         Call("::znbrowser::showProgress");
         // A bound, as an idle script may ask for itself again and again.
         for (int i = 0; i < 200 && Tcl_DoOneEvent(TCL_WINDOW_EVENTS | TCL_IDLE_EVENTS | TCL_DONT_WAIT); ++i) {
@@ -72,7 +132,7 @@ bool TkWork::GoesOn() {
     }
     serving_ = false;
     served_ = Clock::now();
-    return !cancelled_;
+    if (exit_) Tcl_AsyncMark(leaving_);
 }
 
 void TkWork::Call(const char* procedure) const {

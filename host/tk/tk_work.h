@@ -6,6 +6,7 @@
 
 #include <chrono>
 
+struct Tcl_AsyncHandler_;
 struct Tcl_Command_;
 struct Tcl_Interp;
 struct Tcl_Obj;
@@ -17,10 +18,12 @@ int AnswerBusy(void* data, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]);
 
 /// Shows that the host works, and a way to cancel, in the window for which it does. The display is served
 /// meanwhile, but the manager's command answers nothing but an error: the work must find what it works on.
+/// For the same reason `exit` waits, for the moment that the work takes to stop.
 class TkWork final : public LongWork {
 public:
     /// @param command  where the manager's command is kept; null in it when a script has deleted it
-    TkWork(Tcl_Interp* interp, Tcl_Command_* const* command) : interp_(interp), command_(command) {}
+    TkWork(Tcl_Interp* interp, Tcl_Command_* const* command);
+    ~TkWork();
     TkWork(const TkWork&) = delete;
     TkWork& operator=(const TkWork&) = delete;
 
@@ -33,6 +36,9 @@ public:
     void Cancel() { cancelled_ = true; }
     /// Whether the display is served at this moment, while the work waits.
     bool IsServing() const { return serving_; }
+    /// Notes an `exit` that came while the display was served: in the middle of a statement the program must
+    /// not end. The work is cancelled, and the words are evaluated as soon as it has let go.
+    void PutOff(int objc, Tcl_Obj* const objv[]);
 
     bool GoesOn() override;
     bool HasTime() override;
@@ -40,10 +46,14 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
+    void Serve();
     void Call(const char* procedure) const;
+    static int Leave(void* work, Tcl_Interp* interp, int code);
 
     Tcl_Interp* const interp_;
     Tcl_Command_* const* const command_;
+    Tcl_AsyncHandler_* const leaving_;
+    Tcl_Obj* exit_ = nullptr; ///< the words of an `exit` that is waiting
     int depth_ = 0;
     int window_ = 0;
     Clock::time_point begun_;

@@ -85,7 +85,7 @@ proc ::znbrowser::open {n name frame} {
     variable numberOf
     upvar #0 ::znbrowser::window$n w
     array set w [list name $name first 0 full 1 page {} columns {} shown {} active -1 anchor -1 \
-        pending {} reported -1 look [host look $n]]
+        pending {} reported -1 trouble {} look [host look $n]]
     set w(owns) [expr {$frame eq "" || ![winfo exists $frame]}]
     if {$w(owns)} {set frame [makeToplevel $n $name $frame]}
     set w(frame) $frame
@@ -168,6 +168,7 @@ proc ::znbrowser::unpost {n} {
     upvar #0 ::znbrowser::window$n w
     if {![info exists w(name)]} return
     if {[host busy]} {
+        if {[winfo exists $w(path).progress]} {host cancel} ;# nobody waits for it any longer
         after 100 [list ::znbrowser::unpost $n]
         return
     }
@@ -310,5 +311,39 @@ proc ::znbrowser::draw {n changes} {
     keepPlace $n
     if {[dict exists $changes shown]} {reveal $n [dict get $changes shown]}
     drawPage $n
+    if {![isOpen $n]} return
     drawStatus $n
+    if {[dict get [host look $n] uncounted] && ![info exists w(timer,count)]} {
+        set w(timer,count) [after 20 [list ::znbrowser::countMore $n]]
+    }
+    followTrouble $n
+}
+
+# Counts what took too long when the window was drawn, a little at a time.
+proc ::znbrowser::countMore {n} {
+    upvar #0 ::znbrowser::window$n w
+    unset -nocomplain w(timer,count)
+    if {![isOpen $n]} return
+    if {[host busy] || [host count $n]} {set w(timer,count) [after 20 [list ::znbrowser::countMore $n]]}
+}
+
+# What could not be read is said as long as it cannot; what others keep from being read is tried again.
+proc ::znbrowser::followTrouble {n} {
+    upvar #0 ::znbrowser::window$n w
+    set trouble [host trouble $n]
+    if {$trouble ne ""} {
+        say $n $trouble
+        if {[string match "* (retry)" $trouble] && ![info exists w(timer,retry)]} {
+            set w(timer,retry) [after 1000 [list ::znbrowser::retry $n]]
+        }
+    } elseif {$w(trouble) ne ""} {
+        say $n ""
+    }
+    set w(trouble) $trouble
+}
+
+proc ::znbrowser::retry {n} {
+    upvar #0 ::znbrowser::window$n w
+    unset -nocomplain w(timer,retry)
+    changed $n allCells 0
 }

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace znlayer;
+
 // Its bytes are not looked at, or this would crash.
 TEST(Call, RefusesAnAnswerThatTclCannotHold) {
     const std::string_view huge("x", std::size_t{1} << 31);

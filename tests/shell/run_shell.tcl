@@ -12,3 +12,21 @@ proc runShell {input args} {
     ::tcltest::removeFile errors.txt
     list $code [string trimright $output \n] $errorOutput
 }
+
+# A statement that never ends, in the middle of its first step.
+set endless {with recursive n(i) as (select 1 union all select i + 1 from n) select count(*) from n}
+
+# Starts a script in a shell of its own and sends it SIGINT as soon as it prints a line; then gives the rest of its
+# output, standard error too, its exit code, and whether it ended at once.
+proc interruptShell {script args} {
+    set file [::tcltest::makeFile $script interrupted.tcl]
+    set pipe [open |[list [info nameofexecutable] {*}$args $file 2>@1]]
+    gets $pipe
+    exec kill -INT [pid $pipe]
+    set sent [clock milliseconds]
+    set output [read $pipe]
+    set took [expr {[clock milliseconds] - $sent}]
+    set code [expr {[catch {close $pipe} message options] ? [lindex [dict get $options -errorcode] 2] : 0}]
+    ::tcltest::removeFile interrupted.tcl
+    list $output $code [expr {$took < 1000 ? "at once" : "after $took ms"}]
+}

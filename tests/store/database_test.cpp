@@ -147,6 +147,42 @@ TEST(Statement, KeepsItsFirstFailureAndForgetsItsBindings) {
     EXPECT_TRUE(again.Finish(error));
 }
 
+TEST(Statement, StopsInTheMiddleOfAStepWhenItIsTold) {
+    const auto database = MemoryDatabase("");
+    const std::string endless = "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) ";
+    int left = 0;
+    database->SetWhyStop([&left] { return left-- > 0 ? std::string_view() : "enough"; });
+    for (const char* const end :
+         {"SELECT count(*) FROM n", "SELECT i FROM n", "SELECT i FROM n WHERE i < 0"}) {
+        left = 3;
+        EXPECT_EQ(Answer(*database, endless + end), "enough") << end;
+        EXPECT_EQ(left, -1) << end;
+    }
+    EXPECT_EQ(Answer(*database, "SELECT 1"), "1"); // too short to be asked
+}
+
+TEST(Statement, StopsWaitingForALockWhenItIsTold) {
+    const TemporaryDirectory directory;
+    std::string error;
+    const auto one = Database::OpenFile(directory.File("shared"), error);
+    const auto other = Database::OpenFile(directory.File("shared"), error);
+    ASSERT_TRUE(one && other) << error;
+    ASSERT_EQ(Answer(*one, "CREATE TABLE t (a)"), "");
+    ASSERT_EQ(Answer(*other, "SELECT * FROM t"), "");
+    ASSERT_EQ(Answer(*one, "BEGIN EXCLUSIVE"), "");
+    int asked = 0;
+    other->SetWhyStop([&asked] { return ++asked < 3 ? std::string_view() : "enough"; });
+    EXPECT_EQ(Answer(*other, "SELECT * FROM t"), "database is locked");
+    EXPECT_EQ(asked, 3);
+    asked = -1000;
+    EXPECT_EQ(Answer(*other, "SELECT * FROM t"), "database is locked");
+    const int waited = asked;
+    EXPECT_EQ(Answer(*other, "SELECT * FROM t"), "database is locked");
+    EXPECT_EQ(asked, waited); // who waited in vain does not wait again at once
+    ASSERT_EQ(Answer(*one, "COMMIT"), "");
+    EXPECT_EQ(Answer(*other, "SELECT * FROM t"), "");
+}
+
 TEST(Transaction, IsUndoneUnlessCommitted) {
     const auto database = MemoryDatabase("CREATE TABLE t (a)");
     std::string error;
