@@ -213,6 +213,23 @@ set sections {
     }
 }
 
+# Names and texts that break what was only tried with "a" and "b", in each place that takes one.
+source [file join [file dirname [info script]] .. hostile_texts.tcl]
+dict set sections hostile [concat {{window create win}} {*}[lmap kind {emoji nul command} {
+    string map [list % [list [dict get $hostile::texts $kind]]] {
+        {app sql m {INSERT INTO note VALUES (?, 1, ?)} % %} {app sql m {UPDATE note SET text = ?} %}
+        {view property create %} {view property type string} {view property connect note text} {view column create %}
+        {view column caption %} {view style create %} {view element create %} {view element connect property %}
+        {view operation create %} {view folder current v} {view folder create %} {view list create note}
+        {view folder selected} {window find property add %} {window find property current %}
+        {window find property criterion current %} {window find property criterion value %} {window find perform}
+        {view filter string current %} {app rows win} {app state create m %} {state current %} {state save}
+        {state restore} {app state delete m %} {window map create %} {window map type string string}
+        {window map record create % %} {view filter string current {}} {datasource simple create % %}
+        {datasource simple connect note} {datasource simple criteria create %} {app sql m %} {view current %} {window %}
+    }
+}]]
+
 set display {
     {window create win} {window part create part} {window listener connect told} {window post true}
     {view list current unit} {window expandall} {OnTkTreeRequestSelect win 1 4} {view column caption C}
