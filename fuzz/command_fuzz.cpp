@@ -123,7 +123,7 @@ void TouchCurrents(znhost::EmbeddedHost& host) {
 /// many times over, whatever the cells hold.
 void ReadRows(FencedHost& fenced) {
     static const std::vector<Line> lines = LinesOf(readings);
-    constexpr int longest = 1 << 19;
+    constexpr int longest = 1 << 20; // a row of six long cells, twice over for the quotes of lists
     for (const Line& line : lines) {
         RunLine(fenced, line);
         int length = 0;
