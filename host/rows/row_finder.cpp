@@ -64,8 +64,8 @@ bool operator==(const FindCriterion& a, const FindCriterion& b) {
 
 RowFinder::RowFinder(View& view, RowModel& model, std::vector<FindCriterion> criteria)
     : model_(model), criteria_(std::move(criteria)) {
-    const RowModel::Answering answering(model);
     const ReadTrouble::Watch watch(view.Owner().Owner().Trouble());
+    const RowModel::Answering answering(model); // may run a script that deletes the view
     revision_ = model.Revision();
     if (!model.IsStopped() && Prepare(view)) Walk();
     if (watch.Seen() && error_.empty()) error_ = watch.Text();

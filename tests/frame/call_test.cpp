@@ -22,4 +22,5 @@ TEST(Call, RefusesAnAnswerThatTclCannotHold) {
                      "[Command] \n\t[Error] The answer is too large: the limit is 536870912 bytes");
     }
     Tcl_DecrRefCount(word);
+    manager.DeleteBrowserManagerCollectorTcl();
 }
