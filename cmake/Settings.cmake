@@ -20,7 +20,10 @@ if(ZN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${ZN_CCACHE}")
 endif()
 
-add_compile_options(-Wall -Wextra -Wshadow -Wconversion -Werror)
+add_compile_options(-Wall -Wextra -Wshadow -Wconversion)
+if(ZN_WERROR)
+    add_compile_options(-Werror)
+endif()
 
 if(ZN_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)

@@ -1,6 +1,9 @@
 #include "options.h"
 
+#include "reference.h"
+
 #include <CLI/CLI.hpp>
+#include <iostream>
 
 namespace {
 
@@ -79,6 +82,13 @@ std::optional<ExitCode> ParseOptions(int argc, const char* const* argv, Options&
     app.add_flag("--tk", options.tk,
                  "Open windows on the display; with nothing to run, a browser on each --db")
         ->disable_flag_override();
+    app.add_flag_callback(
+        "--reference",
+        [] {
+            std::cout << Reference();
+            throw CLI::Success();
+        },
+        "Print all words of the command, as Markdown, and end");
     app.set_version_flag("--version", "znbrowsersh " ZN_VERSION);
     app.prefix_command(); // stop at the script: the options behind it are the script's own
     options.program = argv[0];
