@@ -82,8 +82,8 @@ struct RowQuery {
 
 /// The rows of one simple data source, as the row model needs them. Every call reads what the database holds
 /// at that moment. None throws; a database error reads as "no rows" and is noted among the application's
-/// `ReadTrouble`, and is a refusal with its text from the two operations that write. Row numbers are those of `znBrowserDataItem`: opaque here, stable while the
-/// item exists.
+/// `ReadTrouble`, and is a refusal with its text from the two operations that write. Row numbers are those of
+/// `znBrowserDataItem`: opaque here, stable while the item exists.
 class RowSource {
 public:
     virtual znIBrowserDataSourceSimple* GetSource() = 0;

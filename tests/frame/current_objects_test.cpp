@@ -96,7 +96,8 @@ TEST_F(CurrentObjects, AreReadClearedAndStored) {
                &Manager::SetCurrentFindRequestPropertyCriterionByPtr,
                &Manager::ResetCurrentFindRequestPropertyCriterion);
 
-    // Each kind was among them, but for those whose setters take no null, and the menus, which the host lacks.
+    // Each kind was among them, but for those whose setters take no null, and the menus, which the host
+    // lacks.
     std::string missing;
     const znBrowserCurrentObjects& current = znlayer::CurrentAccess::Of(manager);
     znlayer::ForEachCurrentKind([&](const auto& kind) {
