@@ -1,5 +1,6 @@
 #include "model/application.h"
 
+#include "base/kept_result.h"
 #include "base/tcl_values.h"
 #include "model/data_sources.h"
 #include "model/long_work.h"
@@ -13,19 +14,6 @@
 namespace znhost {
 
 namespace {
-
-/// The interpreter's result and error state as they were, put back at the end.
-class KeptResult {
-public:
-    explicit KeptResult(Tcl_Interp* interp) : interp_(interp), state_(Tcl_SaveInterpState(interp, TCL_OK)) {}
-    ~KeptResult() { Tcl_RestoreInterpState(interp_, state_); }
-    KeptResult(const KeptResult&) = delete;
-    KeptResult& operator=(const KeptResult&) = delete;
-
-private:
-    Tcl_Interp* const interp_;
-    const Tcl_InterpState state_;
-};
 
 /// The words as a Tcl list.
 znString ListOf(const std::vector<std::string>& words) {

@@ -53,10 +53,15 @@ bool Browser::Uses(znIBrowserDataSource& source) {
 }
 
 void Browser::DataChanged(const znIBrowserDataCtrl& control, unsigned changes) {
+    NoteDataChange(control, changes);
     for (const auto& view : HeldViews()) {
-        if (view->DataControl() != &control) continue;
-        if (changes & VIEW_ROWS) view->ForgetMissingItems();
-        view->Changed(changes);
+        if (view->DataControl() == &control) view->Changed(changes);
+    }
+}
+
+void Browser::NoteDataChange(const znIBrowserDataCtrl& control, unsigned changes) noexcept {
+    for (const auto& view : Views()) {
+        if (view->DataControl() == &control) view->NoteItems(changes);
     }
 }
 

@@ -62,6 +62,9 @@ public:
     bool Uses(znIBrowserDataSource& source);
     /// Tells the windows that the items of that control changed: `changes` are bits of `ViewChange`.
     void DataChanged(const znIBrowserDataCtrl& control, unsigned changes);
+    /// Notes the same, to be told with the next change, or before the next question about the rows: for when
+    /// memory runs out.
+    void NoteDataChange(const znIBrowserDataCtrl& control, unsigned changes) noexcept;
 
     const char* GetError() const override;
     bool ApplyPendingChanges(znIBrowserViewItemFreeFolder* folder) override;

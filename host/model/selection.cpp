@@ -27,6 +27,19 @@ bool Selection::Announce(bool changed) {
     return changed;
 }
 
+/// Work on many items may be half done when memory runs out: that is announced, too.
+template <class Work>
+bool Selection::AnnounceWhatDid(Work work) {
+    bool changed = false;
+    try {
+        changed = work();
+    } catch (...) {
+        Announce(true);
+        throw;
+    }
+    return Announce(changed);
+}
+
 bool Selection::Select(Source* source, Row row) { return source && Announce(RowsFor(source).Add(row)); }
 
 bool Selection::Select(Source* source, std::vector<Row> rows) {
@@ -60,14 +73,20 @@ bool Selection::Change(const znBrowserDataItems& items, bool select) {
     return changed;
 }
 
-bool Selection::Select(const znBrowserDataItems& items) { return Announce(Change(items, true)); }
+bool Selection::Select(const znBrowserDataItems& items) {
+    return AnnounceWhatDid([&] { return Change(items, true); });
+}
 
-bool Selection::Deselect(const znBrowserDataItems& items) { return Announce(Change(items, false)); }
+bool Selection::Deselect(const znBrowserDataItems& items) {
+    return AnnounceWhatDid([&] { return Change(items, false); });
+}
 
 bool Selection::Replace(const znBrowserDataItems& items) {
-    const bool had = !IsEmpty();
-    parts_.clear();
-    return Announce(Change(items, true) || had);
+    return AnnounceWhatDid([&] {
+        const bool had = !IsEmpty();
+        parts_.clear();
+        return Change(items, true) || had;
+    });
 }
 
 bool Selection::Clear() {
@@ -85,14 +104,16 @@ bool Selection::Clear(const Source* source) {
 }
 
 bool Selection::Forget(const std::function<std::vector<Row>(Source*, const std::vector<Row>&)>& missing) {
-    bool changed = false;
-    for (Part& part : parts_) {
-        std::vector<Row> rows;
-        rows.reserve(part.rows.Size());
-        part.rows.ForEach([&rows](Row row) { rows.push_back(row); });
-        if (!rows.empty()) changed = part.rows.Remove(missing(part.source, rows)) || changed;
-    }
-    return Announce(changed);
+    return AnnounceWhatDid([&] {
+        bool changed = false;
+        for (Part& part : parts_) {
+            std::vector<Row> rows;
+            rows.reserve(part.rows.Size());
+            part.rows.ForEach([&rows](Row row) { rows.push_back(row); });
+            if (!rows.empty()) changed = part.rows.Remove(missing(part.source, rows)) || changed;
+        }
+        return changed;
+    });
 }
 
 bool Selection::IsSelected(const Source* source, Row row) const {

@@ -61,6 +61,8 @@ private:
     Part* Find(const Source* source);
     RowSet& RowsFor(Source* source);
     bool Announce(bool changed);
+    template <class Work>
+    bool AnnounceWhatDid(Work work);
     bool Change(const znBrowserDataItems& items, bool select);
 
     std::vector<Part> parts_;

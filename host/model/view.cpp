@@ -6,6 +6,8 @@
 #include "model/browser.h"
 #include "model/data_sources.h"
 
+#include <algorithm>
+
 namespace znhost {
 
 View::View(Browser& browser, std::string name, bool newConnections)
@@ -53,27 +55,28 @@ ZNBROWSER_SORT_ORDER View::SortOrderOf(const Column& column) const {
 void View::AddObserver(ViewObserver& observer) { observers_.push_back(&observer); }
 
 void View::RemoveObserver(const ViewObserver& observer) {
-    RemoveAll(observers_, const_cast<ViewObserver*>(&observer));
+    ViewObserver* const removed = const_cast<ViewObserver*>(&observer);
+    std::replace(observers_.begin(), observers_.end(), removed, static_cast<ViewObserver*>(nullptr));
+    if (telling_ == 0) DropRemovedObservers();
+}
+
+void View::DropRemovedObservers() { RemoveAll(observers_, static_cast<ViewObserver*>(nullptr)); }
+
+void View::NoteItems(unsigned changes) noexcept {
+    heldBack_ |= changes;
+    if (changes & VIEW_ROWS) mayMissItems_ = true;
 }
 
 void View::Changed(unsigned changes) {
     heldBack_ |= changes;
+    if (mayMissItems_) ForgetMissingItems();
     if (!browser_.HoldsBack()) Flush();
 }
 
 void View::Flush() {
     const unsigned changes = std::exchange(heldBack_, 0U);
-    if (changes && !observers_.empty()) TellChanges(changes);
-}
-
-void View::TellChanges(unsigned changes) {
-    const std::shared_ptr<View> self = weak_from_this().lock();
-    try {
-        TellObservers([changes](ViewObserver& observer) { observer.OnViewChanged(changes); });
-    } catch (...) { // who did not hear is told the next time
-        heldBack_ |= changes;
-        throw;
-    }
+    if (!changes) return;
+    TellObservers([changes](ViewObserver& observer) { observer.OnViewChanged(changes); });
 }
 
 const znString& View::GetName() const {

@@ -12,7 +12,7 @@
 #include "model/view_operation.h"
 #include "model/view_property.h"
 
-#include <algorithm>
+#include <exception>
 #include <memory>
 #include <set>
 #include <string>
@@ -85,8 +85,6 @@ public:
     /// True when that changed something.
     bool SelectFolder(FreeFolder& folder, bool selected);
     void ClearAllSelection();
-    /// Deselects the items that do not exist any more: a new item may take their row numbers.
-    void ForgetMissingItems();
 
     // Filters.
     /// Whether the filter shows the items of that source.
@@ -99,21 +97,29 @@ public:
     // Who shows the view. Observers are not owned and must outlive the view or be removed.
     void AddObserver(ViewObserver& observer);
     void RemoveObserver(const ViewObserver& observer);
-    /// Tells the observers, now or, while changes are held back, with the next `Flush`.
-    /// `changes` are bits of `ViewChange`.
+    /// Tells the observers, now or, while changes are held back, with the next `Flush`; with them what could
+    /// not be told before because memory ran out. `changes` are bits of `ViewChange`; 0: nothing new.
     void Changed(unsigned changes);
+    /// Notes that the items of the data control changed, to be told with the next `Changed` or `Flush`.
+    void NoteItems(unsigned changes) noexcept;
     /// Tells what was held back.
     void Flush();
     /// Tells each observer something at once: `tell(ViewObserver&)`. One may run scripts, which may delete
-    /// the others, and the view.
+    /// the others, and the view. All are told, even when one throws or no memory is left.
     template <class Tell>
     void TellObservers(Tell&& tell) {
         const std::shared_ptr<View> self = weak_from_this().lock(); // null while the view is being destroyed
-        const std::vector<ViewObserver*> observers = observers_;
-        for (ViewObserver* const observer : observers) {
-            if (std::find(observers_.begin(), observers_.end(), observer) != observers_.end())
-                tell(*observer);
+        std::exception_ptr failure;
+        ++telling_;
+        for (std::size_t i = 0, count = observers_.size(); i < count; ++i) {
+            try {
+                if (observers_[i]) tell(*observers_[i]);
+            } catch (...) {
+                failure = std::current_exception();
+            }
         }
+        if (--telling_ == 0) DropRemovedObservers();
+        if (failure) std::rethrow_exception(failure);
     }
 
     // Lets go of what is about to be deleted.
@@ -172,7 +178,8 @@ private:
         Changed(change);
         return true;
     }
-    void TellChanges(unsigned changes);
+    void DropRemovedObservers();
+    void ForgetMissingItems();
 
     Browser& browser_;
     const znString name_;
@@ -197,8 +204,10 @@ private:
     bool groupFilter_ = false;
     std::set<std::string> hiddenSources_; ///< By name: what is not shown.
 
-    std::vector<ViewObserver*> observers_;
+    std::vector<ViewObserver*> observers_; ///< Null: removed while they are being told something.
+    int telling_ = 0;
     unsigned heldBack_ = 0;
+    bool mayMissItems_ = false; ///< Selected items may not exist any more.
 };
 
 } // namespace znhost

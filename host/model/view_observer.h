@@ -23,7 +23,7 @@ enum ViewChange : unsigned {
 /// next draws; what is deleted is told at once, before it goes.
 class ViewObserver {
 public:
-    /// `changes` are bits of `ViewChange`.
+    /// `changes` are bits of `ViewChange`. An observer that throws has taken note of them before.
     virtual void OnViewChanged(unsigned changes) = 0;
     /// A folder, or one list in it, is expanded or collapsed; with `recursive` everything below it too.
     virtual void OnExpanded(FreeFolder& folder, znIBrowserDataSourceSimple* list, bool expanded,

@@ -19,8 +19,15 @@ void View::ClearAllSelection() {
     selection_.Clear();
 }
 
+/// Deselects the items that do not exist any more: a new item may take their row numbers.
 void View::ForgetMissingItems() {
-    selection_.Forget([](auto* source, const auto& rows) { return GetRowSource(source)->Missing(rows); });
+    mayMissItems_ = false; // first: a change of the selection is told at once
+    try {
+        selection_.Forget([](auto* source, const auto& rows) { return GetRowSource(source)->Missing(rows); });
+    } catch (...) {
+        mayMissItems_ = true;
+        throw;
+    }
 }
 
 bool View::ClearSelection() {

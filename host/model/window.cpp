@@ -8,6 +8,7 @@
 #include "rows/row_finder.h"
 
 #include <algorithm>
+#include <new>
 #include <tcl.h>
 #include <utility>
 
@@ -39,12 +40,22 @@ void Window::OnViewDeleted() noexcept {
     rows_.OnViewDeleted();
 }
 
+/// What is expanded before a filter hides it. Without memory it is not kept: then the rows stay collapsed.
+void Window::KeepExpanded() {
+    expanded_.clear();
+    try {
+        expanded_ = rows_.WereExpanded();
+    } catch (const std::bad_alloc&) {
+        // A change of the view must be noted all the same.
+    }
+}
+
 // Rows that a text filter hides are collapsed. When it is gone, they are as they were.
 void Window::OnViewChanged(unsigned changes) {
     const std::shared_ptr<Window> self = shared_from_this(); // listing the rows may run scripts
     const bool filtered = filters_;
     filters_ = view_ && !view_->Filter().pattern.empty();
-    if (filters_ && !filtered) expanded_ = rows_.WereExpanded();
+    if (filters_ && !filtered) KeepExpanded();
     rows_.OnViewChanged(changes);
     if (!filters_ && filtered) rows_.ExpandAlso(std::exchange(expanded_, {}));
 }

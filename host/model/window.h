@@ -144,6 +144,7 @@ private:
     void RepackPart(const WindowPart& part);
     void RunWindowOperation(Window& target, ZNBROWSER_CALLBACK_OPERATION operation);
     void TellSelectedFolders();
+    void KeepExpanded();
     bool FailOnTrouble();
     Column* FindColumn(const char* name) const;
     struct Click;

@@ -20,7 +20,7 @@ RowModel::RowModel(View& view)
 
 // ---- Changes ----
 
-void RowModel::OnViewChanged(unsigned changes) {
+void RowModel::OnViewChanged(unsigned changes) noexcept {
     pending_ |= changes;
     if (changes & VIEW_ROWS) {
         Tell(RowChange::AllFilled);
@@ -31,12 +31,12 @@ void RowModel::OnViewChanged(unsigned changes) {
 }
 
 // Rows of a source or folder that goes are not looked at any more before they are listed anew.
-void RowModel::OnSourceDeleted(znIBrowserDataSource&) {
+void RowModel::OnSourceDeleted(znIBrowserDataSource&) noexcept {
     stopped_ = true;
     OnViewChanged(VIEW_ROWS);
 }
 
-void RowModel::OnFolderDeleted(FreeFolder&) { OnViewChanged(VIEW_ROWS); }
+void RowModel::OnFolderDeleted(FreeFolder&) noexcept { OnViewChanged(VIEW_ROWS); }
 
 void RowModel::OnViewDeleted() noexcept {
     stopped_ = true;
@@ -46,6 +46,7 @@ void RowModel::OnViewDeleted() noexcept {
 }
 
 RowModel::Answering::Answering(RowModel& model) : model_(model), quiet_(model.log_) {
+    if (!model_.answering_ && model_.view_) model_.view_->Changed(0); // what it could not tell
     if (model_.answering_++) return;
     try {
         model_.TakeOver();
@@ -110,26 +111,22 @@ void RowModel::Tell(RowChange::Kind kind, std::uint32_t index) noexcept {
 void RowModel::Note(const RowChange& change) noexcept {
     try {
         changes_.push_back(change);
-    } catch (const std::bad_alloc&) { // then what was noted before stands for everything
-        if (changes_.empty()) return;
-        changes_.resize(1);
-        changes_.front() = {};
+    } catch (const std::bad_alloc&) {
+        untold_ = true;
     }
 }
 
 void RowModel::Deliver() noexcept {
     if (answering_ || delivering_) return;
     delivering_ = true;
-    std::vector<RowChange> changes;
     try {
-        while (!changes_.empty()) {
-            changes = std::exchange(changes_, {});
-            DeliverToAll(changes);
+        while (!changes_.empty() || untold_) {
+            if (untold_) changes_.assign(1, RowChange());
+            untold_ = false;
+            DeliverToAll(std::exchange(changes_, {}));
         }
-    } catch (const std::exception&) { // who did not hear is told with the next change
-        if (changes_.empty()) changes_.swap(changes);
-        changes_.resize(1);
-        changes_.front() = {};
+    } catch (const std::exception&) { // who did not hear is told with the next change, or after a question
+        untold_ = true;
     }
     delivering_ = false;
 }

@@ -72,10 +72,10 @@ public:
     RowModel(const RowModel&) = delete;
     RowModel& operator=(const RowModel&) = delete;
 
-    // What the view tells.
-    void OnViewChanged(unsigned changes);
-    void OnSourceDeleted(znIBrowserDataSource& source);
-    void OnFolderDeleted(FreeFolder& folder);
+    // What the view tells. To take note of it needs no memory.
+    void OnViewChanged(unsigned changes) noexcept;
+    void OnSourceDeleted(znIBrowserDataSource& source) noexcept;
+    void OnFolderDeleted(FreeFolder& folder) noexcept;
     /// The view goes: no rows are left.
     void OnViewDeleted() noexcept;
 
@@ -273,6 +273,7 @@ private:
         slow_; ///< what takes long to count, and its count when known
     std::vector<RowContent> uncounted_;
     std::vector<RowChange> changes_;
+    bool untold_ = false; ///< Memory ran out over what changed: everything may have.
     std::vector<RowObserver*> observers_;
 };
 

@@ -39,8 +39,8 @@ bool CustomSource::AddBase(BaseSource& base) {
     if (Contains(bases_, &base)) {
         return FailWith("The data source \"" + Name() + "\" is already connected to \"" + base.Name() + "\"");
     }
+    AddNew(slots_, &base); // first: without a slot a base would show nothing
     bases_.push_back(&base);
-    AddNew(slots_, &base);
     Control().ItemsChanged();
     return true;
 }

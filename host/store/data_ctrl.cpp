@@ -34,10 +34,20 @@ bool DataCtrl::RunSql(const std::string& statement, const std::vector<std::strin
     Database::Stamp after;
     std::string ignored;
     const bool known = database_->ReadStamp(before, ignored);
-    const bool done = database_->Run(statement, bound, rows, error);
-    ForgetMissing();
-    if (!known || !database_->ReadStamp(after, ignored) || !after.SameRows(before)) ItemsChanged();
-    return done;
+    try {
+        const bool done = database_->Run(statement, bound, rows, error);
+        ForgetMissing();
+        if (!known || !database_->ReadStamp(after, ignored) || !after.SameRows(before)) ItemsChanged();
+        return done;
+    } catch (...) { // memory ran out, perhaps after the rows were changed
+        NoteItemsChanged();
+        throw;
+    }
+}
+
+void DataCtrl::NoteItemsChanged() noexcept {
+    indexes_.Clear();
+    Model().NoteDataChange(*this, VIEW_ROWS | VIEW_CELLS);
 }
 
 void DataCtrl::ItemsChanged() {
@@ -69,12 +79,25 @@ bool DataCtrl::Refresh(std::string& error) {
     return true;
 }
 
+/// When memory runs out it is done again, from what there was before.
 void DataCtrl::TakeOverTables() {
-    const std::vector<BaseSource*> oldBases = std::move(bases_);
-    const std::vector<DataReference*> oldReferences = std::move(references_);
-    bases_.clear();
-    references_.clear();
-    for (BaseSource* const base : oldBases) base->SetTable(nullptr);
+    std::vector<BaseSource*> oldBases;
+    std::vector<DataReference*> oldReferences;
+    oldBases.swap(bases_);
+    oldReferences.swap(references_);
+    try {
+        ListTables();
+        NoteGone(oldBases, oldReferences);
+    } catch (...) {
+        bases_.swap(oldBases);
+        references_.swap(oldReferences);
+        stamp_ = {};
+        throw;
+    }
+}
+
+void DataCtrl::ListTables() {
+    for (const auto& known : knownBases_) known.second->SetTable(nullptr);
     for (const auto& known : knownReferences_) known.second->SetKey(nullptr, {});
     for (const Schema::TablePtr& table : schema_.Tables()) {
         const auto make = [&] { return std::make_shared<BaseSource>(*this, table->name); };
@@ -83,7 +106,6 @@ void DataCtrl::TakeOverTables() {
         bases_.push_back(&base);
         TakeOverReferences(*table);
     }
-    NoteGone(oldBases, oldReferences);
 }
 
 void DataCtrl::NoteGone(const std::vector<BaseSource*>& bases,
@@ -99,15 +121,24 @@ void DataCtrl::NoteGone(const std::vector<BaseSource*>& bases,
 void DataCtrl::ForgetMissing() {
     std::string ignored;
     if (!Refresh(ignored) || database_->InTransaction()) return;
-    while (!goneBases_.empty()) {
-        BaseSource& base = *goneBases_.back();
-        goneBases_.pop_back(); // first: what is told of may run scripts
-        Forget(base);
-    }
-    while (!goneReferences_.empty()) {
-        DataReference& reference = *goneReferences_.back();
-        goneReferences_.pop_back();
+    ForgetEach(goneBases_, [this](BaseSource& base) { Forget(base); });
+    ForgetEach(goneReferences_, [this](DataReference& reference) {
         if (!reference.IsThere()) Forget(reference);
+    });
+}
+
+/// What could not be let go of for want of memory stays listed, to be tried again.
+template <class Gone, class Forgetting>
+void DataCtrl::ForgetEach(std::vector<Gone*>& gone, Forgetting forget) {
+    while (!gone.empty()) {
+        Gone* const one = gone.back();
+        gone.pop_back(); // first: what is told of may run scripts
+        try {
+            forget(*one);
+        } catch (...) {
+            gone.push_back(one);
+            throw;
+        }
     }
 }
 

@@ -55,6 +55,8 @@ public:
     void ForgetMissing();
     /// Tells the views that items came, went or changed.
     void ItemsChanged();
+    /// Notes it, to be told later: before what may run out of memory when it is half done.
+    void NoteItemsChanged() noexcept;
     /// Whether a view shows the source or another source is made of it.
     bool Uses(SimpleSource& source) const;
 
@@ -108,7 +110,10 @@ private:
     /// All that are there, as the tables were when last looked at.
     std::vector<SimpleSource*> SimpleSources() const;
     void TakeOverTables();
+    void ListTables();
     void NoteGone(const std::vector<BaseSource*>& bases, const std::vector<DataReference*>& references);
+    template <class Gone, class Forgetting>
+    static void ForgetEach(std::vector<Gone*>& gone, Forgetting forget);
     void Forget(BaseSource& base);
     void Forget(DataReference& reference);
     void TakeOverReferences(const Table& table);

@@ -149,7 +149,10 @@ bool HierarchicalSource::RemoveChild(const char* name) {
     const std::string doomed = TextOf(name);
     SimpleSource* const source = control_.FindSimple(doomed);
     const std::size_t before = children_.size();
-    if (source && source != parent_) Forget(*source);
+    if (source && source != parent_) {
+        control_.NoteItemsChanged();
+        Forget(*source);
+    }
     if (children_.size() == before) {
         return Fail(parent_ && parent_ == source
                         ? "\"" + doomed + "\" is the parent of the data source \"" + name_ +

@@ -115,12 +115,18 @@ public:
     void FindRows() {
         if (table_.rowidColumn) {
             table_.key = Database::Quoted(table_.columns[*table_.rowidColumn].name);
-        } else { // any of the three names may be taken by an ordinary column
+        } else if (!table_.copied) { // any of the three names may be taken by an ordinary column
             for (const char* const name : {"rowid", "_rowid_", "oid"}) {
                 if (table_.key.empty() && !table_.FindColumn(name)) table_.key = name;
             }
+            table_.copied = table_.key.empty();
         }
-        if (table_.key.empty()) table_.problem = "columns hide the row number of the table " + table_.name;
+        if (table_.copied) {
+            table_.key = "znbrowser_row";
+            while (table_.FindColumn(table_.key)) table_.key += '_';
+            for (TableColumn& column : table_.columns)
+                column.indexed = column.primaryKey == 1; // all that the copy has
+        }
         table_.rows = table_.copied ? "temp." + Database::Quoted("znbrowser_rows_" + table_.name)
                                     : "main." + Database::Quoted(table_.name);
     }
@@ -150,16 +156,13 @@ std::string ReadTable(Database& database, Table& table) {
     std::string error;
     if (!reader.ReadColumns(error)) return error;
     if (!table.view && !reader.ReadForeignKeys(error)) return error;
-    if (table.copied) {
-        for (TableColumn& column : table.columns)
-            column.indexed = column.primaryKey == 1; // all that the copy has
-    } else {
+    if (!table.copied) {
         if (!reader.ReadIndexes(error)) return error;
         reader.FindRowidColumn();
     }
     reader.FindDisplayColumn();
     reader.FindRows();
-    return table.problem;
+    return {};
 }
 
 using TablesByName = std::unordered_map<std::string, const Table*>;

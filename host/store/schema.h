@@ -34,9 +34,10 @@ struct ForeignKey {
 ///     SELECT <key>, <columns> FROM <rows> WHERE <key> = ?
 ///
 /// With most tables that is the rowid of the table itself. Views, tables WITHOUT ROWID and virtual tables
-/// have none: there `rows` is a temporary copy (`copied`), which `RowCopies::Refresh` brings up to date
-/// before it is read. The row numbers of a copied table with a primary key stay with their rows; those of a
-/// view number its rows from 1, and hold until its rows change.
+/// have none, and where columns bear its three names it cannot be asked for: there `rows` is a temporary copy
+/// (`copied`), which `RowCopies::Refresh` brings up to date before it is read. The row numbers of a copied
+/// table with a primary key stay with their rows; those of a view number its rows from 1, and hold until its
+/// rows change.
 struct Table {
     std::string name;
     bool view = false;

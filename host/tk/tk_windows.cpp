@@ -1,5 +1,6 @@
 #include "tk/tk_windows.h"
 
+#include "base/kept_result.h"
 #include "base/tcl_values.h"
 #include "model/application.h"
 #include "model/window.h"
@@ -20,19 +21,6 @@ constexpr const char* hostCommand = "::znbrowser::host";
 constexpr const char* managerCommand = "::znbrowser::manager";
 
 enum class OnError { Answer, Report };
-
-/// The result of the command in whose course something else is evaluated, put back whatever happens.
-class KeptResult {
-public:
-    explicit KeptResult(Tcl_Interp* interp) : interp_(interp), state_(Tcl_SaveInterpState(interp, TCL_OK)) {}
-    ~KeptResult() { Tcl_RestoreInterpState(interp_, state_); }
-    KeptResult(const KeptResult&) = delete;
-    KeptResult& operator=(const KeptResult&) = delete;
-
-private:
-    Tcl_Interp* const interp_;
-    const Tcl_InterpState state_;
-};
 
 /// Evaluates a command at the global level. The result of the command in whose course this happens is as it
 /// was. @return false when it failed; `result` receives the result, or the message.

@@ -172,6 +172,15 @@ set sections {
         {window collapseall} {state restore} {app rows win} {view tree delete h} {app rows win}
         {window find property criterion value c} {window collapseall} {window find perform} {window find perform}
     }
+    tables {
+        {window create win} {view folder current v} {view list create note} {window expandall}
+        {app sql m {CREATE TABLE part (id INTEGER PRIMARY KEY, unit INTEGER REFERENCES unit(id), name TEXT)}}
+        {app sql m {INSERT INTO part VALUES (1, 1, 'p')}} {view datasource simple connect part}
+        {view list create part} {datasource simple connect part} {view datareference connect part.unit} {app rows win}
+        {view dataitem selected} {app sql m {ALTER TABLE part RENAME COLUMN name TO title}} {datasource simple names}
+        {app sql m {DROP TABLE note}} {app rows win} {datareference names} {app sql m {DROP TABLE part}}
+        {datasource hierarchical names} {app rows win}
+    }
     states {
         {window create win} {window part create part} {window listener connect told}
         {app state create m st} {state names} {state current st} {state save} {state data} {state restore}

@@ -21,6 +21,7 @@ datasource hierarchical criteria
 datasource hierarchical disconnect note
 datasource hierarchical property
 datasource simple connect note
+datasource simple connect part
 datasource simple criteria data bool 1 unsigned 2 double 3 string d
 datasource simple criteria data integer 1
 datasource simple disconnect unit
@@ -44,6 +45,7 @@ view current
 view datactrl
 view datactrl disconnect
 view datasource hierarchical disconnect h
+view datasource simple connect part
 view datasource simple disconnect own
 view delete
 view flush false

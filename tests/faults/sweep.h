@@ -72,10 +72,17 @@ public:
     void Open() { script_.Eval("run $opening"); }
     void Run(const std::string& section) { script_.Eval("run [dict get $sections " + section + "]"); }
 
-    /// No current object is dead, the rows of each window stand where they say, and the next command is
-    /// answered.
+    /// No current object is dead, no view shows a table that has gone, the rows of each window stand where
+    /// they say, and the next command is answered.
     void Check() {
         EXPECT_EQ(DeadCurrents(*host_), "");
+        host_->App().DataControls().Find("m")->ForgetMissing();
+        for (const auto& view : host_->App().Model().Views()) {
+            for (znIBrowserDataSourceSimple* const source : view->ShowableSources()) {
+                const auto* const base = dynamic_cast<znhost::BaseSource*>(znhost::SourceOf(source));
+                EXPECT_TRUE(!base || base->Table()) << base->Name();
+            }
+        }
         for (const auto& window : host_->App().Model().Windows().All()) CheckRows(*window);
         EXPECT_EQ(script_.Eval("znbrowsermanager view create afterwards; znbrowsermanager view current"),
                   "afterwards");

@@ -137,6 +137,10 @@ TEST_F(RowSourceTest, BooleansAreWrittenOrTheReasonIsGiven) {
     Sql("INSERT INTO keyed VALUES ('a', 0), ('b', 0)");
     EXPECT_TRUE(Source("keyed").WriteBoolean(*Source("keyed").FindProperty("ok"), 2, true, error)) << error;
     EXPECT_EQ(Answer(Control().Db(), "SELECT code FROM keyed WHERE ok"), "b");
+    Sql("CREATE TABLE hiding (rowid TEXT PRIMARY KEY, _rowid_, oid, ok BOOLEAN)");
+    Sql("INSERT INTO hiding VALUES ('a', 2, 2, 0), ('b', 1, 1, 0)");
+    EXPECT_TRUE(Source("hiding").WriteBoolean(*Source("hiding").FindProperty("ok"), 2, true, error)) << error;
+    EXPECT_EQ(Answer(Control().Db(), "SELECT rowid FROM hiding WHERE ok"), "b");
 }
 
 TEST_F(RowSourceTest, ItemsMoveTogetherOrNotAtAll) {
