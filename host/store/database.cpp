@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "store/database_file.h"
+#include "store/temporary_files.h"
 
 #include <algorithm>
 #include <iterator>
@@ -40,7 +41,8 @@ std::unique_ptr<Database> Database::OpenMemory(std::string& error) { return Open
 
 std::unique_ptr<Database> Database::Open(const char* path, std::string& error) {
     sqlite3* handle = nullptr;
-    const int outcome = sqlite3_open_v2(path, &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    const int outcome =
+        sqlite3_open_v2(path, &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, TemporaryFiles::Vfs());
     Connection connection(handle); // there is one even when it could not be opened
     if (outcome != SQLITE_OK) {
         error = ToTcl(handle ? sqlite3_errmsg(handle) : sqlite3_errstr(outcome));
@@ -108,6 +110,10 @@ bool Database::MayPass(std::string_view error) {
 std::string Database::Reason(int outcome) const {
     if (outcome == SQLITE_TOOBIG)
         return "a text, blob or row is too large: the limit is " + Limit(largestValue);
+    if (outcome == SQLITE_FULL && TemporaryFiles::TakeRefusal()) {
+        const auto limit = static_cast<std::size_t>(TemporaryFiles::Limit());
+        return "it needs too large a temporary file: the limit is " + Limit(limit);
+    }
     return ToTcl(sqlite3_errmsg(Handle()));
 }
 

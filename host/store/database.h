@@ -20,7 +20,7 @@ struct CloseConnection {
 
 /// A connection to a database file, or to a database in memory. Failures come as `false` and SQLite's own
 /// text. Texts are in Tcl's form on this side of the class, and in the database's on the other. A value has at
-/// most 256 MiB, a statement 16 MiB. All objects made from a database must go before it does, unless the program
+/// most 256 MiB, a statement 16 MiB, a temporary file 1 GiB. All objects made from a database must go before it does, unless the program
 /// ends in the middle of their use.
 class Database {
 public:
