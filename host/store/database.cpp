@@ -26,6 +26,11 @@ constexpr std::size_t longestSql = 1 << 24;
 
 std::string Limit(std::size_t bytes) { return std::to_string(bytes) + " bytes"; }
 
+std::string TooLargeFile() {
+    return "it needs too large a temporary file: the limit is " +
+           Limit(static_cast<std::size_t>(TemporaryFiles::Limit()));
+}
+
 } // namespace
 
 std::unique_ptr<Database> Database::OpenFile(const std::string& path, std::string& error) {
@@ -105,15 +110,14 @@ bool Database::MayPass(std::string_view error) {
     return error == sqlite3_errstr(SQLITE_BUSY) || error == sqlite3_errstr(SQLITE_LOCKED);
 }
 
+bool Database::IsTooLarge(std::string_view error) { return error == TooLargeFile(); }
+
 // ---- Statements
 
 std::string Database::Reason(int outcome) const {
     if (outcome == SQLITE_TOOBIG)
         return "a text, blob or row is too large: the limit is " + Limit(largestValue);
-    if (outcome == SQLITE_FULL && TemporaryFiles::TakeRefusal()) {
-        const auto limit = static_cast<std::size_t>(TemporaryFiles::Limit());
-        return "it needs too large a temporary file: the limit is " + Limit(limit);
-    }
+    if (outcome == SQLITE_FULL && TemporaryFiles::TakeRefusal()) return TooLargeFile();
     return ToTcl(sqlite3_errmsg(Handle()));
 }
 

@@ -19,9 +19,9 @@ struct CloseConnection {
 };
 
 /// A connection to a database file, or to a database in memory. Failures come as `false` and SQLite's own
-/// text. Texts are in Tcl's form on this side of the class, and in the database's on the other. A value has at
-/// most 256 MiB, a statement 16 MiB, a temporary file 1 GiB. All objects made from a database must go before it does, unless the program
-/// ends in the middle of their use.
+/// text. Texts are in Tcl's form on this side of the class, and in the database's on the other. A value has
+/// at most 256 MiB, a statement 16 MiB, a temporary file 1 GiB. All objects made from a database must go
+/// before it does, unless the program ends in the middle of their use.
 class Database {
 public:
     using Rows = std::vector<std::vector<std::string>>;
@@ -85,6 +85,9 @@ public:
     void SetWhyStop(WhyStop whyStop) { whyStop_ = std::move(whyStop); }
     /// Whether a failure with this text may pass by itself: others use the database at present.
     static bool MayPass(std::string_view error);
+    /// Whether a failure with this text comes again, after as long a wait, as long as nothing changed: it
+    /// took all the temporary space that a statement may have.
+    static bool IsTooLarge(std::string_view error);
 
     // ---- For the other files of this folder ----
     /// The connection.

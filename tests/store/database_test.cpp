@@ -163,11 +163,9 @@ TEST(Statement, StopsInTheMiddleOfAStepWhenItIsTold) {
 }
 
 TEST(Statement, WhatNeverEndsDoesNotFillTheDisk) {
-    const auto limited = [](std::int64_t bytes) { TemporaryFiles::SetLimit(bytes); };
-    const std::unique_ptr<void, std::function<void(void*)>> after(
-        this, [limited, before = TemporaryFiles::Limit()](void*) { limited(before); });
+    const std::int64_t limit = TemporaryFiles::Limit();
     const auto database = MemoryDatabase("");
-    limited(8 << 20);
+    TemporaryFiles::SetLimit(8 << 20);
     const std::string endless = " AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT "
                                 "i, hex(zeroblob(500)) AS t ";
     for (const std::string& statement :
@@ -178,7 +176,7 @@ TEST(Statement, WhatNeverEndsDoesNotFillTheDisk) {
                   "it needs too large a temporary file: the limit is 8388608 bytes")
             << statement;
     }
-    limited(std::int64_t{1} << 30);
+    TemporaryFiles::SetLimit(limit);
     ASSERT_EQ(Answer(*database, "CREATE TEMP TABLE copy AS SELECT 1 AS i"), "");
     EXPECT_EQ(Answer(*database, "SELECT i FROM copy"), "1");
 }
