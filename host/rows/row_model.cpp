@@ -411,6 +411,7 @@ std::optional<std::int64_t> RowModel::CountOf(const Row& row) {
 
 bool RowModel::MayHaveRows(const Row& row) {
     const RowContent& container = row.Content();
+    if (container.IsNote()) return false; // though it has the place of what it speaks of
     const auto slow = slow_.find(PlaceOf(container));
     if (slow != slow_.end()) return !slow->second || *slow->second > 0;
     const ReadTrouble::Watch watch(App().Trouble());
