@@ -84,7 +84,7 @@ public:
     /// Does what `CleanUp` does. The collector helper is not destroyed: only
     /// `DeleteBrowserManagerCollectorTcl` does.
     ~znBrowserManagerTcl() override;
-    /// Registers the command for this object, clears the current objects and makes both helpers anew, and the
+    /// Registers the command for this object, clears the current objects and creates both helpers, and the
     /// browser info if there is none. Throws as the constructor does.
     void Init();
     /// Clears the error state, makes every current object null and gives up this manager's hold on the
@@ -617,7 +617,7 @@ public:
     bool GetCurrentFilter(znString& out);
     /// The data sources that the view could show: a braced list.
     bool GetFilterNames(znString& out);
-    /// Makes the list of filters anew from the data sources that the view has now.
+    /// Rebuilds the list of filters from the data sources that the view has now.
     bool RebuildFilterLists();
     /// Set and read the text by which the view filters its items.
     bool SetFilterString(const char* pattern);
@@ -1041,7 +1041,7 @@ public:
     const char* GetCurrentConnectDataSourceSimple() const;
     /// Always null.
     znIBrowserDataSourceSimple* GetCurrentConnectDataSourceSimplePtr() const;
-    /// Connect a base source to the current source, and disconnect it; the items are made anew. Silently
+    /// Connect a base source to the current source, and disconnect it; the items are rebuilt. Silently
     /// false when the host refuses, and without a current custom source, where the error state stays.
     bool DataSourceSimpleConnect(const char* name);
     bool DataSourceSimpleDisconnect(const char* name);

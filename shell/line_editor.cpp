@@ -24,6 +24,7 @@ int CountCharacters(const std::string& text) {
 /// Prints the words below the line, in columns.
 void ListWords(const std::vector<std::string>& choices) {
     std::vector<std::string> words;
+    words.reserve(choices.size());
     std::size_t width = 0;
     for (const std::string& choice : choices) words.push_back(znhost::ToNative(choice));
     for (const std::string& word : words) width = std::max(width, word.size() + 2);

@@ -209,8 +209,8 @@ void Session::PrintFailure(int code) {
     Tcl_DecrRefCount(options);
 }
 
-// One call runs the timers that are due, one the idle scripts; both may leave background errors, which are
-// idle scripts as well. No loop: an idle script may ask for itself again.
+// The first call runs the timers that are due, the second the idle scripts, among them reports of background
+// errors that either has left. Once each: an idle script that schedules itself again would never end a loop.
 void Session::ServePending() {
     Tcl_DoOneEvent(TCL_TIMER_EVENTS | TCL_DONT_WAIT);
     Tcl_DoOneEvent(TCL_IDLE_EVENTS | TCL_DONT_WAIT);

@@ -120,7 +120,7 @@ Style* StyleFor(const std::vector<ColumnStyle>& styles, const Column& column) {
     return nullptr;
 }
 
-/// Null takes the column's style away. What has died meanwhile goes on the way.
+/// Null takes the column's style away. Entries whose column has been deleted are removed on this occasion.
 void SetStyleFor(std::vector<ColumnStyle>& styles, Column& column, Style* style) {
     RemoveWhere(styles, [&](const ColumnStyle& entry) {
         return entry.style.expired() || entry.column.expired() || entry.column.lock().get() == &column;

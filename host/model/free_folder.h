@@ -32,7 +32,7 @@ struct FolderSettings {
     bool keepChildrenAsCreated = false; ///< The child folders are not sorted with the rows.
 };
 
-/// A style for one column. Both may have been deleted meanwhile.
+/// A style for one column. Both may have been deleted since.
 struct ColumnStyle {
     std::weak_ptr<Column> column;
     std::weak_ptr<Style> style;

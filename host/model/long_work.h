@@ -4,12 +4,12 @@
 
 namespace znhost {
 
-/// Whoever looks after the one who waits. It is asked again and again by whatever may take long.
+/// Decides whether long work continues. Whatever may take long asks it at short intervals.
 class LongWork {
 public:
-    /// False: nobody waits any longer, and the work is to be left as it is.
+    /// False: the user has cancelled the work; it stops as it is.
     virtual bool GoesOn() = 0;
-    /// False: the work was to be done as far as there is time, and that is over.
+    /// False: the time granted for the work has run out; it stops with what it has.
     virtual bool HasTime() = 0;
 
 protected:

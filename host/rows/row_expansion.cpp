@@ -102,7 +102,7 @@ void RowModel::ExpandAsCreated(RowNode& node, int depth, std::vector<std::pair<R
             if (list && list->expanded) open.emplace_back(part.node.get(), 0);
         }
         if (content.kind != RowKind::Item) continue;
-        // Below an item of the same kind the count goes on; it does not begin anew.
+        // Below an item of the same kind the count goes on; it does not start again.
         const bool goesOn =
             content.link.reference && !content.top && content.link.parent == content.link.child;
         const int own = goesOn ? 0 : content.folder->CreateExpandedDepth(content.source->GetSource());

@@ -30,7 +30,7 @@ void RowModel::OnViewChanged(unsigned changes) noexcept {
     if (changes & VIEW_SELECTION) Tell(RowChange::Selection);
 }
 
-// Rows of a source or folder that goes are not looked at any more before they are listed anew.
+// The rows of a deleted source are not used again until they have been listed again.
 void RowModel::OnSourceDeleted(znIBrowserDataSource&) noexcept {
     stopped_ = true;
     OnViewChanged(VIEW_ROWS);
@@ -131,7 +131,7 @@ void RowModel::Deliver() noexcept {
     delivering_ = false;
 }
 
-/// Observers may come and go meanwhile.
+/// Observers may be added and removed while others are told.
 void RowModel::DeliverToAll(const std::vector<RowChange>& changes) {
     const std::vector<RowObserver*> observers = observers_;
     for (RowObserver* const observer : observers) {
@@ -408,6 +408,7 @@ std::optional<std::int64_t> RowModel::CountOf(const Row& row) {
 
 bool RowModel::MayHaveRows(const Row& row) {
     const RowContent& container = row.Content();
+    if (container.IsNote()) return false; // though it has the place of what it speaks of
     const auto slow = slow_.find(PlaceOf(container));
     if (slow != slow_.end()) return !slow->second || *slow->second > 0;
     const ReadTrouble::Watch watch(App().Trouble());

@@ -65,7 +65,7 @@ struct KeptRow {
 /// Values may come from scripts, and a script may delete anything. So while a question is being answered
 /// nothing is taken apart: what goes meanwhile is let go of at the end, and the work in hand is given up. A
 /// script may ask for the rows itself; while they are being listed there are none. When memory runs out in
-/// the middle of a change the rows are collapsed, and made anew with the next question.
+/// the middle of a change the rows are collapsed, and listed again with the next question.
 class RowModel {
 public:
     explicit RowModel(View& view);
@@ -156,8 +156,8 @@ public:
     /// Notes a change; the observers hear of it at once, or when the question in hand is answered.
     void Tell(RowChange::Kind kind, std::uint32_t index = RowChange::root) noexcept;
 
-    /// While one lives a question is being answered: nothing is taken apart, and the host's calls to itself
-    /// are not recorded. What changed before is taken over at the beginning of the outermost.
+    /// While one lives a question is being answered: no row is freed, and calls between host objects are not
+    /// recorded. The outermost one first brings the rows up to date.
     class Answering {
     public:
         explicit Answering(RowModel& model);

@@ -132,7 +132,8 @@ void RowPlan::AddLists(const RowContent& folder, std::vector<RowContent>& conten
 
 bool RowPlan::IsShown(RowSource* source) const { return view_.IsShown(source->GetSource()); }
 
-/// Who filters wants to see what is left, not where nothing is.
+/// Whether containers without rows are hidden. A text filter always hides them: they would bury what it
+/// found.
 bool RowPlan::HidesEmpty(bool shows) const { return !shows || !view_.Filter().pattern.empty(); }
 
 // ---- Links and filters ----

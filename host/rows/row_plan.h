@@ -31,7 +31,7 @@ struct RowScope {
     bool HasLinksBelow(const RowSource* source) const;
 };
 
-/// Reads from a view what its windows show. Every answer is made anew, but for what a text filter found.
+/// Reads from a view what its windows show. Nothing is kept but what a text filter found.
 class RowPlan {
 public:
     explicit RowPlan(View& view) : view_(view) {}

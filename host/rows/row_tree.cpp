@@ -334,7 +334,7 @@ std::vector<RowNode*> RowTree::Expanded(RowNode& node) {
     return found;
 }
 
-/// Sums up anew what was changed at and below a container.
+/// Recomputes the sums of a container and of what was changed below it.
 void RowTree::Count(RowNode& top) {
     const std::int64_t before = top.visible;
     const std::vector<RowNode*> nodes = Expanded(top);

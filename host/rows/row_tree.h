@@ -28,7 +28,7 @@ enum class RowKind {
     Item,
 };
 
-/// What stands in a container or in a block: enough to make its content anew.
+/// What stands in a container or in a block: enough to list its content again.
 struct RowContent {
     RowKind kind = RowKind::Folder;
     std::shared_ptr<FreeFolder> folder;    ///< the folder, or the one that holds the rest

@@ -13,7 +13,7 @@ namespace znhost {
 
 namespace {
 
-/// Whether the source has not been deleted by a script meanwhile.
+/// Whether the source still exists: a script may have deleted it.
 bool IsThere(SimpleSource& source) { return source.Control().FindSimple(source.Name()) == &source; }
 
 } // namespace

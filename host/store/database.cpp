@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "store/database_file.h"
+#include "store/temporary_files.h"
 
 #include <algorithm>
 #include <iterator>
@@ -25,6 +26,11 @@ constexpr std::size_t longestSql = 1 << 24;
 
 std::string Limit(std::size_t bytes) { return std::to_string(bytes) + " bytes"; }
 
+std::string TooLargeFile() {
+    return "it needs too large a temporary file: the limit is " +
+           Limit(static_cast<std::size_t>(TemporaryFiles::Limit()));
+}
+
 } // namespace
 
 std::unique_ptr<Database> Database::OpenFile(const std::string& path, std::string& error) {
@@ -40,7 +46,8 @@ std::unique_ptr<Database> Database::OpenMemory(std::string& error) { return Open
 
 std::unique_ptr<Database> Database::Open(const char* path, std::string& error) {
     sqlite3* handle = nullptr;
-    const int outcome = sqlite3_open_v2(path, &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    const int outcome =
+        sqlite3_open_v2(path, &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, TemporaryFiles::Vfs());
     Connection connection(handle); // there is one even when it could not be opened
     if (outcome != SQLITE_OK) {
         error = ToTcl(handle ? sqlite3_errmsg(handle) : sqlite3_errstr(outcome));
@@ -103,11 +110,14 @@ bool Database::MayPass(std::string_view error) {
     return error == sqlite3_errstr(SQLITE_BUSY) || error == sqlite3_errstr(SQLITE_LOCKED);
 }
 
+bool Database::IsTooLarge(std::string_view error) { return error == TooLargeFile(); }
+
 // ---- Statements
 
 std::string Database::Reason(int outcome) const {
     if (outcome == SQLITE_TOOBIG)
         return "a text, blob or row is too large: the limit is " + Limit(largestValue);
+    if (outcome == SQLITE_FULL && TemporaryFiles::TakeRefusal()) return TooLargeFile();
     return ToTcl(sqlite3_errmsg(Handle()));
 }
 

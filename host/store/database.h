@@ -1,4 +1,4 @@
-// One SQLite database, open: statements, values, transactions' ground, and whether anything changed.
+// One open SQLite connection: statements, values, transaction state, change detection.
 #ifndef ZN_HOST_DATABASE_H
 #define ZN_HOST_DATABASE_H
 
@@ -20,8 +20,8 @@ struct CloseConnection {
 
 /// A connection to a database file, or to a database in memory. Failures come as `false` and SQLite's own
 /// text. Texts are in Tcl's form on this side of the class, and in the database's on the other. A value has
-/// at most 256 MiB, a statement 16 MiB. All objects made from a database must go before it does, unless the
-/// program ends in the middle of their use.
+/// at most 256 MiB, a statement 16 MiB, a temporary file 1 GiB. All objects made from a database must go
+/// before it does, unless the program ends in the middle of their use.
 class Database {
 public:
     using Rows = std::vector<std::vector<std::string>>;
@@ -69,9 +69,10 @@ public:
     bool ReadStamp(Stamp& stamp, std::string& error);
     /// The rows changed through this connection so far.
     std::int64_t RowsChanged() const;
-    /// Leaves that many of the changed rows out of account: they are the host's own, in copies of its own.
+    /// Does not count that many changed rows: they lie in temporary tables of the host's own.
     void DisregardChanges(std::int64_t rows) { disregarded_ += rows; }
-    /// Tells that something was undone: `Stamp` must not be trusted to count on.
+    /// Notes that changes may have been rolled back. `RowsChanged` does not go down then: equal counts no
+    /// longer mean equal rows, so stamps taken before differ from those taken after.
     void NoteRollback() { ++rollbacks_; }
     bool InTransaction() const;
     std::int64_t LastInsertedRow() const;
@@ -85,6 +86,9 @@ public:
     void SetWhyStop(WhyStop whyStop) { whyStop_ = std::move(whyStop); }
     /// Whether a failure with this text may pass by itself: others use the database at present.
     static bool MayPass(std::string_view error);
+    /// Whether a failure with this text comes again, after as long a wait, as long as nothing changed: it
+    /// took all the temporary space that a statement may have.
+    static bool IsTooLarge(std::string_view error);
 
     // ---- For the other files of this folder ----
     /// The connection.

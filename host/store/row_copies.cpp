@@ -124,12 +124,19 @@ bool RowCopies::Refresh(const Table& table, std::string& error) {
     if (!table.copied) return true;
     Database::Stamp now;
     if (!database_.ReadStamp(now, error)) return false;
-    Database::Stamp& last = stamps_[table.name];
-    if (now.SameRows(last)) return true;
+    Last& last = last_[table.name];
+    if (now.SameRows(last.stamp)) {
+        error = last.tooLarge;
+        return error.empty();
+    }
     const std::int64_t before = database_.RowsChanged();
     const bool filled = Fill(database_, table, error);
     database_.DisregardChanges(database_.RowsChanged() - before);
-    last = filled ? now : Database::Stamp();
+    if (filled) {
+        last = {now, ""};
+    } else {
+        last = Database::IsTooLarge(error) ? Last{now, error} : Last();
+    }
     return filled;
 }
 

@@ -14,12 +14,17 @@ public:
 
     /// Makes the rows of the table ready to be read; to be called before each reading. Does nothing for a
     /// table that is not copied, and next to nothing when nothing in the database changed; else it reads the
-    /// table once. @return false with SQLite's reason when the table cannot be read
+    /// table once. A table whose copy would be too large is not read again before something changed.
+    /// @return false with SQLite's reason when the table cannot be read
     bool Refresh(const Table& table, std::string& error);
 
 private:
     Database& database_;
-    std::unordered_map<std::string, Database::Stamp> stamps_; // of the last copy, by table name
+    struct Last {
+        Database::Stamp stamp;
+        std::string tooLarge; ///< why the rows cannot be copied, as they are now; "" when they are
+    };
+    std::unordered_map<std::string, Last> last_; // the last copy, by table name
 };
 
 } // namespace znhost

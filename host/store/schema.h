@@ -60,7 +60,7 @@ struct Table {
     std::optional<std::size_t> FindColumn(std::string_view column) const;
 };
 
-/// What the database is made of, read anew when its tables changed. Tables are shared: one that was found
+/// What the database is made of, read again when its tables changed. Tables are shared: one that was found
 /// stays valid, as it was, after a change.
 class Schema {
 public:

@@ -17,7 +17,7 @@ namespace znhost {
 class StateContainer;
 
 /// A saved state: a name, by which everything else is looked up in the database when it is asked for. One
-/// that was deleted meanwhile, by whomever, refuses every question, and is itself again when it is made anew.
+/// that somebody has deleted refuses every question; when it is created again, the same object works again.
 class State final : public znIBrowserState, public HostObject {
 public:
     State(StateContainer& container, std::string name);

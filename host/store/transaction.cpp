@@ -5,7 +5,9 @@
 namespace znhost {
 
 bool Transaction::Begin(std::string& error, Purpose purpose) {
-    savepoint_ = purpose == Purpose::Copy || database_.InTransaction();
+    const bool inside = database_.InTransaction();
+    savepoint_ = inside || purpose == Purpose::Copy;
+    copiesAlone_ = !inside && purpose == Purpose::Copy;
     // Savepoints of the same name nest; the innermost one is meant.
     open_ = database_.Execute(savepoint_ ? "SAVEPOINT znbrowser" : "BEGIN IMMEDIATE", error);
     return open_;
@@ -19,7 +21,8 @@ bool Transaction::Commit(std::string& error) {
 
 Transaction::~Transaction() {
     if (!open_) return;
-    database_.NoteRollback();
+    // A copy alone is nothing that anybody has looked at.
+    if (!copiesAlone_) database_.NoteRollback();
     // SQLite may have rolled back by itself already. It is asked directly, which needs no memory of ours.
     const char* const undo = savepoint_ ? "ROLLBACK TO znbrowser; RELEASE znbrowser" : "ROLLBACK";
     sqlite3_exec(database_.Handle(), undo, nullptr, nullptr, nullptr);

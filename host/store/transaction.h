@@ -30,6 +30,7 @@ private:
     Database& database_;
     bool open_ = false;
     bool savepoint_ = false;
+    bool copiesAlone_ = false;
 };
 
 } // namespace znhost

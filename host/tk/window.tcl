@@ -253,15 +253,17 @@ proc ::znbrowser::tell {n words} {
     set failed [catch {manager {*}$words} answer]
     if {[regexp {^\[Command\] .*?\n\t\[Error\] (.*)$} $answer -> answer]} {set failed 1}
     set refusal [host error]
-    if {!$failed} {set answer $refusal}
+    if {!$failed || ($answer eq "Unknown error" && $refusal ne "")} {set answer $refusal}
     finish $n $answer
     return [expr {!$failed && [isOpen $n]}]
 }
 
-# The work that began is done, and there is something to say, or nothing.
+# The work that began is done, and there is something to say, or nothing. It stays until there is something new.
 proc ::znbrowser::finish {n message} {
+    upvar #0 ::znbrowser::window$n w
     set cancelled [host end]
     if {![isOpen $n]} return
+    set w(trouble) {}
     if {$cancelled} {set message "Cancelled: what is shown is not complete."}
     say $n $message
 }

@@ -43,7 +43,8 @@ struct znBrowserDataItems {
         if (runs.empty() || runs.back().source != source) runs.push_back({source, rows.size()});
         rows.push_back(row);
     }
-    /// Calls `visit(const znBrowserDataItem&)` for each item in order. The list must not change meanwhile.
+    /// Calls `visit(const znBrowserDataItem&)` for each item in order. The list must not change during the
+    /// visit.
     template <class Visit>
     void ForEach(Visit&& visit) const {
         for (std::size_t run = 0; run < runs.size(); ++run) {

@@ -60,7 +60,7 @@ public:
     /// Deletes a view with its columns, styles, properties, operations and folders. The layer has made sure
     /// that no window shows it.
     virtual bool DeleteView(znIBrowserView* view) = 0;
-    /// Draws every view of that data control anew, what was held back included. The result is not used.
+    /// Redraws every view of that data control, with what was held back. The result is not used.
     virtual bool RedrawViews(znIBrowserDataCtrl* control) = 0;
 
     // Columns. The kind of a column decides what its cells show. `argument` is the host's; scripts cannot set
@@ -99,8 +99,8 @@ public:
     /// New connection scheme: the same, but the types have not been compared.
     virtual bool ConnectViewPropertyNew(znIBrowserViewProperty* property, znIBrowserDataSource* source,
                                         znIBrowserDataProperty* dataProperty) = 0;
-    /// Takes the property's connection to that source away, in either scheme; to its script for a null
-    /// source. There is one.
+    /// Removes the property's connection to that source, in either scheme; to its script for a null source.
+    /// The layer has checked that there is one.
     virtual bool DisconnectViewProperty(znIBrowserViewProperty* property, znIBrowserDataSource* source) = 0;
     /// The values of the property come from a Tcl procedure, named by `argument`. How it is called is the
     /// host's: the embedded host gives it the item's data source and number.
@@ -315,7 +315,7 @@ public:
     /// views may be the same.
     virtual bool ShareDataSourceHierarchical(znIBrowserView* view, znIBrowserView* other,
                                              znIBrowserDataSourceHierarchical* source) = 0;
-    /// Reads the items of that source in the folder's tree anew. The text of a refusal is not read.
+    /// Reads the items of that source in the folder's tree again. The text of a refusal is not read.
     virtual bool UpdateTreeDataSource(znIBrowserViewItemFreeFolder* folder, znIBrowserDataSource* source) = 0;
     /// Why the last refused operation of any host object was refused; never null. It is read right after the
     /// refusal. Scripts see an empty text as "Unknown error".

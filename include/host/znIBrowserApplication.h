@@ -45,7 +45,7 @@ public:
     virtual znIBrowserDataCtrl* FindDataCtrl(const char* name) = 0;
     /// Every data control of the application, in the host's order.
     virtual void GetDataCtrls(std::vector<znIBrowserDataCtrl*>& controls) = 0;
-    /// The browser object, through which most changes are made; asked for anew each time. Null makes each
+    /// The browser object, through which most changes are made; asked for each time. Null makes each
     /// operation that needs it fail, mostly without a reason.
     virtual znIBrowser* GetBrowser() = 0;
     /// The Tcl namespace of the host's browser scripts, as "view namespace" shows it; never null.

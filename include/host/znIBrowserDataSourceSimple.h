@@ -39,7 +39,7 @@ public:
     virtual bool DisconnectBase(znIBrowserDataSourceSimple* base) = 0;
     /// The base sources in the order connected; none for a base source. False counts as none.
     virtual bool GetBaseDataSources(std::vector<znIBrowserDataSourceSimple*>& bases) = 0;
-    /// Makes the list of items anew after its bases changed. Follows each `ConnectBase` and `DisconnectBase`
+    /// Rebuilds the list of items after its bases changed. Follows each `ConnectBase` and `DisconnectBase`
     /// that succeeded.
     virtual void Update() = 0;
     /// Custom sources: chooses the base source to which further settings (criteria codes, attributes) refer.

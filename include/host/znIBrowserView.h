@@ -104,7 +104,7 @@ public:
     virtual bool SetShownFilters(const std::vector<znString>& names) = 0;
     /// The names of all data sources that can be shown. The text of a refusal is not read.
     virtual bool GetFilterNames(std::vector<znString>& names) = 0;
-    /// Makes the list of filters anew from the data sources that the view has now.
+    /// Rebuilds the list of filters from the data sources that the view has now.
     virtual bool RebuildFilterLists() = 0;
     /// Whether the list of filters is grouped where it is offered.
     virtual bool GetGroupFilter() const = 0;

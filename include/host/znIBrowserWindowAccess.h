@@ -121,7 +121,8 @@ public:
     virtual bool CollapseAllItems() = 0;
     /// Collapses the selected rows.
     virtual bool CollapseSelectedItems() = 0;
-    /// Expands every row with all that lies below it. Items may lie below themselves: somewhere it must end.
+    /// Expands every row, and all rows below it. Items may lie below themselves (a cycle): the host stops
+    /// there.
     virtual bool ExpandAllItems() = 0;
     /// Expands the selected rows, each with all that lies below it.
     virtual bool ExpandSelectedItems() = 0;

@@ -22,7 +22,7 @@ namespace {
 
 constexpr char noCurrentSource[] = "Cannot get handle to current datasource simple";
 
-/// The source of that name among current ones of a data control: for a host that does not tell when asked.
+/// The source of that name among the current objects: a host may fail to find one that it has.
 znIBrowserDataSourceSimple* FindAmongCurrents(const znBrowserCurrentObjects& current, const char* name) {
     znIBrowserDataSourceSimple* const ofCriteria =
         current.criteria ? current.criteria->GetDataSource() : nullptr;

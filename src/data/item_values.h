@@ -16,8 +16,8 @@ class znIBrowserViewProperty;
 namespace znlayer {
 
 /// The data properties that a view property shows, for the items of one data source after another. Each is
-/// asked for once for all items of a source in a row, and again when a script has used the command meanwhile:
-/// it may have deleted anything.
+/// asked for once for all items of a source in a row, and again when a script has used the command in
+/// between: it may have deleted anything.
 class ItemProperty {
 public:
     /// The current view property. It shows nothing more once a script makes another one current or deletes

@@ -1,4 +1,4 @@
-// Whether a script has used the command meanwhile.
+// Whether a script has used the command since a certain moment.
 #ifndef COMMAND_COUNT_H
 #define COMMAND_COUNT_H
 

@@ -123,50 +123,62 @@ void AddCriterions(const Manager& manager, Names& names) {
         AddAll(property->criteria, names);
 }
 
+void AddDataControls(const Manager& manager, Names& names) {
+    AddListed(manager.GetApplication(), &znIBrowserApplication::GetDataCtrls, names);
+}
+
+void AddParts(const Manager& manager, Names& names) {
+    AddListed(CurrentOf(manager).windowAccess, &znIBrowserWindowAccess::GetWindowParts, names, true);
+}
+
+/// What a current object lists.
+template <auto member, auto list>
+void AddOf(const Manager& manager, Names& names) {
+    AddListed(CurrentOf(manager).*member, list, names);
+}
+
+using Currents = znBrowserCurrentObjects;
+
+struct NamesOfKind {
+    ArgumentKind kind;
+    void (*add)(const Manager& manager, Names& names);
+};
+
+constexpr NamesOfKind namesOfKinds[] = {
+    {ArgumentKind::Callback, AddCallbacks},
+    {ArgumentKind::Column, AddOf<&Currents::view, &znIBrowserView::GetColumns>},
+    {ArgumentKind::Criteria, AddCriteria},
+    {ArgumentKind::Criterion, AddCriterions},
+    {ArgumentKind::DataControl, AddDataControls},
+    {ArgumentKind::DataOperation, AddOf<&Currents::dataCtrl, &znIBrowserDataCtrl::GetDataOperations>},
+    {ArgumentKind::DataProperty,
+     AddOf<&Currents::dataSourceSimple, &znIBrowserDataSourceSimple::GetDataProperties>},
+    {ArgumentKind::DataSource, AddOf<&Currents::dataCtrl, &znIBrowserDataCtrl::GetDataSourcesSimple>},
+    {ArgumentKind::Element, AddOf<&Currents::style, &znIBrowserStyle::GetElements>},
+    {ArgumentKind::Event, AddEvents},
+    {ArgumentKind::Field, AddOf<&Currents::dataCtrl, &znIBrowserDataCtrl::GetInputFields>},
+    {ArgumentKind::FindProperty, AddOf<&Currents::findRequest, &znIBrowserFindRequest::GetProperties>},
+    {ArgumentKind::FindRequest, AddOf<&Currents::windowAccess, &znIBrowserWindowAccess::GetFindRequests>},
+    {ArgumentKind::Folder, AddOf<&Currents::freeFolder, &znIBrowserViewItemFreeFolder::GetChildFolders>},
+    {ArgumentKind::Hierarchical, AddOf<&Currents::dataCtrl, &znIBrowserDataCtrl::GetDataSourcesHierarchical>},
+    {ArgumentKind::List, AddOf<&Currents::freeFolder, &znIBrowserViewItemFreeFolder::GetLists>},
+    {ArgumentKind::Listener, AddListeners},
+    {ArgumentKind::Map, AddMaps},
+    {ArgumentKind::Part, AddParts},
+    {ArgumentKind::Property, AddOf<&Currents::view, &znIBrowserView::GetViewProperties>},
+    {ArgumentKind::Reference, AddOf<&Currents::dataCtrl, &znIBrowserDataCtrl::GetDataReferences>},
+    {ArgumentKind::State, AddStates},
+    {ArgumentKind::Style, AddOf<&Currents::column, &znIBrowserViewColumn::GetStyles>},
+    {ArgumentKind::Tree, AddOf<&Currents::freeFolder, &znIBrowserViewItemFreeFolder::GetTrees>},
+    {ArgumentKind::View, AddViews},
+    {ArgumentKind::Window, AddWindows},
+};
+
 } // namespace
 
 void AddLiveNames(const Manager& manager, ArgumentKind kind, Names& names) {
-    const znBrowserCurrentObjects& current = CurrentOf(manager);
-    switch (kind) {
-    case ArgumentKind::Callback: return AddCallbacks(manager, names);
-    case ArgumentKind::Column: return AddListed(current.view, &znIBrowserView::GetColumns, names);
-    case ArgumentKind::Criteria: return AddCriteria(manager, names);
-    case ArgumentKind::Criterion: return AddCriterions(manager, names);
-    case ArgumentKind::DataControl:
-        return AddListed(manager.GetApplication(), &znIBrowserApplication::GetDataCtrls, names);
-    case ArgumentKind::DataOperation:
-        return AddListed(current.dataCtrl, &znIBrowserDataCtrl::GetDataOperations, names);
-    case ArgumentKind::DataProperty:
-        return AddListed(current.dataSourceSimple, &znIBrowserDataSourceSimple::GetDataProperties, names);
-    case ArgumentKind::DataSource:
-        return AddListed(current.dataCtrl, &znIBrowserDataCtrl::GetDataSourcesSimple, names);
-    case ArgumentKind::Element: return AddListed(current.style, &znIBrowserStyle::GetElements, names);
-    case ArgumentKind::Event: return AddEvents(manager, names);
-    case ArgumentKind::Field: return AddListed(current.dataCtrl, &znIBrowserDataCtrl::GetInputFields, names);
-    case ArgumentKind::FindProperty:
-        return AddListed(current.findRequest, &znIBrowserFindRequest::GetProperties, names);
-    case ArgumentKind::FindRequest:
-        return AddListed(current.windowAccess, &znIBrowserWindowAccess::GetFindRequests, names);
-    case ArgumentKind::Folder:
-        return AddListed(current.freeFolder, &znIBrowserViewItemFreeFolder::GetChildFolders, names);
-    case ArgumentKind::Hierarchical:
-        return AddListed(current.dataCtrl, &znIBrowserDataCtrl::GetDataSourcesHierarchical, names);
-    case ArgumentKind::List:
-        return AddListed(current.freeFolder, &znIBrowserViewItemFreeFolder::GetLists, names);
-    case ArgumentKind::Listener: return AddListeners(manager, names);
-    case ArgumentKind::Map: return AddMaps(manager, names);
-    case ArgumentKind::Part:
-        return AddListed(current.windowAccess, &znIBrowserWindowAccess::GetWindowParts, names, true);
-    case ArgumentKind::Property: return AddListed(current.view, &znIBrowserView::GetViewProperties, names);
-    case ArgumentKind::Reference:
-        return AddListed(current.dataCtrl, &znIBrowserDataCtrl::GetDataReferences, names);
-    case ArgumentKind::State: return AddStates(manager, names);
-    case ArgumentKind::Style: return AddListed(current.column, &znIBrowserViewColumn::GetStyles, names);
-    case ArgumentKind::Tree:
-        return AddListed(current.freeFolder, &znIBrowserViewItemFreeFolder::GetTrees, names);
-    case ArgumentKind::View: return AddViews(manager, names);
-    case ArgumentKind::Window: return AddWindows(manager, names);
-    default: return;
+    for (const NamesOfKind& row : namesOfKinds) {
+        if (row.kind == kind) row.add(manager, names);
     }
 }
 

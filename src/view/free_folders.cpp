@@ -50,7 +50,8 @@ znIBrowserViewItemFreeFolder* FindFolder(znIBrowserViewItemFreeFolder& start,
 
 } // namespace
 
-// What the host shows anew may run scripts: a folder is touched only while it is still the current one.
+// Each change lets the host redraw, which may run scripts: a folder is used only while it is still the
+// current one.
 bool znBrowserManagerTcl::CreateFreeFolder(const char* name) {
     const Operation operation(*this);
     if (!name) return operation.Fail(nullName);

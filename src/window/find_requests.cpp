@@ -161,7 +161,7 @@ bool znBrowserManagerTcl::GetCurrentFindRequestPropertyCriteriaNames(znString& o
     return NamesOf(current_.findRequestProperty->criteria).Give(*this, out);
 }
 
-// One type is supported, and it goes without saying: nothing is stored, whatever type the criterion has.
+// Only "equalto" is supported. As it is the only one, the criterion has no field in which it could be stored.
 bool znBrowserManagerTcl::SetCurrentFindRequestPropertyCriterionType(const znString& word) {
     const Operation operation(*this);
     if (!current_.findRequestPropertyCriterion) return operation.Fail(noCriterion);

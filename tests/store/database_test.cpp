@@ -1,3 +1,4 @@
+#include "store/temporary_files.h"
 #include "store/transaction.h"
 #include "store_testing.h"
 
@@ -159,6 +160,25 @@ TEST(Statement, StopsInTheMiddleOfAStepWhenItIsTold) {
         EXPECT_EQ(left, -1) << end;
     }
     EXPECT_EQ(Answer(*database, "SELECT 1"), "1"); // too short to be asked
+}
+
+TEST(Statement, WhatNeverEndsDoesNotFillTheDisk) {
+    const std::int64_t limit = TemporaryFiles::Limit();
+    const auto database = MemoryDatabase("");
+    TemporaryFiles::SetLimit(8 << 20);
+    const std::string endless = " AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT "
+                                "i, hex(zeroblob(500)) AS t ";
+    for (const std::string& statement :
+         {"CREATE TEMP TABLE copy" + endless + "FROM n",
+          "CREATE TEMP TABLE sorted" + endless + "FROM n ORDER BY -i",
+          std::string("WITH RECURSIVE n(i) AS (SELECT 1 UNION SELECT i + 1 FROM n) SELECT max(i) FROM n")}) {
+        EXPECT_EQ(Answer(*database, statement),
+                  "it needs too large a temporary file: the limit is 8388608 bytes")
+            << statement;
+    }
+    TemporaryFiles::SetLimit(limit);
+    ASSERT_EQ(Answer(*database, "CREATE TEMP TABLE copy AS SELECT 1 AS i"), "");
+    EXPECT_EQ(Answer(*database, "SELECT i FROM copy"), "1");
 }
 
 TEST(Statement, StopsWaitingForALockWhenItIsTold) {

@@ -1,4 +1,5 @@
 #include "store/row_copies.h"
+#include "store/temporary_files.h"
 #include "store_testing.h"
 
 using namespace znhost;
@@ -164,6 +165,34 @@ TEST(RowCopies, ColumnsMayBearTheNamesOfTheRowNumber) {
         EXPECT_EQ(RowsOf(*database, *schema.Find(table)), "1,a|2,7") << name;
         EXPECT_EQ(RowsOf(*database, *schema.Find("seen")), "1,a|2,7") << name;
     }
+}
+
+TEST(RowCopies, WhatIsTooLargeIsNotReadAgainBeforeSomethingChanges) {
+    const std::int64_t limit = TemporaryFiles::Limit();
+    const auto database = MemoryDatabase(
+        "CREATE TABLE t (i); INSERT INTO t VALUES (1);"
+        "CREATE VIEW a AS WITH RECURSIVE n(i) AS (SELECT i FROM t UNION ALL SELECT i + 1 FROM n) "
+        "SELECT i, hex(zeroblob(500)) FROM n; CREATE VIEW b AS SELECT * FROM a;");
+    Schema schema(*database);
+    RowCopies copies(*database);
+    std::string error;
+    int asked = 0;
+    database->SetWhyStop([&asked] { return ++asked, std::string_view(); });
+    TemporaryFiles::SetLimit(8 << 20);
+    const auto isRead = [&](const char* name) {
+        error.clear();
+        asked = 0;
+        EXPECT_FALSE(copies.Refresh(*schema.Find(name), error));
+        EXPECT_EQ(error, "it needs too large a temporary file: the limit is 8388608 bytes");
+        return asked > 0;
+    };
+    EXPECT_TRUE(isRead("a") && isRead("b"));
+    EXPECT_FALSE(isRead("a") || isRead("b"));
+    ASSERT_EQ(Answer(*database, "INSERT INTO t VALUES (2)"), "");
+    EXPECT_TRUE(isRead("a"));
+    ASSERT_EQ(Answer(*database, "DELETE FROM t"), "");
+    EXPECT_TRUE(copies.Refresh(*schema.Find("a"), error)) << error;
+    TemporaryFiles::SetLimit(limit);
 }
 
 TEST(RowCopies, RowsWithAKeyKeepTheirNumbers) {

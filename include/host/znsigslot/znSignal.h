@@ -12,8 +12,8 @@
 
 /// A signal calls its slots, in the order in which they were connected, each time it is emitted.
 ///
-/// Slots may do anything during an emission. A slot disconnected meanwhile is not called any more, and
-/// removed afterwards; one connected meanwhile is called from the next emission on. The signal may be
+/// Slots may do anything during an emission. A slot disconnected during it is not called any more, and
+/// removed afterwards; one connected during it is called from the next emission on. The signal may be
 /// destroyed: the emission then ends with the slot that did it. An exception from a slot ends the
 /// emission, leaves the signal ready for the next one, and reaches whoever emitted.
 template <class Policy, class... Args>
