@@ -2,6 +2,7 @@
 // and all from there on. Nothing crashes, no current object is left that is dead.
 #include "model/embedded_host.h"
 #include "tests/faults/sweep.h"
+#include "znBrowserTclMessages.h"
 
 #include <gtest/gtest.h>
 #include <tcl.h>
@@ -86,5 +87,43 @@ TEST_P(NullWords, AreTakenAtEachPositionOfEachCommand) {
 
 INSTANTIATE_TEST_SUITE_P(, NullWords, testing::ValuesIn(SweepScript().Sections()),
                          [](const auto& each) { return each.param; });
+
+// The last word of each line is null.
+TEST(NullWord, GetsTheUsageTextOfItsPlace) {
+    using Texts = znBrowserTclMessages;
+    const struct {
+        const char* line;
+        const char* usage;
+    } rows[] = {
+        {"x", Texts::GENERAL},
+        {"state x", Texts::GENERAL},
+        {"state current x", Texts::GENERAL},
+        {"state entities x", Texts::GENERAL},
+        {"element x", Texts::VIEW_COLUMN},
+        {"element current x", Texts::VIEW_ELEMENT},
+        {"element delete x", Texts::VIEW_ELEMENT},
+        {"element description x", Texts::VIEW_ELEMENT},
+        {"dataoperation current x", Texts::DATAOPERATION},
+        {"dataoperation create x", Texts::DATAOPERATION},
+        {"datasource simple filtercaption x", Texts::GENERAL},
+        {"datasource simple connect x", Texts::DATASOURCE},
+        {"datasource simple create x", Texts::DATASOURCE_SIMPLE},
+        {"userinput current x", Texts::USERINPUT},
+        {"view sort x", Texts::VIEW_SORT},
+        {"view column caption x", Texts::VIEW_COLUMN},
+        {"view folder children x", Texts::VIEW_FOLDER},
+        {"window current x", Texts::WINDOW},
+        {"OnTkTreeRequestExpand w x", Texts::ON_REQUEST_EXPAND},
+    };
+    SweepScript script;
+    SweepRun run(script);
+    run.Open();
+    for (const auto& row : rows) {
+        const ClientWords words(script.Interp(), row.line);
+        std::vector<Tcl_Obj*> passed = words.WithNulls(words.Count() - 1, words.Count());
+        EXPECT_EQ(run.Manager().EvalTclCommand(static_cast<int>(passed.size()), passed.data()), TCL_OK);
+        EXPECT_STREQ(Tcl_GetStringResult(script.Interp()), row.usage) << row.line;
+    }
+}
 
 } // namespace
