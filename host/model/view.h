@@ -111,7 +111,8 @@ public:
         const std::shared_ptr<View> self = weak_from_this().lock(); // null while the view is being destroyed
         std::exception_ptr failure;
         ++telling_;
-        for (std::size_t i = 0, count = observers_.size(); i < count; ++i) {
+        std::size_t i = 0; // by index: an observer may add others, which are not told yet
+        for (std::size_t left = observers_.size(); left > 0; --left, ++i) {
             try {
                 if (observers_[i]) tell(*observers_[i]);
             } catch (...) {
