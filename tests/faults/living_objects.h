@@ -2,16 +2,16 @@
 #ifndef LIVING_OBJECTS_H
 #define LIVING_OBJECTS_H
 
+#include "app/application.h"
+#include "app/embedded_host.h"
+#include "base/host_call.h"
 #include "frame/current_kinds.h"
 #include "frame/current_lifetimes.h"
-#include "model/application.h"
 #include "model/browser.h"
-#include "model/embedded_host.h"
 #include "model/gui_map_list.h"
-#include "model/host_call.h"
 #include "model/view.h"
-#include "model/window_list.h"
 #include "store/data_ctrl.h"
+#include "window/window_list.h"
 #include "znBrowserManagerTcl.h"
 
 #include <set>

@@ -2,10 +2,11 @@
 #ifndef SWEEP_H
 #define SWEEP_H
 
-#include "model/embedded_host.h"
-#include "model/host_call.h"
+#include "app/embedded_host.h"
+#include "base/host_call.h"
 #include "store/data_ctrl.h"
 #include "tests/faults/living_objects.h"
+#include "tk/tk_windows.h"
 #include "znBrowserManagerTcl.h"
 
 #include <gtest/gtest.h>
@@ -67,7 +68,7 @@ public:
     /// From now on posted windows stand on the display.
     void ShowWindows() {
         std::string error;
-        EXPECT_TRUE(host_->ShowWindows(error)) << error;
+        EXPECT_TRUE(znhost::ShowWindows(*host_, error)) << error;
     }
     void Open() { script_.Eval("run $opening"); }
     void Run(const std::string& section) { script_.Eval("run [dict get $sections " + section + "]"); }

@@ -1,8 +1,8 @@
 // Saved states as other objects of the host see them: what was skipped, and states that are gone.
-#include "host/model/embedded_host.h"
-#include "host/model/window_list.h"
+#include "app/application.h"
+#include "host/app/embedded_host.h"
 #include "host/store/data_ctrl.h"
-#include "model/application.h"
+#include "host/window/window_list.h"
 #include "znBrowserManagerTcl.h"
 
 #include <gtest/gtest.h>
