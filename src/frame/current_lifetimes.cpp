@@ -6,6 +6,8 @@
 #include "host/znIBrowserCriteria.h"
 #include "host/znIBrowserEvent.h"
 #include "host/znIBrowserFindRequest.h"
+#include "host/znIBrowserPopupMenu.h"
+#include "host/znIBrowserPopupMenuItem.h"
 #include "host/znIBrowserStyle.h"
 #include "host/znIBrowserStyleElement.h"
 #include "host/znIBrowserView.h"
@@ -69,6 +71,10 @@ znIBrowserWindowAccess* OwnerOf(znIBrowserWindowCallback* callback, const znIBro
 }
 znIBrowserWindowAccess* OwnerOf(znIBrowserFindRequest* request, const znIBrowserWindowAccess*) {
     return request->GetWindowAccess();
+}
+
+znIBrowserPopupMenu* OwnerOf(znIBrowserPopupMenuItem* item, const znIBrowserPopupMenu*) {
+    return item->GetMenu();
 }
 
 znIBrowserDataSourceSimple* OwnerOf(znIBrowserCriteria* criteria, const znIBrowserDataSourceSimple*) {
@@ -180,6 +186,8 @@ template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIB
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserStyle*);
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserStyleElement*);
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserViewItemFreeFolder*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserPopupMenu*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserPopupMenuItem*);
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserWindowAccess*);
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserWindowPart*);
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserDataSourceSimple*);
