@@ -233,7 +233,7 @@ bool RowModel::GetItem(std::uint32_t index, znBrowserDataItem& item) {
     return true;
 }
 
-const RowContent* RowModel::ContentOf(std::uint32_t index) {
+const RowContent* RowModel::ContentAt(std::uint32_t index) {
     const Answering answering(*this);
     const Row row = Find(index);
     return row ? &row.Content() : nullptr;

@@ -104,7 +104,7 @@ public:
     /// False when the row is not an item's.
     bool GetItem(std::uint32_t index, znBrowserDataItem& item);
     /// What stands there: what the row itself stands for; an item's block. Null when the index is unknown.
-    const RowContent* ContentOf(std::uint32_t index);
+    const RowContent* ContentAt(std::uint32_t index);
     /// The view property behind an element of an item's cell; null when there is none.
     ViewProperty* PropertyOf(std::uint32_t index, const Column& column, const std::string& element);
 

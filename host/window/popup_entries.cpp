@@ -32,7 +32,7 @@ PopupRows LookAt(RowModel& rows, const std::vector<std::uint32_t>& indices) {
     std::set<std::pair<const void*, std::int64_t>> different; // items by number, all else by index
     PopupRows seen;
     for (const std::uint32_t index : indices) {
-        const RowContent* const content = rows.ContentOf(index);
+        const RowContent* const content = rows.ContentAt(index);
         if (!content) continue;
         znBrowserDataItem item;
         const bool isItem = rows.GetItem(index, item);
@@ -65,7 +65,7 @@ PopupMenu* MenuOfRow(RowModel& rows, std::uint32_t index, CallLog& log) {
     znBrowserDataItem item;
     const RowModel::Answering answering(rows);
     PopupMenu* menu = rows.GetItem(index, item) ? MenuOfSource(log, item.source) : nullptr;
-    const RowContent* const content = rows.ContentOf(index);
+    const RowContent* const content = rows.ContentAt(index);
     const FreeFolder* folder = content ? content->folder.get() : nullptr;
     for (; folder && !menu; folder = folder->Parent()) menu = folder->Popup();
     return menu;
@@ -148,17 +148,17 @@ public:
 
     std::shared_ptr<const PopupEntries> List(const PopupMenu& menu) {
         const auto known = listed_.find(&menu);
-        if (known != listed_.end()) return known->second; // empty while it is being listed
-        if (depth_ == deepestCascade) return std::make_shared<PopupEntries>();
+        if (known != listed_.end() && known->second) return known->second;
         const auto entries = std::make_shared<PopupEntries>();
-        listed_.emplace(&menu, entries);
+        if (known != listed_.end() || depth_ == deepestCascade) return entries; // inside itself, or too deep
+        listed_.emplace(&menu, nullptr);
         ++depth_;
         for (const auto& item : menu.Items()) {
             if (item->Settings().visible && (item->Settings().showOnFolder || !rows_.folder))
                 Append(*item, *entries);
         }
         --depth_;
-        return entries;
+        return listed_[&menu] = entries;
     }
 
 private:
