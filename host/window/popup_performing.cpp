@@ -36,6 +36,7 @@ private:
     bool HasEntry() const;
     bool Begin();
     bool CheckReferences() const;
+    bool HasLost() const;
     bool IsGone() const;
     bool Call(const char* what, const std::string& procedure, std::string* answer) const;
 
@@ -135,14 +136,16 @@ bool Performing::CheckReferences() const {
 bool Performing::Begin() {
     if (!ShownView()) return Fail("cannot be performed: the window \"" + window_->Name() + "\" shows no view");
     if (const char* const reason = WhyNotChosen()) return Fail(reason);
-    // Looking at the rows may have run scripts.
-    calledOff_ = IsGone();
+    calledOff_ = HasLost(); // looking at the rows may have run scripts
     return calledOff_ || (TakeValue() && CheckReferences());
 }
 
+/// Whether the window, its view or the item is gone.
+bool Performing::HasLost() const { return window_->IsClosed() || !ShownView() || !item_->Menu(); }
+
+/// Whether one of them is, or what the value means.
 bool Performing::IsGone() const {
-    if (window_->IsClosed() || !ShownView() || !item_->Menu()) return true;
-    return item_->Kind() == PopupKind::Container && !value_.empty() && !HasEntry();
+    return HasLost() || (item_->Kind() == PopupKind::Container && !HasEntry());
 }
 
 // ---- The steps ----

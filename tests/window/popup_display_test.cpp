@@ -115,7 +115,7 @@ TEST_F(PopupDisplayTest, WhatIsCancelledOrNoValueChangesNoField) {
 
 TEST_F(PopupDisplayTest, WhileTheUserIsAskedAnythingMayBeDeleted) {
     for (const char* script : {"app inputfield delete m size", "view popupmenuitem delete x", "view popupmenu delete menu",
-                               "window delete", "view delete"}) {
+                               "window delete"}) {
         display.answer = [&](znhost::InputValues&) {
             Run(script);
             return true;
