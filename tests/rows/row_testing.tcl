@@ -1,8 +1,5 @@
 # What the tests of rows share: a model, a window on it, and short ways to ask.
-package require tcltest 2.5
-namespace import ::tcltest::*
-
-interp alias {} zn {} znbrowsermanager
+source [file join [file dirname [info script]] .. harness testing.tcl]
 
 # A gearbox in miniature: assemblies that nest, their parts, and the parts' holes, of which most have none. The foreign
 # key of the holes has no index.
