@@ -35,7 +35,7 @@ proc start {} {
             zn $family delete
         }
     }
-    foreach name [zn app datactrl names] {zn datactrl current $name}
+    zn datactrl current model
     zn view create V false
     zn view datactrl connect
     zn view folder current V
