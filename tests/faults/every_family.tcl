@@ -230,7 +230,6 @@ set sections {
 }
 
 # A value of each type: of criteria, single and several, and of input fields.
-set valueLines {{userinput create f integer} {app inputfield create m f integer} {userinput current f}}
 foreach {type array value} {
     bool boolarray true unsigned unsignedarray 2 integer integerarray 3 double doublearray 4 string stringarray e
 } {
@@ -241,7 +240,7 @@ foreach {type array value} {
             {datasource simple criteria data}
     }
 }
-dict set sections values $valueLines
+dict lappend sections data {*}$valueLines
 
 # Names and texts that break what was only tried with "a" and "b", in each place that takes one.
 source [file join [file dirname [info script]] .. hostile_texts.tcl]
