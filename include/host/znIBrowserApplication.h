@@ -2,7 +2,7 @@
 #ifndef ZN_I_BROWSER_APPLICATION_H
 #define ZN_I_BROWSER_APPLICATION_H
 
-#include "host/znsigslot/znSignal.h"
+#include "znsigslot/znSignal.h"
 #include <vector>
 
 class znIBrowser;

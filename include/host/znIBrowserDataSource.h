@@ -2,7 +2,7 @@
 #ifndef ZN_I_BROWSER_DATA_SOURCE_H
 #define ZN_I_BROWSER_DATA_SOURCE_H
 
-#include "host/znutl/znString.h"
+#include "znutl/znString.h"
 #include <vector>
 
 class znIBrowserDataProperty;

@@ -2,7 +2,7 @@
 #ifndef ZN_I_BROWSER_VIEW_H
 #define ZN_I_BROWSER_VIEW_H
 
-#include "host/znutl/znString.h"
+#include "znutl/znString.h"
 #include <vector>
 
 struct znBrowserDataItems;
