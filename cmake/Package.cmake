@@ -23,7 +23,6 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 string(TIMESTAMP ZN_PACKAGE_DATE "%a, %d %b %Y %H:%M:%S +0000" UTC) # SOURCE_DATE_EPOCH, where it is set
@@ -48,32 +47,48 @@ function(zn_package component package section summary description)
     set(CPACK_COMPONENTS_ALL "${CPACK_COMPONENTS_ALL}" PARENT_SCOPE)
 endfunction()
 
+# zn_package_library(COMPONENT PACKAGE LIBRARY): tells others that link the library which package it is in, and has
+# the linker's cache made anew.
+function(zn_package_library component package library)
+    string(TOUPPER "${component}" upper)
+    file(WRITE "${PROJECT_BINARY_DIR}/${component}/shlibs"
+        "${library} ${abi} ${package} (>= ${PROJECT_VERSION})\n")
+    file(WRITE "${PROJECT_BINARY_DIR}/${component}/triggers" "activate-noawait ldconfig\n")
+    set(CPACK_DEBIAN_${upper}_PACKAGE_CONTROL_EXTRA
+        "${PROJECT_BINARY_DIR}/${component}/shlibs;${PROJECT_BINARY_DIR}/${component}/triggers" PARENT_SCOPE)
+endfunction()
+
 set(abi "${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}")
 set(version "${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}")
 set(layer "libznbrowserscripting${abi} (= ${version})")
 set(host "libznbrowserhost${abi} (= ${version})")
 set(windows "tk8.6, tktreectrl")
-set(about "A model browser shows the objects of an application as trees and lists. Scripts build and drive it\nwith one Tcl command, znbrowsermanager.")
+set(about "A model browser shows the objects of an application as trees and lists.
+Scripts build and drive it with one Tcl command, znbrowsermanager.
+.
+")
 
 zn_package(library libznbrowserscripting${abi} libs "scripting layer of a model browser"
-    "${about}\nThe layer reaches the model through interfaces that the application implements.")
+    "${about}The layer reaches the model through interfaces that the application implements.")
 zn_package(host libznbrowserhost${abi} libs "model browser on SQLite databases"
-    "${about}\nThis library brings the model along: any SQLite database."
+    "${about}This library brings the model along: any SQLite database."
     DEPENDS "${layer}" RECOMMENDS "${windows}")
+zn_package_library(library libznbrowserscripting${abi} libznBrowserScripting)
+zn_package_library(host libznbrowserhost${abi} libznBrowserHost)
 zn_package(development libznbrowserscripting-dev libdevel "scripting layer of a model browser (development)"
-    "${about}\nThe headers, and what CMake and pkg-config find the libraries by."
+    "${about}The headers, and what CMake and pkg-config find the libraries by."
     DEPENDS "${layer}, ${host}" RECOMMENDS tcl8.6-dev)
 zn_package(program znbrowsersh interpreters "Tcl shell with a model browser on SQLite databases"
-    "${about}\nThe shell runs such scripts, and opens a window on any SQLite database."
+    "${about}The shell runs such scripts, and opens a window on any SQLite database."
     DEPENDS "${layer}" RECOMMENDS "${windows}")
 zn_package(tclpackage tcl-znbrowser interpreters "model browser on SQLite databases (Tcl package)"
-    "${about}\nWith this package any Tcl 8.6 has the command, and any Tk 8.6 its windows."
+    "${about}With this package any Tcl 8.6 has the command, and any Tk 8.6 its windows."
     DEPENDS "${host}, tcl8.6" RECOMMENDS "${windows}")
 zn_package(documentation znbrowserscripting-doc doc "model browser for applications (documentation)"
-    "${about}\nThe reference of all words, and examples."
+    "${about}The reference of all words, and examples."
     ARCHITECTURE all)
 zn_package(debug znbrowserscripting-dbg debug "model browser for applications (debug information)"
-    "${about}\nWhat a debugger wants of the libraries and of the shell."
+    "${about}What a debugger wants of the libraries and of the shell."
     DEPENDS "${layer}, ${host}")
 
 set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_SHLIBDEPS OFF)
