@@ -11,6 +11,6 @@
 /// One number to compare with: `#if ZN_BROWSER_VERSION_NUMBER >= ZN_BROWSER_VERSION_OF(0, 2, 0)`.
 #define ZN_BROWSER_VERSION_NUMBER                                                                            \
     ZN_BROWSER_VERSION_OF(ZN_BROWSER_VERSION_MAJOR, ZN_BROWSER_VERSION_MINOR, ZN_BROWSER_VERSION_PATCH)
-#define ZN_BROWSER_VERSION_OF(major, minor, patch) ((major) * 10000 + (minor) * 100 + (patch))
+#define ZN_BROWSER_VERSION_OF(major, minor, patch) ((major)*10000 + (minor)*100 + (patch))
 
 #endif

@@ -1,5 +1,5 @@
 // An application with a model of its own, as small as it can be: it has nothing to show yet.
-#include <znBrowserScripting/host/znIBrowserApplication.h>
+#include <znBrowserScripting/host/defaults/znBrowserApplicationDefaults.h>
 #include <znBrowserScripting/znBrowserManagerTcl.h>
 #include <znBrowserScripting/znBrowserVersion.h>
 
@@ -12,21 +12,11 @@
 
 namespace {
 
-class Application final : public znIBrowserApplication {
+class Application final : public znBrowserApplicationDefaults {
 public:
-    explicit Application(Tcl_Interp* interp) : interp_(interp) {}
+    using znBrowserApplicationDefaults::znBrowserApplicationDefaults;
 
-    znIBrowserDataCtrl* FindDataCtrl(const char*) override { return nullptr; }
-    void GetDataCtrls(std::vector<znIBrowserDataCtrl*>& controls) override { controls.clear(); }
-    znIBrowser* GetBrowser() override { return nullptr; }
     const char* GetTclNameSpace() override { return "::mine"; }
-    Tcl_Interp* GetTclInterp() override { return interp_; }
-    int EvalAppCommand(int, Tcl_Obj* const[]) override { return TCL_OK; }
-    znSignal<single_threaded, const char*>& GetWindowReselectedSignal() override { return reselected_; }
-
-private:
-    Tcl_Interp* const interp_;
-    znSignal<single_threaded, const char*> reselected_;
 };
 
 } // namespace
