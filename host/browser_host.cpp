@@ -13,9 +13,7 @@ namespace {
 constexpr const char* associationName = "znBrowserHost";
 constexpr const char* commandName = "znbrowsermanager";
 
-void SetResult(Tcl_Interp* interp, const char* text) {
-    Tcl_SetObjResult(interp, Tcl_NewStringObj(text, -1));
-}
+void SetResult(Tcl_Interp* interp, const char* text) { Tcl_SetObjResult(interp, Tcl_NewStringObj(text, -1)); }
 
 } // namespace
 

@@ -1,6 +1,6 @@
-// The Tcl package "znbrowser": the command znbrowsermanager, on the embedded host, in any Tcl 8.6. Its windows
-// stand on the display where Tk has been loaded before. A safe interpreter gets nothing, as there is no
-// Znbrowser_SafeInit: the host opens files.
+// The Tcl package "znbrowser": the command znbrowsermanager, on the embedded host, in any Tcl 8.6. Its
+// windows stand on the display where Tk has been loaded before. A safe interpreter gets nothing, as there is
+// no Znbrowser_SafeInit: the host opens files.
 #include "znBrowserHost.h"
 #include "znBrowserVersion.h"
 

@@ -24,8 +24,7 @@ struct Tcl_Obj;
 /// - **Texts returned.** A C string belongs to the host, stays valid until the next change of the object that
 ///   gave it, and may be null, which scripts see as an empty text or as a missing name.
 /// - **Names.** `GetName` has the shape that each interface had first: a C string mostly, a `znString` for
-/// data
-///   sources without regard to their kind, a reference for views, and events fill one in. They are compared
+///   data sources without regard to their kind, a reference for views; events fill one in. Names are compared
 ///   exactly, letter case included. An operation that finds an object answers null when there is none; that
 ///   is no error and leaves no error text.
 /// - **Objects given.** They are the host's own, from an earlier answer, and not null unless the comment says

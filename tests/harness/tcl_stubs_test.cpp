@@ -1,5 +1,5 @@
-// The host reaches Tcl through the stubs. A program fills them once it has an interpreter; tests of parts that
-// need none have them filled here.
+// The host reaches Tcl through the stubs. A program fills them once it has an interpreter; tests of parts
+// that need none have them filled here.
 #include <gtest/gtest.h>
 #include <tcl.h>
 
