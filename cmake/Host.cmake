@@ -1,7 +1,7 @@
 # The embedded host: host/. A client of include/ only; who links it adds the scripting layer.
 
 zn_find_sources(sources host/*.cpp)
-set(zn_host_face "${PROJECT_SOURCE_DIR}/host/browser_host.cpp")
+set(zn_host_face "${PROJECT_SOURCE_DIR}/host/tk/browser_host.cpp")
 list(REMOVE_ITEM sources "${zn_host_face}")
 if(sources)
     # The scripts of the windows become part of the library.
