@@ -1164,7 +1164,7 @@ public:
     bool GetDataItemsFromCurrentDSS(znString& out); ///< "datasource simple dataitem"
     /// The sources of either kind in the current data control: a trailing list.
     bool GetDataSourcesNames(znString& out);
-    /// Does nothing; called by the host when a source goes away.
+    /// Does nothing. `AboutToDelete` is what a host calls when a source goes away.
     void OnDataSourceDelete(znIBrowserDataSourceSimple* source);
 
     // ---- Hierarchical data sources ----
@@ -1225,7 +1225,7 @@ public:
     /// The shares of the current view, after "Shared DSH(s):": for each the source and the other view as
     /// `" SOURCE " with  " VIEW " view`.
     bool GetDataSourceHierarchicalSharedNames(znString& out);
-    /// Does nothing; called by the host when a source goes away.
+    /// Does nothing. `AboutToDelete` is what a host calls when a source goes away.
     void OnDataSourceDelete(znIBrowserDataSourceHierarchical* source);
 
     // ---- Criteria and data properties ----
@@ -1377,6 +1377,39 @@ public:
     bool GetCurrentPopupMenuItem(znString& out);
     /// Clears the current menu item.
     void ResetCurrentPopupMenuItem();
+
+    // ---- Objects that the host deletes on its own account ----
+    // The manager hears of no deletion but those that it asks for. So a host says of each other one, while
+    // the object is still whole, that the object is about to go: if it is current, or what is current lies in
+    // it, then none of that kind is current any more. With a folder goes the current list, and with a view
+    // its folders; with a data control all that it holds. What cannot tell its owner is taken for one that
+    // dies. The manager asks the owners of the current objects meanwhile, and runs no script. The error state
+    // stays. Null does nothing. Copies of the manager have current objects of their own.
+
+    void AboutToDelete(znIBrowserView* view);
+    void AboutToDelete(znIBrowserViewColumn* column);
+    void AboutToDelete(znIBrowserStyle* style);
+    void AboutToDelete(znIBrowserStyleElement* element);
+    void AboutToDelete(znIBrowserViewProperty* property);
+    void AboutToDelete(znIBrowserViewOperation* operation);
+    void AboutToDelete(znIBrowserViewItemFreeFolder* folder);
+    void AboutToDelete(znIBrowserWindowAccess* window);
+    void AboutToDelete(znIBrowserWindowPart* part);
+    void AboutToDelete(znIBrowserEvent* event);
+    void AboutToDelete(znIBrowserWindowCallback* callback);
+    void AboutToDelete(znIBrowserFindRequest* request);
+    void AboutToDelete(znBrowserProperty* property);
+    void AboutToDelete(znBrowserCriterion* criterion);
+    void AboutToDelete(znIBrowserGuiMap* map);
+    void AboutToDelete(znIBrowserDataCtrl* control);
+    void AboutToDelete(znIBrowserDataSourceSimple* source);
+    void AboutToDelete(znIBrowserDataSourceHierarchical* source);
+    void AboutToDelete(znIBrowserCriteria* criteria);
+    void AboutToDelete(znIBrowserDataOperation* operation);
+    void AboutToDelete(znIBrowserInputField* field);
+    void AboutToDelete(znIBrowserState* state);
+    void AboutToDelete(znIBrowserPopupMenu* menu);
+    void AboutToDelete(znIBrowserPopupMenuItem* item);
 
 private:
     friend class znBrowserManagerViewTcl;
