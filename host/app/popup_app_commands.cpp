@@ -14,10 +14,6 @@ namespace znhost {
 
 namespace {
 
-void Put(Tcl_Obj* dictionary, const char* key, Tcl_Obj* value) {
-    Tcl_DictObjPut(nullptr, dictionary, Tcl_NewStringObj(key, -1), value);
-}
-
 /// A menu that several items open is one value, which they share.
 using NewLists = std::map<const PopupEntries*, Tcl_Obj*>;
 
@@ -47,7 +43,8 @@ Tcl_Obj* NewEntries(const PopupEntries& entries, NewLists& lists) {
     return made;
 }
 
-/// What the arguments say was clicked. False, and the error stands in the interpreter, when that is not there.
+/// What the arguments say was clicked. False, and the error stands in the interpreter, when that is not
+/// there.
 bool ReadClick(const AppCall& call, Window& window, PopupClick& click) {
     const View& view = *window.ShownView();
     const std::string column = call.Text(1);

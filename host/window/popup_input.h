@@ -30,7 +30,8 @@ znIBrowserInputField* FindField(CallLog& log, znIBrowserDataCtrl* control, const
 
 /// The present value of a field.
 InputValue ReadField(CallLog& log, znIBrowserInputField& field);
-/// Sets a value that is one of its type. @return false, with an error text, when the field has got another type
+/// Sets a value that is one of its type. @return false, with an error text, when the field has got another
+/// type
 bool WriteField(CallLog& log, znIBrowserInputField& field, const InputValue& value);
 
 /// The values as `znIBrowserManagerTcl::UpdateTclInputScript` takes them: a Tcl list of a name, a type and a

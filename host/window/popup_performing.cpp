@@ -66,9 +66,9 @@ bool Performing::Fail(const std::string& reason) const {
 
 bool Performing::Run() {
     if (!Begin()) return false;
-    for (const auto step : {&Performing::AskBefore, &Performing::TakeInput, &Performing::TurnCheck,
-                            &Performing::RunViewOperation, &Performing::RunDataOperation,
-                            &Performing::RunItemScript}) {
+    for (const auto step :
+         {&Performing::AskBefore, &Performing::TakeInput, &Performing::TurnCheck,
+          &Performing::RunViewOperation, &Performing::RunDataOperation, &Performing::RunItemScript}) {
         if (!(this->*step)()) return false;
         if (calledOff_ || IsGone()) return true;
     }
@@ -134,7 +134,8 @@ bool Performing::CheckReferences() const {
 }
 
 bool Performing::Begin() {
-    if (!ShownView()) return Fail("cannot be performed: the window \"" + window_->Name() + "\" shows no view");
+    if (!ShownView())
+        return Fail("cannot be performed: the window \"" + window_->Name() + "\" shows no view");
     if (const char* const reason = WhyNotChosen()) return Fail(reason);
     calledOff_ = HasLost(); // looking at the rows may have run scripts
     return calledOff_ || (TakeValue() && CheckReferences());
@@ -151,10 +152,9 @@ bool Performing::IsGone() const {
 // ---- The steps ----
 
 bool Performing::Call(const char* what, const std::string& procedure, std::string* answer) const {
-    std::string rows;
-    for (const std::uint32_t index : window_->Rows().SelectedRows())
-        rows += (rows.empty() ? "" : " ") + std::to_string(index);
-    if (services_.RunProcedure({procedure, window_->Name(), item_->Name(), rows, value_}, answer)) return true;
+    const std::string rows = RowList(window_->Rows().SelectedRows());
+    if (services_.RunProcedure({procedure, window_->Name(), item_->Name(), rows, value_}, answer))
+        return true;
     return Fail(std::string("has a ") + what + " \"" + procedure + "\" that failed: " + log_.Error());
 }
 
