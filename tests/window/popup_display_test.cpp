@@ -9,6 +9,8 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <tcl.h>
+#include <vector>
 
 namespace {
 
