@@ -63,6 +63,14 @@ void SplitScript(std::vector<std::string> words, Options& options) {
     options.arguments.assign(words.begin() + 1, words.end());
 }
 
+void AddPage(CLI::App& app, const char* option, std::string (*page)(), const char* help) {
+    const auto print = [page] {
+        std::cout << page();
+        throw CLI::Success();
+    };
+    app.add_flag_callback(option, print, help);
+}
+
 } // namespace
 
 std::optional<ExitCode> ParseOptions(int argc, const char* const* argv, Options& options) {
@@ -83,13 +91,8 @@ std::optional<ExitCode> ParseOptions(int argc, const char* const* argv, Options&
     app.add_flag("--tk", options.tk,
                  "Open windows on the display; with nothing to run, a browser on each --db")
         ->disable_flag_override();
-    app.add_flag_callback(
-        "--reference",
-        [] {
-            std::cout << Reference();
-            throw CLI::Success();
-        },
-        "Print all words of the command, as Markdown, and end");
+    AddPage(app, "--reference", Reference, "Print all words of the command, as Markdown, and end");
+    AddPage(app, "--manual", Manual, "Print the same as a manual page for man, and end");
     app.set_version_flag("--version", "znbrowsersh " ZN_BROWSER_VERSION);
     app.prefix_command(); // stop at the script: the options behind it are the script's own
     options.program = argv[0];
