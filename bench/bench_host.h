@@ -3,7 +3,7 @@
 #ifndef BENCH_HOST_H
 #define BENCH_HOST_H
 
-#include "model/embedded_host.h"
+#include "app/embedded_host.h"
 
 #include <benchmark/benchmark.h>
 #include <tcl.h>

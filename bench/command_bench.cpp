@@ -1,6 +1,6 @@
 // What one evaluation of the command costs, beside a command that does nothing and beside a namespace
 // ensemble.
-#include "model/embedded_host.h"
+#include "app/embedded_host.h"
 
 #include <benchmark/benchmark.h>
 #include <tcl.h>

@@ -1,8 +1,8 @@
 // What a window costs on long lists: expanding, a page of rows, expanders, selecting, sorting, filtering,
 // finding. Most run with 10,000 and with 1,000,000 items.
-#include "model/application.h"
-#include "model/embedded_host.h"
-#include "model/window_list.h"
+#include "app/application.h"
+#include "app/embedded_host.h"
+#include "window/window_list.h"
 
 #include <benchmark/benchmark.h>
 #include <malloc.h>

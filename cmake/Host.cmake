@@ -16,13 +16,27 @@ if(sources)
         COMMENT "Embedding the scripts of the windows"
         VERBATIM)
 
-    add_library(znbrowserhost STATIC ${sources} "${tk_source}")
+    # The operations that can be seen and refused are those that the headers of the interfaces declare.
+    zn_find_sources(host_headers include/host/*.h)
+    set(generated "${PROJECT_BINARY_DIR}/generated")
+    set(operation_names "${generated}/base/operation_names.h")
+    string(REPLACE ";" "|" header_words "${host_headers}")
+    add_custom_command(
+        OUTPUT "${operation_names}"
+        COMMAND ${CMAKE_COMMAND} "-DOUTPUT=${operation_names}" "-DHEADERS=${header_words}"
+            -P "${PROJECT_SOURCE_DIR}/cmake/OperationNames.cmake"
+        DEPENDS ${host_headers} "${PROJECT_SOURCE_DIR}/cmake/OperationNames.cmake"
+        COMMENT "Listing the operations of the host interfaces"
+        VERBATIM)
+
+    add_library(znbrowserhost STATIC ${sources} "${tk_source}" "${operation_names}")
     # It calls Tcl through the stubs, which the program or the application fills: the same objects serve both.
     set_target_properties(znbrowserhost PROPERTIES
         POSITION_INDEPENDENT_CODE ON
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON)
-    target_include_directories(znbrowserhost PUBLIC "${PROJECT_SOURCE_DIR}/host")
+    target_include_directories(znbrowserhost PUBLIC "${PROJECT_SOURCE_DIR}/host" "${generated}")
+    target_compile_features(znbrowserhost PUBLIC cxx_std_20) # names are checked by consteval functions
     target_link_libraries(znbrowserhost PUBLIC zn_headers PRIVATE zn_tcl_stubs sqlite3)
 
     # The same for others: one public class.

@@ -1,7 +1,7 @@
 #include "fuzz/fenced_host.h"
 
 #include "fuzz/hostile_databases.h"
-#include "host/model/application.h"
+#include "host/app/application.h"
 #include "host/store/data_ctrl.h"
 #include "host/tk/tk_scripts.h"
 

@@ -2,8 +2,8 @@
 #ifndef FENCED_HOST_H
 #define FENCED_HOST_H
 
-#include "host/model/embedded_host.h"
-#include "host/model/long_work.h"
+#include "host/app/embedded_host.h"
+#include "host/base/long_work.h"
 
 #include <memory>
 #include <tcl.h>

@@ -1,7 +1,7 @@
 #include "fuzz/input.h"
 
 #include "fuzz/hostile_databases.h"
-#include "host/model/embedded_host.h"
+#include "host/app/embedded_host.h"
 #include "src/frame/keyword_table.h"
 #include "znBrowserTclCommandTree.h"
 

@@ -1,7 +1,7 @@
 #include "completion.h"
 
+#include "app/embedded_host.h"
 #include "base/text.h"
-#include "model/embedded_host.h"
 #include "znBrowserTclCommandTree.h"
 #include "znBrowserTclKeywords.h"
 

@@ -1,7 +1,7 @@
 #include "help.h"
 
+#include "app/embedded_host.h"
 #include "completion.h"
-#include "model/embedded_host.h"
 #include "znBrowserTclCommandTree.h"
 
 #include <algorithm>

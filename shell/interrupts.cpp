@@ -1,6 +1,6 @@
 #include "interrupts.h"
 
-#include "model/embedded_host.h"
+#include "app/embedded_host.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,6 +1,6 @@
 #include "reference.h"
 
-#include "model/embedded_host.h"
+#include "app/embedded_host.h"
 #include "znBrowserTclCommandTree.h"
 
 #include <map>

@@ -1,10 +1,11 @@
 #include "session.h"
 
+#include "app/embedded_host.h"
 #include "base/native.h"
 #include "base/tcl_values.h"
-#include "model/embedded_host.h"
 #include "strict.h"
 #include "tk/browse.h"
+#include "tk/tk_windows.h"
 #include "znBrowserVersion.h"
 
 #include <algorithm>
@@ -61,7 +62,7 @@ bool Session::Start(const Options& options) {
 
 void Session::FindDisplay() {
     std::string reason;
-    windows_ = host_->ShowWindows(reason) ? Windows::OnDisplay : Windows::AsText;
+    windows_ = znhost::ShowWindows(*host_, reason) ? Windows::OnDisplay : Windows::AsText;
     std::replace(reason.begin(), reason.end(), '\n', ' ');
     if (windows_ == Windows::AsText)
         PrintLine(TCL_STDERR, "znbrowsersh: no windows, their rows are drawn as text: " + reason);

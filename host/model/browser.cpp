@@ -1,9 +1,9 @@
 // The browser object: what it owns, and what it makes the others let go of.
 #include "model/browser.h"
 
+#include "base/services.h"
 #include "model/data_sources.h"
 #include "model/gui_map_list.h"
-#include "model/window_list.h"
 
 namespace znhost {
 
@@ -18,9 +18,9 @@ void ViewList::GetViews(std::vector<znIBrowserView*>& views, int flags) {
     views_.CopyTo(views);
 }
 
-Browser::Browser(Application& application, CallLog& log)
-    : HostObject(log), application_(application), views_(log), windows_(std::make_unique<WindowList>(*this)),
-      guiMaps_(std::make_unique<GuiMapList>(log)) {}
+Browser::Browser(HostServices& services)
+    : HostObject(services.Log()), services_(services), views_(log_),
+      guiMaps_(std::make_unique<GuiMapList>(log_)) {}
 
 Browser::~Browser() = default;
 

@@ -2,9 +2,9 @@
 #ifndef ZN_HOST_BROWSER_H
 #define ZN_HOST_BROWSER_H
 
+#include "base/host_call.h"
+#include "base/named_list.h"
 #include "host/znIBrowser.h"
-#include "model/host_call.h"
-#include "model/named_list.h"
 #include "model/popup_menu.h"
 #include "model/view.h"
 
@@ -15,9 +15,8 @@
 
 namespace znhost {
 
-class Application;
 class GuiMapList;
-class WindowList;
+class HostServices;
 
 /// The host's views, in the order created.
 class ViewList final : public znIBrowserViewList, public HostObject {
@@ -33,18 +32,18 @@ private:
     NamedList<View> views_;
 };
 
-/// Creates, changes and deletes everything; owns the views, the windows and the GUI maps. What it deletes, it
-/// first makes every other object of the host let go of.
-class Browser final : public znIBrowser, public HostObject {
+/// Creates, changes and deletes everything but windows and saved states, with which later classes complete
+/// it; owns the views and the GUI maps. What it deletes, it first makes every other object of the host let go
+/// of.
+class Browser : public znIBrowser, public HostObject {
 public:
-    Browser(Application& application, CallLog& log);
+    explicit Browser(HostServices& services);
     ~Browser() override;
 
-    Application& Owner() const { return application_; }
+    HostServices& Services() const { return services_; }
     NamedList<View>& Views() { return views_.All(); }
     /// All views, held: telling them something may run scripts, which may delete some.
     std::vector<std::shared_ptr<View>> HeldViews() { return {Views().begin(), Views().end()}; }
-    WindowList& Windows() { return *windows_; }
     GuiMapList& GuiMaps() { return *guiMaps_; }
     /// The popup menu of that name, made when it is first asked for.
     PopupMenu& PopupMenuNamed(const std::string& name);
@@ -150,25 +149,6 @@ public:
     bool SetFreeFolderSortingException(znIBrowserViewItemFreeFolder* folder,
                                        znIBrowserDataSourceSimple* source, int value) override;
 
-    // Windows.
-    znIBrowserWindowAccessList* GetWindowAccessList() override;
-    void SetCurrentWindowAccess(znIBrowserWindowAccess* window) override;
-    bool CreateWindowAccess(const char* name, znIBrowserView* view) override;
-    bool DeleteWindowAccess(znIBrowserWindowAccess* window) override;
-    void SetWindowTkFrame(znIBrowserWindowAccess* window, const char* frame) override;
-    bool PostWindowAccess(znIBrowserWindowAccess* window, bool post) override;
-    bool SetWindowStripeDisplay(znIBrowserWindowAccess* window, bool on, bool all) override;
-    bool SetWindowBackgroundColor(znIBrowserWindowAccess* window, const char* color, bool flag) override;
-
-    // Window parts and callbacks.
-    bool CreateWindowPart(znIBrowserWindowAccess* window, const char* name, const char* parent) override;
-    bool DeleteWindowPart(znIBrowserWindowPart* part) override;
-    bool SetWindowPartShown(znIBrowserWindowPart* part, bool shown) override;
-    bool CreateWindowCallback(znIBrowserEvent* event, const char* name, bool isWindowOperation) override;
-    bool SetCallbackActionWindow(znIBrowserWindowCallback* callback, znIBrowserWindowAccess* window) override;
-    bool SetCallbackOperation(znIBrowserWindowCallback* callback,
-                              ZNBROWSER_CALLBACK_OPERATION operation) override;
-
     // GUI maps.
     znIBrowserGuiMapList* GetGuiMapList() override;
     bool DeleteGuiMap(const char* name) override;
@@ -190,10 +170,6 @@ public:
     bool CreateGuiMap(const char* name) override;
     bool SetGuiMapType(znIBrowserGuiMap* map, ZNBROWSER_GUIMAP_TYPE type) override;
 
-    // Find requests.
-    bool SetFindRequestType(znIBrowserFindRequest* request, ZNBROWSER_FIND_REQUEST_TYPE type) override;
-    bool PerformFindRequest(znIBrowserFindRequest* request) override;
-
     // Data sources of a view.
     bool ConnectDataSourceSimple(znIBrowserView* view, const char* name) override;
     bool ConnectDataSourceHierarchical(znIBrowserView* view, const char* name) override;
@@ -203,13 +179,6 @@ public:
                                      znIBrowserDataSourceHierarchical* source) override;
     bool UpdateTreeDataSource(znIBrowserViewItemFreeFolder* folder, znIBrowserDataSource* source) override;
     bool PerformDataOperation(znIBrowserDataOperation* operation) override;
-
-    // Saved states.
-    bool RestoreState(znIBrowserState* state, znIBrowserWindowAccess* window) override;
-    bool AddStateEntities(znIBrowserDataCtrl* control, znIBrowserState* state,
-                          const std::vector<znString>& entities) override;
-    bool RemoveStateEntities(znIBrowserDataCtrl* control, znIBrowserState* state,
-                             const std::vector<znString>& entities) override;
 
 private:
     bool SetFolderFlag(znIBrowserViewItemFreeFolder* folder, bool FolderSettings::*setting, bool value,
@@ -222,9 +191,8 @@ private:
     bool ExpandListItems(znIBrowserViewItemFreeFolder* folder, znIBrowserDataSourceSimple* source,
                          bool expand, bool recursive);
 
-    Application& application_;
+    HostServices& services_;
     ViewList views_;
-    std::unique_ptr<WindowList> windows_;
     std::unique_ptr<GuiMapList> guiMaps_;
     NamedList<PopupMenu> popupMenus_;
     bool flush_ = true;

@@ -2,8 +2,8 @@
 #include "host/znIBrowserDataCtrl.h"
 #include "model/browser.h"
 #include "model/data_sources.h"
+#include "model/runnable_operation.h"
 #include "model/view.h"
-#include "store/data_operation.h"
 
 namespace znhost {
 
@@ -71,7 +71,7 @@ bool Browser::PerformDataOperation(znIBrowserDataOperation* operation) {
 }
 
 bool Browser::RunDataOperation(znIBrowserDataOperation& operation) {
-    return static_cast<DataOperation&>(operation).Run();
+    return static_cast<RunnableOperation&>(operation).Run();
 }
 
 } // namespace znhost

@@ -2,9 +2,9 @@
 #ifndef ZN_HOST_COLUMN_H
 #define ZN_HOST_COLUMN_H
 
+#include "base/host_call.h"
+#include "base/named_list.h"
 #include "host/znIBrowserViewColumn.h"
-#include "model/host_call.h"
-#include "model/named_list.h"
 #include "model/style.h"
 
 #include <memory>

@@ -2,10 +2,10 @@
 #ifndef ZN_HOST_DATA_SOURCES_H
 #define ZN_HOST_DATA_SOURCES_H
 
+#include "base/host_call.h"
 #include "host/znIBrowserDataSource.h"
 #include "host/znIBrowserDataSourceHierarchical.h"
 #include "host/znIBrowserDataSourceSimple.h"
-#include "model/host_call.h"
 
 #include <algorithm>
 #include <vector>

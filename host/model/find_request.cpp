@@ -1,11 +1,11 @@
 #include "model/find_request.h"
 
-#include "model/window.h"
+#include "model/view.h"
 
 namespace znhost {
 
-FindRequest::FindRequest(Window& window, std::string name)
-    : HostObject(window.Log()), window_(window), name_(std::move(name)) {}
+FindRequest::FindRequest(CallLog& log, znIBrowserWindowAccess& window, std::string name)
+    : HostObject(log), window_(window), name_(std::move(name)) {}
 
 znBrowserProperty* FindRequest::Find(std::string_view name) {
     for (znBrowserProperty& property : properties_) {
@@ -49,6 +49,19 @@ znBrowserProperty* FindRequest::FindProperty(const char* name) {
 ZNBROWSER_FIND_REQUEST_TYPE FindRequest::GetType() const {
     if (Refused("znIBrowserFindRequest::GetType")) return ZNBROWSER_FIND_REQUEST_UNKNOWN;
     return type_;
+}
+
+// ---- Of a view ----
+
+bool View::AddFindRequestProperty(znIBrowserFindRequest* request, const char* name) {
+    if (Refused("znIBrowserView::AddFindRequestProperty", request, name)) return false;
+    if (!request) return Fail("There is no such find request");
+    const std::string property = TextOf(name);
+    if (property != Column::builtInName && !properties_.Find(property)) {
+        return Fail("The view \"" + Name() + "\" has no property \"" + property + "\"");
+    }
+    static_cast<FindRequest&>(*request).AddProperty(property);
+    return true;
 }
 
 } // namespace znhost

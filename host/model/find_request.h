@@ -2,15 +2,13 @@
 #ifndef ZN_HOST_FIND_REQUEST_H
 #define ZN_HOST_FIND_REQUEST_H
 
+#include "base/host_call.h"
 #include "host/znIBrowserFindRequest.h"
-#include "model/host_call.h"
 
 #include <deque>
 #include <string>
 
 namespace znhost {
-
-class Window;
 
 /// A search. An item is found when each property of the request matches: each has one criterion, named
 /// "value". A criterion of type equal-to finds the value inside a text, or compares numbers.
@@ -19,10 +17,10 @@ public:
     /// What every window's own request is called.
     static constexpr const char* defaultName = "default";
 
-    FindRequest(Window& window, std::string name);
+    FindRequest(CallLog& log, znIBrowserWindowAccess& window, std::string name);
 
     const std::string& Name() const { return name_; }
-    Window& Owner() const { return window_; }
+    znIBrowserWindowAccess& Owner() const { return window_; }
     ZNBROWSER_FIND_REQUEST_TYPE Type() const { return type_; }
     void SetType(ZNBROWSER_FIND_REQUEST_TYPE type) { type_ = type; }
     std::deque<znBrowserProperty>& Properties() { return properties_; }
@@ -38,7 +36,7 @@ public:
 private:
     znBrowserProperty* Find(std::string_view name);
 
-    Window& window_;
+    znIBrowserWindowAccess& window_;
     const std::string name_;
     ZNBROWSER_FIND_REQUEST_TYPE type_ = ZNBROWSER_FIND_REQUEST_NEXT;
     std::deque<znBrowserProperty> properties_; // deques: scripts hold pointers into them

@@ -2,9 +2,9 @@
 #ifndef ZN_HOST_FREE_FOLDER_H
 #define ZN_HOST_FREE_FOLDER_H
 
+#include "base/host_call.h"
+#include "base/named_list.h"
 #include "host/znIBrowserViewItemFreeFolder.h"
-#include "model/host_call.h"
-#include "model/named_list.h"
 
 #include <map>
 #include <memory>

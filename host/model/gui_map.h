@@ -2,9 +2,9 @@
 #ifndef ZN_HOST_GUI_MAP_H
 #define ZN_HOST_GUI_MAP_H
 
+#include "base/host_call.h"
 #include "host/znIBrowserGuiMap.h"
 #include "host/znutl/znVariant.h"
-#include "model/host_call.h"
 
 #include <map>
 #include <memory>
@@ -64,7 +64,7 @@ public:
 private:
     template <class Value>
     bool Has(const Value& key) const {
-        return !Refused("znIBrowserGuiMap::HasRecord", key) && records_.count(Key(key));
+        return !Refused({"znIBrowserGuiMap::HasRecord", "HasRecord"}, key) && records_.count(Key(key));
     }
     const GuiMapRecord* Exactly(const Key& key) const;
 

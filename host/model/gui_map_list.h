@@ -2,8 +2,8 @@
 #ifndef ZN_HOST_GUI_MAP_LIST_H
 #define ZN_HOST_GUI_MAP_LIST_H
 
+#include "base/named_list.h"
 #include "model/gui_map.h"
-#include "model/named_list.h"
 
 #include <memory>
 #include <string>

@@ -2,8 +2,8 @@
 #ifndef ZN_HOST_POPUP_MENU_H
 #define ZN_HOST_POPUP_MENU_H
 
+#include "base/host_call.h"
 #include "host/znIBrowserPopupMenu.h"
-#include "model/host_call.h"
 
 #include <string>
 #include <utility>

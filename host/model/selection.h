@@ -2,7 +2,7 @@
 #ifndef ZN_HOST_SELECTION_H
 #define ZN_HOST_SELECTION_H
 
-#include "model/row_set.h"
+#include "base/row_set.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -2,10 +2,10 @@
 #ifndef ZN_HOST_STYLE_H
 #define ZN_HOST_STYLE_H
 
+#include "base/host_call.h"
+#include "base/named_list.h"
 #include "host/znIBrowserStyle.h"
 #include "host/znIBrowserStyleElement.h"
-#include "model/host_call.h"
-#include "model/named_list.h"
 
 #include <memory>
 #include <string>

@@ -2,11 +2,11 @@
 #ifndef ZN_HOST_VIEW_H
 #define ZN_HOST_VIEW_H
 
+#include "base/host_call.h"
+#include "base/named_list.h"
 #include "host/znIBrowserView.h"
 #include "model/column.h"
 #include "model/free_folder.h"
-#include "model/host_call.h"
-#include "model/named_list.h"
 #include "model/selection.h"
 #include "model/view_observer.h"
 #include "model/view_operation.h"

@@ -1,6 +1,6 @@
 #include "model/view_operation.h"
 
-#include "model/application.h"
+#include "base/services.h"
 #include "model/browser.h"
 #include "model/view.h"
 
@@ -9,15 +9,15 @@
 namespace znhost {
 
 ViewOperation::ViewOperation(View& view, std::string name)
-    : HostObject(view.Log()), application_(view.Owner().Owner()), view_(&view), name_(std::move(name)) {}
+    : HostObject(view.Log()), browser_(view.Owner()), view_(&view), name_(std::move(name)) {}
 
 // The script may delete the operation and its view, so a hold on the operation and a copy of the script are
 // kept. An operation that has lost its view does not go on to its data operation.
 bool ViewOperation::Run() {
     const std::shared_ptr<ViewOperation> self = shared_from_this();
     const std::string script = script_;
-    const bool ran = script.empty() || application_.RunScript(script);
-    return ran && (!dataOperation_ || application_.Model().RunDataOperation(*dataOperation_));
+    const bool ran = script.empty() || browser_.Services().RunScript(script);
+    return ran && (!dataOperation_ || browser_.RunDataOperation(*dataOperation_));
 }
 
 void ViewOperation::Detach() {

@@ -2,15 +2,15 @@
 #ifndef ZN_HOST_VIEW_OPERATION_H
 #define ZN_HOST_VIEW_OPERATION_H
 
+#include "base/host_call.h"
 #include "host/znIBrowserViewOperation.h"
-#include "model/host_call.h"
 
 #include <memory>
 #include <string>
 
 namespace znhost {
 
-class Application;
+class Browser;
 class View;
 
 /// An action that a view offers: runs a Tcl script, then the data operation connected to it.
@@ -38,7 +38,7 @@ public:
     znIBrowserView* GetView() override;
 
 private:
-    Application& application_;
+    Browser& browser_;
     View* view_;
     const std::string name_;
     std::string script_;

@@ -1,7 +1,7 @@
 #include "model/view_property.h"
 
+#include "base/services.h"
 #include "host/znBrowserDataItems.h"
-#include "model/application.h"
 #include "model/browser.h"
 #include "model/data_sources.h"
 #include "model/view.h"
@@ -12,7 +12,7 @@ namespace znhost {
 
 namespace {
 
-Application& ApplicationOf(const View& view) { return view.Owner().Owner(); }
+HostServices& ServicesOf(const View& view) { return view.Owner().Services(); }
 
 /// The text a script gave, as a value of the property's type; undefined when it is none.
 znVariant ValueOf(ZNBROWSER_DATA_TYPE type, const std::string& text) {
@@ -45,7 +45,7 @@ ScriptedValue::ScriptedValue(const ViewProperty& property)
 // The procedure may delete the property: nothing of it is touched afterwards.
 bool ScriptedValue::Compute(const znBrowserDataItem& item, std::string& value) const {
     if (property_.GetScript().empty()) return false;
-    return ApplicationOf(property_.Owner())
+    return ServicesOf(property_.Owner())
         .CallProcedure({property_.GetScript(), NameOf(log_, item.source), std::to_string(item.row)}, value);
 }
 
@@ -135,7 +135,7 @@ bool ViewProperty::Update(const znBrowserDataItem& item, const std::string& valu
     if (updateScript_.empty()) return Fail("The property \"" + name_ + "\" has no update script");
     CallLog& log = log_; // the procedure may delete the property
     std::string result;
-    if (ApplicationOf(view_).CallProcedure(
+    if (ServicesOf(view_).CallProcedure(
             {updateScript_, NameOf(log, item.source), std::to_string(item.row), value}, result)) {
         return true;
     }

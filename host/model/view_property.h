@@ -2,9 +2,9 @@
 #ifndef ZN_HOST_VIEW_PROPERTY_H
 #define ZN_HOST_VIEW_PROPERTY_H
 
+#include "base/host_call.h"
 #include "host/znIBrowserDataProperty.h"
 #include "host/znIBrowserViewProperty.h"
-#include "model/host_call.h"
 
 #include <memory>
 #include <string>
@@ -12,7 +12,6 @@
 
 namespace znhost {
 
-class Application;
 class View;
 class ViewProperty;
 

@@ -2,8 +2,8 @@
 #include "host/znBrowserDataItems.h"
 #include "model/browser.h"
 #include "model/data_sources.h"
+#include "model/row_source.h"
 #include "model/view.h"
-#include "store/row_source.h"
 
 namespace znhost {
 

@@ -1,5 +1,5 @@
 // Expanding and collapsing, and keeping what is expanded through changes of the view.
-#include "model/application.h"
+#include "base/services.h"
 #include "model/browser.h"
 #include "model/view.h"
 #include "rows/row_model.h"
@@ -39,7 +39,7 @@ struct RowModel::Listed {
 
 bool RowModel::GoesOn() const {
     if (!view_) return true;
-    return view_->Owner().Owner().WhyStop().empty();
+    return view_->Owner().Services().WhyStop().empty();
 }
 
 /// Lists what stands in a container. Scripts give the values by which rows are sorted, so the tree is left as
@@ -47,7 +47,7 @@ bool RowModel::GoesOn() const {
 bool RowModel::ListBelow(RowNode& node, std::vector<Listed>& all) {
     if (!node.block && node.content.IsNote()) return true;
     const Row row = RowTree::RowOf(node);
-    const ReadTrouble::Watch whole(App().Trouble()); // the filter is made with what stands below
+    const ReadTrouble::Watch whole(Services().Trouble()); // the filter is made with what stands below
     for (RowContent& content :
          node.block ? plan_.Below(row.Content(), row.Number()) : plan_.Below(node.content)) {
         Listed listed{std::move(content), {}, {}};

@@ -2,8 +2,8 @@
 #ifndef ZN_HOST_ROW_FILTER_H
 #define ZN_HOST_ROW_FILTER_H
 
-#include "model/row_set.h"
-#include "store/row_source.h"
+#include "base/row_set.h"
+#include "model/row_source.h"
 
 #include <cstdint>
 #include <functional>

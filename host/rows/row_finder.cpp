@@ -1,7 +1,7 @@
 #include "rows/row_finder.h"
 
+#include "base/services.h"
 #include "host/znIBrowserDataSourceSimple.h"
-#include "model/application.h"
 #include "model/browser.h"
 #include "model/view.h"
 #include "rows/text_matcher.h"
@@ -64,7 +64,7 @@ bool operator==(const FindCriterion& a, const FindCriterion& b) {
 
 RowFinder::RowFinder(View& view, RowModel& model, std::vector<FindCriterion> criteria)
     : model_(model), criteria_(std::move(criteria)) {
-    const ReadTrouble::Watch watch(view.Owner().Owner().Trouble());
+    const ReadTrouble::Watch watch(view.Owner().Services().Trouble());
     const RowModel::Answering answering(model); // may run a script that deletes the view
     revision_ = model.Revision();
     if (!model.IsStopped() && Prepare(view)) Walk();

@@ -1,10 +1,10 @@
 // What a window shows: the questions about its rows, and how it hears of changes.
 #include "rows/row_model.h"
 
+#include "base/services.h"
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserDataSourceHierarchical.h"
 #include "host/znIBrowserDataSourceSimple.h"
-#include "model/application.h"
 #include "model/browser.h"
 #include "model/view.h"
 
@@ -201,7 +201,7 @@ std::int64_t RowModel::CountBelow(std::uint32_t index) {
     if (!row) return -1;
     if (row.IsItem()) return plan_.Count(row.Content(), row.Number());
     constexpr auto timeToCount = std::chrono::milliseconds(100);
-    const Application::Hurry hurry(App(), timeToCount);
+    const HostServices::Hurry hurry(Services(), timeToCount);
     return CountOf(row).value_or(-1);
 }
 
@@ -277,7 +277,7 @@ void RowModel::KeepLooks(const std::vector<RowLook>& looks) {
 /// container is not worth a wait.
 std::vector<RowLook> RowModel::LooksOfContainers(const std::vector<Row>& rows, PlacesByBlock& places) {
     constexpr auto timeForContainers = std::chrono::milliseconds(100);
-    const Application::Hurry hurry(App(), timeForContainers);
+    const HostServices::Hurry hurry(Services(), timeForContainers);
     std::vector<RowLook> looks(rows.size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const Row& row = rows[i];
@@ -301,7 +301,7 @@ void RowModel::LookAtItems(const RowBlock& block, const std::vector<std::size_t>
     std::vector<std::int64_t> numbers;
     numbers.reserve(places.size());
     for (const std::size_t place : places) numbers.push_back(rows[place].Number());
-    const ReadTrouble::Watch watch(App().Trouble());
+    const ReadTrouble::Watch watch(Services().Trouble());
     const std::vector<bool> have = plan_.HaveRows(block.content, numbers);
     std::vector<ItemCells> items = cells_.Read(block.content, numbers, [this] { return stopped_; });
     const bool failed = NoteTrouble(watch);
@@ -362,7 +362,7 @@ RowLook RowModel::LookOf(const Row& row) {
 
 // ---- What cannot be read, or not in time ----
 
-Application& RowModel::App() const { return view_->Owner().Owner(); }
+HostServices& RowModel::Services() const { return view_->Owner().Services(); }
 
 /// What others keep from being read is read again with the next question. @return whether there was trouble
 bool RowModel::NoteTrouble(const ReadTrouble::Watch& watch) {
@@ -400,7 +400,7 @@ std::optional<std::int64_t> RowModel::CountOf(const Row& row) {
     const RowContent& container = row.Content();
     if (row.IsExpanded()) return CountIn(*row.node);
     if (const auto slow = slow_.find(PlaceOf(container)); slow != slow_.end()) return slow->second;
-    const ReadTrouble::Watch watch(App().Trouble());
+    const ReadTrouble::Watch watch(Services().Trouble());
     const std::int64_t count = plan_.Count(container);
     if (IsTooLong(watch, container) || NoteTrouble(watch)) return std::nullopt;
     return count;
@@ -411,7 +411,7 @@ bool RowModel::MayHaveRows(const Row& row) {
     if (container.IsNote()) return false; // though it has the place of what it speaks of
     const auto slow = slow_.find(PlaceOf(container));
     if (slow != slow_.end()) return !slow->second || *slow->second > 0;
-    const ReadTrouble::Watch watch(App().Trouble());
+    const ReadTrouble::Watch watch(Services().Trouble());
     const bool has = plan_.HasRows(container);
     if (!IsTooLong(watch, container)) NoteTrouble(watch);
     return has;
@@ -421,10 +421,10 @@ void RowModel::CountMore() {
     constexpr auto timeToCount = std::chrono::milliseconds(150);
     const Answering answering(*this);
     if (!view_ || uncounted_.empty()) return;
-    const Application::Hurry hurry(App(), timeToCount);
+    const HostServices::Hurry hurry(Services(), timeToCount);
     const RowContent container = std::move(uncounted_.back());
     uncounted_.pop_back();
-    const ReadTrouble::Watch watch(App().Trouble());
+    const ReadTrouble::Watch watch(Services().Trouble());
     const std::int64_t count = plan_.Count(container);
     if (watch.Seen()) return;
     slow_[PlaceOf(container)] = count;

@@ -2,8 +2,8 @@
 #ifndef ZN_HOST_ROW_MODEL_H
 #define ZN_HOST_ROW_MODEL_H
 
-#include "model/host_call.h"
-#include "model/read_trouble.h"
+#include "base/host_call.h"
+#include "base/read_trouble.h"
 #include "rows/row_cells.h"
 #include "rows/row_changes.h"
 #include "rows/row_plan.h"
@@ -25,7 +25,7 @@ class znIBrowserDataSource;
 
 namespace znhost {
 
-class Application;
+class HostServices;
 class FreeFolder;
 class View;
 
@@ -212,7 +212,7 @@ private:
     bool IsReady() const { return view_ && !stopped_ && !tree_.IsChanging() && !tree_.IsBroken(); }
     /// No row when the index is unknown.
     Row Find(std::uint32_t index) const { return IsReady() ? tree_.Find(index) : Row(); }
-    Application& App() const;
+    HostServices& Services() const;
     bool NoteTrouble(const ReadTrouble::Watch& watch);
     std::vector<RowLook> LooksOf(const std::vector<Row>& rows);
     using PlacesByBlock = std::unordered_map<const RowBlock*, std::vector<std::size_t>>;

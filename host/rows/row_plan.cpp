@@ -1,7 +1,7 @@
 #include "rows/row_plan.h"
 
+#include "base/services.h"
 #include "base/text.h"
-#include "model/application.h"
 #include "model/browser.h"
 #include "model/data_sources.h"
 #include "model/view.h"
@@ -251,7 +251,7 @@ bool RowPlan::HasRows(const RowContent& block, const RowLink& link, std::int64_t
     return link.child->HasChildren(link, row) || watch.Seen();
 }
 
-const ReadTrouble& RowPlan::Trouble() const { return view_.Owner().Owner().Trouble(); }
+const ReadTrouble& RowPlan::Trouble() const { return view_.Owner().Services().Trouble(); }
 
 std::vector<bool> RowPlan::HaveRows(const RowContent& block, const std::vector<std::int64_t>& rows) const {
     std::vector<bool> have(rows.size(), false);

@@ -2,9 +2,9 @@
 #ifndef ZN_HOST_ROW_TREE_H
 #define ZN_HOST_ROW_TREE_H
 
+#include "model/row_source.h"
 #include "rows/row_sums.h"
 #include "rows/tk_indices.h"
-#include "store/row_source.h"
 
 #include <cstdint>
 #include <exception>

@@ -2,9 +2,9 @@
 #ifndef ZN_HOST_CRITERIA_H
 #define ZN_HOST_CRITERIA_H
 
+#include "base/host_call.h"
+#include "base/named_list.h"
 #include "host/znIBrowserCriteria.h"
-#include "model/host_call.h"
-#include "model/named_list.h"
 #include "store/row_part.h"
 
 #include <map>

@@ -1,29 +1,28 @@
 #include "store/data_ctrl.h"
 
-#include "model/application.h"
+#include "base/services.h"
+#include "model/browser.h"
 #include "model/data_sources.h"
 
 namespace znhost {
 
-std::shared_ptr<DataCtrl> DataCtrl::Open(Application& application, const std::string& name,
-                                         const std::string& file, std::string& error) {
+std::shared_ptr<DataCtrl> DataCtrl::Open(Browser& model, const std::string& name, const std::string& file,
+                                         std::string& error) {
     std::unique_ptr<Database> database =
         file.empty() ? Database::OpenMemory(error) : Database::OpenFile(file, error);
     if (!database) return nullptr;
-    return std::make_shared<DataCtrl>(application, name, std::move(database));
+    return std::make_shared<DataCtrl>(model, name, std::move(database));
 }
 
-DataCtrl::DataCtrl(Application& application, std::string name, std::unique_ptr<Database> database)
-    : HostObject(application.Log()), application_(application), name_(std::move(name)),
-      database_(std::move(database)), schema_(*database_), copies_(*database_),
-      states_(*database_, application.Log(),
-              [this](const std::string& error) { Report("the saved states cannot be read", error); }) {
-    database_->SetWhyStop([this] { return application_.WhyStop(); });
+DataCtrl::DataCtrl(Browser& model, std::string name, std::unique_ptr<Database> database)
+    : HostObject(model.Log()), model_(model), name_(std::move(name)), database_(std::move(database)),
+      schema_(*database_), copies_(*database_) {
+    database_->SetWhyStop([this] { return Services().WhyStop(); });
 }
 
 DataCtrl::~DataCtrl() = default;
 
-Browser& DataCtrl::Model() const { return application_.Model(); }
+HostServices& DataCtrl::Services() const { return model_.Services(); }
 
 bool DataCtrl::RunSql(const std::string& statement, const std::vector<std::string>& values,
                       std::vector<std::vector<std::string>>& rows, std::string& error) {
@@ -178,7 +177,7 @@ void DataCtrl::TakeOverReferences(const Table& table) {
 /// What failed in a question whose answer has no place for it.
 void DataCtrl::Report(const char* what, const std::string& error) {
     Fail(error);
-    application_.ReportError(name_ + ": " + what + ": " + error);
+    Services().ReportError(name_ + ": " + what + ": " + error);
 }
 
 bool DataCtrl::LookAgain() {
@@ -366,7 +365,7 @@ void DataCtrl::SetCurrentView(znIBrowserView* view) {
 
 znIBrowserStateContainer* DataCtrl::GetStateContainer() {
     if (Refused("znIBrowserDataCtrl::GetStateContainer")) return nullptr;
-    return &states_;
+    return states_.get();
 }
 
 } // namespace znhost

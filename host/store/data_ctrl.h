@@ -2,9 +2,9 @@
 #ifndef ZN_HOST_DATA_CTRL_H
 #define ZN_HOST_DATA_CTRL_H
 
+#include "base/host_call.h"
+#include "base/named_list.h"
 #include "host/znIBrowserDataCtrl.h"
-#include "model/host_call.h"
-#include "model/named_list.h"
 #include "store/base_source.h"
 #include "store/custom_source.h"
 #include "store/data_operation.h"
@@ -13,7 +13,6 @@
 #include "store/input_field.h"
 #include "store/link_index.h"
 #include "store/row_copies.h"
-#include "store/state_container.h"
 
 #include <memory>
 #include <string>
@@ -22,7 +21,6 @@
 
 namespace znhost {
 
-class Application;
 class Browser;
 
 /// Base sources and references follow the tables of the database: each question looks whether they changed.
@@ -31,18 +29,22 @@ class DataCtrl final : public znIBrowserDataCtrl, public HostObject {
 public:
     /// Opens the database `file`, made when missing, or one in memory when `file` is "". Null, with the
     /// reason in `error`, when that cannot be done.
-    static std::shared_ptr<DataCtrl> Open(Application& application, const std::string& name,
-                                          const std::string& file, std::string& error);
-    DataCtrl(Application& application, std::string name, std::unique_ptr<Database> database);
+    static std::shared_ptr<DataCtrl> Open(Browser& model, const std::string& name, const std::string& file,
+                                          std::string& error);
+    DataCtrl(Browser& model, std::string name, std::unique_ptr<Database> database);
     ~DataCtrl() override;
 
     const std::string& Name() const { return name_; }
-    Application& App() const { return application_; }
-    Browser& Model() const;
+    Browser& Model() const { return model_; }
+    HostServices& Services() const;
     Database& Db() { return *database_; }
+    /// Tells the reason of a failure to who can read no answer, as a background error.
+    void Report(const char* what, const std::string& error);
     RowCopies& Copies() { return copies_; }
     LinkIndexes& Indexes() { return indexes_; }
-    StateContainer& States() { return states_; }
+    /// Where its states are kept; null: nowhere.
+    void SetStates(std::shared_ptr<znIBrowserStateContainer> states) { states_ = std::move(states); }
+    znIBrowserStateContainer* States() const { return states_.get(); }
 
     /// Runs one SQL statement, the values bound to its `?`. @return false with SQLite's reason in `error`.
     bool RunSql(const std::string& statement, const std::vector<std::string>& values,
@@ -105,7 +107,6 @@ public:
 private:
     /// As `Refresh`, with the reason as the browser object's error text.
     bool LookAgain();
-    void Report(const char* what, const std::string& error);
     bool CheckNewSource(const std::string& name);
     /// All that are there, as the tables were when last looked at.
     std::vector<SimpleSource*> SimpleSources() const;
@@ -118,7 +119,7 @@ private:
     void Forget(DataReference& reference);
     void TakeOverReferences(const Table& table);
 
-    Application& application_;
+    Browser& model_;
     const std::string name_;
     const std::unique_ptr<Database> database_;
     Schema schema_;
@@ -139,7 +140,7 @@ private:
     NamedList<DataOperation> operations_;
     NamedList<InputField> inputFields_;
     LinkIndexes indexes_;
-    StateContainer states_;
+    std::shared_ptr<znIBrowserStateContainer> states_; ///< they lie in the database, which goes after them
 };
 
 } // namespace znhost

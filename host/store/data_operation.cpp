@@ -1,18 +1,19 @@
 // Data operations, and the data control's list of them.
 #include "store/data_operation.h"
 
-#include "model/application.h"
+#include "base/services.h"
+#include "model/browser.h"
 #include "store/data_ctrl.h"
 
 namespace znhost {
 
-DataOperation::DataOperation(Application& application, std::string name)
-    : HostObject(application.Log()), application_(application), name_(std::move(name)) {}
+DataOperation::DataOperation(HostServices& services, std::string name)
+    : HostObject(services.Log()), services_(services), name_(std::move(name)) {}
 
 bool DataOperation::Run() const {
     if (script_.empty()) return Fail("The data operation \"" + name_ + "\" has no script");
     const std::string script = script_; // it may replace itself
-    return application_.RunScript(script);
+    return services_.RunScript(script);
 }
 
 const char* DataOperation::GetName() const {
@@ -33,7 +34,7 @@ bool DataCtrl::CreateDataOperation(const char* name) {
     if (operations_.Find(newName)) {
         return Fail("The data control \"" + name_ + "\" already has a data operation \"" + newName + "\"");
     }
-    operations_.Add(std::make_shared<DataOperation>(application_, newName));
+    operations_.Add(std::make_shared<DataOperation>(Services(), newName));
     return true;
 }
 

@@ -2,30 +2,30 @@
 #ifndef ZN_HOST_DATA_OPERATION_H
 #define ZN_HOST_DATA_OPERATION_H
 
-#include "host/znIBrowserDataOperation.h"
-#include "model/host_call.h"
+#include "base/host_call.h"
+#include "model/runnable_operation.h"
 
 #include <string>
 
 namespace znhost {
 
-class Application;
+class HostServices;
 
 /// An action that runs a Tcl script.
-class DataOperation final : public znIBrowserDataOperation, public HostObject {
+class DataOperation final : public RunnableOperation, public HostObject {
 public:
-    DataOperation(Application& application, std::string name);
+    DataOperation(HostServices& services, std::string name);
 
     const std::string& Name() const { return name_; }
     /// Runs the script; an error in it is reported as a background error. The script may delete the
     /// operation. @return false, with an error text, when there is no script or it fails
-    bool Run() const;
+    bool Run() const override;
 
     const char* GetName() const override;
     bool SetScript(const char* script) override;
 
 private:
-    Application& application_;
+    HostServices& services_;
     const std::string name_;
     std::string script_;
 };

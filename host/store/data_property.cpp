@@ -1,7 +1,7 @@
 #include "store/data_property.h"
 
+#include "base/services.h"
 #include "host/znBrowserDataItems.h"
-#include "model/application.h"
 #include "store/base_source.h"
 #include "store/data_ctrl.h"
 
@@ -117,7 +117,7 @@ bool ScriptedProperty::ReadText(std::int64_t row, std::string& text) {
     const std::shared_ptr<DataProperty> self = shared_from_this();
     const std::shared_ptr<SimpleSource> owner = owner_.shared_from_this();
     const Marked computing(computing_);
-    return owner->Control().App().ComputeValue(script_, {base->Name(), std::to_string(place.row)}, text);
+    return owner->Control().Services().ComputeValue(script_, {base->Name(), std::to_string(place.row)}, text);
 }
 
 znVariant ScriptedProperty::ReadVariant(std::int64_t row) {

@@ -2,8 +2,8 @@
 #ifndef ZN_HOST_DATA_PROPERTY_H
 #define ZN_HOST_DATA_PROPERTY_H
 
+#include "base/host_call.h"
 #include "host/znIBrowserDataProperty.h"
-#include "model/host_call.h"
 #include "store/schema.h"
 
 #include <functional>

@@ -2,8 +2,8 @@
 #ifndef ZN_HOST_DATA_REFERENCE_H
 #define ZN_HOST_DATA_REFERENCE_H
 
+#include "base/host_call.h"
 #include "host/znIBrowserDataReference.h"
-#include "model/host_call.h"
 #include "store/schema.h"
 
 namespace znhost {

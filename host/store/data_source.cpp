@@ -1,8 +1,10 @@
 #include "store/data_source.h"
 
+#include "base/services.h"
 #include "host/znBrowserDataItems.h"
-#include "model/application.h"
+#include "model/browser.h"
 #include "model/data_sources.h"
+#include "model/view.h"
 #include "store/data_ctrl.h"
 #include "store/view_items.h"
 #include "store/wanted_values.h"

@@ -2,8 +2,8 @@
 #ifndef ZN_HOST_DATA_SOURCE_H
 #define ZN_HOST_DATA_SOURCE_H
 
+#include "base/host_call.h"
 #include "host/znIBrowserDataSource.h"
-#include "model/host_call.h"
 
 #include <functional>
 

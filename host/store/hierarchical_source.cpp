@@ -1,7 +1,8 @@
 #include "store/hierarchical_source.h"
 
+#include "base/services.h"
 #include "host/znBrowserDataItems.h"
-#include "model/application.h"
+#include "model/browser.h"
 #include "model/data_sources.h"
 #include "store/data_ctrl.h"
 #include "store/tree_walk.h"

@@ -2,10 +2,10 @@
 #ifndef ZN_HOST_HIERARCHICAL_SOURCE_H
 #define ZN_HOST_HIERARCHICAL_SOURCE_H
 
+#include "base/host_call.h"
 #include "host/znIBrowserDataSourceHierarchical.h"
-#include "model/host_call.h"
+#include "model/row_source.h"
 #include "store/data_source.h"
-#include "store/row_source.h"
 
 #include <string>
 

@@ -2,8 +2,8 @@
 #ifndef ZN_HOST_INPUT_FIELD_H
 #define ZN_HOST_INPUT_FIELD_H
 
+#include "base/host_call.h"
 #include "host/znIBrowserInputField.h"
-#include "model/host_call.h"
 
 #include <optional>
 #include <string>

@@ -2,8 +2,8 @@
 #ifndef ZN_HOST_LINK_INDEX_H
 #define ZN_HOST_LINK_INDEX_H
 
+#include "model/row_source.h"
 #include "store/database.h"
-#include "store/row_source.h"
 
 #include <memory>
 #include <utility>

@@ -1,6 +1,6 @@
 #include "store/link_reader.h"
 
-#include "model/row_set.h"
+#include "base/row_set.h"
 #include "store/data_ctrl.h"
 
 #include <algorithm>

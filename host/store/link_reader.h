@@ -2,9 +2,9 @@
 #ifndef ZN_HOST_LINK_READER_H
 #define ZN_HOST_LINK_READER_H
 
+#include "model/row_source.h"
 #include "store/link_index.h"
 #include "store/row_part.h"
-#include "store/row_source.h"
 
 namespace znhost {
 

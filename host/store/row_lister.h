@@ -2,8 +2,8 @@
 #ifndef ZN_HOST_ROW_LISTER_H
 #define ZN_HOST_ROW_LISTER_H
 
+#include "model/row_source.h"
 #include "store/row_part.h"
-#include "store/row_source.h"
 #include "store/wanted_values.h"
 
 #include <optional>

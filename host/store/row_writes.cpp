@@ -1,5 +1,5 @@
 // What a window changes in the rows of a data source. Each change is one transaction.
-#include "model/row_set.h"
+#include "base/row_set.h"
 #include "store/data_ctrl.h"
 #include "store/link_reader.h"
 #include "store/simple_source.h"

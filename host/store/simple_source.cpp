@@ -1,8 +1,9 @@
 // Simple data sources: identity, captions, properties. The rows are in source_rows.cpp.
 #include "store/simple_source.h"
 
+#include "base/services.h"
 #include "host/znBrowserDataItems.h"
-#include "model/application.h"
+#include "model/browser.h"
 #include "model/data_sources.h"
 #include "store/base_source.h"
 #include "store/data_ctrl.h"
@@ -21,10 +22,10 @@ bool SimpleSource::FailWith(std::string text) const {
 
 bool SimpleSource::FailToRead(const std::string& reason) const {
     using Kind = ReadTrouble::Kind;
-    const Kind kind = Database::MayPass(reason)        ? Kind::Passing
-                      : reason == Application::tooLong ? Kind::TooLong
-                                                       : Kind::Lasting;
-    control_.App().Trouble().Note(name_, reason, kind);
+    const Kind kind = Database::MayPass(reason)         ? Kind::Passing
+                      : reason == HostServices::tooLong ? Kind::TooLong
+                                                        : Kind::Lasting;
+    control_.Services().Trouble().Note(name_, reason, kind);
     return FailWith(reason);
 }
 

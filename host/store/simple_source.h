@@ -2,13 +2,13 @@
 #ifndef ZN_HOST_SIMPLE_SOURCE_H
 #define ZN_HOST_SIMPLE_SOURCE_H
 
+#include "base/host_call.h"
+#include "base/named_list.h"
 #include "host/znIBrowserDataSourceSimple.h"
-#include "model/host_call.h"
-#include "model/named_list.h"
+#include "model/row_source.h"
 #include "store/data_property.h"
 #include "store/data_source.h"
 #include "store/row_part.h"
-#include "store/row_source.h"
 
 #include <functional>
 #include <memory>

@@ -1,6 +1,7 @@
 // The rows of a simple data source: listed, counted, linked, named.
+#include "base/services.h"
 #include "host/znBrowserDataItems.h"
-#include "model/application.h"
+#include "model/browser.h"
 #include "store/data_ctrl.h"
 #include "store/data_property.h"
 #include "store/link_reader.h"
@@ -11,8 +12,6 @@
 #include <map>
 
 namespace znhost {
-
-RowSource* GetRowSource(znIBrowserDataSourceSimple* source) { return SourceOf(source); }
 
 // Computing a value may delete the source, so it is held as long.
 void SimpleSource::List(const RowQuery& query, std::vector<std::int64_t>& rows) {
@@ -183,9 +182,9 @@ void SimpleSource::ReadTexts(const std::vector<std::int64_t>& rows,
 void SimpleSource::GetDataItems(znBrowserDataItems& items) {
     items.Clear();
     if (Refused("znIBrowserDataSourceSimple::GetDataItems")) return;
-    const ReadTrouble::Watch watch(control_.App().Trouble());
+    const ReadTrouble::Watch watch(control_.Services().Trouble());
     List({}, items.rows);
-    if (watch.Seen()) control_.App().ReportError(watch.Text());
+    if (watch.Seen()) control_.Services().ReportError(watch.Text());
     if (!items.rows.empty()) items.runs.push_back({this, 0});
 }
 

@@ -2,8 +2,8 @@
 #ifndef ZN_HOST_VIEW_ITEMS_H
 #define ZN_HOST_VIEW_ITEMS_H
 
-#include "model/row_set.h"
-#include "store/row_source.h"
+#include "base/row_set.h"
+#include "model/row_source.h"
 
 #include <unordered_map>
 #include <vector>

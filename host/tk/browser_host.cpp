@@ -1,8 +1,9 @@
 // The embedded host as others link it. This file is in the shared library only.
 #include "znBrowserHost.h"
 
-#include "model/embedded_host.h"
+#include "app/embedded_host.h"
 #include "tk/browse.h"
+#include "tk/tk_windows.h"
 
 #include <tcl.h>
 
@@ -85,7 +86,7 @@ bool znBrowserHost::CreateDataCtrl(const char* name, const char* file) {
 }
 
 bool znBrowserHost::ShowWindows() {
-    parts_->onDisplay = parts_->host.ShowWindows(parts_->error);
+    parts_->onDisplay = znhost::ShowWindows(parts_->host, parts_->error);
     return parts_->onDisplay;
 }
 

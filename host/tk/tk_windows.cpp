@@ -1,12 +1,14 @@
 #include "tk/tk_windows.h"
 
+#include "app/application.h"
+#include "app/embedded_host.h"
+#include "app/manager_command.h"
 #include "base/kept_result.h"
 #include "base/tcl_values.h"
-#include "model/application.h"
-#include "model/window.h"
-#include "tk/manager_command.h"
 #include "tk/tk_scripts.h"
 #include "tk/tk_words.h"
+#include "window/window.h"
+#include "window/window_list.h"
 
 #include <tcl.h>
 
@@ -131,7 +133,7 @@ private:
 TkWindows::TkWindows(Application& application, const ManagerCommand& command)
     : application_(application), command_(command), work_(application.Interp(), &command.token) {}
 
-std::unique_ptr<TkWindows> TkWindows::Load(Application& application, const ManagerCommand& command,
+std::shared_ptr<TkWindows> TkWindows::Load(Application& application, const ManagerCommand& command,
                                            std::string& error) {
     Tcl_Interp* const interp = application.Interp();
     const bool hadTk = Evaluate(interp, "package present Tk", error);
@@ -139,13 +141,20 @@ std::unique_ptr<TkWindows> TkWindows::Load(Application& application, const Manag
         const HiddenArguments hidden(interp);
         if (!Evaluate(interp, "package require Tk", error)) return nullptr;
     }
-    std::unique_ptr<TkWindows> windows(new TkWindows(application, command));
+    std::shared_ptr<TkWindows> windows(new TkWindows(application, command));
     if (!Evaluate(interp, "package require treectrl", error) || !windows->LoadScripts(error)) return nullptr;
     // The main window of who had Tk already is theirs.
     if (!hadTk && !Evaluate(interp, "wm withdraw .", error)) return nullptr;
-    application.SetDisplay(windows.get());
     application.SetWork(&windows->work_);
     return windows;
+}
+
+bool ShowWindows(EmbeddedHost& host, std::string& error) {
+    if (host.HasDisplay()) return true;
+    std::shared_ptr<TkWindows> windows = TkWindows::Load(host.App(), host.Command(), error);
+    if (!windows) return false;
+    host.SetDisplay(std::move(windows));
+    return true;
 }
 
 bool TkWindows::LoadScripts(std::string& error) {
@@ -163,7 +172,7 @@ bool TkWindows::LoadScripts(std::string& error) {
 
 TkWindows::~TkWindows() {
     while (!shown_.empty()) Close(shown_.begin()->second->Of());
-    application_.SetDisplay(nullptr);
+    application_.Model().Windows().SetDisplay(nullptr);
     application_.SetWork(nullptr);
     if (Tcl_InterpDeleted(application_.Interp())) return;
     for (const char* const name : {hostCommand, managerCommand})

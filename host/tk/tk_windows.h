@@ -2,9 +2,9 @@
 #ifndef ZN_HOST_TK_WINDOWS_H
 #define ZN_HOST_TK_WINDOWS_H
 
-#include "model/window_display.h"
 #include "rows/row_changes.h"
 #include "tk/tk_work.h"
+#include "window/window_display.h"
 
 #include <cstdint>
 #include <map>
@@ -18,7 +18,13 @@ struct Tcl_Obj;
 namespace znhost {
 
 class Application;
+class EmbeddedHost;
 struct ManagerCommand;
+
+/// Loads Tk: from now on each posted window of the host stands on the display. Once it answered true, calling
+/// it again changes nothing. @return false, with the reason in `error`, when there is no display or Tk or its
+/// tree widget is not installed; windows stay without a face then
+bool ShowWindows(EmbeddedHost& host, std::string& error);
 
 /// What changed in a window: each kind once, and the row that it is about.
 using TkChanges = std::map<RowChange::Kind, std::uint32_t>;
@@ -29,7 +35,7 @@ class TkWindows final : public WindowDisplay {
 public:
     /// Loads Tk, the tree widget and the scripts. Null, with the reason in `error`, when that is impossible.
     /// @param command  must outlive what is returned
-    static std::unique_ptr<TkWindows> Load(Application& application, const ManagerCommand& command,
+    static std::shared_ptr<TkWindows> Load(Application& application, const ManagerCommand& command,
                                            std::string& error);
     ~TkWindows();
     TkWindows(const TkWindows&) = delete;
@@ -39,8 +45,6 @@ public:
     TkWork& Work() { return work_; }
     /// Evaluates the manager's command, whatever it is called now, and if it has been deleted.
     int EvalManagerCommand(int objc, Tcl_Obj* const objv[]);
-    /// How many windows are open.
-    std::size_t Count() const { return shown_.size(); }
     /// The open window of that number; null when there is none.
     std::shared_ptr<Window> Find(unsigned number) const;
 
@@ -53,6 +57,7 @@ public:
     void HidePart(const std::string& frame) override;
     void RemovePart(const std::string& frame) override;
     void Close(Window& window) override;
+    std::size_t OpenWindows() const override { return shown_.size(); }
 
 private:
     class Shown;

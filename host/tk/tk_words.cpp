@@ -1,13 +1,13 @@
 #include "tk/tk_words.h"
 
+#include "app/application.h"
+#include "app/row_app_commands.h"
 #include "base/tcl_values.h"
 #include "base/text.h"
-#include "model/application.h"
 #include "model/popup_menu.h"
 #include "model/view.h"
-#include "model/window.h"
-#include "rows/row_commands.h"
 #include "tk/tk_windows.h"
+#include "window/window.h"
 
 #include <tcl.h>
 

@@ -2,7 +2,7 @@
 #ifndef ZN_HOST_TK_WORK_H
 #define ZN_HOST_TK_WORK_H
 
-#include "model/long_work.h"
+#include "base/long_work.h"
 
 #include <chrono>
 

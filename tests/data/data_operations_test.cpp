@@ -1,5 +1,5 @@
 // What C++ clients reach of the data families: null names, missing objects, and operations without a command.
-#include "host/model/embedded_host.h"
+#include "host/app/embedded_host.h"
 #include "tests/frame/fake_application.h"
 
 #include "znBrowserManagerTcl.h"

@@ -1,5 +1,5 @@
 // The interpreter, or all its variables, go away while a command is at work.
-#include "model/embedded_host.h"
+#include "app/embedded_host.h"
 
 #include <gtest/gtest.h>
 #include <tcl.h>

@@ -1,6 +1,6 @@
 // Null words, which only C++ clients of the command can pass: at each position of each command, one at a time
 // and all from there on. Nothing crashes, no current object is left that is dead.
-#include "model/embedded_host.h"
+#include "app/embedded_host.h"
 #include "tests/faults/sweep.h"
 #include "znBrowserTclMessages.h"
 

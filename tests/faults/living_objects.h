@@ -2,16 +2,17 @@
 #ifndef LIVING_OBJECTS_H
 #define LIVING_OBJECTS_H
 
+#include "app/application.h"
+#include "app/embedded_host.h"
+#include "base/host_call.h"
 #include "frame/current_kinds.h"
 #include "frame/current_lifetimes.h"
-#include "model/application.h"
 #include "model/browser.h"
-#include "model/embedded_host.h"
 #include "model/gui_map_list.h"
-#include "model/host_call.h"
 #include "model/view.h"
-#include "model/window_list.h"
+#include "state/state_container.h"
 #include "store/data_ctrl.h"
+#include "window/window_list.h"
 #include "znBrowserManagerTcl.h"
 
 #include <set>
@@ -24,7 +25,7 @@ class LivingObjects {
 public:
     explicit LivingObjects(znhost::EmbeddedHost& host) {
         const znhost::CallLog::Quiet quiet(host.Calls());
-        znhost::Browser& browser = host.App().Model();
+        znhost::BrowserStates& browser = host.App().Model();
         for (const auto& view : browser.Views()) AddView(*view);
         for (const auto& window : browser.Windows().All()) AddWindow(*window);
         std::vector<znIBrowserGuiMap*> maps;

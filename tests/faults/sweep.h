@@ -2,10 +2,11 @@
 #ifndef SWEEP_H
 #define SWEEP_H
 
-#include "model/embedded_host.h"
-#include "model/host_call.h"
+#include "app/embedded_host.h"
+#include "base/host_call.h"
 #include "store/data_ctrl.h"
 #include "tests/faults/living_objects.h"
+#include "tk/tk_windows.h"
 #include "znBrowserManagerTcl.h"
 
 #include <gtest/gtest.h>
@@ -67,10 +68,13 @@ public:
     /// From now on posted windows stand on the display.
     void ShowWindows() {
         std::string error;
-        EXPECT_TRUE(host_->ShowWindows(error)) << error;
+        EXPECT_TRUE(znhost::ShowWindows(*host_, error)) << error;
     }
-    void Open() { script_.Eval("run $opening"); }
-    void Run(const std::string& section) { script_.Eval("run [dict get $sections " + section + "]"); }
+    /// Both give what the commands answer.
+    std::string Open() { return script_.Eval("run $opening"); }
+    std::string Run(const std::string& section) {
+        return script_.Eval("run [dict get $sections " + section + "]");
+    }
 
     /// No current object is dead, no view shows a table that has gone, the rows of each window stand where
     /// they say, and the next command is answered.

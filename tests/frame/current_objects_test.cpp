@@ -1,8 +1,8 @@
 // The current objects as a C++ client reads, stores and clears them, and the entries of the families.
 #include "frame/current_kinds.h"
 #include "frame/current_lifetimes.h"
-#include "host/model/application.h"
-#include "host/model/embedded_host.h"
+#include "host/app/application.h"
+#include "host/app/embedded_host.h"
 #include "host/znIBrowserPopupMenu.h"
 #include "host/znIBrowserPopupMenuItem.h"
 #include "znBrowserManagerTcl.h"

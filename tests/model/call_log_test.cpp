@@ -1,5 +1,5 @@
 // What scripts cannot reach of the record of host calls: faults from C++, calls the host makes unseen.
-#include "host/model/host_call.h"
+#include "host/base/host_call.h"
 #include "host/model/popup_menu.h"
 #include "host/znBrowserDataItems.h"
 
@@ -16,8 +16,8 @@ public:
     explicit Probe(CallLog& log) : HostObject(log) {}
 
     template <class... Arguments>
-    bool Call(const Arguments&... arguments) const {
-        return !Refused("znIBrowser::CreateView", arguments...);
+    bool CreateView(const Arguments&... arguments) const {
+        return !Refused({"znIBrowser::CreateView", "CreateView"}, arguments...);
     }
     mutable std::string refusedBecause;
 
@@ -32,9 +32,9 @@ TEST(CallLog, ArgumentsReadAsScriptsWriteThem) {
     const znIBrowserPopupMenu* const none = nullptr;
     const char* const noText = nullptr;
     log.SetJournal(true);
-    probe.Call("a b", noText, znString("text"), true, -3, 7U, 0.1, static_cast<znIBrowserPopupMenu*>(&menu),
-               none, std::vector<znString>{"x", "y z"}, std::vector<bool>{true, false},
-               znBrowserDataItem{nullptr, 5});
+    probe.CreateView("a b", noText, znString("text"), true, -3, 7U, 0.1,
+                     static_cast<znIBrowserPopupMenu*>(&menu), none, std::vector<znString>{"x", "y z"},
+                     std::vector<bool>{true, false}, znBrowserDataItem{nullptr, 5});
     ASSERT_EQ(log.Journal().size(), 1U); // asking the menu for its name is not recorded
     const std::vector<std::string> words{"a b", "", "text", "1", "-3", "7", "0.1", "my menu", ""};
     const std::vector<CallArgument>& arguments = log.Journal()[0].arguments;
@@ -55,14 +55,14 @@ TEST(CallLog, ARefusalIsUsedUpByOneCallOfItsOperation) {
     EXPECT_STREQ(menu.GetName(), "menu");
     {
         const CallLog::Quiet quiet(log);
-        EXPECT_TRUE(probe.Call());
+        EXPECT_TRUE(probe.CreateView());
     }
     for (const char* const text : {"first", "second"}) {
-        EXPECT_FALSE(probe.Call());
+        EXPECT_FALSE(probe.CreateView());
         EXPECT_EQ(log.Error(), text);
         EXPECT_EQ(probe.refusedBecause, text);
     }
-    EXPECT_TRUE(probe.Call());
+    EXPECT_TRUE(probe.CreateView());
     EXPECT_FALSE(log.IsArmed());
 }
 
@@ -71,21 +71,16 @@ TEST(CallLog, ASweepFailsTheChosenCallOrAllFromThereOn) {
         CallLog log;
         Probe probe(log);
         log.FailCall(2, CallLog::Fault::Refuse, andFollowing);
-        EXPECT_TRUE(probe.Call());
+        EXPECT_TRUE(probe.CreateView());
         EXPECT_FALSE(log.HasFailed());
-        EXPECT_FALSE(probe.Call());
+        EXPECT_FALSE(probe.CreateView());
         EXPECT_TRUE(log.HasFailed());
-        EXPECT_EQ(probe.Call(), !andFollowing);
+        EXPECT_EQ(probe.CreateView(), !andFollowing);
         log.FailCall(1, CallLog::Fault::Throw, andFollowing);
-        EXPECT_THROW(probe.Call(), std::runtime_error);
+        EXPECT_THROW(probe.CreateView(), std::runtime_error);
         log.FailCall(0);
-        EXPECT_TRUE(probe.Call());
+        EXPECT_TRUE(probe.CreateView());
     }
-}
-
-TEST(CallLog, OperationsAreSortedForTheSearch) {
-    const std::vector<std::string_view> operations = CallLog::Operations();
-    EXPECT_TRUE(std::is_sorted(operations.begin(), operations.end()));
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 // The embedded host as a whole: how it comes and goes.
-#include "host/model/embedded_host.h"
+#include "host/app/embedded_host.h"
 
 #include <gtest/gtest.h>
 #include <tcl.h>

@@ -1,5 +1,5 @@
 // Scripts that delete what runs them, and what is told to those who show a view.
-#include "host/model/application.h"
+#include "host/app/application.h"
 #include "host/model/browser.h"
 #include "host/model/view.h"
 #include "host/store/data_ctrl.h"

@@ -1,4 +1,4 @@
-#include "store/state_store.h"
+#include "state/state_store.h"
 #include "store/transaction.h"
 #include "tests/store/store_testing.h"
 

@@ -2,8 +2,8 @@
 #ifndef HOST_TESTING_H
 #define HOST_TESTING_H
 
-#include "host/model/application.h"
-#include "host/model/embedded_host.h"
+#include "host/app/application.h"
+#include "host/app/embedded_host.h"
 #include "host/store/data_ctrl.h"
 
 #include <gtest/gtest.h>

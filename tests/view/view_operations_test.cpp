@@ -1,6 +1,6 @@
 // The view family as a C++ client sees it: null names and objects, a host without a browser object, and the
 // operations that no command reaches.
-#include "host/model/embedded_host.h"
+#include "host/app/embedded_host.h"
 #include "tests/frame/fake_application.h"
 #include "view/view_helper.h"
 #include "znBrowserManagerTcl.h"

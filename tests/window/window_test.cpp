@@ -1,7 +1,7 @@
 // Windows as only C++ reaches them: null arguments, a host without a browser object, and the reselection
 // signal.
-#include "model/application.h"
-#include "model/embedded_host.h"
+#include "app/application.h"
+#include "app/embedded_host.h"
 #include "tests/frame/fake_application.h"
 #include "znBrowserManagerTcl.h"
 

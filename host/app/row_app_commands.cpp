@@ -1,0 +1,96 @@
+#include "app/row_app_commands.h"
+
+#include "app/app_commands.h"
+#include "base/tcl_values.h"
+#include "window/row_drawing.h"
+#include "window/window_list.h"
+
+#include <limits>
+#include <tcl.h>
+
+namespace znhost {
+
+const char* KindName(RowKind kind) {
+    switch (kind) {
+    case RowKind::Folder: return "folder";
+    case RowKind::Tree: return "tree";
+    case RowKind::List: return "list";
+    case RowKind::Item: break;
+    }
+    return "item";
+}
+
+namespace {
+
+/// Of the texts of all rows asked for at once: Tcl ends the process above 2 GiB, and writing a list of such
+/// texts may double them for each level of the list.
+constexpr std::size_t mostBytes = std::size_t{1} << 27;
+
+/// The window that the first argument names, held; null, and the error stands in the interpreter, when there
+/// is none.
+std::shared_ptr<Window> WindowOf(AppCall& call) {
+    Window* const window = call.App().Model().Windows().All().Find(call.Text(0));
+    if (window) return window->shared_from_this();
+    call.Fail("there is no window \"" + call.Text(0) + "\"", "WINDOW", call.Text(0));
+    return nullptr;
+}
+
+void Put(Tcl_Obj* dictionary, const char* key, Tcl_Obj* value) {
+    Tcl_DictObjPut(nullptr, dictionary, Tcl_NewStringObj(key, -1), value);
+}
+
+/// @param bytes grows by the bytes of the row's texts
+Tcl_Obj* NewRow(RowModel& rows, const RowLook& look, std::size_t& bytes) {
+    Tcl_Obj* const cells = Tcl_NewDictObj();
+    bytes += look.text.size();
+    for (const RowCell& cell : look.cells) {
+        const std::string text = cell.Text();
+        bytes += text.size();
+        Tcl_DictObjPut(nullptr, cells, NewText(cell.column->Name()), NewText(text));
+    }
+    Tcl_Obj* const row = Tcl_NewDictObj();
+    Put(row, "index", Tcl_NewWideIntObj(look.index));
+    Put(row, "parent", Tcl_NewWideIntObj(look.parent));
+    Put(row, "depth", Tcl_NewWideIntObj(look.depth));
+    Put(row, "kind", NewText(KindName(look.kind)));
+    Put(row, "text", NewText(look.text));
+    Put(row, "cells", cells);
+    Put(row, "expanded", Tcl_NewBooleanObj(look.expanded));
+    Put(row, "selected", Tcl_NewBooleanObj(look.selected));
+    Put(row, "children", Tcl_NewWideIntObj(rows.CountBelow(look.index)));
+    return row;
+}
+
+} // namespace
+
+int AnswerRows(AppCall& call) {
+    const std::shared_ptr<Window> window = WindowOf(call);
+    std::size_t first = 0;
+    std::size_t count = std::numeric_limits<std::int64_t>::max();
+    if (!window) return TCL_ERROR;
+    if (call.Count() > 1 && !call.Number(1, "FIRST", first)) return TCL_ERROR;
+    if (call.Count() > 2 && !call.Number(2, "COUNT", count)) return TCL_ERROR;
+    const RowModel::Answering answering(window->Rows());
+    window->Rows().TakeTrouble();
+    Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
+    std::size_t bytes = 0;
+    window->Rows().ReadEach(static_cast<std::int64_t>(first), static_cast<std::int64_t>(count),
+                            [&](const RowLook& look) {
+                                Tcl_ListObjAppendElement(nullptr, list, NewRow(window->Rows(), look, bytes));
+                                return bytes <= mostBytes;
+                            });
+    const std::string trouble = window->Rows().TakeTrouble();
+    if (trouble.empty() && bytes <= mostBytes) return call.Answer(list);
+    Tcl_DecrRefCount(list);
+    if (!trouble.empty()) return call.Fail("the rows cannot be read: " + trouble, "READ");
+    return call.Fail("the rows are too large: the limit is " + std::to_string(mostBytes) +
+                         " bytes, ask for fewer with FIRST and COUNT",
+                     "ROWS", call.Text(0));
+}
+
+int AnswerDraw(AppCall& call) {
+    const std::shared_ptr<Window> window = WindowOf(call);
+    return window ? call.Answer(DrawRows(*window)) : TCL_ERROR;
+}
+
+} // namespace znhost

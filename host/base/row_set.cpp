@@ -1,0 +1,77 @@
+#include "base/row_set.h"
+
+#include <algorithm>
+
+namespace znhost {
+
+std::vector<RowSet::Word>::iterator RowSet::Place(Row number) {
+    if (words_.empty() || words_.back().number < number) return words_.end();
+    return std::lower_bound(words_.begin(), words_.end(), number,
+                            [](const Word& word, Row wanted) { return word.number < wanted; });
+}
+
+bool RowSet::Has(Row row) const {
+    const auto word = const_cast<RowSet*>(this)->Place(NumberOf(row));
+    return word != words_.end() && word->number == NumberOf(row) && (word->bits & BitOf(row)) != 0;
+}
+
+void RowSet::Clear() {
+    words_.clear();
+    words_.shrink_to_fit();
+    size_ = 0;
+}
+
+bool RowSet::Add(Row row) {
+    auto word = Place(NumberOf(row));
+    if (word == words_.end() || word->number != NumberOf(row)) word = words_.insert(word, {NumberOf(row), 0});
+    if (word->bits & BitOf(row)) return false;
+    word->bits |= BitOf(row);
+    ++size_;
+    return true;
+}
+
+bool RowSet::Remove(Row row) {
+    const auto word = Place(NumberOf(row));
+    if (word == words_.end() || word->number != NumberOf(row) || !(word->bits & BitOf(row))) return false;
+    word->bits &= ~BitOf(row);
+    if (word->bits == 0) words_.erase(word);
+    --size_;
+    return true;
+}
+
+bool RowSet::Add(std::vector<Row> rows) {
+    std::sort(rows.begin(), rows.end());
+    const std::size_t before = size_;
+    std::vector<Word> merged;
+    merged.reserve(words_.size() + rows.size() / 8);
+    auto old = words_.cbegin();
+    for (auto row = rows.cbegin(); row != rows.cend();) {
+        const Row number = NumberOf(*row);
+        while (old != words_.cend() && old->number < number) merged.push_back(*old++);
+        Word word{number, old != words_.cend() && old->number == number ? (old++)->bits : 0};
+        const int had = __builtin_popcountll(word.bits);
+        for (; row != rows.cend() && NumberOf(*row) == number; ++row) word.bits |= BitOf(*row);
+        size_ += static_cast<std::size_t>(__builtin_popcountll(word.bits) - had);
+        merged.push_back(word);
+    }
+    merged.insert(merged.end(), old, words_.cend());
+    words_ = std::move(merged);
+    return size_ != before;
+}
+
+bool RowSet::Remove(const std::vector<Row>& rows) {
+    const std::size_t before = size_;
+    for (const Row row : rows) {
+        const auto word = Place(NumberOf(row));
+        if (word == words_.end() || word->number != NumberOf(row) || !(word->bits & BitOf(row))) continue;
+        word->bits &= ~BitOf(row);
+        --size_;
+    }
+    if (size_ == before) return false;
+    words_.erase(
+        std::remove_if(words_.begin(), words_.end(), [](const Word& word) { return word.bits == 0; }),
+        words_.end());
+    return true;
+}
+
+} // namespace znhost
