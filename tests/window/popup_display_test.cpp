@@ -10,6 +10,8 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <tcl.h>
+#include <vector>
 
 namespace {
 
