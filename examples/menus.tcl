@@ -43,7 +43,12 @@ proc askPieces {window item rows value} {
     zn userinput current pieces
     zn userinput value [lindex [valuesIn $window $rows pieces] 0]
 }
-proc ::znbrowser::UpdatePopupInputScript {fields} {array set ::input [list [lindex $fields 0] [lindex $fields 2]]}
+# What the user has entered, as a list of names, types and values.
+namespace eval ::znbrowser {
+    proc UpdatePopupInputScript {fields} {
+        foreach {name type value} $fields {set ::input($name) $value}
+    }
+}
 proc setPieces {window item rows value} {
     zn app sql gearbox {UPDATE part SET quantity = ? WHERE number = ?} $::input(pieces) \
         [lindex [valuesIn $window $rows code] 0]

@@ -1,6 +1,7 @@
 #include "options.h"
 
 #include "reference.h"
+#include "znBrowserVersion.h"
 
 #include <CLI/CLI.hpp>
 #include <iostream>
@@ -89,7 +90,7 @@ std::optional<ExitCode> ParseOptions(int argc, const char* const* argv, Options&
             throw CLI::Success();
         },
         "Print all words of the command, as Markdown, and end");
-    app.set_version_flag("--version", "znbrowsersh " ZN_VERSION);
+    app.set_version_flag("--version", "znbrowsersh " ZN_BROWSER_VERSION);
     app.prefix_command(); // stop at the script: the options behind it are the script's own
     options.program = argv[0];
     try {

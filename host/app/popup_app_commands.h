@@ -10,8 +10,8 @@ namespace znhost {
 
 class AppCall;
 
-/// A list with a dictionary for each entry: item, caption, kind, enabled, checked, help, value, entries, icon,
-/// description.
+/// A list with a dictionary for each entry: item, caption, kind, enabled, checked, help, value, entries,
+/// icon, description.
 Tcl_Obj* NewPopupEntries(const PopupEntries& entries);
 
 /// "popup WINDOW ?COLUMN INDEX ...?": the entries of the menu that a right click there shows.

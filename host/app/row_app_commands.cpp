@@ -33,10 +33,6 @@ namespace {
 /// texts may double them for each level of the list.
 constexpr std::size_t mostBytes = std::size_t{1} << 27;
 
-void Put(Tcl_Obj* dictionary, const char* key, Tcl_Obj* value) {
-    Tcl_DictObjPut(nullptr, dictionary, Tcl_NewStringObj(key, -1), value);
-}
-
 /// @param bytes grows by the bytes of the row's texts
 Tcl_Obj* NewRow(RowModel& rows, const RowLook& look, std::size_t& bytes) {
     Tcl_Obj* const cells = Tcl_NewDictObj();

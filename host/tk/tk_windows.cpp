@@ -136,12 +136,15 @@ TkWindows::TkWindows(Application& application, const ManagerCommand& command)
 std::shared_ptr<TkWindows> TkWindows::Load(Application& application, const ManagerCommand& command,
                                            std::string& error) {
     Tcl_Interp* const interp = application.Interp();
+    const bool hadTk = Evaluate(interp, "package present Tk", error);
     {
         const HiddenArguments hidden(interp);
         if (!Evaluate(interp, "package require Tk", error)) return nullptr;
     }
     std::shared_ptr<TkWindows> windows(new TkWindows(application, command));
     if (!Evaluate(interp, "package require treectrl", error) || !windows->LoadScripts(error)) return nullptr;
+    // The main window of who had Tk already is theirs.
+    if (!hadTk && !Evaluate(interp, "wm withdraw .", error)) return nullptr;
     application.SetWork(&windows->work_);
     return windows;
 }
@@ -156,7 +159,7 @@ bool ShowWindows(EmbeddedHost& host, std::string& error) {
 
 bool TkWindows::LoadScripts(std::string& error) {
     Tcl_Interp* const interp = application_.Interp();
-    if (!Evaluate(interp, "wm withdraw .; namespace eval ::znbrowser {}", error)) return false;
+    if (!Evaluate(interp, "namespace eval ::znbrowser {}", error)) return false;
     Tcl_CreateObjCommand(interp, hostCommand, AnswerTkWord, this, nullptr);
     Tcl_CreateObjCommand(interp, managerCommand, AnswerManagerWords, this, nullptr);
     for (const TkScript& script : TkScripts()) {

@@ -27,10 +27,6 @@ Tcl_Obj* ListOf(std::initializer_list<Tcl_Obj*> objects) {
 
 void Append(Tcl_Obj* list, Tcl_Obj* object) { Tcl_ListObjAppendElement(nullptr, list, object); }
 
-void Put(Tcl_Obj* dictionary, const char* key, Tcl_Obj* value) {
-    Tcl_DictObjPut(nullptr, dictionary, Tcl_NewStringObj(key, -1), value);
-}
-
 Tcl_Obj* NewIndices(const std::vector<std::uint32_t>& indices) {
     Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
     for (const std::uint32_t index : indices) Append(list, Tcl_NewWideIntObj(index));

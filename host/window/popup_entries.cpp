@@ -36,7 +36,8 @@ PopupRows LookAt(RowModel& rows, const std::vector<std::uint32_t>& indices) {
         if (!content) continue;
         znBrowserDataItem item;
         const bool isItem = rows.GetItem(index, item);
-        if (different.size() < 2) different.emplace(isItem ? item.source : nullptr, isItem ? item.row : index);
+        if (different.size() < 2)
+            different.emplace(isItem ? item.source : nullptr, isItem ? item.row : index);
         seen.folder = seen.folder || content->kind == RowKind::Folder;
     }
     seen.single = different.size() == 1;
@@ -50,6 +51,12 @@ std::vector<std::uint32_t> RowsOf(Window& window, const PopupClick& click) {
     std::vector<std::uint32_t> there = click.rows;
     RemoveWhere(there, [&rows](std::uint32_t index) { return !rows.Has(index); });
     return there;
+}
+
+std::string RowList(const std::vector<std::uint32_t>& rows) {
+    std::string list;
+    for (const std::uint32_t row : rows) list += (list.empty() ? "" : " ") + std::to_string(row);
+    return list;
 }
 
 // ---- Which menu ----
@@ -105,18 +112,12 @@ private:
     std::unordered_set<const PopupMenu*> known_;
 };
 
-std::string NumberList(const std::vector<std::uint32_t>& numbers) {
-    std::string list;
-    for (const std::uint32_t number : numbers) list += (list.empty() ? "" : " ") + std::to_string(number);
-    return list;
-}
-
 } // namespace
 
 // A script may give a cascade to a menu that had its turn: such menus are looked for at the end.
 PopupMenus TellPosting(Window& window, const PopupClick& click, PopupMenu& menu) {
     const std::shared_ptr<Column> column = click.column.lock();
-    const std::string rows = NumberList(RowsOf(window, click));
+    const std::string rows = RowList(RowsOf(window, click));
     FoundMenus found;
     found.Add(menu);
     for (std::size_t next = 0; next < found.menus.size(); ++next) {

@@ -60,6 +60,9 @@ PopupRows LookAt(RowModel& rows, const std::vector<std::uint32_t>& indices);
 /// The rows of a click that are still there.
 std::vector<std::uint32_t> RowsOf(Window& window, const PopupClick& click);
 
+/// Numbers of rows as a Tcl list.
+std::string RowList(const std::vector<std::uint32_t>& rows);
+
 /// The menu for a click: the column's, else that of the row's data source, else that of its folder, the
 /// innermost first, else the view's. Null when there is none.
 PopupMenu* ChooseMenu(Window& window, const PopupClick& click);

@@ -107,11 +107,7 @@ std::string InputScript(const InputValues& values) {
     }
     Tcl_Obj* const list = NewList(words);
     Tcl_IncrRefCount(list);
-    std::string script;
-    for (const char* next = Tcl_GetString(list); *next; ++next) {
-        if (std::string_view("\\\"$[").find(*next) != std::string_view::npos) script += '\\';
-        script += *next;
-    }
+    const std::string script = Tcl_GetString(list);
     Tcl_DecrRefCount(list);
     return script;
 }

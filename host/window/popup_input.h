@@ -30,11 +30,12 @@ znIBrowserInputField* FindField(CallLog& log, znIBrowserDataCtrl* control, const
 
 /// The present value of a field.
 InputValue ReadField(CallLog& log, znIBrowserInputField& field);
-/// Sets a value that is one of its type. @return false, with an error text, when the field has got another type
+/// Sets a value that is one of its type. @return false, with an error text, when the field has got another
+/// type
 bool WriteField(CallLog& log, znIBrowserInputField& field, const InputValue& value);
 
-/// The values as `znIBrowserManagerTcl::UpdateTclInputScript` takes them, which puts them between double
-/// quotes: a list of a name, a type and a value each, in which nothing is substituted there.
+/// The values as `znIBrowserManagerTcl::UpdateTclInputScript` takes them: a Tcl list of a name, a type and a
+/// value each.
 std::string InputScript(const InputValues& values);
 
 } // namespace znhost

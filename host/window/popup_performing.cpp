@@ -36,6 +36,7 @@ private:
     bool HasEntry() const;
     bool Begin();
     bool CheckReferences() const;
+    bool HasLost() const;
     bool IsGone() const;
     bool Call(const char* what, const std::string& procedure, std::string* answer) const;
 
@@ -65,9 +66,9 @@ bool Performing::Fail(const std::string& reason) const {
 
 bool Performing::Run() {
     if (!Begin()) return false;
-    for (const auto step : {&Performing::AskBefore, &Performing::TakeInput, &Performing::TurnCheck,
-                            &Performing::RunViewOperation, &Performing::RunDataOperation,
-                            &Performing::RunItemScript}) {
+    for (const auto step :
+         {&Performing::AskBefore, &Performing::TakeInput, &Performing::TurnCheck,
+          &Performing::RunViewOperation, &Performing::RunDataOperation, &Performing::RunItemScript}) {
         if (!(this->*step)()) return false;
         if (calledOff_ || IsGone()) return true;
     }
@@ -133,25 +134,27 @@ bool Performing::CheckReferences() const {
 }
 
 bool Performing::Begin() {
-    if (!ShownView()) return Fail("cannot be performed: the window \"" + window_->Name() + "\" shows no view");
+    if (!ShownView())
+        return Fail("cannot be performed: the window \"" + window_->Name() + "\" shows no view");
     if (const char* const reason = WhyNotChosen()) return Fail(reason);
-    // Looking at the rows may have run scripts.
-    calledOff_ = IsGone();
+    calledOff_ = HasLost(); // looking at the rows may have run scripts
     return calledOff_ || (TakeValue() && CheckReferences());
 }
 
+/// Whether the window, its view or the item is gone.
+bool Performing::HasLost() const { return window_->IsClosed() || !ShownView() || !item_->Menu(); }
+
+/// Whether one of them is, or what the value means.
 bool Performing::IsGone() const {
-    if (window_->IsClosed() || !ShownView() || !item_->Menu()) return true;
-    return item_->Kind() == PopupKind::Container && !value_.empty() && !HasEntry();
+    return HasLost() || (item_->Kind() == PopupKind::Container && !HasEntry());
 }
 
 // ---- The steps ----
 
 bool Performing::Call(const char* what, const std::string& procedure, std::string* answer) const {
-    std::string rows;
-    for (const std::uint32_t index : window_->Rows().SelectedRows())
-        rows += (rows.empty() ? "" : " ") + std::to_string(index);
-    if (services_.RunProcedure({procedure, window_->Name(), item_->Name(), rows, value_}, answer)) return true;
+    const std::string rows = RowList(window_->Rows().SelectedRows());
+    if (services_.RunProcedure({procedure, window_->Name(), item_->Name(), rows, value_}, answer))
+        return true;
     return Fail(std::string("has a ") + what + " \"" + procedure + "\" that failed: " + log_.Error());
 }
 

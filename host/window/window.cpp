@@ -79,9 +79,7 @@ void Window::SetBackground(std::string colour) {
 // ---- Scripts ----
 
 /// Calls a Tcl procedure; an error goes to the interpreter's background error handler.
-void Window::Call(const std::vector<std::string>& words) {
-    browser_.Services().RunProcedure(words);
-}
+void Window::Call(const std::vector<std::string>& words) { browser_.Services().RunProcedure(words); }
 
 /// An event of the window: each part's callbacks, then the listeners. What is to be done is noted before
 /// anything is done, and ends with the window.

@@ -35,7 +35,8 @@ void WindowPopup::Close() {
 }
 
 bool WindowPopup::Shows(const PopupMenu& menu) const {
-    return open_ && std::any_of(shown_.begin(), shown_.end(), [&](auto& each) { return each.get() == &menu; });
+    return open_ &&
+           std::any_of(shown_.begin(), shown_.end(), [&](auto& each) { return each.get() == &menu; });
 }
 
 PopupItem* WindowPopup::FindItem(const std::string& name) {
@@ -43,7 +44,8 @@ PopupItem* WindowPopup::FindItem(const std::string& name) {
     if (PopupItem* const item = menu ? menu->Items().Find(name) : nullptr) return item;
     for (std::size_t slash = name.find('/'); slash != std::string::npos; slash = name.find('/', slash + 1)) {
         PopupMenu* const named = window_.Owner().PopupMenus().Find(name.substr(0, slash));
-        if (PopupItem* const item = named ? named->Items().Find(name.substr(slash + 1)) : nullptr) return item;
+        if (PopupItem* const item = named ? named->Items().Find(name.substr(slash + 1)) : nullptr)
+            return item;
     }
     return nullptr;
 }

@@ -26,8 +26,8 @@ public:
     /// Whether the menu that is open shows that one, itself or in a cascade.
     bool Shows(const PopupMenu& menu) const;
 
-    /// The item of that name in the menu for the click, or "MENU/ITEM" for one of any menu. Null when there is
-    /// none.
+    /// The item of that name in the menu for the click, or "MENU/ITEM" for one of any menu. Null when there
+    /// is none.
     PopupItem* FindItem(const std::string& name);
 
 private:

@@ -2,8 +2,8 @@
 #ifndef ZN_I_BROWSER_H
 #define ZN_I_BROWSER_H
 
-#include "host/znutl/znString.h"
-#include "znBrowserTypes.h"
+#include "../znBrowserTypes.h"
+#include "znutl/znString.h"
 #include <utility>
 #include <vector>
 
@@ -252,7 +252,8 @@ public:
     virtual bool SetCallbackOperation(znIBrowserWindowCallback* callback,
                                       ZNBROWSER_CALLBACK_OPERATION operation) = 0;
 
-    // GUI maps. The two maps "default_images_guimap" and "default_colors_guimap" are there from the start.
+    // GUI maps. The host makes the two maps "default_images_guimap" and "default_colors_guimap" before it
+    // makes the manager, and keeps them: the layer only refuses scripts that would delete them.
     /// The list of all GUI maps; null counts as an empty one.
     virtual znIBrowserGuiMapList* GetGuiMapList() = 0;
     /// Deletes a map, never one of the two default ones. Style elements keep its name. The result is not

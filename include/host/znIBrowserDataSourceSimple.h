@@ -2,7 +2,7 @@
 #ifndef ZN_I_BROWSER_DATA_SOURCE_SIMPLE_H
 #define ZN_I_BROWSER_DATA_SOURCE_SIMPLE_H
 
-#include "znBrowserTypes.h"
+#include "../znBrowserTypes.h"
 #include <vector>
 
 struct znBrowserDataItems;

@@ -2,8 +2,8 @@
 #ifndef ZN_I_BROWSER_VIEW_ITEM_FREE_FOLDER_H
 #define ZN_I_BROWSER_VIEW_ITEM_FREE_FOLDER_H
 
-#include "host/znIBrowserViewItem.h"
-#include "host/znutl/znString.h"
+#include "znIBrowserViewItem.h"
+#include "znutl/znString.h"
 #include <vector>
 
 struct znBrowserDataItems;

@@ -2,7 +2,7 @@
 #ifndef ZN_I_BROWSER_WINDOW_ACCESS_H
 #define ZN_I_BROWSER_WINDOW_ACCESS_H
 
-#include "host/znutl/znString.h"
+#include "znutl/znString.h"
 #include <vector>
 
 class znIBrowserEvent;

@@ -35,7 +35,7 @@ inline constexpr std::tuple currentKinds{
                                                          &znBrowserCurrentObjects::viewOperation},
     CurrentKind<znIBrowserViewItemFreeFolder, znIBrowserView>{"free folder",
                                                               &znBrowserCurrentObjects::freeFolder},
-    CurrentKind<znIBrowserDataSourceSimple>{"list", &znBrowserCurrentObjects::list},
+    CurrentKind<znIBrowserDataSourceSimple, znIBrowserDataCtrl>{"list", &znBrowserCurrentObjects::list},
     CurrentKind<znIBrowserPopupMenu>{"popup menu", &znBrowserCurrentObjects::popupMenu},
     CurrentKind<znIBrowserPopupMenuItem, znIBrowserPopupMenu>{"popup menu item",
                                                               &znBrowserCurrentObjects::popupMenuItem},
@@ -44,26 +44,29 @@ inline constexpr std::tuple currentKinds{
                                                               &znBrowserCurrentObjects::windowPart},
     CurrentKind<znIBrowserEvent, znIBrowserWindowPart, znIBrowserWindowAccess>{
         "event", &znBrowserCurrentObjects::event},
-    CurrentKind<znIBrowserWindowCallback, znIBrowserWindowPart, znIBrowserWindowAccess>{
+    CurrentKind<znIBrowserWindowCallback, znIBrowserEvent, znIBrowserWindowPart, znIBrowserWindowAccess>{
         "window callback", &znBrowserCurrentObjects::windowCallback},
     CurrentKind<znIBrowserFindRequest, znIBrowserWindowAccess>{"find request",
                                                                &znBrowserCurrentObjects::findRequest},
-    CurrentKind<znBrowserProperty, znIBrowserWindowAccess>{"find request property",
-                                                           &znBrowserCurrentObjects::findRequestProperty},
-    CurrentKind<znBrowserCriterion, znIBrowserWindowAccess>{
+    CurrentKind<znBrowserProperty, znIBrowserFindRequest, znIBrowserWindowAccess>{
+        "find request property", &znBrowserCurrentObjects::findRequestProperty},
+    CurrentKind<znBrowserCriterion, znBrowserProperty, znIBrowserFindRequest, znIBrowserWindowAccess>{
         "find request property criterion", &znBrowserCurrentObjects::findRequestPropertyCriterion},
     CurrentKind<znIBrowserGuiMap>{"GUI map", &znBrowserCurrentObjects::guiMap},
     CurrentKind<znIBrowserDataCtrl>{"data control", &znBrowserCurrentObjects::dataCtrl},
-    CurrentKind<znIBrowserDataSourceSimple>{"data source simple", &znBrowserCurrentObjects::dataSourceSimple},
-    CurrentKind<znIBrowserDataSourceSimple>{"connect data source simple",
-                                            &znBrowserCurrentObjects::connectDataSourceSimple},
-    CurrentKind<znIBrowserDataSourceHierarchical>{"data source hierarchical",
-                                                  &znBrowserCurrentObjects::dataSourceHierarchical},
-    CurrentKind<znIBrowserCriteria, znIBrowserDataSourceSimple>{"criteria",
-                                                                &znBrowserCurrentObjects::criteria},
-    CurrentKind<znIBrowserDataOperation>{"data operation", &znBrowserCurrentObjects::dataOperation},
-    CurrentKind<znIBrowserInputField>{"input field", &znBrowserCurrentObjects::inputField},
-    CurrentKind<znIBrowserState>{"state", &znBrowserCurrentObjects::state},
+    CurrentKind<znIBrowserDataSourceSimple, znIBrowserDataCtrl>{"data source simple",
+                                                                &znBrowserCurrentObjects::dataSourceSimple},
+    CurrentKind<znIBrowserDataSourceSimple, znIBrowserDataCtrl>{
+        "connect data source simple", &znBrowserCurrentObjects::connectDataSourceSimple},
+    CurrentKind<znIBrowserDataSourceHierarchical, znIBrowserDataCtrl>{
+        "data source hierarchical", &znBrowserCurrentObjects::dataSourceHierarchical},
+    CurrentKind<znIBrowserCriteria, znIBrowserDataSourceSimple, znIBrowserDataCtrl>{
+        "criteria", &znBrowserCurrentObjects::criteria},
+    CurrentKind<znIBrowserDataOperation, znIBrowserDataCtrl>{"data operation",
+                                                             &znBrowserCurrentObjects::dataOperation},
+    CurrentKind<znIBrowserInputField, znIBrowserDataCtrl>{"input field",
+                                                          &znBrowserCurrentObjects::inputField},
+    CurrentKind<znIBrowserState, znIBrowserDataCtrl>{"state", &znBrowserCurrentObjects::state},
 };
 
 static_assert(sizeof(znBrowserCurrentObjects) == std::tuple_size_v<decltype(currentKinds)> * sizeof(void*),

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <set>
 #include <sstream>
 #include <string>
@@ -83,6 +84,8 @@ TEST(CommandRecords, EachRowTellsInOneSentenceWhatItDoes) {
         const std::string_view summary = row.summary;
         EXPECT_TRUE(summary.size() > 10 && summary.size() <= 110 && summary.back() == '.') << Joined(path);
         EXPECT_TRUE(row.answer || row.level) << Joined(path) << " leads nowhere";
+        EXPECT_TRUE(znBrowserTclKeywords::GetSpelling(row.keyword) || row.keyword == Keyword::NoFilterForm)
+            << "the keyword table has no word for " << Joined(path);
         ++rows;
     });
     EXPECT_GT(rows, 300u);
@@ -111,6 +114,25 @@ TEST(CommandRecords, WhatTheUsageTextsPromiseHasARow) {
     });
     EXPECT_EQ(missing, unkept);
     EXPECT_GT(texts, 25u);
+}
+
+TEST(CommandRecords, TheCommandsThatTheHeaderNamesAreThere) {
+    std::ifstream header(ZN_SOURCE_DIR "/include/znBrowserManagerTcl.h");
+    std::size_t named = 0;
+    for (std::string line; std::getline(header, line);) {
+        const std::size_t quote = line.find('"');
+        if (line.find("///") == std::string::npos || quote + 1 >= line.size() || line.back() != '"' ||
+            line.find_first_not_of("/<; ", line.find("///")) != quote)
+            continue;
+        std::istringstream text(line.substr(quote + 1, line.size() - quote - 2));
+        Words words;
+        for (std::string word; text >> word && word != "...";) {
+            if (word != "znbrowsermanager") words.push_back(word);
+        }
+        EXPECT_TRUE(IsKept({}, words)) << Joined(words);
+        ++named;
+    }
+    EXPECT_GT(named, 300u);
 }
 
 TEST(CommandRecords, AnArgumentIsFoundByItsPlace) {

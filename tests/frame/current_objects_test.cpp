@@ -1,6 +1,7 @@
 // The current objects as a C++ client reads, stores and clears them, and the entries of the families.
 #include "frame/current_kinds.h"
 #include "frame/current_lifetimes.h"
+#include "host/app/application.h"
 #include "host/app/embedded_host.h"
 #include "host/znIBrowserPopupMenu.h"
 #include "host/znIBrowserPopupMenuItem.h"
@@ -150,6 +151,68 @@ TEST_F(CurrentObjects, SomeNeverFollow) {
                                       manager.GetCurrentDataSourceSimplePtr(), manager.GetCurrentListPtr()));
 }
 
+/// The kinds that are not current any more once the host has told that the object goes; then all are again.
+template <class T>
+std::string ForgottenWith(Manager& manager, T* dying) {
+    znBrowserCurrentObjects& current = znlayer::CurrentAccess::Of(manager);
+    const znBrowserCurrentObjects before = current;
+    std::string forgotten;
+    manager.AboutToDelete(dying);
+    znlayer::ForEachCurrentKind([&](const auto& kind) {
+        if (before.*kind.member && !(current.*kind.member)) forgotten += std::string(kind.name) + "; ";
+    });
+    current = before;
+    return forgotten;
+}
+
+TEST_F(CurrentObjects, GoWithWhatTheHostDeletesByItself) {
+#define EXPECT_FORGOTTEN(Kind, kinds)                                                                        \
+    EXPECT_EQ(ForgottenWith(manager, manager.GetCurrent##Kind##Ptr()), kinds)
+    EXPECT_FORGOTTEN(
+        View, "view; column; style; style element; view property; view operation; free folder; list; ");
+    EXPECT_FORGOTTEN(Column, "column; style; style element; ");
+    EXPECT_FORGOTTEN(Style, "style; style element; ");
+    EXPECT_FORGOTTEN(StyleElement, "style element; ");
+    EXPECT_FORGOTTEN(ViewProperty, "view property; ");
+    EXPECT_FORGOTTEN(ViewOperation, "view operation; ");
+    EXPECT_FORGOTTEN(FreeFolder, "free folder; list; ");
+    EXPECT_FORGOTTEN(WindowAccess, "window; window part; event; window callback; find request; "
+                                   "find request property; find request property criterion; ");
+    EXPECT_FORGOTTEN(WindowPart, "window part; event; window callback; ");
+    EXPECT_FORGOTTEN(Event, "event; window callback; ");
+    EXPECT_FORGOTTEN(WindowCallback, "window callback; ");
+    EXPECT_FORGOTTEN(FindRequest, "find request; find request property; find request property criterion; ");
+    EXPECT_FORGOTTEN(FindRequestProperty, "find request property; find request property criterion; ");
+    EXPECT_FORGOTTEN(FindRequestPropertyCriterion, "find request property criterion; ");
+    EXPECT_FORGOTTEN(GuiMap, "GUI map; ");
+    EXPECT_FORGOTTEN(DataCtrl, "list; data control; data source simple; data source hierarchical; criteria; "
+                               "data operation; input field; state; ");
+    EXPECT_FORGOTTEN(DataSourceSimple, "list; data source simple; criteria; ");
+    EXPECT_FORGOTTEN(DataSourceHierarchical, "data source hierarchical; ");
+    EXPECT_FORGOTTEN(Criteria, "criteria; ");
+    EXPECT_FORGOTTEN(DataOperation, "data operation; ");
+    EXPECT_FORGOTTEN(InputField, "input field; ");
+    EXPECT_FORGOTTEN(State, "state; ");
+    EXPECT_FORGOTTEN(PopupMenu, ""); // none is current
+#undef EXPECT_FORGOTTEN
+}
+
+TEST_F(CurrentObjects, StayWhenTheHostDeletesOthers) {
+    const znBrowserCurrentObjects kept = znlayer::CurrentAccess::Of(manager);
+    ASSERT_EQ(Tcl_Eval(interp, "znbrowsermanager view create other; znbrowsermanager window create other;"
+                               "znbrowsermanager app datactrl create other"),
+              TCL_OK);
+    znIBrowserView* const view = manager.GetCurrentViewPtr();
+    znIBrowserWindowAccess* const window = manager.GetCurrentWindowAccessPtr();
+    znIBrowserFindRequest* const request = manager.GetCurrentFindRequestPtr();
+    znlayer::CurrentAccess::Of(manager) = kept;
+    ASSERT_TRUE(view != kept.view && window != kept.windowAccess && request && request != kept.findRequest);
+    EXPECT_EQ(ForgottenWith(manager, view), "");
+    EXPECT_EQ(ForgottenWith(manager, window), "");
+    EXPECT_EQ(ForgottenWith(manager, request), "");
+    EXPECT_EQ(ForgottenWith(manager, host.App().FindDataCtrl("other")), "");
+}
+
 TEST_F(CurrentObjects, PopupMenusAreTheHosts) {
     struct Menu final : znIBrowserPopupMenu, znIBrowserPopupMenuItem {
         const char* GetName() const override { return name; }
@@ -166,6 +229,8 @@ TEST_F(CurrentObjects, PopupMenusAreTheHosts) {
     EXPECT_EQ(name, "");
     EXPECT_EQ(manager.GetCurrentPopupMenuPtr(), &menu);
     EXPECT_EQ(manager.GetCurrentPopupMenuItemPtr(), &menu);
+    EXPECT_EQ(ForgottenWith<znIBrowserPopupMenuItem>(manager, &menu), "popup menu item; ");
+    EXPECT_EQ(ForgottenWith<znIBrowserPopupMenu>(manager, &menu), "popup menu; popup menu item; ");
     manager.ResetCurrentPopupMenu();
     manager.ResetCurrentPopupMenuItem();
     EXPECT_EQ(manager.GetCurrentPopupMenuPtr(), nullptr);

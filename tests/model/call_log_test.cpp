@@ -17,7 +17,7 @@ public:
 
     template <class... Arguments>
     bool CreateView(const Arguments&... arguments) const {
-        return !Refused("znIBrowser::CreateView", arguments...);
+        return !Refused({"znIBrowser::CreateView", "CreateView"}, arguments...);
     }
     mutable std::string refusedBecause;
 
@@ -32,9 +32,9 @@ TEST(CallLog, ArgumentsReadAsScriptsWriteThem) {
     const znIBrowserGuiMap* const none = nullptr;
     const char* const noText = nullptr;
     log.SetJournal(true);
-    probe.CreateView("a b", noText, znString("text"), true, -3, 7U, 0.1,
-                     static_cast<znIBrowserGuiMap*>(&map), none, std::vector<znString>{"x", "y z"},
-                     std::vector<bool>{true, false}, znBrowserDataItem{nullptr, 5});
+    probe.CreateView("a b", noText, znString("text"), true, -3, 7U, 0.1, static_cast<znIBrowserGuiMap*>(&map),
+                     none, std::vector<znString>{"x", "y z"}, std::vector<bool>{true, false},
+                     znBrowserDataItem{nullptr, 5});
     ASSERT_EQ(log.Journal().size(), 1U); // asking the map for its name is not recorded
     const std::vector<std::string> words{"a b", "", "text", "1", "-3", "7", "0.1", "my map", ""};
     const std::vector<CallArgument>& arguments = log.Journal()[0].arguments;

