@@ -58,3 +58,5 @@ show zn OnTkTreePopupMenu gearbox true
 show zn OnTkTreePerformPopupOperation gearbox pieces ""
 show zn OnTkTreePopupMenu gearbox false
 show zn app sql gearbox {SELECT name, quantity FROM part WHERE name = 'Snap ring 35'}
+
+zn OnTkTreePerformPopupOperation gearbox release false ;# the model stays as it was
