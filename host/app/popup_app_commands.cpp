@@ -6,6 +6,7 @@
 #include "model/view.h"
 #include "window/window.h"
 
+#include <iterator>
 #include <limits>
 #include <map>
 #include <tcl.h>
@@ -14,34 +15,73 @@ namespace znhost {
 
 namespace {
 
-/// A menu that several items open is one value, which they share.
-using NewLists = std::map<const PopupEntries*, Tcl_Obj*>;
+/// Makes the values of entries. There may be tens of thousands, alike but for a caption: a value that is the
+/// same as that of the entry before is shared, as keys are, and so is a menu that several items open. A list
+/// of keys and values costs less than a dictionary, and Tcl makes one of it where a script looks into it.
+class EntryValues {
+public:
+    EntryValues() {
+        for (std::size_t i = 0; i < keyCount; ++i) Tcl_IncrRefCount(keys_[i] = Tcl_NewStringObj(keys[i], -1));
+    }
+    ~EntryValues() {
+        for (Tcl_Obj* const key : keys_) Tcl_DecrRefCount(key);
+    }
+    EntryValues(const EntryValues&) = delete;
+    EntryValues& operator=(const EntryValues&) = delete;
 
-Tcl_Obj* NewEntries(const PopupEntries& entries, NewLists& lists);
+    Tcl_Obj* NewList(const PopupEntries& entries) {
+        Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
+        Tcl_Obj* before[keyCount] = {};
+        const PopupEntry* last = nullptr;
+        for (const PopupEntry& entry : entries) {
+            Tcl_ListObjAppendElement(nullptr, list, NewEntry(entry, last, before));
+            last = &entry;
+        }
+        return list;
+    }
 
-Tcl_Obj* NewEntry(const PopupEntry& entry, NewLists& lists) {
-    Tcl_Obj* const dictionary = Tcl_NewDictObj();
-    Put(dictionary, "item", NewText(entry.item));
-    Put(dictionary, "caption", NewText(entry.caption));
-    Put(dictionary, "kind", NewText(KindName(entry.kind)));
-    Put(dictionary, "enabled", Tcl_NewBooleanObj(entry.enabled));
-    Put(dictionary, "checked", Tcl_NewBooleanObj(entry.checked));
-    Put(dictionary, "help", NewText(entry.help));
-    Put(dictionary, "value", NewText(entry.value));
-    Put(dictionary, "entries", entry.entries ? NewEntries(*entry.entries, lists) : Tcl_NewObj());
-    Put(dictionary, "icon", NewText(entry.icon));
-    Put(dictionary, "description", NewText(entry.description));
-    return dictionary;
-}
+private:
+    static constexpr const char* keys[] = {"item", "caption", "kind",    "enabled", "checked",
+                                           "help", "value",   "entries", "icon",    "description"};
+    static constexpr std::size_t keyCount = std::size(keys);
 
-Tcl_Obj* NewEntries(const PopupEntries& entries, NewLists& lists) {
-    Tcl_Obj*& list = lists[&entries];
-    if (list) return list;
-    list = Tcl_NewListObj(0, nullptr);
-    Tcl_Obj* const made = list; // what stands below may move the place where it is noted
-    for (const PopupEntry& entry : entries) Tcl_ListObjAppendElement(nullptr, made, NewEntry(entry, lists));
-    return made;
-}
+    /// @param before  the values of the entry `last`, which the list holds
+    Tcl_Obj* NewEntry(const PopupEntry& entry, const PopupEntry* last, Tcl_Obj** before) {
+        std::size_t next = 0;
+        const auto take = [&](auto PopupEntry::*part, auto make) {
+            if (!last || last->*part != entry.*part) before[next] = make(entry.*part);
+            ++next;
+        };
+        const auto text = [](const std::string& value) { return NewText(value); };
+        const auto boolean = [](bool value) { return Tcl_NewBooleanObj(value); };
+        take(&PopupEntry::item, text);
+        take(&PopupEntry::caption, text);
+        take(&PopupEntry::kind, [](PopupEntry::Kind kind) { return NewText(KindName(kind)); });
+        take(&PopupEntry::enabled, boolean);
+        take(&PopupEntry::checked, boolean);
+        take(&PopupEntry::help, text);
+        take(&PopupEntry::value, text);
+        take(&PopupEntry::entries, [this](const auto& below) { return Below(below.get()); });
+        take(&PopupEntry::icon, text);
+        take(&PopupEntry::description, text);
+        Tcl_Obj* words[2 * keyCount];
+        for (std::size_t i = 0; i < keyCount; ++i) {
+            words[2 * i] = keys_[i];
+            words[2 * i + 1] = before[i];
+        }
+        return Tcl_NewListObj(2 * keyCount, words);
+    }
+
+    /// What a cascade opens.
+    Tcl_Obj* Below(const PopupEntries* entries) {
+        if (!entries) return Tcl_NewObj();
+        const auto known = lists_.find(entries);
+        return known != lists_.end() ? known->second : lists_[entries] = NewList(*entries);
+    }
+
+    Tcl_Obj* keys_[keyCount];
+    std::map<const PopupEntries*, Tcl_Obj*> lists_;
+};
 
 /// What the arguments say was clicked. False, and the error stands in the interpreter, when that is not
 /// there.
@@ -71,10 +111,7 @@ bool ReadClick(const AppCall& call, Window& window, PopupClick& click) {
 
 } // namespace
 
-Tcl_Obj* NewPopupEntries(const PopupEntries& entries) {
-    NewLists lists;
-    return NewEntries(entries, lists);
-}
+Tcl_Obj* NewPopupEntries(const PopupEntries& entries) { return EntryValues().NewList(entries); }
 
 int AnswerPopup(AppCall& call) {
     const std::shared_ptr<Window> window = WindowOf(call);

@@ -204,6 +204,11 @@ Tcl_Obj* ClickAside(const Question& question) {
     return Tcl_NewObj();
 }
 
+/// Why a text is no value of a type.
+Tcl_Obj* Refusal(const Question& question) {
+    return NewText(WhyNoValue(static_cast<ZNBROWSER_DATA_TYPE>(question.numbers[0]), question.text));
+}
+
 Tcl_Obj* Trouble(const Question& question) { return NewText(question.window.Rows().TakeTrouble()); }
 
 struct TkWord {
@@ -224,6 +229,7 @@ constexpr TkWord tkWords[] = {
     {"popup", "NUMBER", 0, false, Popup},
     {"position", "NUMBER INDEX", 1, false, Position},
     {"prune", "NUMBER", 0, false, Prune},
+    {"refusal", "NUMBER TYPE TEXT", 1, true, Refusal},
     {"selected", "NUMBER", 0, false, Selected},
     {"trouble", "NUMBER", 0, false, Trouble},
 };

@@ -21,6 +21,7 @@ namespace znhost {
 ///   popup NUMBER                what the popup menu shows that is open: a list as "app popup" answers it
 ///   aside NUMBER                there was a right click beside all rows: the next menu is about it
 ///   prune NUMBER                collapses whatever holds no selected row
+///   refusal NUMBER TYPE TEXT    why a text is no value of a type of input fields; "" when it is one
 ///   selected NUMBER             the Tk indices of the selected rows that are visible
 ///   begin NUMBER                what happens from now on is waited for by the user of that window
 ///   end                         until now; whether it was cancelled

@@ -5,10 +5,13 @@
 #include "window/window_list.h"
 
 #include <gtest/gtest.h>
+#include <tcl.h>
 
 #include <functional>
 #include <memory>
 #include <string>
+#include <tcl.h>
+#include <vector>
 
 namespace {
 
