@@ -4,7 +4,8 @@
 //   Trees and lists of the current folder; Selection and data items; Sorting and filtering;
 //   View operations; Windows; Window parts, events, callbacks, listeners; GUI maps; Find requests;
 //   Events of the Tk tree; Data controls; Simple data sources; Hierarchical data sources;
-//   Criteria and data properties; Data operations; Data references; Input fields; States; Popup menus.
+//   Criteria and data properties; Data operations; Data references; Input fields; States; Popup menus;
+//   Popup menu items; Objects that the host deletes on its own account.
 // The words in quotes behind an operation are those of the command that ends in it.
 #ifndef ZN_BROWSER_MANAGER_TCL_H
 #define ZN_BROWSER_MANAGER_TCL_H
@@ -1363,133 +1364,134 @@ public:
     // may have no popup menus: then whatever needs one by name, or all of them, fails and says so.
 
     /// Creates a menu, which has no items; an empty name and one that exists already are errors.
-    bool CreatePopupMenu(const char* name);
+    bool CreatePopupMenu(const char* name); ///< "view popupmenu create"
     /// Deletes a menu with its items. What showed it shows none.
-    bool DeletePopupMenu(const char* name);
+    bool DeletePopupMenu(const char* name); ///< "view popupmenu delete"
     /// Makes a menu and its first item current.
-    bool SetCurrentPopupMenu(const char* name);
+    bool SetCurrentPopupMenu(const char* name); ///< "view popupmenu current"
     /// Stores the menu; the item stays.
     void SetCurrentPopupMenu(znIBrowserPopupMenu* menu);
     /// The name of the current menu.
-    bool GetCurrentPopupMenu(znString& out);
+    bool GetCurrentPopupMenu(znString& out); ///< "view popupmenu current"
     /// Reads and clears the current menu. The item stays.
     znIBrowserPopupMenu* GetCurrentPopupMenuPtr() const;
     void ResetCurrentPopupMenu();
 
     /// All menus: a braced list.
-    bool GetPopupMenuNames(znString& out);
+    bool GetPopupMenuNames(znString& out); ///< "view popupmenu names"
     /// Set and read the Tcl procedure that is called before the current menu is shown, with the window, the
     /// column and the rows; "" for none. It is not looked for now.
-    bool SetPopupMenuPostScript(const char* procedure);
-    bool GetPopupMenuPostScript(znString& out);
+    bool SetPopupMenuPostScript(const char* procedure); ///< "view popupmenu onpost"
+    bool GetPopupMenuPostScript(znString& out);         ///< "view popupmenu onpost"
 
     /// Let the current view, folder or column, or a simple data source of the current data control, show the
     /// current menu in place of any other (true), or none (false). It is an error to disconnect what does not
     /// show the menu.
-    bool ConnectPopupMenuToView(bool connect);
-    bool ConnectPopupMenuToFreeFolder(bool connect);
-    bool ConnectPopupMenuToColumn(bool connect);
-    bool ConnectPopupMenuToDataSourceSimple(const char* name, bool connect);
+    bool ConnectPopupMenuToView(bool connect);       ///< "view popupmenu connect view", "disconnect view"
+    bool ConnectPopupMenuToFreeFolder(bool connect); ///< "... folder"
+    bool ConnectPopupMenuToColumn(bool connect);     ///< "... column"
+    bool ConnectPopupMenuToDataSourceSimple(const char* name, bool connect); ///< "... datasource"
 
     /// Where the current menu is shown: pairs of a kind ("view", "folder", "column" or "datasource") and a
     /// name, each a braced list in braces, in the order of the kinds. Cascades are not among them.
-    bool GetPopupMenuConnections(znString& out);
+    bool GetPopupMenuConnections(znString& out); ///< "view popupmenu connected"
 
     // ---- Popup menu items ----
     // Names are those of items of the current menu; what has no name works on the current item.
 
     /// Creates an item: at either end of the menu, before the current item (up) or behind it (down). An empty
     /// name and one that exists already are errors.
-    bool CreatePopupMenuItem(const char* name, ZNBROWSER_POPUP_PLACE place);
+    bool CreatePopupMenuItem(const char* name, ZNBROWSER_POPUP_PLACE place); ///< "view popupmenuitem create"
     /// Deletes an item.
-    bool DeletePopupMenuItem(const char* name);
+    bool DeletePopupMenuItem(const char* name); ///< "view popupmenuitem delete"
     /// Makes an item of the current menu current.
-    bool SetCurrentPopupMenuItem(const char* name);
+    bool SetCurrentPopupMenuItem(const char* name); ///< "view popupmenuitem current"
     /// Stores the item.
     void SetCurrentPopupMenuItem(znIBrowserPopupMenuItem* item);
     /// Makes the first item of that menu current; none for null.
     void UpdateCurrentPopupMenuItem(znIBrowserPopupMenu* menu);
     /// The name of the current item.
-    bool GetCurrentPopupMenuItem(znString& out);
+    bool GetCurrentPopupMenuItem(znString& out); ///< "view popupmenuitem current"
     /// Reads and clears the current item.
     znIBrowserPopupMenuItem* GetCurrentPopupMenuItemPtr() const;
     void ResetCurrentPopupMenuItem();
 
     /// The items of the current menu, in the order shown: a braced list.
-    bool GetPopupMenuItemNames(znString& out);
+    bool GetPopupMenuItemNames(znString& out); ///< "view popupmenuitem names"
     /// Moves the item to an end of its menu, or one up or down; one that is there already stays. The current
     /// menu must hold it.
-    bool MovePopupMenuItem(ZNBROWSER_POPUP_PLACE place);
+    bool MovePopupMenuItem(ZNBROWSER_POPUP_PLACE place); ///< "view popupmenuitem move", "moveup", "movedown"
     /// Moves the item to a place, counted from 0; one that does not exist is an error.
-    bool MovePopupMenuItemTo(int place);
+    bool MovePopupMenuItemTo(int place); ///< "view popupmenuitem moveto"
 
     /// Set and read what the item's entry says.
-    bool SetPopupMenuItemCaption(const char* caption);
-    bool GetPopupMenuItemCaption(znString& out);
+    bool SetPopupMenuItemCaption(const char* caption); ///< "view popupmenuitem caption"
+    bool GetPopupMenuItemCaption(znString& out);       ///< "view popupmenuitem caption"
     /// Set and read its bubble help; "" for none.
-    bool SetPopupMenuItemHelp(const char* help);
-    bool GetPopupMenuItemHelp(znString& out);
+    bool SetPopupMenuItemHelp(const char* help); ///< "view popupmenuitem help"
+    bool GetPopupMenuItemHelp(znString& out);    ///< "view popupmenuitem help"
     /// Set and read its description; "" for none.
-    bool SetPopupMenuItemDescription(const char* description);
-    bool GetPopupMenuItemDescription(znString& out);
+    bool SetPopupMenuItemDescription(const char* description); ///< "view popupmenuitem description"
+    bool GetPopupMenuItemDescription(znString& out);           ///< "view popupmenuitem description"
     /// Set and read the file of its picture; "" for none.
-    bool SetPopupMenuItemIcon(const char* file);
-    bool GetPopupMenuItemIcon(znString& out);
+    bool SetPopupMenuItemIcon(const char* file); ///< "view popupmenuitem icon"
+    bool GetPopupMenuItemIcon(znString& out);    ///< "view popupmenuitem icon"
     /// Set and read whether it is a line.
-    bool SetPopupMenuItemSeparator(bool separator);
-    bool GetPopupMenuItemSeparator(znString& out);
+    bool SetPopupMenuItemSeparator(bool separator); ///< "view popupmenuitem separator"
+    bool GetPopupMenuItemSeparator(znString& out);  ///< "view popupmenuitem separator"
     /// Set and read whether it has a check box. One that has none is not checked.
-    bool SetPopupMenuItemCheckable(bool checkable);
-    bool GetPopupMenuItemCheckable(znString& out);
+    bool SetPopupMenuItemCheckable(bool checkable); ///< "view popupmenuitem checkable"
+    bool GetPopupMenuItemCheckable(znString& out);  ///< "view popupmenuitem checkable"
     /// Set and read whether its check box is ticked. To tick one that is not checkable is an error.
-    bool SetPopupMenuItemChecked(bool checked);
-    bool GetPopupMenuItemChecked(znString& out);
+    bool SetPopupMenuItemChecked(bool checked);  ///< "view popupmenuitem checked"
+    bool GetPopupMenuItemChecked(znString& out); ///< "view popupmenuitem checked"
     /// Set and read whether it is switched on, or off: greyed.
-    bool SetPopupMenuItemEnabled(bool enabled);
-    bool GetPopupMenuItemEnabled(znString& out);
-    bool SetPopupMenuItemDisabled(bool disabled);
-    bool GetPopupMenuItemDisabled(znString& out);
+    bool SetPopupMenuItemEnabled(bool enabled);   ///< "view popupmenuitem enable"
+    bool GetPopupMenuItemEnabled(znString& out);  ///< "view popupmenuitem enable"
+    bool SetPopupMenuItemDisabled(bool disabled); ///< "view popupmenuitem disabled"
+    bool GetPopupMenuItemDisabled(znString& out); ///< "view popupmenuitem disabled"
     /// Set and read whether it is shown at all.
-    bool SetPopupMenuItemVisible(bool visible);
-    bool GetPopupMenuItemVisible(znString& out);
+    bool SetPopupMenuItemVisible(bool visible);  ///< "view popupmenuitem visible"
+    bool GetPopupMenuItemVisible(znString& out); ///< "view popupmenuitem visible"
     /// Set and read whether it can be chosen only while exactly one row is selected.
-    bool SetPopupMenuItemOnSingleItem(bool single);
-    bool GetPopupMenuItemOnSingleItem(znString& out);
+    bool SetPopupMenuItemOnSingleItem(bool single);   ///< "view popupmenuitem onsingleitem"
+    bool GetPopupMenuItemOnSingleItem(znString& out); ///< "view popupmenuitem onsingleitem"
     /// Set and read whether it is offered on rows of folders, too.
-    bool SetPopupMenuItemShowOnFolder(bool show);
-    bool GetPopupMenuItemShowOnFolder(znString& out);
+    bool SetPopupMenuItemShowOnFolder(bool show);     ///< "view popupmenuitem showonfolder"
+    bool GetPopupMenuItemShowOnFolder(znString& out); ///< "view popupmenuitem showonfolder"
 
     /// Set and read the menu that the item opens; null and "" for none. A menu that would come to stand
     /// inside itself, at any depth, is an error, whose text names the way.
-    bool SetPopupMenuItemCascade(const char* name);
-    bool GetPopupMenuItemCascade(znString& out);
+    bool SetPopupMenuItemCascade(const char* name); ///< "view popupmenuitem cascade"
+    bool GetPopupMenuItemCascade(znString& out);    ///< "view popupmenuitem cascade"
     /// Set and read for which data sources the item stands, one entry each: the simple or the hierarchical
     /// ones of the view, with `all` of the data control. Reads "simple", "simple all", "hierarchical",
     /// "hierarchical all" or "".
-    bool SetPopupMenuItemContainer(ZNBROWSER_POPUP_CONTAINER container, bool all);
-    bool GetPopupMenuItemContainer(znString& out);
+    bool SetPopupMenuItemContainer(ZNBROWSER_POPUP_CONTAINER container,
+                                   bool all);      ///< "view popupmenuitem container"
+    bool GetPopupMenuItemContainer(znString& out); ///< "view popupmenuitem container"
     /// Set and read what choosing the item does, by name: a view operation, a data operation, and a Tcl
     /// procedure that is called with the window, the item, the rows and the value; "" for none. They are
     /// looked for when the item is performed.
-    bool SetPopupMenuItemOperation(const char* name);
-    bool GetPopupMenuItemOperation(znString& out);
-    bool SetPopupMenuItemDataOperation(const char* name);
-    bool GetPopupMenuItemDataOperation(znString& out);
-    bool SetPopupMenuItemScript(const char* procedure);
-    bool GetPopupMenuItemScript(znString& out);
+    bool SetPopupMenuItemOperation(const char* name);     ///< "view popupmenuitem operation"
+    bool GetPopupMenuItemOperation(znString& out);        ///< "view popupmenuitem operation"
+    bool SetPopupMenuItemDataOperation(const char* name); ///< "view popupmenuitem dataoperation"
+    bool GetPopupMenuItemDataOperation(znString& out);    ///< "view popupmenuitem dataoperation"
+    bool SetPopupMenuItemScript(const char* procedure);   ///< "view popupmenuitem script"
+    bool GetPopupMenuItemScript(znString& out);           ///< "view popupmenuitem script"
     /// Set and read the Tcl procedure that is called first, in the same way: when it answers false, nothing
     /// is done. "" for none.
-    bool SetPopupMenuItemPreOperation(const char* procedure);
-    bool GetPopupMenuItemPreOperation(znString& out);
+    bool SetPopupMenuItemPreOperation(const char* procedure); ///< "view popupmenuitem preoperation"
+    bool GetPopupMenuItemPreOperation(znString& out);         ///< "view popupmenuitem preoperation"
     /// Set and read the input fields whose values the user is asked for before the item is performed: a
     /// braced list. They are looked for then.
-    bool SetPopupMenuItemUserInput(const std::vector<znString>& fields);
-    bool GetPopupMenuItemUserInput(znString& out);
+    bool SetPopupMenuItemUserInput(const std::vector<znString>& fields); ///< "view popupmenuitem userinput"
+    bool GetPopupMenuItemUserInput(znString& out);                       ///< "view popupmenuitem userinput"
     /// Performs the item on the selected rows of the current window, as a click on it does, see
     /// `znIBrowserPopupMenuItem::Perform`. `value` is the new check state, the data source of a container, or
     /// what the procedures are to be given; null and "" for none: then a checkable item is turned over. True,
     /// too, when the pre-operation or the user called it off; an error that scripts leave is forgotten.
-    bool PerformPopupMenuItem(const char* value);
+    bool PerformPopupMenuItem(const char* value); ///< "view popupmenuitem perform"
 
     // ---- Objects that the host deletes on its own account ----
     // The manager hears of no deletion but those that it asks for. So a host says of each other one, while

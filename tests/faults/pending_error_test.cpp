@@ -57,8 +57,6 @@ view flush false
 view flush true
 view folder createexpanded unit
 view operation names
-view popupmenu
-view popupmenuitem
 view property connect script value
 view property delete
 view property type

@@ -30,7 +30,7 @@ constexpr char makeAllCurrent[] = R"(
         {window part create x} {window part event current SELECTION_CHANGED}
         {window part event callback create told script} {window find property add p}
         {window find property current p} {window find property criterion current value}
-        {app state create m st} {state current st}
+        {app state create m st} {state current st} {view popupmenu create menu} {view popupmenuitem create i}
     } {
         set answer [znbrowsermanager {*}$words]
         if {[string match {\[Command\]*} $answer]} {error $answer}
@@ -86,6 +86,8 @@ TEST_F(CurrentObjects, AreReadClearedAndStored) {
     EXPECT_KEPT(DataOperation);
     EXPECT_KEPT(InputField);
     EXPECT_KEPT(State);
+    EXPECT_KEPT(PopupMenu);
+    EXPECT_KEPT(PopupMenuItem);
 #undef EXPECT_KEPT
     ExpectKept(manager, "WindowPart", &Manager::GetCurrentWindowPartPtr, &Manager::SetCurrentWindowPartByPtr,
                &Manager::ResetCurrentWindowPart);
@@ -97,14 +99,13 @@ TEST_F(CurrentObjects, AreReadClearedAndStored) {
                &Manager::SetCurrentFindRequestPropertyCriterionByPtr,
                &Manager::ResetCurrentFindRequestPropertyCriterion);
 
-    // Each kind was among them, but for those whose setters take no null, and the menus, which the host
-    // lacks.
+    // Each kind was among them, but for those whose setters take no null.
     std::string missing;
     const znBrowserCurrentObjects& current = znlayer::CurrentAccess::Of(manager);
     znlayer::ForEachCurrentKind([&](const auto& kind) {
         if (lookedAt.count(current.*kind.member) == 0) missing += std::string(kind.name) + "; ";
     });
-    EXPECT_EQ(missing, "popup menu; popup menu item; connect data source simple; data source hierarchical; ");
+    EXPECT_EQ(missing, "connect data source simple; data source hierarchical; ");
 }
 
 TEST_F(CurrentObjects, DataSourcesStayWhenNoneIsGiven) {
@@ -193,7 +194,8 @@ TEST_F(CurrentObjects, GoWithWhatTheHostDeletesByItself) {
     EXPECT_FORGOTTEN(DataOperation, "data operation; ");
     EXPECT_FORGOTTEN(InputField, "input field; ");
     EXPECT_FORGOTTEN(State, "state; ");
-    EXPECT_FORGOTTEN(PopupMenu, ""); // none is current
+    EXPECT_FORGOTTEN(PopupMenu, "popup menu; popup menu item; ");
+    EXPECT_FORGOTTEN(PopupMenuItem, "popup menu item; ");
 #undef EXPECT_FORGOTTEN
 }
 
@@ -211,34 +213,6 @@ TEST_F(CurrentObjects, StayWhenTheHostDeletesOthers) {
     EXPECT_EQ(ForgottenWith(manager, window), "");
     EXPECT_EQ(ForgottenWith(manager, request), "");
     EXPECT_EQ(ForgottenWith(manager, host.App().FindDataCtrl("other")), "");
-}
-
-TEST_F(CurrentObjects, PopupMenusAreTheHosts) {
-    struct Menu final : znIBrowserPopupMenu, znIBrowserPopupMenuItem {
-        const char* GetName() const override { return name; }
-        const char* name = "menu";
-    } menu;
-    znString name;
-    manager.SetCurrentPopupMenu(&menu);
-    manager.SetCurrentPopupMenuItem(&menu);
-    EXPECT_TRUE(manager.GetCurrentPopupMenu(name));
-    EXPECT_EQ(name, "menu");
-    EXPECT_TRUE(manager.GetCurrentPopupMenuItem(name));
-    menu.name = nullptr;
-    EXPECT_TRUE(manager.GetCurrentPopupMenuItem(name));
-    EXPECT_EQ(name, "");
-    EXPECT_EQ(manager.GetCurrentPopupMenuPtr(), &menu);
-    EXPECT_EQ(manager.GetCurrentPopupMenuItemPtr(), &menu);
-    EXPECT_EQ(ForgottenWith<znIBrowserPopupMenuItem>(manager, &menu), "popup menu item; ");
-    EXPECT_EQ(ForgottenWith<znIBrowserPopupMenu>(manager, &menu), "popup menu; popup menu item; ");
-    manager.ResetCurrentPopupMenu();
-    manager.ResetCurrentPopupMenuItem();
-    EXPECT_EQ(manager.GetCurrentPopupMenuPtr(), nullptr);
-    EXPECT_EQ(manager.GetCurrentPopupMenuItemPtr(), nullptr);
-    EXPECT_FALSE(manager.GetCurrentPopupMenu(name));
-    EXPECT_EQ(manager.GetErrorText(), "Cannot get name of the current popup menu");
-    EXPECT_FALSE(manager.GetCurrentPopupMenuItem(name));
-    EXPECT_EQ(manager.GetErrorText(), "Cannot get name of the current popup menu item");
 }
 
 /// One written before there were any operations but the name.
@@ -265,6 +239,7 @@ TEST_F(CurrentObjects, AnOldPopupMenuSupportsNothing) {
     }
     EXPECT_TRUE(manager.GetPopupMenuItemEnabled(text));
     EXPECT_EQ(text, "false");
+    EXPECT_EQ(ForgottenWith<znIBrowserPopupMenu>(manager, &menu), "popup menu; popup menu item; ");
     manager.UpdateCurrentPopupMenuItem(&menu);
     EXPECT_EQ(manager.GetCurrentPopupMenuItemPtr(), nullptr);
     manager.ResetCurrentPopupMenu();

@@ -60,6 +60,7 @@ static_assert(answersAll<znBrowserGuiMapDefaults>);
 static_assert(answersAll<znBrowserGuiMapListDefaults>);
 static_assert(answersAll<znBrowserInputFieldDefaults>);
 static_assert(answersAll<znBrowserPopupMenuDefaults>);
+static_assert(answersAll<znBrowserPopupMenuListDefaults>);
 static_assert(answersAll<znBrowserPopupMenuItemDefaults>);
 static_assert(answersAll<znBrowserStateDefaults>);
 static_assert(answersAll<znBrowserStateContainerDefaults>);

@@ -4,6 +4,8 @@
 
 #include "../znIBrowserPopupMenu.h"
 
+#include <vector>
+
 /// `znIBrowserPopupMenu` for hosts that have a part of it: override what there is.
 class znBrowserPopupMenuDefaults : public znIBrowserPopupMenu {
 public:
@@ -11,6 +13,16 @@ public:
 
 protected:
     ~znBrowserPopupMenuDefaults() = default;
+};
+
+/// `znIBrowserPopupMenuList` for hosts that have a part of it: override what there is.
+class znBrowserPopupMenuListDefaults : public znIBrowserPopupMenuList {
+public:
+    znIBrowserPopupMenu* FindPopupMenu(const char*) override { return nullptr; }
+    bool GetPopupMenus(std::vector<znIBrowserPopupMenu*>&) override { return false; }
+
+protected:
+    ~znBrowserPopupMenuListDefaults() = default;
 };
 
 #endif
