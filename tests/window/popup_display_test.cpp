@@ -5,6 +5,7 @@
 #include "window/window_list.h"
 
 #include <gtest/gtest.h>
+#include <tcl.h>
 
 #include <functional>
 #include <memory>
