@@ -9,7 +9,8 @@ proc ::znbrowser::copy {text} {
 proc ::znbrowser::cellText {n row column} {
     upvar #0 ::znbrowser::window$n w
     set number [lsearch -exact [lmap each $w(columns) {dict get $each name}] $column]
-    return [expr {$number < 0 ? "" : [textOfCell $n $row $number]}]
+    if {$number < 0} return
+    return [textOfCell $n $row $number]
 }
 
 proc ::znbrowser::textOfCell {n row number} {

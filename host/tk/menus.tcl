@@ -88,7 +88,8 @@ proc ::znbrowser::showMenu {n index column rootX rootY} {
 # The row of a Tk index; empty when there is none any more.
 proc ::znbrowser::rowOfIndex {n index} {
     set position [host position $n $index]
-    return [expr {$position < 0 ? "" : [rowAt $n $position]}]
+    if {$position < 0} return
+    return [rowAt $n $position]
 }
 
 proc ::znbrowser::fillMenu {n row column} {

@@ -5,6 +5,8 @@
 #include "app/row_app_commands.h"
 #include "base/tcl_values.h"
 #include "base/text.h"
+#include "host/znBrowserDataItems.h"
+#include "host/znIBrowserDataSourceSimple.h"
 #include "model/popup_menu.h"
 #include "model/view.h"
 #include "tk/tk_windows.h"
@@ -204,6 +206,16 @@ Tcl_Obj* ClickAside(const Question& question) {
     return Tcl_NewObj();
 }
 
+/// The item that a row stands for: the name of its data source, and its number there. Empty for other rows.
+Tcl_Obj* Item(const Question& question) {
+    RowModel& rows = question.window.Rows();
+    const RowModel::Answering answering(rows);
+    znBrowserDataItem item;
+    const auto index = static_cast<std::uint32_t>(question.numbers[0]);
+    if (!rows.Has(index) || !rows.GetItem(index, item)) return Tcl_NewObj();
+    return ListOf({NewText(item.source->GetName()), Tcl_NewWideIntObj(item.row)});
+}
+
 /// Why a text is no value of a type.
 Tcl_Obj* Refusal(const Question& question) {
     return NewText(WhyNoValue(static_cast<ZNBROWSER_DATA_TYPE>(question.numbers[0]), question.text));
@@ -224,6 +236,7 @@ constexpr TkWord tkWords[] = {
     {"count", "NUMBER", 0, false, Count},
     {"find", "NUMBER FIRST TEXT", 1, true, FindBeginning},
     {"indices", "NUMBER FIRST COUNT", 2, false, Indices},
+    {"item", "NUMBER INDEX", 1, false, Item},
     {"look", "NUMBER", 0, false, Look},
     {"page", "NUMBER FIRST COUNT", 2, false, Page},
     {"popup", "NUMBER", 0, false, Popup},
