@@ -42,3 +42,9 @@ function(zn_shared_library target name)
         target_link_options(${target} PRIVATE -Wl,-z,defs)
     endif()
 endfunction()
+
+# The Tcl package that checks a host: scripts alone.
+set(folder "${PROJECT_SOURCE_DIR}/packaging/hostcheck")
+configure_file("${folder}/pkgIndex.tcl.in" "${PROJECT_BINARY_DIR}/hostcheck/pkgIndex.tcl" @ONLY)
+install(FILES "${folder}/hostcheck.tcl" "${folder}/promises.tcl" "${PROJECT_BINARY_DIR}/hostcheck/pkgIndex.tcl"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/tcltk/znbrowser_hostcheck${PROJECT_VERSION}" COMPONENT development)
