@@ -9,6 +9,8 @@ set(CMAKE_MODULE_LINKER_FLAGS "${CMAKE_MODULE_LINKER_FLAGS} -Wl,--build-id")
 
 add_custom_target(installed)
 
+option(ZN_PACKAGE "Prepare Debian packages; wants the prefix /usr, and CMAKE_SKIP_INSTALL_RPATH" OFF)
+
 # zn_install(TARGET COMPONENT KIND RPATH ?DESTINATION FOLDER?): installs a binary, and apart from it what was
 # stripped off.
 function(zn_install target component kind rpath)
@@ -40,6 +42,23 @@ function(zn_shared_library target name)
     target_link_options(${target} PRIVATE "-Wl,--version-script=${map}" -Wl,-z,nodelete)
     if(NOT (ZN_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES Clang)) # whose runtime is in the program only
         target_link_options(${target} PRIVATE -Wl,-z,defs)
+    endif()
+endfunction()
+
+# zn_install_manual(FILE COMPONENT): installs a manual page in the folder of its section. In Debian pages are
+# compressed, and those of section n stand in 3tcl.
+function(zn_install_manual file component)
+    get_filename_component(page "${file}" NAME)
+    string(REGEX MATCH "[^.]$" section "${page}")
+    if(ZN_PACKAGE AND section STREQUAL n)
+        string(REGEX REPLACE "n$" "3tcl" page "${page}")
+        set(section 3)
+    endif()
+    set(folder "${CMAKE_INSTALL_MANDIR}/man${section}")
+    install(FILES "${file}" DESTINATION "${folder}" RENAME "${page}" COMPONENT ${component})
+    if(ZN_PACKAGE)
+        install(CODE "execute_process(COMMAND_ERROR_IS_FATAL ANY COMMAND gzip -9nf
+            \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${folder}/${page}\")" COMPONENT ${component})
     endif()
 endfunction()
 

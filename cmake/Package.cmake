@@ -4,7 +4,6 @@ set(docs share/doc/znBrowserScripting)
 install(FILES README.md CHANGELOG.md DESTINATION "${docs}" COMPONENT documentation)
 install(DIRECTORY doc examples DESTINATION "${docs}" COMPONENT documentation)
 
-option(ZN_PACKAGE "Prepare Debian packages; wants the prefix /usr, and CMAKE_SKIP_INSTALL_RPATH" OFF)
 if(NOT ZN_PACKAGE)
     return()
 endif()

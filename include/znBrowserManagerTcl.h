@@ -1359,24 +1359,137 @@ public:
     bool GetConfigData(std::vector<znString>& lines); ///< "state data"
 
     // ---- Popup menus ----
-    // Kept as current objects here; the host serves them. The names are "" without a current object.
+    // The menus that users get on a right click. With a menu its first item becomes current, or none. A host
+    // may have no popup menus: then whatever needs one by name, or all of them, fails and says so.
 
-    /// The current menu, or null.
-    znIBrowserPopupMenu* GetCurrentPopupMenuPtr() const;
-    /// Stores the menu.
+    /// Creates a menu, which has no items; an empty name and one that exists already are errors.
+    bool CreatePopupMenu(const char* name);
+    /// Deletes a menu with its items. What showed it shows none.
+    bool DeletePopupMenu(const char* name);
+    /// Makes a menu and its first item current.
+    bool SetCurrentPopupMenu(const char* name);
+    /// Stores the menu; the item stays.
     void SetCurrentPopupMenu(znIBrowserPopupMenu* menu);
-    /// The name of the current menu. Never fails.
+    /// The name of the current menu.
     bool GetCurrentPopupMenu(znString& out);
-    /// Clears the current menu; the item stays.
+    /// Reads and clears the current menu. The item stays.
+    znIBrowserPopupMenu* GetCurrentPopupMenuPtr() const;
     void ResetCurrentPopupMenu();
-    /// The current menu item, or null.
-    znIBrowserPopupMenuItem* GetCurrentPopupMenuItemPtr() const;
-    /// Stores the menu item.
+
+    /// All menus: a braced list.
+    bool GetPopupMenuNames(znString& out);
+    /// Set and read the Tcl procedure that is called before the current menu is shown, with the window, the
+    /// column and the rows; "" for none. It is not looked for now.
+    bool SetPopupMenuPostScript(const char* procedure);
+    bool GetPopupMenuPostScript(znString& out);
+
+    /// Let the current view, folder or column, or a simple data source of the current data control, show the
+    /// current menu in place of any other (true), or none (false). It is an error to disconnect what does not
+    /// show the menu.
+    bool ConnectPopupMenuToView(bool connect);
+    bool ConnectPopupMenuToFreeFolder(bool connect);
+    bool ConnectPopupMenuToColumn(bool connect);
+    bool ConnectPopupMenuToDataSourceSimple(const char* name, bool connect);
+
+    /// Where the current menu is shown: pairs of a kind ("view", "folder", "column" or "datasource") and a
+    /// name, each a braced list in braces, in the order of the kinds. Cascades are not among them.
+    bool GetPopupMenuConnections(znString& out);
+
+    // ---- Popup menu items ----
+    // Names are those of items of the current menu; what has no name works on the current item.
+
+    /// Creates an item: at either end of the menu, before the current item (up) or behind it (down). An empty
+    /// name and one that exists already are errors.
+    bool CreatePopupMenuItem(const char* name, ZNBROWSER_POPUP_PLACE place);
+    /// Deletes an item.
+    bool DeletePopupMenuItem(const char* name);
+    /// Makes an item of the current menu current.
+    bool SetCurrentPopupMenuItem(const char* name);
+    /// Stores the item.
     void SetCurrentPopupMenuItem(znIBrowserPopupMenuItem* item);
-    /// The name of the current menu item. Never fails.
+    /// Makes the first item of that menu current; none for null.
+    void UpdateCurrentPopupMenuItem(znIBrowserPopupMenu* menu);
+    /// The name of the current item.
     bool GetCurrentPopupMenuItem(znString& out);
-    /// Clears the current menu item.
+    /// Reads and clears the current item.
+    znIBrowserPopupMenuItem* GetCurrentPopupMenuItemPtr() const;
     void ResetCurrentPopupMenuItem();
+
+    /// The items of the current menu, in the order shown: a braced list.
+    bool GetPopupMenuItemNames(znString& out);
+    /// Moves the item to an end of its menu, or one up or down; one that is there already stays. The current
+    /// menu must hold it.
+    bool MovePopupMenuItem(ZNBROWSER_POPUP_PLACE place);
+    /// Moves the item to a place, counted from 0; one that does not exist is an error.
+    bool MovePopupMenuItemTo(int place);
+
+    /// Set and read what the item's entry says.
+    bool SetPopupMenuItemCaption(const char* caption);
+    bool GetPopupMenuItemCaption(znString& out);
+    /// Set and read its bubble help; "" for none.
+    bool SetPopupMenuItemHelp(const char* help);
+    bool GetPopupMenuItemHelp(znString& out);
+    /// Set and read its description; "" for none.
+    bool SetPopupMenuItemDescription(const char* description);
+    bool GetPopupMenuItemDescription(znString& out);
+    /// Set and read the file of its picture; "" for none.
+    bool SetPopupMenuItemIcon(const char* file);
+    bool GetPopupMenuItemIcon(znString& out);
+    /// Set and read whether it is a line.
+    bool SetPopupMenuItemSeparator(bool separator);
+    bool GetPopupMenuItemSeparator(znString& out);
+    /// Set and read whether it has a check box. One that has none is not checked.
+    bool SetPopupMenuItemCheckable(bool checkable);
+    bool GetPopupMenuItemCheckable(znString& out);
+    /// Set and read whether its check box is ticked. To tick one that is not checkable is an error.
+    bool SetPopupMenuItemChecked(bool checked);
+    bool GetPopupMenuItemChecked(znString& out);
+    /// Set and read whether it is switched on, or off: greyed.
+    bool SetPopupMenuItemEnabled(bool enabled);
+    bool GetPopupMenuItemEnabled(znString& out);
+    bool SetPopupMenuItemDisabled(bool disabled);
+    bool GetPopupMenuItemDisabled(znString& out);
+    /// Set and read whether it is shown at all.
+    bool SetPopupMenuItemVisible(bool visible);
+    bool GetPopupMenuItemVisible(znString& out);
+    /// Set and read whether it can be chosen only while exactly one row is selected.
+    bool SetPopupMenuItemOnSingleItem(bool single);
+    bool GetPopupMenuItemOnSingleItem(znString& out);
+    /// Set and read whether it is offered on rows of folders, too.
+    bool SetPopupMenuItemShowOnFolder(bool show);
+    bool GetPopupMenuItemShowOnFolder(znString& out);
+
+    /// Set and read the menu that the item opens; null and "" for none. A menu that would come to stand
+    /// inside itself, at any depth, is an error, whose text names the way.
+    bool SetPopupMenuItemCascade(const char* name);
+    bool GetPopupMenuItemCascade(znString& out);
+    /// Set and read for which data sources the item stands, one entry each: the simple or the hierarchical
+    /// ones of the view, with `all` of the data control. Reads "simple", "simple all", "hierarchical",
+    /// "hierarchical all" or "".
+    bool SetPopupMenuItemContainer(ZNBROWSER_POPUP_CONTAINER container, bool all);
+    bool GetPopupMenuItemContainer(znString& out);
+    /// Set and read what choosing the item does, by name: a view operation, a data operation, and a Tcl
+    /// procedure that is called with the window, the item, the rows and the value; "" for none. They are
+    /// looked for when the item is performed.
+    bool SetPopupMenuItemOperation(const char* name);
+    bool GetPopupMenuItemOperation(znString& out);
+    bool SetPopupMenuItemDataOperation(const char* name);
+    bool GetPopupMenuItemDataOperation(znString& out);
+    bool SetPopupMenuItemScript(const char* procedure);
+    bool GetPopupMenuItemScript(znString& out);
+    /// Set and read the Tcl procedure that is called first, in the same way: when it answers false, nothing
+    /// is done. "" for none.
+    bool SetPopupMenuItemPreOperation(const char* procedure);
+    bool GetPopupMenuItemPreOperation(znString& out);
+    /// Set and read the input fields whose values the user is asked for before the item is performed: a
+    /// braced list. They are looked for then.
+    bool SetPopupMenuItemUserInput(const std::vector<znString>& fields);
+    bool GetPopupMenuItemUserInput(znString& out);
+    /// Performs the item on the selected rows of the current window, as a click on it does, see
+    /// `znIBrowserPopupMenuItem::Perform`. `value` is the new check state, the data source of a container, or
+    /// what the procedures are to be given; null and "" for none: then a checkable item is turned over. True,
+    /// too, when the pre-operation or the user called it off; an error that scripts leave is forgotten.
+    bool PerformPopupMenuItem(const char* value);
 
     // ---- Objects that the host deletes on its own account ----
     // The manager hears of no deletion but those that it asks for. So a host says of each other one, while

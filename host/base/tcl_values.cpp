@@ -18,4 +18,8 @@ Tcl_Obj* NewList(const std::vector<std::string>& words) {
     return list;
 }
 
+void Put(Tcl_Obj* dictionary, const char* key, Tcl_Obj* value) {
+    Tcl_DictObjPut(nullptr, dictionary, Tcl_NewStringObj(key, -1), value);
+}
+
 } // namespace znhost

@@ -12,7 +12,7 @@ namespace znhost {
 namespace {
 
 /// Rows come last: by then it is decided what the folders show.
-constexpr const std::vector<SettingKind>& (*allKinds[])() = {FolderKinds, ViewKinds, GuiMapKinds,
+constexpr const std::vector<SettingKind>& (*allKinds[])() = {FolderKinds, ViewKinds, GuiMapKinds, PopupKinds,
                                                              WindowKinds};
 
 /// While one lives the windows do not hear of changes.

@@ -1,6 +1,7 @@
 #include "tk/tk_words.h"
 
 #include "app/application.h"
+#include "app/popup_app_commands.h"
 #include "app/row_app_commands.h"
 #include "base/tcl_values.h"
 #include "base/text.h"
@@ -25,10 +26,6 @@ Tcl_Obj* ListOf(std::initializer_list<Tcl_Obj*> objects) {
 }
 
 void Append(Tcl_Obj* list, Tcl_Obj* object) { Tcl_ListObjAppendElement(nullptr, list, object); }
-
-void Put(Tcl_Obj* dictionary, const char* key, Tcl_Obj* value) {
-    Tcl_DictObjPut(nullptr, dictionary, Tcl_NewStringObj(key, -1), value);
-}
 
 Tcl_Obj* NewIndices(const std::vector<std::uint32_t>& indices) {
     Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
@@ -198,6 +195,15 @@ Tcl_Obj* Count(const Question& question) {
     return Tcl_NewBooleanObj(question.window.Rows().IsUncounted());
 }
 
+/// The entries of the popup menu that is open.
+Tcl_Obj* Popup(const Question& question) { return NewPopupEntries(question.window.Popup().Entries()); }
+
+/// A right click beside all rows.
+Tcl_Obj* ClickAside(const Question& question) {
+    question.window.Popup().SetClick({});
+    return Tcl_NewObj();
+}
+
 Tcl_Obj* Trouble(const Question& question) { return NewText(question.window.Rows().TakeTrouble()); }
 
 struct TkWord {
@@ -209,11 +215,13 @@ struct TkWord {
 };
 
 constexpr TkWord tkWords[] = {
+    {"aside", "NUMBER", 0, false, ClickAside},
     {"count", "NUMBER", 0, false, Count},
     {"find", "NUMBER FIRST TEXT", 1, true, FindBeginning},
     {"indices", "NUMBER FIRST COUNT", 2, false, Indices},
     {"look", "NUMBER", 0, false, Look},
     {"page", "NUMBER FIRST COUNT", 2, false, Page},
+    {"popup", "NUMBER", 0, false, Popup},
     {"position", "NUMBER INDEX", 1, false, Position},
     {"prune", "NUMBER", 0, false, Prune},
     {"selected", "NUMBER", 0, false, Selected},

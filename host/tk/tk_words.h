@@ -18,6 +18,8 @@ namespace znhost {
 ///                               whether it can be expanded, bold, italic, icon, cells. A cell is a list: the
 ///                               number of its column, then its elements, each a list: kind, text, colour,
 ///                               name. Columns are counted from 0, hidden ones too.
+///   popup NUMBER                what the popup menu shows that is open: a list as "app popup" answers it
+///   aside NUMBER                there was a right click beside all rows: the next menu is about it
 ///   prune NUMBER                collapses whatever holds no selected row
 ///   selected NUMBER             the Tk indices of the selected rows that are visible
 ///   begin NUMBER                what happens from now on is waited for by the user of that window

@@ -18,6 +18,8 @@ class znIBrowserEvent;
 class znIBrowserFindRequest;
 class znIBrowserGuiMap;
 class znIBrowserGuiMapList;
+class znIBrowserPopupMenu;
+class znIBrowserPopupMenuList;
 class znIBrowserState;
 class znIBrowserStyle;
 class znIBrowserView;
@@ -334,6 +336,15 @@ public:
     /// Takes entities out of the state; in the same way.
     virtual bool RemoveStateEntities(znIBrowserDataCtrl* control, znIBrowserState* state,
                                      const std::vector<znString>& entities) = 0;
+
+    // Popup menus. A host that has none overrides none of these; see `znIBrowserPopupMenu`.
+    /// The list of all popup menus; null in a host that has none.
+    virtual znIBrowserPopupMenuList* GetPopupMenuList() { return nullptr; }
+    /// Makes a popup menu without items. The layer has made sure that the name is neither taken nor empty.
+    virtual bool CreatePopupMenu(const char* /*name*/) { return false; }
+    /// Deletes a popup menu with its items. What showed it, cascades of other menus included, shows none. One
+    /// that is open in a window is closed. Scripts may run.
+    virtual bool DeletePopupMenu(znIBrowserPopupMenu* /*menu*/) { return false; }
 
 protected:
     ~znIBrowser() = default;

@@ -13,6 +13,7 @@ class znIBrowserDataSource;
 class znIBrowserDataSourceHierarchical;
 class znIBrowserDataSourceSimple;
 class znIBrowserFindRequest;
+class znIBrowserPopupMenu;
 class znIBrowserViewColumn;
 class znIBrowserViewItemFreeFolder;
 class znIBrowserViewOperation;
@@ -127,6 +128,15 @@ public:
     virtual bool GetFilterMatchWord() const = 0;
     /// Lets the filter find whole words only, or parts of words too.
     virtual bool SetFilterMatchWord(bool matchWord) = 0;
+
+    // Popup menu, and what its items perform.
+    /// The popup menu of the view's rows, where nothing nearer has one; null for none.
+    virtual znIBrowserPopupMenu* GetPopupMenu() { return nullptr; }
+    /// Gives the rows the popup menu of that name, which exists; "" for none.
+    virtual bool SetPopupMenu(const char* /*name*/) { return false; }
+    /// All view operations, in the host's order. They are only listed to people who type a name of one; the
+    /// text of a refusal is not read.
+    virtual bool GetViewOperations(std::vector<znIBrowserViewOperation*>& /*operations*/) { return false; }
 
 protected:
     ~znIBrowserView() = default;

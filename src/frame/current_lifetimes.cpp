@@ -9,6 +9,8 @@
 #include "host/znIBrowserDataSourceSimple.h"
 #include "host/znIBrowserEvent.h"
 #include "host/znIBrowserFindRequest.h"
+#include "host/znIBrowserPopupMenu.h"
+#include "host/znIBrowserPopupMenuItem.h"
 #include "host/znIBrowserState.h"
 #include "host/znIBrowserStyle.h"
 #include "host/znIBrowserStyleElement.h"
@@ -76,6 +78,10 @@ znIBrowserEvent* OwnerOf(znIBrowserWindowCallback* callback, const znIBrowserEve
 }
 znIBrowserWindowAccess* OwnerOf(znIBrowserFindRequest* request, const znIBrowserWindowAccess*) {
     return request->GetWindowAccess();
+}
+
+znIBrowserPopupMenu* OwnerOf(znIBrowserPopupMenuItem* item, const znIBrowserPopupMenu*) {
+    return item->GetMenu();
 }
 
 znIBrowserDataSourceSimple* OwnerOf(znIBrowserCriteria* criteria, const znIBrowserDataSourceSimple*) {
@@ -224,9 +230,6 @@ bool MayLieIn(znIBrowserInputField* field, znIBrowserDataCtrl* dying, const Mana
 bool MayLieIn(znIBrowserState* state, znIBrowserDataCtrl* dying, const Manager& manager) {
     return !OtherControlHolds(manager, dying, state);
 }
-
-/// An item cannot tell its menu.
-bool MayLieIn(znIBrowserPopupMenuItem*, znIBrowserPopupMenu*, const Manager&) { return true; }
 
 } // namespace
 

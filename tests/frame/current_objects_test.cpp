@@ -235,6 +235,39 @@ TEST_F(CurrentObjects, PopupMenusAreTheHosts) {
     manager.ResetCurrentPopupMenuItem();
     EXPECT_EQ(manager.GetCurrentPopupMenuPtr(), nullptr);
     EXPECT_EQ(manager.GetCurrentPopupMenuItemPtr(), nullptr);
+    EXPECT_FALSE(manager.GetCurrentPopupMenu(name));
+    EXPECT_EQ(manager.GetErrorText(), "Cannot get name of the current popup menu");
+    EXPECT_FALSE(manager.GetCurrentPopupMenuItem(name));
+    EXPECT_EQ(manager.GetErrorText(), "Cannot get name of the current popup menu item");
+}
+
+/// One written before there were any operations but the name.
+struct OldPopupMenu final : znIBrowserPopupMenu, znIBrowserPopupMenuItem {
+    const char* GetName() const override { return "old"; }
+};
+
+TEST_F(CurrentObjects, AnOldPopupMenuSupportsNothing) {
+    OldPopupMenu menu;
+    manager.SetCurrentPopupMenu(&menu);
+    manager.SetCurrentPopupMenuItem(&menu);
+    znString text;
+    EXPECT_FALSE(manager.CreatePopupMenuItem("i", ZNBROWSER_POPUP_END));
+    EXPECT_FALSE(manager.GetPopupMenuItemNames(text));
+    EXPECT_FALSE(manager.SetPopupMenuItemCaption("c"));
+    EXPECT_FALSE(manager.SetPopupMenuItemVisible(true));
+    EXPECT_FALSE(manager.SetPopupMenuItemContainer(ZNBROWSER_POPUP_CONTAINER_SIMPLE, true));
+    EXPECT_FALSE(manager.GetPopupMenuItemUserInput(text));
+    EXPECT_FALSE(manager.PerformPopupMenuItem(nullptr));
+    for (const auto get : {&Manager::GetPopupMenuPostScript, &Manager::GetPopupMenuItemCaption,
+                           &Manager::GetPopupMenuItemCascade, &Manager::GetPopupMenuItemContainer}) {
+        EXPECT_TRUE((manager.*get)(text));
+        EXPECT_EQ(text, "");
+    }
+    EXPECT_TRUE(manager.GetPopupMenuItemEnabled(text));
+    EXPECT_EQ(text, "false");
+    manager.UpdateCurrentPopupMenuItem(&menu);
+    EXPECT_EQ(manager.GetCurrentPopupMenuItemPtr(), nullptr);
+    manager.ResetCurrentPopupMenu();
 }
 
 using Family = int (Manager::*)(int, Tcl_Obj* const[]);
