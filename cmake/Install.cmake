@@ -61,3 +61,9 @@ function(zn_install_manual file component)
             \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${folder}/${page}\")" COMPONENT ${component})
     endif()
 endfunction()
+
+# The Tcl package that checks a host: scripts alone.
+set(folder "${PROJECT_SOURCE_DIR}/packaging/hostcheck")
+configure_file("${folder}/pkgIndex.tcl.in" "${PROJECT_BINARY_DIR}/hostcheck/pkgIndex.tcl" @ONLY)
+install(FILES "${folder}/hostcheck.tcl" "${folder}/promises.tcl" "${PROJECT_BINARY_DIR}/hostcheck/pkgIndex.tcl"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/tcltk/znbrowser_hostcheck${PROJECT_VERSION}" COMPONENT development)

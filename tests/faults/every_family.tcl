@@ -23,6 +23,14 @@ namespace eval znbrowser {
     proc AddToSelectedFreeFoldersArray {name} {zn view folder selected}
 }
 
+# The model, in statements of SQL.
+set model {
+    {CREATE TABLE unit(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES unit(id), name TEXT, on_ BOOLEAN)}
+    {CREATE TABLE note(id INTEGER PRIMARY KEY, unit INTEGER REFERENCES unit(id), text TEXT)}
+    {INSERT INTO unit VALUES (1, NULL, 'a', 1), (2, 1, 'b', 0), (3, 2, 'c', 1)}
+    {INSERT INTO note VALUES (1, 1, 'n'), (2, 3, 'o')}
+}
+
 set opening {
     {datactrl current m} {datasource simple create own Own text} {datasource simple connect unit}
     {datasource simple criteria create c} {datasource hierarchical create h 0 0}
@@ -228,7 +236,7 @@ set sections {
         {view folder datasource style true} {view dataitem select} {view dataitem current} {view dataitem selected}
         {view dataitem deselect bypropval b recursive} {view dataitemlist select} {view dataitemlist current}
         {view dataitemlist deselect} {view dataitem select bypropval c} {view datasource selected recursive}
-        {view dataitem selected all} {view datasource disconnect unit} {view delete}
+        {view dataitem selected all} {view datasource disconnect unit} {view datactrl disconnect} {view delete}
     }
     deletions {
         {window create win} {window part create part} {window listener connect told}
