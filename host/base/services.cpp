@@ -64,7 +64,7 @@ bool HostServices::CallProcedure(const std::vector<std::string>& words, std::str
 }
 
 bool HostServices::ComputeValue(const std::string& procedure, const std::vector<std::string>& item,
-                               std::string& value) {
+                                std::string& value) {
     if (!manager_ || Tcl_InterpDeleted(interp_)) return false;
     const KeptResult kept(interp_);
     Tcl_ResetResult(interp_);

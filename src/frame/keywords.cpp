@@ -111,17 +111,33 @@ constexpr KeywordHash keywordHash;
     return slot.keyword;
 }
 
-constexpr std::size_t keywordCount = static_cast<std::size_t>(Keyword::Apply) + 1;
+constexpr std::size_t KeywordCount() {
+    std::size_t count = 0;
+    for (const KeywordRow& row : rows) {
+        if (count <= static_cast<std::size_t>(row.keyword)) count = static_cast<std::size_t>(row.keyword) + 1;
+    }
+    return count;
+}
 
-constexpr std::array<const char*, keywordCount> PlainWords() {
-    std::array<const char*, keywordCount> words{};
+constexpr std::array<const char*, KeywordCount()> PlainWords() {
+    std::array<const char*, KeywordCount()> words{};
     for (const KeywordRow& row : rows) {
         if (row.IsPlainWord()) words[static_cast<std::size_t>(row.keyword)] = row.spelling.data();
     }
     return words;
 }
 
-constexpr std::array<const char*, keywordCount> plainWords = PlainWords();
+constexpr std::array<const char*, KeywordCount()> plainWords = PlainWords();
+
+constexpr bool EachHasOnePlainWord() {
+    for (const KeywordRow& row : rows) {
+        std::size_t count = 0;
+        for (const KeywordRow& other : rows) count += other.keyword == row.keyword && other.IsPlainWord();
+        if (count != 1) return false;
+    }
+    return true;
+}
+static_assert(EachHasOnePlainWord(), "help and completion show the one word of a keyword that is no alias");
 
 /// Words of a small enumeration; the position is the value, and 0 is "unknown".
 constexpr const char* criterionWords[] = {

@@ -1,25 +1,10 @@
 # The model that the tests of the data families work on, and how they read what the command answers.
-package require tcltest 2.5
-namespace import ::tcltest::*
-
-proc zn {args} {uplevel 1 [list znbrowsermanager {*}$args]}
+source [file join [file dirname [info script]] .. harness testing.tcl]
 
 # Runs commands, one a line.
 proc steps {script} {
     foreach line [split [string trim $script] \n] {zn {*}$line}
 }
-
-# What an answer says: "error: MESSAGE" for a banner, "usage: WORDS" for a usage text, else the answer itself.
-proc gist {answer} {
-    if {[regexp {^\[Command\] [^\n]*\n\t\[Error\] (.*)$} $answer - message]} {return "error: $message"}
-    if {[regexp {^    znbrowsermanager (.*?) ?\[} $answer - words]} {return "usage: $words"}
-    return $answer
-}
-
-proc said {args} {gist [zn {*}$args]}
-
-# What commands say that begin with the same words, one after the other.
-proc inTurn {beginning commands} {lmap words $commands {said {*}$beginning {*}$words}}
 
 # A test for each command that begins with these words, and what it says.
 proc answers {when beginning setup table} {
@@ -61,5 +46,3 @@ proc freshView {} {
     zn view property type string
     return $name
 }
-
-proc refuse {operation {text no}} {zn app refuse $operation $text}

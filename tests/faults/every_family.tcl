@@ -1,7 +1,7 @@
 # Every row of every command table, in both connection schemes, on a small model, in sections: each is run again and
 # again on a host of its own, behind the opening. Whatever fails below, each line must come back.
-proc zn {args} {catch {znbrowsermanager {*}$args}}
-proc run {section} {foreach line $section {zn {*}$line}}
+proc zn {args} {catch {znbrowsermanager {*}$args} answer; return $answer}
+proc run {section} {lmap line $section {zn {*}$line}}
 interp bgerror {} told
 # The same in a window on a display: behind each line Tk does what that brought about, and the user goes on.
 proc show {section} {
@@ -50,7 +50,8 @@ set sections {
         {datasource simple criteria type int} {datasource simple criteria data integer 1}
         {datasource simple criteria data bool 1 unsigned 2 double 3 string d} {datasource simple criteria data}
         {datasource simple criteria type} {datasource simple criteria names}
-        {datasource simple property create p 0 value} {datasource simple property create a 1 string 2}
+        {datasource simple property create p 0 value} {datasource simple property create p 0 value}
+        {datasource simple property create a 1 string 2}
         {datasource simple property names} {datasource simple connected} {datasource simple dataitem ids}
         {view datasource simple disconnect unit} {view datasource simple connect unit}
         {view datasource simple connect note} {view datasource simple connected}
@@ -67,7 +68,8 @@ set sections {
         {userinput reset} {userinput script}
     }
     columns {
-        {view property create scripted} {view property script told value} {view property connected}
+        {view property create scripted} {view property type string} {view property connect script value}
+        {view property script told value} {view property connected}
         {view property names} {view property current title} {view property type} {datasource simple current unit}
         {datasource simple dataitem} {datasource hierarchical dataitem} {view column create c3 icon x}
         {view column create c4 checkbox} {view column create c5 button} {view column current c2}
@@ -125,7 +127,8 @@ set sections {
         {window part event callback delete} {window part frame} {window part parent toplevel}
         {window part parent part} {window part parent} {window part move 0} {window part show true}
         {window part show} {window part operation names} {window part current toplevel} {window part names true}
-        {window part info} {window part current part} {window listener names} {window listener connect gone}
+        {window part info} {window part create beside part} {window part move 1} {window part info} {window part current part}
+        {window part names true} {window listener names} {window listener connect gone}
         {window listener disconnect gone} {window post true} {window post} {window dropitem name}
         {window dropitem toplevel} {window dropitem dataitemtype} {OnTkTreeRequestExpand win 1}
         {OnTkTreeRequestExpand win 2} {window expandall} {app rows win} {OnTkTreeSetStatePos win 1}
@@ -147,6 +150,7 @@ set sections {
         {window find property criteria names} {window find property criteria type}
         {window find property criteria matchcase} {window find property criteria matchword}
         {window find property criteria useregexp} {OnTkTreeRequestCollapse win 1}
+        {view column current c2} {view column width} {window find type previous} {window find type}
     }
     selection {
         {window create win} {window part create part} {window listener connect told}
@@ -200,6 +204,7 @@ set sections {
     deletions {
         {window create win} {window part create part} {window listener connect told}
         {view folder current v} {view folder current f} {window current win} {window part current part}
+        {window part event current SELECTION_CHANGED} {window part event callback create told script}
         {window part delete} {window create other} {window find property add title}
         {window find property current title} {window delete} {window current win} {window part create last}
         {window delete} {view folder current v} {view folder current g} {view list current unit}
@@ -211,16 +216,31 @@ set sections {
         {view folder delete inner recursive} {view folder current v} {view folder delete f} {view column current c2}
         {view style create s2} {view style current s} {view element create e2} {view element current e}
         {view element delete e} {element delete e2} {view style current s2} {view style delete}
+        {view style create s3} {view element create e3} {view style delete} {view column current Name} {view column delete}
+        {view column current c2}
         {view style current s} {view column delete} {view property current title} {view property disconnect unit}
         {view property delete} {datasource simple current own} {datasource simple property create p 0 value}
-        {datasource simple criteria delete} {datasource simple property delete p}
-        {datasource simple disconnect unit} {view datasource simple disconnect own} {datasource simple delete own}
+        {datasource simple criteria delete} {datasource simple property delete p} {datasource simple delete unit}
+        {datasource simple delete own} {datasource simple criteria create d} {datasource simple disconnect unit} {view datasource simple disconnect own} {datasource simple delete own}
         {datasource hierarchical disconnect note} {view datasource hierarchical disconnect h}
         {view datareference connect note.unit} {view datareference disconnect note.unit} {userinput delete}
-        {window map create g} {window map delete} {view datactrl disconnect} {view delete} {view current}
+        {window map create g} {window map delete} {window map names} {view datactrl disconnect} {view delete} {view current}
         {view create last} {view current last} {view delete}
     }
 }
+
+# A value of each type: of criteria, single and several, and of input fields.
+foreach {type array value} {
+    bool boolarray true unsigned unsignedarray 2 integer integerarray 3 double doublearray 4 string stringarray e
+} {
+    lappend valueLines "userinput datatype $type" "userinput value $value" {userinput value} {userinput reset} \
+        {userinput value} {datasource simple current own} {datasource simple criteria current c}
+    foreach kind [list $type $array] {
+        lappend valueLines "datasource simple criteria type $kind" "datasource simple criteria data $type $value" \
+            {datasource simple criteria data}
+    }
+}
+dict lappend sections data {*}$valueLines
 
 # Names and texts that break what was only tried with "a" and "b", in each place that takes one.
 source [file join [file dirname [info script]] .. hostile_texts.tcl]

@@ -10,6 +10,7 @@
 #include "model/browser.h"
 #include "model/gui_map_list.h"
 #include "model/view.h"
+#include "state/state_container.h"
 #include "store/data_ctrl.h"
 #include "window/window_list.h"
 #include "znBrowserManagerTcl.h"
@@ -24,7 +25,7 @@ class LivingObjects {
 public:
     explicit LivingObjects(znhost::EmbeddedHost& host) {
         const znhost::CallLog::Quiet quiet(host.Calls());
-        znhost::Browser& browser = host.App().Model();
+        znhost::BrowserStates& browser = host.App().Model();
         for (const auto& view : browser.Views()) AddView(*view);
         for (const auto& window : browser.Windows().All()) AddWindow(*window);
         std::vector<znIBrowserGuiMap*> maps;

@@ -70,8 +70,11 @@ public:
         std::string error;
         EXPECT_TRUE(znhost::ShowWindows(*host_, error)) << error;
     }
-    void Open() { script_.Eval("run $opening"); }
-    void Run(const std::string& section) { script_.Eval("run [dict get $sections " + section + "]"); }
+    /// Both give what the commands answer.
+    std::string Open() { return script_.Eval("run $opening"); }
+    std::string Run(const std::string& section) {
+        return script_.Eval("run [dict get $sections " + section + "]");
+    }
 
     /// No current object is dead, no view shows a table that has gone, the rows of each window stand where
     /// they say, and the next command is answered.

@@ -83,6 +83,8 @@ TEST(CommandRecords, EachRowTellsInOneSentenceWhatItDoes) {
         const std::string_view summary = row.summary;
         EXPECT_TRUE(summary.size() > 10 && summary.size() <= 110 && summary.back() == '.') << Joined(path);
         EXPECT_TRUE(row.answer || row.level) << Joined(path) << " leads nowhere";
+        EXPECT_TRUE(znBrowserTclKeywords::GetSpelling(row.keyword) || row.keyword == Keyword::NoFilterForm)
+            << "the keyword table has no word for " << Joined(path);
         ++rows;
     });
     EXPECT_GT(rows, 300u);

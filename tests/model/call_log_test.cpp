@@ -17,7 +17,7 @@ public:
 
     template <class... Arguments>
     bool CreateView(const Arguments&... arguments) const {
-        return !Refused("znIBrowser::CreateView", arguments...);
+        return !Refused({"znIBrowser::CreateView", "CreateView"}, arguments...);
     }
     mutable std::string refusedBecause;
 

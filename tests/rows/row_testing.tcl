@@ -1,8 +1,5 @@
 # What the tests of rows share: a model, a window on it, and short ways to ask.
-package require tcltest 2.5
-namespace import ::tcltest::*
-
-interp alias {} zn {} znbrowsermanager
+source [file join [file dirname [info script]] .. harness testing.tcl]
 
 # A gearbox in miniature: assemblies that nest, their parts, and the parts' holes, of which most have none. The foreign
 # key of the holes has no index.
@@ -38,7 +35,7 @@ proc start {} {
             zn $family delete
         }
     }
-    foreach name [zn app datactrl names] {zn datactrl current $name}
+    zn datactrl current model
     zn view create V false
     zn view datactrl connect
     zn view folder current V

@@ -110,6 +110,13 @@ protected:
         EXPECT_FALSE(tree_.Find(index).IsExpanded());
     }
 
+    /// Rows that went are found by no index any more.
+    void CheckIndices() {
+        std::int64_t found = 0;
+        for (std::uint32_t index = 1; index < 100'000; ++index) found += bool(tree_.Find(index));
+        EXPECT_EQ(found, tree_.Count());
+    }
+
     std::mt19937 random_{GetParam()};
     RowTree tree_;
 };
@@ -121,6 +128,7 @@ TEST_P(RandomChanges, LeaveThePlacesOfAllRowsRight) {
         ASSERT_NO_FATAL_FAILURE(Check(tree_));
         if (tree_.Count() > 400) tree_.Collapse(tree_.Root());
     }
+    CheckIndices();
 }
 
 TEST_P(RandomChanges, CanBeCountedAtTheEnd) {

@@ -1,6 +1,7 @@
 // Saved states as other objects of the host see them: what was skipped, and states that are gone.
 #include "app/application.h"
 #include "host/app/embedded_host.h"
+#include "host/state/state_container.h"
 #include "host/store/data_ctrl.h"
 #include "host/window/window_list.h"
 #include "znBrowserManagerTcl.h"
@@ -33,9 +34,9 @@ protected:
             << words << ": " << Tcl_GetStringResult(interp_);
         return Tcl_GetStringResult(interp_);
     }
-    Browser& Model() { return host_.App().Model(); }
+    BrowserStates& Model() { return host_.App().Model(); }
     Window* TheWindow() { return Model().Windows().All().Find("w"); }
-    StateContainer& States() { return host_.App().DataControls().Find("d")->States(); }
+    StateContainer& States() { return StatesOf(*host_.App().DataControls().Find("d")); }
     State& Saved() { return States().Named("s"); }
     std::string Error() { return host_.App().Log().Error(); }
 
@@ -125,7 +126,7 @@ TEST_F(SavedStates, AStateThatIsGoneRefusesEveryQuestion) {
 TEST_F(SavedStates, NothingAndStatesOfOtherControlsAreRefused) {
     Do("app datactrl create other");
     Do("app state create other s");
-    StateContainer& others = host_.App().DataControls().Find("other")->States();
+    StateContainer& others = StatesOf(*host_.App().DataControls().Find("other"));
     EXPECT_FALSE(others.SaveState(&Saved(), TheWindow()));
     EXPECT_EQ(Error(), "The state \"s\" belongs to another data control");
     EXPECT_FALSE(others.SaveState(nullptr, TheWindow()));

@@ -1,6 +1,4 @@
 # What the tests of windows on a display share: a gearbox in miniature in a window, and a mouse and a keyboard.
-package require tcltest 2.5
-namespace import ::tcltest::*
 source [file join [file dirname [info script]] .. rows row_testing.tcl]
 
 # The model's view "V" in the window "W", posted, with columns to tick, to press and to sort by.
@@ -75,11 +73,7 @@ proc key {name} {
 
 # The host calls made to the window while the script runs: each operation, and what it is called with.
 proc calls {script} {
-    zn app journal clear
-    zn app journal on
-    uplevel 1 $script
-    zn app journal off
-    return [lmap call [zn app journal] {
+    return [lmap call [uplevel 1 [list journalOf znIBrowserWindowAccess::* $script]] {
         if {![regexp {^znIBrowserWindowAccess::(Request\w+|Selection\w+|CheckBoxClick|WindowButtonClick|RightHandClick|SetDropItem|P\w+)$} \
             [lindex $call 0] -> operation]} continue
         list $operation {*}[lrange $call 1 end]

@@ -1,22 +1,5 @@
 # What the tests of the view family share.
-package require tcltest
-namespace import ::tcltest::*
-
-interp alias {} zn {} znbrowsermanager
-
-# The message of a command that fails.
-proc fault args {
-    set answer [zn {*}$args]
-    if {[regexp {^\[Command\] [^\n]*\n\t\[Error\] (.*)$} $answer -> message]} {
-        return $message
-    }
-    return "no error: $answer"
-}
-
-# The first line of an answer, without the indentation of usage texts.
-proc firstLine args {
-    return [string trim [lindex [split [zn {*}$args] \n] 0]]
-}
+source [file join [file dirname [info script]] .. harness testing.tcl]
 
 # A table of messages, each with the commands that fail with it: one test per command.
 proc testFaults {name table args} {
@@ -44,15 +27,6 @@ proc deleteViews {} {
         zn view current $name
         zn view delete
     }
-}
-
-# Runs a script with the host calls recorded; gives those whose names match.
-proc journalOf {pattern script} {
-    zn app journal clear
-    zn app journal on
-    uplevel 1 $script
-    zn app journal off
-    return [lsearch -all -inline -index 0 [zn app journal] $pattern]
 }
 
 # A gearbox in miniature, made once per file: assemblies that nest, their parts, and the parts' features.

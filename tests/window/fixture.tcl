@@ -1,12 +1,8 @@
 # What the tests of windows share: a fresh model for each test, and short ways to ask.
-package require tcltest 2.5
-namespace import ::tcltest::*
-
-interp alias {} zn {} znbrowsermanager
+source [file join [file dirname [info script]] .. harness testing.tcl]
 
 # A model of one view, "v", with a current column, without windows and without GUI maps of scripts.
 proc freshModel {} {
-    zn app journal off
     foreach {family names} [list window [zn window names] view [zn view names] {window map} [zn window map names]] {
         foreach name $names {
             if {[string match default_*map $name]} continue
@@ -31,29 +27,11 @@ proc freshTwo {} {
     zn window create w2
 }
 
-# The message of a command that is refused; all of its answer when it is not.
-proc refusal {args} {
-    set answer [zn {*}$args]
-    if {[regexp {^\[Command\] [^\n]*\n\t\[Error\] (.*)$} $answer -> message]} {return $message}
-    return "not: $answer"
-}
-
-# The host calls that a script makes and whose operations match the pattern.
-proc hostCalls {pattern script} {
-    zn app journal clear
-    zn app journal on
-    uplevel 1 $script
-    zn app journal off
-    return [lmap call [zn app journal] {if {![string match $pattern [lindex $call 0]]} continue; set call}]
-}
-
-proc firstLine {text} {return [lindex [split $text \n] 0]}
-
 # Tests from a table of answers and the lists of words that get them: a message, or "not: " and a result.
 proc answers {title setup prefix table} {
     foreach {answer wordLists} $table {
         foreach words $wordLists {
-            test answer-$title-$words "\"$prefix $words\" $title" -setup $setup -body "refusal $prefix $words" \
+            test answer-$title-$words "\"$prefix $words\" $title" -setup $setup -body "fault $prefix $words" \
                 -result $answer
         }
     }
@@ -63,7 +41,7 @@ proc answers {title setup prefix table} {
 proc usages {setup prefix usage wordLists} {
     foreach words $wordLists {
         test usage-$prefix-$words "\"$prefix $words\" answers the usage text" -setup $setup \
-            -body "firstLine \[zn $prefix $words\]" -result "    znbrowsermanager $usage \[action\] "
+            -body "firstLine $prefix $words" -result "znbrowsermanager $usage \[action\]"
     }
 }
 
@@ -74,8 +52,8 @@ proc refusals {setup prefix state table} {
         test refused-$operation-$words "a refused $operation answers \"$message\", and nothing changes" \
             -setup $setup -body "
                 set before \[$state\]
-                zn app refuse znIBrowser$operation {not now}
-                list \[refusal $prefix $words\] \[expr {\[$state\] eq \$before}\]
+                refuse znIBrowser$operation {not now}
+                list \[fault $prefix $words\] \[expr {\[$state\] eq \$before}\]
             " -result [list $message 1]
     }
 }
