@@ -95,5 +95,5 @@ bool znBrowserManagerTcl::GetCollectorDataSourceSimpleNames(znString& out) {
     std::vector<znIBrowserDataSourceSimple*> kinds;
     if (!operation) return false;
     if (!operation.Collector().GetKinds(operation.View(), kinds)) return operation.FailWithHostError();
-    return operation.Give(NameList(EntryForm::Element).AddNames(kinds), out);
+    return operation.Give(NameList(EntryForm::Element).AddNames(kinds, NullName::IsLeftOut), out);
 }
