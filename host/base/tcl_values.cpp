@@ -18,4 +18,12 @@ Tcl_Obj* NewList(const std::vector<std::string>& words) {
     return list;
 }
 
+std::string ListText(const std::vector<std::string>& words) {
+    Tcl_Obj* const list = NewList(words);
+    Tcl_IncrRefCount(list);
+    std::string text = Tcl_GetString(list);
+    Tcl_DecrRefCount(list);
+    return text;
+}
+
 } // namespace znhost

@@ -16,7 +16,8 @@ enum ViewChange : unsigned {
     VIEW_COLUMNS = 2,   ///< Which columns there are, or how they are laid out.
     VIEW_CELLS = 4,     ///< What cells show: properties, connections, styles, fonts.
     VIEW_SELECTION = 8, ///< What is selected.
-    VIEW_ALL = 15
+    VIEW_COLLECTED = 16, ///< What is collected.
+    VIEW_ALL = 31
 };
 
 /// Whoever shows a view. Changes come in batches, so an observer takes note and looks at the view when it

@@ -13,7 +13,7 @@ namespace {
 
 /// Rows come last: by then it is decided what the folders show.
 constexpr const std::vector<SettingKind>& (*allKinds[])() = {FolderKinds, ViewKinds, GuiMapKinds,
-                                                             WindowKinds};
+                                                             CollectorKinds, WindowKinds};
 
 /// While one lives the windows do not hear of changes.
 class HeldBack {

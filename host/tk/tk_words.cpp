@@ -54,6 +54,7 @@ const char* KindName(RowChange::Kind kind) {
     case RowChange::AllFilled: return "allFilled";
     case RowChange::AllCells: return "allCells";
     case RowChange::Selection: return "selection";
+    case RowChange::Collector: return "collector";
     case RowChange::Shown: break;
     }
     return "shown";

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <new>
-#include <tcl.h>
 #include <utility>
 
 namespace znhost {
@@ -79,11 +78,7 @@ void Window::SetBackground(std::string colour) {
 
 /// Calls a Tcl procedure; an error goes to the interpreter's background error handler.
 void Window::Call(const std::vector<std::string>& words) {
-    Tcl_Obj* const list = NewList(words);
-    Tcl_IncrRefCount(list);
-    const std::string script = Tcl_GetString(list);
-    Tcl_DecrRefCount(list);
-    browser_.Services().RunScript(script);
+    browser_.Services().RunScript(ListText(words));
 }
 
 /// An event of the window: each part's callbacks, then the listeners. What is to be done is noted before
