@@ -95,7 +95,8 @@ Tcl_Obj* NewRow(const RowLook& look, const ColumnNumbers& columns) {
                    Tcl_NewWideIntObj(look.depth), NewText(KindName(look.kind)), NewText(look.text),
                    Tcl_NewBooleanObj(look.expanded), Tcl_NewBooleanObj(look.selected),
                    Tcl_NewBooleanObj(look.hasRows), Tcl_NewBooleanObj(look.bold),
-                   Tcl_NewBooleanObj(look.italic), NewText(look.icon), cells});
+                   Tcl_NewBooleanObj(look.italic), NewText(look.icon), cells,
+                   Tcl_NewBooleanObj(look.collected)});
 }
 
 Tcl_Obj* NewColumn(const View& view, const Column& column) {

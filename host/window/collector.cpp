@@ -105,7 +105,7 @@ bool Collector::Collect(znIBrowserView* view, ZNBROWSER_COLLECT change, ZNBROWSE
 }
 
 /// Values may be computed by scripts: what they delete is not asked any more.
-bool Collector::ChooseByValues(View& view, const ViewProperty& property, const std::vector<znString>& values,
+bool Collector::ChooseByValues(View& view, ViewProperty& property, const std::vector<znString>& values,
                                znIBrowserDataSourceSimple* kind, ItemSets& items) {
     for (znIBrowserDataSourceSimple* const source : view.ShowableSources()) {
         if (kind && source != kind) continue;

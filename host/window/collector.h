@@ -103,7 +103,7 @@ private:
     bool CollectChosen(View& view, ZNBROWSER_COLLECT change, const std::string& name,
                        znIBrowserDataSourceSimple* kind, const Choice& choose);
     bool Choose(View& view, ZNBROWSER_COLLECT_FROM from, znIBrowserDataSourceSimple* kind, ItemSets& items);
-    bool ChooseByValues(View& view, const ViewProperty& property, const std::vector<znString>& values,
+    bool ChooseByValues(View& view, ViewProperty& property, const std::vector<znString>& values,
                         znIBrowserDataSourceSimple* kind, ItemSets& items);
     static znBrowserDataItems CollectedItems(View& view);
     bool Display(View& view, ZNBROWSER_COLLECTOR_DISPLAY change, const std::string& name);

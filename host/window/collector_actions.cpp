@@ -6,6 +6,7 @@
 #include "model/view_links.h"
 #include "window/browser_windows.h"
 #include "window/collector.h"
+#include "window/window.h"
 
 #include <algorithm>
 #include <iterator>
