@@ -24,7 +24,9 @@ public:
     bool Remove(Row row);
     bool Add(std::vector<Row> rows);
     bool Remove(const std::vector<Row>& rows);
-    bool Add(const RowSet& rows) { return Combine(rows, [](auto own, auto other) { return own | other; }); }
+    bool Add(const RowSet& rows) {
+        return Combine(rows, [](auto own, auto other) { return own | other; });
+    }
     bool Remove(const RowSet& rows) {
         return Combine(rows, [](auto own, auto other) { return own & ~other; });
     }

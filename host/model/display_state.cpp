@@ -33,15 +33,13 @@ void DisplayState::Alter(Source* source, Change&& change) {
 }
 
 void DisplayState::Show(Source* source, const RowSet& shown) {
-    Alter(source, [&shown](DisplayedRows& rows) {
-        rows.only ? rows.rows.Add(shown) : rows.rows.Remove(shown);
-    });
+    Alter(source,
+          [&shown](DisplayedRows& rows) { rows.only ? rows.rows.Add(shown) : rows.rows.Remove(shown); });
 }
 
 void DisplayState::Hide(Source* source, const RowSet& hidden) {
-    Alter(source, [&hidden](DisplayedRows& rows) {
-        rows.only ? rows.rows.Remove(hidden) : rows.rows.Add(hidden);
-    });
+    Alter(source,
+          [&hidden](DisplayedRows& rows) { rows.only ? rows.rows.Remove(hidden) : rows.rows.Add(hidden); });
 }
 
 void DisplayState::Toggle(Source* source, const RowSet& toggled) {

@@ -28,9 +28,8 @@ public:
     std::uint32_t NumberOf(const Name& name) {
         const auto word = words_.try_emplace(name.name, static_cast<std::uint32_t>(texts_.size())).first;
         if (word->second == texts_.size()) texts_.push_back(&word->first);
-        const auto [entry, isNew] =
-            numbers_.try_emplace(Key(name.above, name.kind, word->second, name.row),
-                                 static_cast<std::uint32_t>(keys_.size() + 1));
+        const auto [entry, isNew] = numbers_.try_emplace(Key(name.above, name.kind, word->second, name.row),
+                                                         static_cast<std::uint32_t>(keys_.size() + 1));
         if (isNew) keys_.push_back(&entry->first);
         return entry->second;
     }

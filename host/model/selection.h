@@ -36,8 +36,8 @@ public:
     /// Exactly these items are selected now.
     bool Replace(const znBrowserDataItems& items);
     bool Clear();
-    /// Takes memory for exactly these items; to `Exchange` them for what is selected takes none, and announces
-    /// nothing.
+    /// Takes memory for exactly these items; to `Exchange` them for what is selected takes none, and
+    /// announces nothing.
     Selection With(const ItemSets& items) const;
     void Exchange(Selection& other) noexcept { parts_.swap(other.parts_); }
     /// Deselects everything of that source.

@@ -23,8 +23,8 @@ std::int64_t RowDisplay::Count(RowSource& source) const {
 }
 
 RowDisplay::Below& RowDisplay::BelowAlong(const RowLink& link, const DisplayedRows& rows) const {
-    const auto known =
-        std::find_if(below_.begin(), below_.end(), [&link](const Below& below) { return below.link == link; });
+    const auto known = std::find_if(below_.begin(), below_.end(),
+                                    [&link](const Below& below) { return below.link == link; });
     if (known != below_.end()) return *known;
     Below below{link, {}, {}, {}};
     std::vector<std::int64_t> parents;

@@ -18,7 +18,8 @@ class ReadTrouble;
 /// shown, and below which rows some are. What has been found out is kept.
 class RowDisplay {
 public:
-    RowDisplay(DisplayState state, const ReadTrouble& trouble) : state_(std::move(state)), trouble_(trouble) {}
+    RowDisplay(DisplayState state, const ReadTrouble& trouble)
+        : state_(std::move(state)), trouble_(trouble) {}
 
     /// Takes out of `rows` what is hidden.
     void Narrow(const RowSource* source, std::vector<std::int64_t>& rows) const;

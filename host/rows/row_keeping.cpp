@@ -68,9 +68,10 @@ struct RowModel::WantedRows {
     }
 };
 
-/// False when there is nothing below the row, or the work must be given up.
+/// False when there is nothing below the row, or the work must be given up. A row that is brought back was
+/// expanded, perhaps with nothing below it any more: so it is again.
 bool RowModel::ExpandWanted(RowNode& node, const Row& row) {
-    if (!node.expanded && HasRows(row)) FillAndExpand(node);
+    if (!node.expanded && (kept_ || HasRows(row))) FillAndExpand(node);
     return node.expanded && !stopped_;
 }
 
@@ -107,7 +108,7 @@ void RowModel::ExpandExactly(RowBlock& block, WantedRows& wanted, OpenRows& open
         const auto item = items.find(block.rows[i]);
         if (item == items.end()) continue;
         const Row row = RowTree::ItemAt(block, i);
-        if (row.IsExpanded() || HasRows(row)) {
+        if (row.IsExpanded() || kept_ || HasRows(row)) {
             RowNode& node = tree_.NodeOf(row);
             if (ExpandWanted(node, row)) open.emplace_back(&node, item->second);
         }

@@ -132,9 +132,7 @@ bool RowPlan::IsShown(RowSource* source) const { return view_.IsShown(source->Ge
 
 /// Whether containers without rows are hidden. A text filter always hides them: they would bury what it
 /// found.
-bool RowPlan::HidesEmpty(bool shows) const {
-    return !shows || (!whole_ && !view_.Filter().pattern.empty());
-}
+bool RowPlan::HidesEmpty(bool shows) const { return !shows || (!whole_ && !view_.Filter().pattern.empty()); }
 
 /// Whether a container has its place: it has rows, or it is shown without, unless it would have some if none
 /// were hidden.

@@ -18,8 +18,9 @@ class BrowserWindows;
 class HostServices;
 class Window;
 
-/// What is collected, shown and hidden stands in the views; how it came about, and what becomes of the windows
-/// with it, is decided here. Each change is worked out first: then it takes no more memory to make it.
+/// What is collected, shown and hidden stands in the views; how it came about, and what becomes of the
+/// windows with it, is decided here. Each change is worked out first: then it takes no more memory to make
+/// it.
 class Collector final : public znIBrowserCollector, public HostObject {
 public:
     explicit Collector(BrowserWindows& browser);
@@ -129,7 +130,7 @@ private:
     ZNBROWSER_COLLECTOR_CLICK clickMode_ = ZNBROWSER_COLLECTOR_CLICK_NONE;
     bool autofit_ = false;
     bool preselector_ = false;
-    int acting_ = 0;      ///< how many actions of scripts run, one in the other
+    int acting_ = 0;       ///< how many actions of scripts run, one in the other
     bool working_ = false; ///< a change is being worked out
 };
 

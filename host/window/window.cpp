@@ -77,9 +77,7 @@ void Window::SetBackground(std::string colour) {
 // ---- Scripts ----
 
 /// Calls a Tcl procedure; an error goes to the interpreter's background error handler.
-void Window::Call(const std::vector<std::string>& words) {
-    browser_.Services().RunScript(ListText(words));
-}
+void Window::Call(const std::vector<std::string>& words) { browser_.Services().RunScript(ListText(words)); }
 
 /// An event of the window: each part's callbacks, then the listeners. What is to be done is noted before
 /// anything is done, and ends with the window.

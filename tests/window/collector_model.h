@@ -21,14 +21,16 @@ public:
     CollectorModel() : interp_(Tcl_CreateInterp(), Tcl_DeleteInterp), host_(interp_.get()) {
         Eval("interp alias {} zn {} znbrowsermanager; zn app datactrl create model\n"
              "foreach statement {\n"
-             "  {create table assembly (id integer primary key, parent integer references assembly, name text)}\n"
+             "  {create table assembly (id integer primary key, parent integer references assembly, name "
+             "text)}\n"
              "  {create index by_parent on assembly (parent)}\n"
              "  {create table part (id integer primary key, owner integer references assembly, name text)}\n"
              "  {create index by_owner on part (owner)}\n"
              "  {create table stamp (id integer primary key, name text)}\n"
              "  {insert into assembly values (1, null, 'a1'), (2, 1, 'a2'), (3, 1, 'a3'), (4, 2, 'a4'),\n"
              "     (5, null, 'a5'), (6, 5, 'a6')}\n"
-             "  {insert into part with recursive n(i) as (select 1 union all select i + 1 from n where i < 18)\n"
+             "  {insert into part with recursive n(i) as (select 1 union all select i + 1 from n where i < "
+             "18)\n"
              "     select i, (i - 1) / 3 + 1, 'p' || i from n}\n"
              "  {insert into stamp values (1, 's1'), (2, 's2'), (3, 's3'), (4, 's4')}\n"
              "} {zn app sql model $statement}\n"
@@ -64,8 +66,9 @@ public:
             lines.push_back("window, at " + std::to_string(Window(first).ScrollPosition()));
             for (const znhost::RowLook& look : Window(first).Rows().Read(0, 1000)) {
                 if (without.count(look.text)) continue;
-                lines.push_back(std::string(2 * look.depth, ' ') + look.text + (look.expanded ? " open" : "") +
-                                (look.selected ? " selected" : "") + (look.collected ? " collected" : ""));
+                lines.push_back(std::string(2 * look.depth, ' ') + look.text +
+                                (look.expanded ? " open" : "") + (look.selected ? " selected" : "") +
+                                (look.collected ? " collected" : ""));
             }
         }
         return lines;

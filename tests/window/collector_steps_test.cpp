@@ -62,8 +62,8 @@ private:
             if (choice == 3) window.Rows().Expand(row);
         }
     }
-    /// A part comes, or one that is neither the first nor the last of its assembly goes; and with it, perhaps,
-    /// the list of parts.
+    /// A part comes, or one that is neither the first nor the last of its assembly goes; and with it,
+    /// perhaps, the list of parts.
     void EditData() {
         const std::string number = std::to_string(Any(6) * 3 + 2);
         if (Any(2)) {
@@ -81,10 +81,10 @@ private:
         const auto from = ZNBROWSER_COLLECT_FROM(Any(3));
         switch (Any(5)) {
         case 0:
-            model_.Collector().CollectByValues(&model_.View(), Any(2) ? ZNBROWSER_COLLECT_SET : ZNBROWSER_COLLECT_ADD,
-                                               model_.View().Properties().First(),
-                                               {znString(std::to_string(Any(18))), znString(std::to_string(Any(18)))},
-                                               AnyKind());
+            model_.Collector().CollectByValues(
+                &model_.View(), Any(2) ? ZNBROWSER_COLLECT_SET : ZNBROWSER_COLLECT_ADD,
+                model_.View().Properties().First(),
+                {znString(std::to_string(Any(18))), znString(std::to_string(Any(18)))}, AnyKind());
             break;
         case 1: model_.Collector().ClearCollection(&model_.View()); break;
         default: model_.Collector().Collect(&model_.View(), change, from, AnyKind());
@@ -115,7 +115,7 @@ TEST(CollectorSteps, AnythingDoneIsTakenBackExactly) {
         Worker worker(seed);
         for (unsigned i = 0; i < perModel && !testing::Test::HasFatalFailure(); ++i, ++done) {
             std::mt19937 random(seed * perModel + i);
-            for (unsigned long left = random() % 6; left > 0; --left) worker.Act();
+            for (unsigned long left = random() % 9; left > 0; --left) worker.Act();
             while (worker.HasSteps() && !testing::Test::HasFatalFailure()) worker.TakeBack();
         }
     }
