@@ -104,6 +104,44 @@ foreach {what script} {
 report "memory at the end" [memory VmRSS] MiB 300
 report "memory at most" [memory VmHWM] MiB 300
 
+# ---- A popup menu of 30 items, against Tk's menu with the same entries ----
+
+zn view popupmenu create thirty
+zn view popupmenu connect view
+zn view popupmenu onpost posting
+proc posting args {zn view popupmenuitem current item7; zn view popupmenuitem checked [expr {[incr ::posted] % 2}]}
+for {set item 0} {$item < 30} {incr item} {
+    zn view popupmenuitem create item$item
+    zn view popupmenuitem showonfolder true
+    zn view popupmenuitem checkable [expr {$item % 3 == 1}]
+}
+set row [index item]
+proc closeMenu {menu} {
+    tk::MenuUnpost $menu
+    update
+}
+proc plainMenu {} {
+    destroy .plain
+    ::znbrowser::makeMenu .plain
+    for {set item 0} {$item < 30} {incr item} {
+        .plain add {*}[expr {$item % 3 == 1 ? "checkbutton" : "command"}] -label item$item -command list
+    }
+    foreach label {1 2 3 - 4 5 6} {
+        if {$label eq "-"} {.plain add separator} else {.plain add command -label "own $label" -command list}
+    }
+    tk_popup .plain 100 100
+}
+set n [znbrowser::number speed]
+set open {::znbrowser::openMenu $n [::znbrowser::rowOfIndex $n $row] Name 100 100}
+eval $open
+lassign [steps 50 plainMenu {catch {closeMenu .plain}}] plain
+closeMenu .plain
+lassign [steps 50 $open {closeMenu [znbrowser::popup speed]}] own
+closeMenu [znbrowser::popup speed]
+report "a popup menu of 30 items, plain" $plain ms
+report "the same by a script with onpost" $own ms
+report "ratio" [expr {$own / $plain}] "" 1.5
+
 zn window post false
 file delete $database
 exit [expr {$failed > 0}]

@@ -1,7 +1,10 @@
 # The scripting layer: include/ and src/.
 
 add_library(zn_headers INTERFACE)
-target_include_directories(zn_headers INTERFACE "${PROJECT_SOURCE_DIR}/include")
+target_include_directories(zn_headers INTERFACE
+    "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>"
+    "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR};${CMAKE_INSTALL_INCLUDEDIR}/znBrowserScripting>")
+install(TARGETS zn_headers EXPORT znBrowserScripting)
 
 zn_find_sources(sources src/*.cpp)
 if(sources)
@@ -19,19 +22,16 @@ if(sources)
     # A command passes through many small functions of several files: the linker joins them.
     if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_BUILD_TYPE MATCHES Rel)
         target_compile_options(zn_objects PRIVATE -flto=auto)
-        target_link_options(zn_objects INTERFACE -flto=auto)
+        target_link_options(zn_objects INTERFACE -flto=auto "-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=")
     endif()
 
     add_library(znBrowserScripting SHARED)
-    set_target_properties(znBrowserScripting PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0)
-    target_link_options(znBrowserScripting PRIVATE -Wl,-Bsymbolic-functions
-        "-Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/library.map")
-    set_target_properties(znBrowserScripting PROPERTIES LINK_DEPENDS "${PROJECT_SOURCE_DIR}/cmake/library.map")
+    target_link_options(znBrowserScripting PRIVATE -Wl,-Bsymbolic-functions)
+    zn_shared_library(znBrowserScripting znBrowserScripting)
     target_link_libraries(znBrowserScripting PUBLIC zn_headers PRIVATE zn_objects zn_tcl_stubs)
-    if(NOT (ZN_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES Clang)) # whose runtime is in the program only
-        target_link_options(znBrowserScripting PRIVATE -Wl,-z,defs)
-    endif()
+    zn_install(znBrowserScripting library LIBRARY "$ORIGIN")
 
-    install(TARGETS znBrowserScripting LIBRARY)
-    install(DIRECTORY include/ DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/znBrowserScripting")
+    # What the headers of the host need stands with that.
+    install(DIRECTORY include/ DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/znBrowserScripting" COMPONENT development
+        PATTERN znBrowserHost.h EXCLUDE)
 endif()

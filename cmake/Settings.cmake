@@ -13,7 +13,6 @@ include(GNUInstallDirs)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
-set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 
 find_program(ZN_CCACHE ccache)
 if(ZN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
@@ -23,6 +22,11 @@ endif()
 add_compile_options(-Wall -Wextra -Wshadow -Wconversion)
 if(ZN_WERROR)
     add_compile_options(-Werror)
+endif()
+
+# What is built tells nothing of where it was built. Coverage is counted by the paths of the sources.
+if(NOT ZN_COVERAGE)
+    add_compile_options("-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=")
 endif()
 
 if(ZN_SANITIZE)

@@ -26,6 +26,7 @@ endif()
 
 if(TARGET znbrowsersh)
     zn_find_sources(scripts tests/*.test)
+    list(FILTER scripts EXCLUDE REGEX "/tests/install/") # those are for other shells
     foreach(script IN LISTS scripts)
         file(RELATIVE_PATH name "${PROJECT_SOURCE_DIR}/tests" "${script}")
         set(shell $<TARGET_FILE:znbrowsersh>)

@@ -39,3 +39,29 @@ znbrowser::any::browse shop
 foreach text {Bicycles "City bicycles" Ciclofficina 2024-103 "order line"} {zn OnTkTreeRequestExpand shop [rowOf shop $text]}
 zn OnTkTreeRequestSelect shop [rowOf shop 2024-103]
 takePicture 1240x640 [file join $images any_database.png]
+
+# A menu stands on the screen by itself: the picture is cut out of that.
+zn window current gearbox
+zn window post true
+set top [winfo toplevel [zn window frame]]
+wm geometry $top 900x560+0+0
+raise $top
+update
+set ring [rowOf gearbox "Snap ring"]
+zn OnTkTreeRequestSelectionUpdate gearbox $ring
+zn OnTkTreeRequestExpand gearbox $ring
+update
+lassign [znbrowser::boxOf gearbox $ring Name] x1 y1 x2 y2
+event generate [znbrowser::tree gearbox] <ButtonPress-3> -x [expr {$x1 + 90}] -y [expr {($y1 + $y2) / 2}] \
+    -rootx [expr {[winfo rootx [znbrowser::tree gearbox]] + $x1 + 90}] \
+    -rooty [expr {[winfo rooty [znbrowser::tree gearbox]] + ($y1 + $y2) / 2}]
+update
+set menu [znbrowser::popup gearbox]
+event generate $menu <Down>
+update
+after 900 {set shown 1}
+vwait shown
+update
+exec import -window root -crop 900x560+0+0 +repage -strip [file join $images popup_menu.png]
+tk::MenuUnpost $menu
+zn window post false

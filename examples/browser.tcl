@@ -114,6 +114,7 @@ foreach {operation script} {"Weigh the gearbox" weigh "Release all parts" releas
     zn view operation create $operation
     zn view operation script $script
 }
+source [file join $here menus.tcl]
 
 # ---- The window, opened as far as the parts of the first assemblies ----
 

@@ -28,7 +28,8 @@ class znIBrowserWindowCallback;
 class znIBrowserWindowPart;
 
 /// The objects on which commands act: plain pointers into the host's model, null for none. None is owned. The
-/// manager clears those that die with what it deletes; a host that deletes objects by itself must reset them.
+/// manager clears those that die with what it deletes; a host that deletes objects by itself must
+/// say so before (`znBrowserManagerTcl::AboutToDelete`).
 struct znBrowserCurrentObjects {
     znIBrowserDataOperation* dataOperation = nullptr;
     znIBrowserViewOperation* viewOperation = nullptr;

@@ -55,6 +55,7 @@ struct ZN_API znBrowserTclMessages {
     static const char* const VIEW_DATASOURCE;
     static const char* const VIEW_DATAREFERENCE;
     static const char* const VIEW_POPUPMENU;
+    static const char* const VIEW_POPUPMENUITEM;
 
     // The words of views that connect data sources themselves.
     static const char* const HELPER_VIEW;

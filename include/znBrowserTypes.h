@@ -108,4 +108,20 @@ enum ZNBROWSER_COLLECTOR_CONTROL : int {
     ZNBROWSER_COLLECTOR_SELECTION       ///< tells how many are collected, and empties the collection
 };
 
+/// For which data sources a popup menu item stands, one entry each.
+enum ZNBROWSER_POPUP_CONTAINER : int {
+    ZNBROWSER_POPUP_CONTAINER_NONE = 0,
+    ZNBROWSER_POPUP_CONTAINER_SIMPLE,
+    ZNBROWSER_POPUP_CONTAINER_HIERARCHICAL
+};
+
+/// Where in its menu a popup menu item goes: to either end, or one up or down; a new one before or behind the
+/// current one.
+enum ZNBROWSER_POPUP_PLACE : int {
+    ZNBROWSER_POPUP_BEGINNING = 0,
+    ZNBROWSER_POPUP_END,
+    ZNBROWSER_POPUP_UP,
+    ZNBROWSER_POPUP_DOWN
+};
+
 #endif

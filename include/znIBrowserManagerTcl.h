@@ -11,7 +11,8 @@ struct Tcl_Obj;
 class znIBrowserViewItemFreeFolder;
 
 /// The host's view of the manager: the command itself, and the services by which the host reaches Tcl
-/// scripts. The order of the operations is part of the interface.
+/// scripts. The order of the operations is part of the interface. The client data of the command
+/// "znbrowsermanager", as Tcl_GetCommandInfo tells it, is a pointer to this class.
 class znIBrowserManagerTcl {
 public:
     /// The body of the "znbrowsermanager" command. `objv[0]` is the command word; the interpreter result

@@ -1,20 +1,27 @@
 #include "options.h"
 
 #include "reference.h"
+#include "znBrowserVersion.h"
 
 #include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <iostream>
+#include <string_view>
 
 namespace {
 
 const char* const FOOTER = R"(
 With a SCRIPT, znbrowsersh runs it, with ARG ... in "argv". Without one it gives a
 prompt, or runs the script that is piped into its standard input. "--" ends the
-options: the word behind it is the SCRIPT even when it begins with "-".
+options: the word behind it is the SCRIPT even when it begins with "-". A file that
+begins as an SQLite database is opened as one: as with --db, named after the file.
 
 With --tk the windows that a script posts stand on the display, and the program stays
 until the last one is closed. When there is nothing to run, it opens a browser on each
---db. Without a display it says so and draws the rows of the windows as text.
+database. Without a display it says so and draws the rows of the windows as text.
 
 Exit codes: 0 done, 1 the script failed, or it or a database cannot be opened, 2 bad
 usage; "exit N" in a script gives N.)";
@@ -22,7 +29,7 @@ usage; "exit N" in a script gives N.)";
 /// The script and its arguments are no option that the parser knows of; the help names them all the same.
 class HelpFormatter : public CLI::Formatter {
     std::string make_usage(const CLI::App*, std::string) const override {
-        return "Usage: znbrowsersh [OPTIONS] [SCRIPT [ARG ...]]\n";
+        return "Usage: znbrowsersh [OPTIONS] [FILE.db ...] [SCRIPT [ARG ...]]\n";
     }
 };
 
@@ -62,6 +69,42 @@ void SplitScript(std::vector<std::string> words, Options& options) {
     options.arguments.assign(words.begin() + 1, words.end());
 }
 
+bool IsDatabase(const std::string& file) {
+    constexpr std::string_view beginning{"SQLite format 3", 16}; // with the NUL behind it
+    char found[beginning.size()] = {};
+    std::ifstream(file, std::ios::binary).read(found, sizeof found);
+    return beginning == std::string_view(found, sizeof found);
+}
+
+/// The name of a data control on a file: the file's, without what stands behind the point.
+std::string ControlName(const std::string& file, const std::vector<DatabaseOption>& others) {
+    const std::string stem = std::filesystem::path(file).stem().string();
+    std::string name = stem;
+    const auto isTaken = [&](const DatabaseOption& other) { return other.name == name; };
+    for (int number = 2; std::any_of(others.begin(), others.end(), isTaken); ++number)
+        name = stem + "-" + std::to_string(number);
+    return name;
+}
+
+/// Databases that are named where the script stands are opened; the first other file is the script.
+void TakeDatabases(Options& options) {
+    while (options.script && IsDatabase(*options.script)) {
+        options.databases.push_back({ControlName(*options.script, options.databases), *options.script});
+        options.script.reset();
+        if (options.arguments.empty()) return;
+        options.script = options.arguments.front();
+        options.arguments.erase(options.arguments.begin());
+    }
+}
+
+void AddPage(CLI::App& app, const char* option, std::string (*page)(), const char* help) {
+    const auto print = [page] {
+        std::cout << page();
+        throw CLI::Success();
+    };
+    app.add_flag_callback(option, print, help);
+}
+
 } // namespace
 
 std::optional<ExitCode> ParseOptions(int argc, const char* const* argv, Options& options) {
@@ -80,22 +123,18 @@ std::optional<ExitCode> ParseOptions(int argc, const char* const* argv, Options&
                  "Make each error banner a Tcl error, errorCode {ZNBROWSER ERROR ...}")
         ->disable_flag_override();
     app.add_flag("--tk", options.tk,
-                 "Open windows on the display; with nothing to run, a browser on each --db")
+                 "Open windows on the display; with nothing to run, a browser on each database")
         ->disable_flag_override();
-    app.add_flag_callback(
-        "--reference",
-        [] {
-            std::cout << Reference();
-            throw CLI::Success();
-        },
-        "Print all words of the command, as Markdown, and end");
-    app.set_version_flag("--version", "znbrowsersh " ZN_VERSION);
+    AddPage(app, "--reference", Reference, "Print all words of the command, as Markdown, and end");
+    AddPage(app, "--manual", Manual, "Print the same as a manual page for man, and end");
+    app.set_version_flag("--version", "znbrowsersh " ZN_BROWSER_VERSION);
     app.prefix_command(); // stop at the script: the options behind it are the script's own
     options.program = argv[0];
     try {
         app.parse(argc, argv);
         options.databases = SplitDatabases(databases);
         SplitScript(app.remaining(), options);
+        TakeDatabases(options);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? EXIT_DONE : EXIT_USAGE;
     }

@@ -8,4 +8,7 @@
 /// a section for each word that others follow.
 std::string Reference();
 
+/// The same as a manual page, znbrowsermanager(n).
+std::string Manual();
+
 #endif

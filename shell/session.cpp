@@ -4,8 +4,9 @@
 #include "base/native.h"
 #include "base/tcl_values.h"
 #include "strict.h"
-#include "tk/tk_scripts.h"
+#include "tk/browse.h"
 #include "tk/tk_windows.h"
+#include "znBrowserVersion.h"
 
 #include <algorithm>
 
@@ -15,11 +16,8 @@ using znhost::NewText;
 namespace {
 
 const char* const COMMAND = "znbrowsermanager";
-/// The script that opens a browser on any database, and its procedure.
-const char* const DEFAULT_BROWSER = "default_browser.tcl";
-const char* const BROWSE = "::znbrowser::any::browse";
-/// How many columns of a browser fit a terminal; a window has a scroll bar.
-const int TEXT_COLUMNS = 8;
+/// The package that gives other shells the command: a script may require it here, too.
+const char* const PACKAGE = "znbrowser";
 
 bool IsBlank(Tcl_Obj* text) {
     const std::string_view all = Tcl_GetString(text);
@@ -49,8 +47,9 @@ bool Session::Start(const Options& options) {
         PrintLine(TCL_STDERR, Tcl_GetObjResult(interp_));
         return false;
     }
-    SetArguments(options);
     host_ = std::make_unique<znhost::EmbeddedHost>(interp_);
+    Tcl_PkgProvide(interp_, PACKAGE, ZN_BROWSER_VERSION);
+    SetArguments(options);
     interrupts_ = std::make_unique<Interrupts>(interp_, *host_);
     if (options.strict && !MakeStrict(interp_, COMMAND)) {
         PrintLine(TCL_STDERR, std::string("znbrowsersh: the host registered no command ") + COMMAND);
@@ -102,24 +101,9 @@ bool Session::OpenBrowsers() {
 }
 
 bool Session::Browse(const std::string& control) {
-    const auto& scripts = znhost::TkScripts();
-    const auto script = std::find_if(scripts.begin(), scripts.end(),
-                                     [](const auto& one) { return one.file == DEFAULT_BROWSER; });
-    const std::string_view text = script->text;
+    std::string reason;
     const Interrupts::Running running(*interrupts_);
-    int code = Tcl_EvalEx(interp_, text.data(), static_cast<int>(text.size()), TCL_EVAL_GLOBAL);
-    if (code == TCL_OK) {
-        Tcl_Obj* const command = Tcl_NewListObj(0, nullptr);
-        Tcl_IncrRefCount(command);
-        Tcl_ListObjAppendElement(nullptr, command, NewText(BROWSE));
-        Tcl_ListObjAppendElement(nullptr, command, NewText(control));
-        if (windows_ == Windows::AsText)
-            Tcl_ListObjAppendElement(nullptr, command, Tcl_NewIntObj(TEXT_COLUMNS));
-        code = Tcl_EvalObjEx(interp_, command, TCL_EVAL_GLOBAL);
-        Tcl_DecrRefCount(command);
-    }
-    if (code == TCL_OK) return true;
-    const std::string reason = Tcl_GetString(Tcl_GetObjResult(interp_));
+    if (znhost::OpenDefaultBrowser(interp_, control, windows_ == Windows::AsText, reason)) return true;
     PrintLine(TCL_STDERR, "znbrowsersh: cannot browse " + control + ": " + reason);
     return false;
 }

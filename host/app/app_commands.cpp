@@ -2,6 +2,7 @@
 #include "app/app_commands.h"
 
 #include "app/data_app_commands.h"
+#include "app/popup_app_commands.h"
 #include "app/row_app_commands.h"
 #include "app/state_app_commands.h"
 #include "base/tcl_values.h"
@@ -172,6 +173,9 @@ constexpr AppWord appWords[] = {
     {"journal clear", "", "empties the record of host calls", 0, 0, JournalClear},
     {"journal off", "", "stops recording host calls", 0, 0, JournalOff},
     {"journal on", "", "records host calls from now on", 0, 0, JournalOn},
+    {"popup", "WINDOW ?COLUMN INDEX ...?",
+     "lists what a right click on these rows shows, or on the selected ones: a dictionary for each entry", 1,
+     anyNumber, AnswerPopup},
     {"refuse", "?OPERATION? ?TEXT?", "lets the next call of OPERATION fail with TEXT; or lists what waits", 0,
      2, Refuse},
     {"rows", "WINDOW ?FIRST COUNT?", "lists what a window shows, a dictionary for each row", 1, 3,

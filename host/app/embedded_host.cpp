@@ -13,6 +13,7 @@
 #include "znBrowserTclCommandTree.h"
 
 #include <set>
+#include <stdexcept>
 #include <tcl.h>
 
 namespace znhost {
@@ -21,21 +22,49 @@ namespace {
 
 constexpr const char* commandName = "znbrowsermanager";
 
-/// Keeps the interpreter's memory, whoever deletes it.
+/// The interpreter, whose Tcl the host calls, whichever 8.x it is.
 struct PreservedInterp {
-    explicit PreservedInterp(Tcl_Interp* tcl) : interp(tcl) { Tcl_Preserve(interp); }
-    ~PreservedInterp() { Tcl_Release(interp); }
+    PreservedInterp(Tcl_Interp* tcl, InterpMemory interpMemory) : interp(tcl), memory(interpMemory) {
+        if (!Tcl_InitStubs(interp, "8.6", 0))
+            throw std::runtime_error("the embedded host needs Tcl 8.6 or a later 8.x");
+        if (memory == InterpMemory::Kept) Tcl_Preserve(interp);
+    }
+    ~PreservedInterp() {
+        if (memory == InterpMemory::Kept) Tcl_Release(interp);
+    }
     PreservedInterp(const PreservedInterp&) = delete;
     PreservedInterp& operator=(const PreservedInterp&) = delete;
 
     Tcl_Interp* const interp;
+    const InterpMemory memory;
+};
+
+/// A manager that knows whether a command runs.
+class RunningManager final : public znBrowserManagerTcl {
+public:
+    using znBrowserManagerTcl::znBrowserManagerTcl;
+
+    int EvalTclCommand(int objc, Tcl_Obj* const objv[]) override {
+        struct Running {
+            explicit Running(int& runningCount) : count(runningCount) { ++count; }
+            ~Running() { --count; }
+            int& count;
+        };
+        const Running running(running_);
+        return znBrowserManagerTcl::EvalTclCommand(objc, objv);
+    }
+    bool IsRunning() const { return running_ > 0; }
+
+private:
+    int running_ = 0;
 };
 
 } // namespace
 
 /// What the host consists of; destroyed from the last to the first.
 struct EmbeddedHost::Parts : PreservedInterp {
-    explicit Parts(Tcl_Interp* tcl) : PreservedInterp(tcl), application(interp, log) {}
+    Parts(Tcl_Interp* tcl, InterpMemory interpMemory)
+        : PreservedInterp(tcl, interpMemory), application(interp, log) {}
     ~Parts() {
         display.reset();
         if (command.token) Tcl_DeleteCommandFromToken(interp, command.token);
@@ -61,17 +90,20 @@ struct EmbeddedHost::Parts : PreservedInterp {
     ManagerCommand command;
     CallLog log;
     Application application;
-    std::unique_ptr<znBrowserManagerTcl> manager;
+    std::unique_ptr<RunningManager> manager;
     std::shared_ptr<WindowDisplay> display;
 };
 
-EmbeddedHost::EmbeddedHost(Tcl_Interp* interp) : parts_(std::make_unique<Parts>(interp)) {
-    parts_->manager = std::make_unique<znBrowserManagerTcl>(&parts_->application);
+EmbeddedHost::EmbeddedHost(Tcl_Interp* interp, InterpMemory memory)
+    : parts_(std::make_unique<Parts>(interp, memory)) {
+    parts_->manager = std::make_unique<RunningManager>(&parts_->application);
     parts_->application.SetManager(parts_->manager.get());
     parts_->WatchCommand();
 }
 
 EmbeddedHost::~EmbeddedHost() = default;
+
+bool EmbeddedHost::IsRunning() const { return parts_->manager->IsRunning(); }
 
 znBrowserManagerTcl& EmbeddedHost::Manager() { return *parts_->manager; }
 

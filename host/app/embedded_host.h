@@ -16,11 +16,18 @@ class CallLog;
 class WindowDisplay;
 struct ManagerCommand;
 
+/// Who keeps the memory of the host's interpreter.
+enum class InterpMemory {
+    Kept,         ///< the host, so that the interpreter may be deleted before it
+    LeftToOthers, ///< others: deleting the interpreter deletes the host, which must not outlive it
+};
+
 /// A host with its own model, and a manager on it: after the constructor the interpreter has the command
-/// "znbrowsermanager". The interpreter may be deleted before the host; its memory is kept as long.
+/// "znbrowsermanager".
 class EmbeddedHost {
 public:
-    explicit EmbeddedHost(Tcl_Interp* interp);
+    /// @throws std::runtime_error when the interpreter's Tcl is older than 8.6, or not 8.x
+    explicit EmbeddedHost(Tcl_Interp* interp, InterpMemory memory = InterpMemory::Kept);
     /// Deletes the command, the manager and the model.
     ~EmbeddedHost();
     EmbeddedHost(const EmbeddedHost&) = delete;
@@ -59,6 +66,8 @@ public:
     std::size_t OpenWindows() const;
     /// The rows of each posted window as a text, for who has no display.
     std::vector<std::string> DrawWindows() const;
+    /// Whether a command runs now, in whose middle the host must not be deleted.
+    bool IsRunning() const;
     znBrowserManagerTcl& Manager();
     const ManagerCommand& Command() const;
     Application& App();

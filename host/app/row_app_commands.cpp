@@ -20,14 +20,6 @@ const char* KindName(RowKind kind) {
     return "item";
 }
 
-namespace {
-
-/// Of the texts of all rows asked for at once: Tcl ends the process above 2 GiB, and writing a list of such
-/// texts may double them for each level of the list.
-constexpr std::size_t mostBytes = std::size_t{1} << 27;
-
-/// The window that the first argument names, held; null, and the error stands in the interpreter, when there
-/// is none.
 std::shared_ptr<Window> WindowOf(AppCall& call) {
     Window* const window = call.App().Model().Windows().All().Find(call.Text(0));
     if (window) return window->shared_from_this();
@@ -35,9 +27,11 @@ std::shared_ptr<Window> WindowOf(AppCall& call) {
     return nullptr;
 }
 
-void Put(Tcl_Obj* dictionary, const char* key, Tcl_Obj* value) {
-    Tcl_DictObjPut(nullptr, dictionary, Tcl_NewStringObj(key, -1), value);
-}
+namespace {
+
+/// Of the texts of all rows asked for at once: Tcl ends the process above 2 GiB, and writing a list of such
+/// texts may double them for each level of the list.
+constexpr std::size_t mostBytes = std::size_t{1} << 27;
 
 /// @param bytes grows by the bytes of the row's texts
 Tcl_Obj* NewRow(RowModel& rows, const RowLook& look, std::size_t& bytes) {

@@ -2,10 +2,17 @@
 #ifndef ZN_HOST_ROW_APP_COMMANDS_H
 #define ZN_HOST_ROW_APP_COMMANDS_H
 
+#include <memory>
+
 namespace znhost {
 
 class AppCall;
+class Window;
 enum class RowKind;
+
+/// The window that the first argument names, held; null, and the error stands in the interpreter, when there
+/// is none.
+std::shared_ptr<Window> WindowOf(AppCall& call);
 
 /// "folder", "tree", "list" or "item".
 const char* KindName(RowKind kind);

@@ -24,15 +24,22 @@ HostServices::Hurry::Hurry(HostServices& services, std::chrono::milliseconds tim
 }
 
 // The lambda makes a script that ends with "return" end well; the script itself runs at the global level.
-bool HostServices::RunScript(const std::string& script) {
+bool HostServices::RunScript(const std::string& script, std::string* result) {
     if (!manager_ || Tcl_InterpDeleted(interp_)) return Fail("There is no interpreter to run a script in");
     const KeptResult kept(interp_);
     const char* const words[] = {"::apply", "script {uplevel #0 $script}", script.c_str()};
     const std::unique_ptr<char, void (*)(char*)> command(Tcl_Merge(3, words), Tcl_Free);
-    if (manager_->EvalTclScript(command.get())) return true;
+    if (manager_->EvalTclScript(command.get())) {
+        if (result) *result = Tcl_GetStringResult(interp_);
+        return true;
+    }
     log_.SetError(Tcl_GetStringResult(interp_));
     Tcl_BackgroundException(interp_, TCL_ERROR);
     return false;
+}
+
+bool HostServices::RunProcedure(const std::vector<std::string>& words, std::string* result) {
+    return RunScript(ListOf(words).Str(), result);
 }
 
 bool HostServices::CallProcedure(const std::vector<std::string>& words, std::string& result) {
@@ -72,11 +79,11 @@ void HostServices::ReportError(const std::string& text) {
     Tcl_BackgroundException(interp_, TCL_ERROR);
 }
 
-void HostServices::Notify(const std::function<bool(znIBrowserManagerTcl&)>& service) {
-    if (!manager_ || Tcl_InterpDeleted(interp_)) return;
+bool HostServices::Notify(const std::function<bool(znIBrowserManagerTcl&)>& service) {
+    if (!manager_ || Tcl_InterpDeleted(interp_)) return true;
     const KeptResult kept(interp_);
     Tcl_ResetResult(interp_);
-    if (service(*manager_)) return;
+    if (service(*manager_)) return true;
     // A service may also be refused because of what a procedure left behind: then no script has failed.
     Tcl_Obj* const options = Tcl_GetReturnOptions(interp_, TCL_ERROR);
     Tcl_IncrRefCount(options);
@@ -84,9 +91,14 @@ void HostServices::Notify(const std::function<bool(znIBrowserManagerTcl&)>& serv
     Tcl_IncrRefCount(key);
     Tcl_Obj* place = nullptr;
     Tcl_DictObjGet(nullptr, options, key, &place);
-    if (place) Tcl_BackgroundException(interp_, TCL_ERROR);
+    const bool failed = place != nullptr;
+    if (failed) {
+        log_.SetError(Tcl_GetStringResult(interp_));
+        Tcl_BackgroundException(interp_, TCL_ERROR);
+    }
     Tcl_DecrRefCount(key);
     Tcl_DecrRefCount(options);
+    return !failed;
 }
 
 } // namespace znhost

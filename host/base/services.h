@@ -58,13 +58,17 @@ public:
     void ReportError(const std::string& text);
     /// Calls a service of the manager by which scripts are notified. An error in one of their procedures goes
     /// to the background error handler; the interpreter's result is as it was.
-    void Notify(const std::function<bool(znIBrowserManagerTcl&)>& service);
+    /// @return false, with the message as the error text, when there was one
+    bool Notify(const std::function<bool(znIBrowserManagerTcl&)>& service);
 
     // Running Tcl. The interpreter's result and error state are put back afterwards. What runs may call
     // "znbrowsermanager" again and delete any object of the model.
     /// Runs a script by the manager. An error goes to the interpreter's background error handler.
-    /// @return false when the script failed.
-    bool RunScript(const std::string& script);
+    /// @param result  receives what the script answers; null: that is not wanted
+    /// @return false, with the message as the error text, when the script failed.
+    bool RunScript(const std::string& script, std::string* result = nullptr);
+    /// Runs the call of a Tcl procedure in the same way: its name and arguments, each a word.
+    bool RunProcedure(const std::vector<std::string>& words, std::string* result = nullptr);
     /// Calls a Tcl procedure: its name and arguments, each a word. `result` receives its result or, when the
     /// answer is false, the error message.
     bool CallProcedure(const std::vector<std::string>& words, std::string& result);

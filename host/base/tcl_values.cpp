@@ -26,4 +26,8 @@ std::string ListText(const std::vector<std::string>& words) {
     return text;
 }
 
+void Put(Tcl_Obj* dictionary, const char* key, Tcl_Obj* value) {
+    Tcl_DictObjPut(nullptr, dictionary, Tcl_NewStringObj(key, -1), value);
+}
+
 } // namespace znhost

@@ -20,14 +20,9 @@ void ViewList::GetViews(std::vector<znIBrowserView*>& views, int flags) {
 
 Browser::Browser(HostServices& services)
     : HostObject(services.Log()), services_(services), views_(log_),
-      guiMaps_(std::make_unique<GuiMapList>(log_)) {}
+      guiMaps_(std::make_unique<GuiMapList>(log_)), popupMenus_(log_) {}
 
 Browser::~Browser() = default;
-
-PopupMenu& Browser::PopupMenuNamed(const std::string& name) {
-    PopupMenu* const menu = popupMenus_.Find(name);
-    return menu ? *menu : popupMenus_.Add(std::make_shared<PopupMenu>(log_, name));
-}
 
 void Browser::Forget(znIBrowserDataSource& source) {
     for (const auto& view : Views()) view->Forget(source);

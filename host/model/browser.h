@@ -45,12 +45,14 @@ public:
     /// All views, held: telling them something may run scripts, which may delete some.
     std::vector<std::shared_ptr<View>> HeldViews() { return {Views().begin(), Views().end()}; }
     GuiMapList& GuiMaps() { return *guiMaps_; }
-    /// The popup menu of that name, made when it is first asked for.
-    PopupMenu& PopupMenuNamed(const std::string& name);
+    NamedList<PopupMenu>& PopupMenus() { return popupMenus_.All(); }
     /// Whether changes wait before they reach the windows.
     bool HoldsBack() const { return !flush_; }
     /// Runs a data operation. @return false, with an error text, when it failed.
     bool RunDataOperation(znIBrowserDataOperation& operation);
+    /// Performs a popup menu item on the selected rows of a window, see `znIBrowserPopupMenuItem::Perform`.
+    virtual bool PerformPopupItem(PopupItem& item, znIBrowserWindowAccess& window,
+                                  const std::string& value) = 0;
 
     // Makes views and windows let go of what a data control is about to delete.
     void Forget(znIBrowserDataSource& source);
@@ -170,6 +172,11 @@ public:
     bool CreateGuiMap(const char* name) override;
     bool SetGuiMapType(znIBrowserGuiMap* map, ZNBROWSER_GUIMAP_TYPE type) override;
 
+    // Popup menus.
+    znIBrowserPopupMenuList* GetPopupMenuList() override;
+    bool CreatePopupMenu(const char* name) override;
+    bool DeletePopupMenu(znIBrowserPopupMenu* menu) override;
+
     // Data sources of a view.
     bool ConnectDataSourceSimple(znIBrowserView* view, const char* name) override;
     bool ConnectDataSourceHierarchical(znIBrowserView* view, const char* name) override;
@@ -179,6 +186,10 @@ public:
                                      znIBrowserDataSourceHierarchical* source) override;
     bool UpdateTreeDataSource(znIBrowserViewItemFreeFolder* folder, znIBrowserDataSource* source) override;
     bool PerformDataOperation(znIBrowserDataOperation* operation) override;
+
+protected:
+    /// Closes the menu where it is open.
+    virtual void OnPopupMenuDeleted(const PopupMenu& menu) = 0;
 
 private:
     bool SetFolderFlag(znIBrowserViewItemFreeFolder* folder, bool FolderSettings::*setting, bool value,
@@ -194,7 +205,7 @@ private:
     HostServices& services_;
     ViewList views_;
     std::unique_ptr<GuiMapList> guiMaps_;
-    NamedList<PopupMenu> popupMenus_;
+    PopupMenuList popupMenus_;
     bool flush_ = true;
 };
 

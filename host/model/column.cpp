@@ -161,14 +161,12 @@ void Column::SetStyle(znIBrowserStyle* style) {
 
 znIBrowserPopupMenu* Column::GetPopupMenu() {
     if (Refused("znIBrowserViewColumn::GetPopupMenu")) return nullptr;
-    return popupMenu_;
+    return Popup();
 }
 
 bool Column::SetPopupMenu(const char* name) {
     if (Refused("znIBrowserViewColumn::SetPopupMenu", name)) return false;
-    const std::string menu = TextOf(name);
-    popupMenu_ = menu.empty() ? nullptr : &view_.Owner().PopupMenuNamed(menu);
-    return true;
+    return popupMenu_.Set(view_.Owner(), name);
 }
 
 } // namespace znhost

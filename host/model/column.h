@@ -5,6 +5,7 @@
 #include "base/host_call.h"
 #include "base/named_list.h"
 #include "host/znIBrowserViewColumn.h"
+#include "model/popup_place.h"
 #include "model/style.h"
 
 #include <memory>
@@ -12,7 +13,6 @@
 
 namespace znhost {
 
-class PopupMenu;
 class View;
 class ViewProperty;
 
@@ -51,7 +51,8 @@ public:
     const NamedList<Style>& Styles() const { return styles_; }
     /// The style that the column draws its items with; null when none was set.
     Style* StyleInUse() const { return styleInUse_; }
-    PopupMenu* Popup() const { return popupMenu_; }
+    /// Null for none.
+    PopupMenu* Popup() const { return popupMenu_.Get(); }
 
     const char* GetName() const override;
     bool IsBuiltIn() const override;
@@ -93,7 +94,7 @@ private:
     NamedList<Style> styles_;
     Style* styleInUse_ = nullptr;
     Style* currentStyle_ = nullptr; ///< As scripts told; the model itself makes no use of it.
-    PopupMenu* popupMenu_ = nullptr;
+    PopupPlace popupMenu_;
 };
 
 } // namespace znhost

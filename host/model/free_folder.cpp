@@ -3,6 +3,7 @@
 
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserDataReference.h"
+#include "model/browser.h"
 #include "model/data_sources.h"
 #include "model/view.h"
 
@@ -157,6 +158,16 @@ bool FreeFolder::GetSelection(znBrowserDataItems& items) {
     }
     for (znIBrowserDataSourceSimple* const source : sources) view_.Selected().AppendTo(items, source);
     return true;
+}
+
+znIBrowserPopupMenu* FreeFolder::GetPopupMenu() {
+    if (Refused("znIBrowserViewItemFreeFolder::GetPopupMenu")) return nullptr;
+    return Popup();
+}
+
+bool FreeFolder::SetPopupMenu(const char* name) {
+    if (Refused("znIBrowserViewItemFreeFolder::SetPopupMenu", name)) return false;
+    return popupMenu_.Set(view_.Owner(), name);
 }
 
 } // namespace znhost

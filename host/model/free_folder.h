@@ -5,6 +5,7 @@
 #include "base/host_call.h"
 #include "base/named_list.h"
 #include "host/znIBrowserViewItemFreeFolder.h"
+#include "model/popup_place.h"
 
 #include <map>
 #include <memory>
@@ -124,6 +125,9 @@ public:
     int SortingException(const znIBrowserDataSourceSimple* source) const;
     void SetSortingException(znIBrowserDataSourceSimple& source, int value);
 
+    /// The folder's own popup menu; null for none.
+    PopupMenu* Popup() const { return popupMenu_.Get(); }
+
     // Styles.
     /// The style of the folder itself in that column: its own, else the column's.
     Style* StyleIn(const Column& column) const;
@@ -158,6 +162,8 @@ public:
     znIBrowserDataSource* GetCurrentDataSource() override;
     bool SetCurrentDataSource(znIBrowserDataSource* source) override;
     bool SetDataSourceStyle(znIBrowserDataSource* source, znIBrowserViewColumn* column, bool style) override;
+    znIBrowserPopupMenu* GetPopupMenu() override;
+    bool SetPopupMenu(const char* name) override;
 
 private:
     struct SourceStyle {
@@ -186,6 +192,7 @@ private:
     std::map<const znIBrowserDataSourceSimple*, int> sortingExceptions_;
     std::vector<ColumnStyle> styles_;
     std::vector<SourceStyle> sourceStyles_;
+    PopupPlace popupMenu_;
 };
 
 } // namespace znhost

@@ -158,4 +158,23 @@ znIBrowserViewOperation* View::FindViewOperation(const char* name) {
     return operations_.Find(TextOf(name));
 }
 
+// ---- Popup menu ----
+
+znIBrowserPopupMenu* View::GetPopupMenu() {
+    if (Refused("znIBrowserView::GetPopupMenu")) return nullptr;
+    return Popup();
+}
+
+bool View::SetPopupMenu(const char* name) {
+    if (Refused("znIBrowserView::SetPopupMenu", name)) return false;
+    return popupMenu_.Set(browser_, name);
+}
+
+bool View::GetViewOperations(std::vector<znIBrowserViewOperation*>& operations) {
+    operations.clear();
+    if (Refused("znIBrowserView::GetViewOperations")) return false;
+    operations_.CopyTo(operations);
+    return true;
+}
+
 } // namespace znhost

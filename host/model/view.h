@@ -7,6 +7,7 @@
 #include "host/znIBrowserView.h"
 #include "model/column.h"
 #include "model/free_folder.h"
+#include "model/popup_place.h"
 #include "model/selection.h"
 #include "model/view_collector.h"
 #include "model/view_observer.h"
@@ -79,6 +80,9 @@ public:
     void EndShares();
     /// False, with an error text, when the share exists.
     bool AddShare(View& other, znIBrowserDataSourceHierarchical& source);
+
+    /// The popup menu of the rows where nothing nearer has one; null for none.
+    PopupMenu* Popup() const { return popupMenu_.Get(); }
 
     // Selection.
     Selection& Selected() { return selection_; }
@@ -175,6 +179,9 @@ public:
     bool SetFilterMatchCase(bool matchCase) override;
     bool GetFilterMatchWord() const override;
     bool SetFilterMatchWord(bool matchWord) override;
+    znIBrowserPopupMenu* GetPopupMenu() override;
+    bool SetPopupMenu(const char* name) override;
+    bool GetViewOperations(std::vector<znIBrowserViewOperation*>& operations) override;
 
 private:
     template <class Value>
@@ -208,6 +215,7 @@ private:
     bool sortAscending_ = true;
     TextFilter filter_;
     bool groupFilter_ = false;
+    PopupPlace popupMenu_;
     std::set<std::string> hiddenSources_; ///< By name: what is not shown.
 
     std::vector<ViewObserver*> observers_; ///< Null: removed while they are being told something.

@@ -117,7 +117,9 @@ bool View::Uses(znIBrowserDataSource& source) const {
 void View::GetDataSourcesSimple(std::vector<znIBrowserDataSourceSimple*>& sources) {
     sources.clear();
     if (Refused("znIBrowserView::GetDataSourcesSimple")) return;
-    for (znIBrowserDataSource* const source : connected_) AddNew(sources, SimpleOf(log_, source));
+    for (znIBrowserDataSource* const source : connected_) {
+        if (znIBrowserDataSourceSimple* const simple = SimpleOf(log_, source)) sources.push_back(simple);
+    }
 }
 
 void View::GetDataSourcesHierarchical(std::vector<znIBrowserDataSourceHierarchical*>& sources) {

@@ -237,6 +237,12 @@ bool RowModel::GetItem(std::uint32_t index, znBrowserDataItem& item) {
     return true;
 }
 
+const RowContent* RowModel::ContentAt(std::uint32_t index) {
+    const Answering answering(*this);
+    const Row row = Find(index);
+    return row ? &row.Content() : nullptr;
+}
+
 ViewProperty* RowModel::PropertyOf(std::uint32_t index, const Column& column, const std::string& element) {
     const Answering answering(*this);
     const Row row = Find(index);

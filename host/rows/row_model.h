@@ -104,6 +104,8 @@ public:
     std::vector<std::uint32_t> IndicesFrom(std::int64_t first, std::int64_t count);
     /// False when the row is not an item's.
     bool GetItem(std::uint32_t index, znBrowserDataItem& item);
+    /// What stands there: what the row itself stands for; an item's block. Null when the index is unknown.
+    const RowContent* ContentAt(std::uint32_t index);
     /// The view property behind an element of an item's cell; null when there is none.
     ViewProperty* PropertyOf(std::uint32_t index, const Column& column, const std::string& element);
 

@@ -73,6 +73,10 @@ inline constexpr const char* guiMap = "gui map";
 inline constexpr const char* guiMapRecord = "gui map record";
 /// A record that shows the greyed form of its icon: the map's name; the key; nothing.
 inline constexpr const char* disabledRecord = "disabled record";
+/// Whether a popup menu item is switched on: its menu's name; its name; whether it is.
+inline constexpr const char* popupEnabling = "popup enabling";
+/// The check box of a popup menu item that has one: its menu's name; its name; whether it is ticked.
+inline constexpr const char* popupCheck = "popup check";
 /// The text filter: nothing; nothing; the pattern.
 inline constexpr const char* filter = "filter";
 /// A data source that the filter hides: its name.

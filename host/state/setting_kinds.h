@@ -75,6 +75,7 @@ const std::vector<SettingKind>& FolderKinds();
 const std::vector<SettingKind>& ViewKinds();
 const std::vector<SettingKind>& GuiMapKinds();
 const std::vector<SettingKind>& CollectorKinds();
+const std::vector<SettingKind>& PopupKinds();
 const std::vector<SettingKind>& WindowKinds();
 
 } // namespace znhost

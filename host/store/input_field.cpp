@@ -38,6 +38,18 @@ InputField::Content InputField::ZeroOf(ZNBROWSER_DATA_TYPE type) {
     }
 }
 
+std::string InputField::Text() const {
+    struct Writer {
+        std::string operator()(std::monostate) const { return {}; }
+        std::string operator()(bool value) const { return value ? "true" : "false"; }
+        std::string operator()(double value) const { return NumberWord(value); }
+        std::string operator()(const std::string& value) const { return value; }
+        std::string operator()(int value) const { return std::to_string(value); }
+        std::string operator()(unsigned int value) const { return std::to_string(value); }
+    };
+    return std::visit(Writer(), value_);
+}
+
 template <class Type>
 bool InputField::Store(Type value) {
     if (!std::holds_alternative<Type>(value_)) {

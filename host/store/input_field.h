@@ -3,7 +3,7 @@
 #define ZN_HOST_INPUT_FIELD_H
 
 #include "base/host_call.h"
-#include "host/znIBrowserInputField.h"
+#include "model/readable_field.h"
 
 #include <optional>
 #include <string>
@@ -13,7 +13,7 @@ namespace znhost {
 
 /// A named value of one type, which is zero, false or "" until it is set. Setters and getters of any other
 /// type are refused; arrays are not held. A new type puts the value back.
-class InputField final : public znIBrowserInputField, public HostObject {
+class InputField final : public ReadableField, public HostObject {
 public:
     InputField(CallLog& log, std::string name, ZNBROWSER_DATA_TYPE type);
 
@@ -21,6 +21,8 @@ public:
     /// The type of that word: "bool", "unsigned", "integer", "double" or "string", in any case; "int",
     /// "uint" and "str" for short, "boolean" for long. None for any other word.
     static std::optional<ZNBROWSER_DATA_TYPE> TypeOfWord(const std::string& word);
+
+    std::string Text() const override;
 
     const char* GetName() const override;
     ZNBROWSER_DATA_TYPE GetDataType() const override;

@@ -212,6 +212,16 @@ znIBrowserDataCtrl* SimpleSource::GetDataCtrl() {
     return &control_;
 }
 
+znIBrowserPopupMenu* SimpleSource::GetPopupMenu() {
+    if (Refused("znIBrowserDataSourceSimple::GetPopupMenu")) return nullptr;
+    return popupMenu_.Get();
+}
+
+bool SimpleSource::SetPopupMenu(const char* name) {
+    if (Refused("znIBrowserDataSourceSimple::SetPopupMenu", name)) return false;
+    return popupMenu_.Set(control_.Model(), name);
+}
+
 // ---- What a base source cannot do
 
 bool SimpleSource::AddBase(BaseSource&) { return FailNotCustom(); }

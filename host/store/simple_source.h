@@ -5,6 +5,7 @@
 #include "base/host_call.h"
 #include "base/named_list.h"
 #include "host/znIBrowserDataSourceSimple.h"
+#include "model/popup_place.h"
 #include "model/row_source.h"
 #include "store/data_property.h"
 #include "store/data_source.h"
@@ -81,6 +82,8 @@ public:
     void GetDataItems(znBrowserDataItems& items) override;
     znIBrowserDataSource* GetDataSource() override;
     znIBrowserDataCtrl* GetDataCtrl() override;
+    znIBrowserPopupMenu* GetPopupMenu() override;
+    bool SetPopupMenu(const char* name) override;
 
     // RowSource
     znIBrowserDataSourceSimple* GetSource() override { return this; }
@@ -141,6 +144,7 @@ private:
     std::optional<std::string> filterCaption_; ///< Without one of its own: the caption.
     NamedList<DataProperty> created_;
     DataSource facet_;
+    PopupPlace popupMenu_;
     mutable std::string error_;
 };
 

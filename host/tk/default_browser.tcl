@@ -32,6 +32,7 @@ proc ::znbrowser::any::browse {control {columns {}}} {
     Do window create $control
     Do window stripe true
     ExpandSmall $control [dict keys $tables] $nested
+    if {[llength [info procs ::znbrowser::any::MakeMenu]]} {MakeMenu $control} ;# there is a display
     Do window post true
 }
 

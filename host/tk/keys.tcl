@@ -11,7 +11,8 @@ proc ::znbrowser::bindKeys {} {
     foreach {key handler} {
         Right openOrEnter Left closeOrLeave plus openRow KP_Add openRow minus closeRow KP_Subtract closeRow
         asterisk openBelow KP_Multiply openBelow Return toggleActive space selectActive
-        Control-space toggleSelected Control-a selectAll Control-A selectAll Escape clearSearch
+        Control-space toggleSelected Control-a selectAll Control-A selectAll
+        Control-c copySelected Control-C copySelected Escape clearSearch
         Menu menuAtActive Shift-F10 menuAtActive
     } {
         set modifiers [lrange [split $key -] 0 end-1]

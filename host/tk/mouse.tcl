@@ -210,8 +210,9 @@ proc ::znbrowser::hover {n slot} {
 }
 
 proc ::znbrowser::leave {n} {
+    upvar #0 ::znbrowser::window$n w
     hover $n -1
-    hideTip $n
+    if {!$w(menu)} {hideTip $n} ;# a menu that opens takes the pointer, and has tips of its own
     return header
 }
 

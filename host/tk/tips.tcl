@@ -1,4 +1,4 @@
-# Tooltips: the whole text of a cell that has no room for it.
+# Tooltips: the whole text of a cell that has no room for it, and the help of menu entries.
 
 proc ::znbrowser::pointTip {n x y rootX rootY} {
     upvar #0 ::znbrowser::window$n w
@@ -44,4 +44,29 @@ proc ::znbrowser::hideTip {n} {
     if {[info exists w(timer,tip)]} {after cancel $w(timer,tip)}
     unset -nocomplain w(timer,tip) w(tip)
     destroy $w(path).tip
+}
+
+# ---- Menus
+
+# Another entry of a menu is the active one: what it does stands in the status line, and soon beside it.
+proc ::znbrowser::entrySelected {n menu} {
+    upvar #0 ::znbrowser::window$n w
+    if {![isOpen $n] || ![info exists w(helps,$menu)]} return
+    hideHelp $n
+    set place [$menu index active]
+    if {$place eq "none"} return
+    lassign [lindex $w(helps,$menu) $place] help description
+    set texts [lmap text [list $help $description] {if {$text eq ""} continue; oneLine $text}]
+    $w(path).status.help configure -text [join $texts "   ·   "]
+    if {$help eq ""} return
+    set y [expr {[winfo rooty $menu] + [$menu yposition $place] + [rowHeight] - 14}]
+    set w(tip) $help
+    set w(timer,tip) [after 500 [list ::znbrowser::showTip $n $help \
+        [expr {[winfo rootx $menu] + [winfo width $menu] - 8}] $y]]
+}
+
+proc ::znbrowser::hideHelp {n} {
+    upvar #0 ::znbrowser::window$n w
+    hideTip $n
+    $w(path).status.help configure -text ""
 }

@@ -136,12 +136,15 @@ TkWindows::TkWindows(Application& application, const ManagerCommand& command)
 std::shared_ptr<TkWindows> TkWindows::Load(Application& application, const ManagerCommand& command,
                                            std::string& error) {
     Tcl_Interp* const interp = application.Interp();
+    const bool hadTk = Evaluate(interp, "package present Tk", error);
     {
         const HiddenArguments hidden(interp);
         if (!Evaluate(interp, "package require Tk", error)) return nullptr;
     }
     std::shared_ptr<TkWindows> windows(new TkWindows(application, command));
     if (!Evaluate(interp, "package require treectrl", error) || !windows->LoadScripts(error)) return nullptr;
+    // The main window of who had Tk already is theirs.
+    if (!hadTk && !Evaluate(interp, "wm withdraw .", error)) return nullptr;
     application.SetWork(&windows->work_);
     return windows;
 }
@@ -156,7 +159,7 @@ bool ShowWindows(EmbeddedHost& host, std::string& error) {
 
 bool TkWindows::LoadScripts(std::string& error) {
     Tcl_Interp* const interp = application_.Interp();
-    if (!Evaluate(interp, "wm withdraw .; namespace eval ::znbrowser {}", error)) return false;
+    if (!Evaluate(interp, "namespace eval ::znbrowser {}", error)) return false;
     Tcl_CreateObjCommand(interp, hostCommand, AnswerTkWord, this, nullptr);
     Tcl_CreateObjCommand(interp, managerCommand, AnswerManagerWords, this, nullptr);
     for (const TkScript& script : TkScripts()) {
@@ -239,5 +242,43 @@ void TkWindows::PackPart(Window& window, const std::string& frame, const std::ve
 void TkWindows::HidePart(const std::string& frame) { Run({"::znbrowser::hidePart", frame}); }
 
 void TkWindows::RemovePart(const std::string& frame) { Run({"::znbrowser::removePart", frame}); }
+
+// ---- Popup menus ----
+
+void TkWindows::ClosePopup(Window& window) {
+    if (const unsigned number = NumberOf(window)) Run({"::znbrowser::dropMenu", std::to_string(number)});
+}
+
+namespace {
+
+/// Puts the elements of a list behind its first into the values. False when they are not as many.
+bool TakeAnswer(Tcl_Obj* answer, InputValues& values) {
+    int count = 0;
+    Tcl_Obj** elements = nullptr;
+    if (Tcl_ListObjGetElements(nullptr, answer, &count, &elements) != TCL_OK) return false;
+    if (static_cast<std::size_t>(count) != values.size() + 1) return false;
+    for (InputValue& value : values) value.text = Tcl_GetString(*++elements);
+    return true;
+}
+
+} // namespace
+
+// The scripts answer an empty list when the user cancels, else a word and the values.
+bool TkWindows::AskInput(Window& window, const std::string& title, InputValues& values) {
+    const unsigned number = NumberOf(window);
+    if (!number) return true;
+    std::vector<std::string> words{"::znbrowser::askInput", std::to_string(number), title};
+    for (const InputValue& value : values) {
+        words.push_back(value.field);
+        words.push_back(std::to_string(value.type));
+        words.push_back(value.text);
+    }
+    const TkWork::Rest rest(work_);
+    Tcl_Obj* const answer = NewText(Run(words));
+    Tcl_IncrRefCount(answer);
+    const bool taken = TakeAnswer(answer, values);
+    Tcl_DecrRefCount(answer);
+    return taken;
+}
 
 } // namespace znhost

@@ -57,6 +57,8 @@ public:
     void HidePart(const std::string& frame) override;
     void RemovePart(const std::string& frame) override;
     void Close(Window& window) override;
+    void ClosePopup(Window& window) override;
+    bool AskInput(Window& window, const std::string& title, InputValues& values) override;
     std::size_t OpenWindows() const override { return shown_.size(); }
 
 private:

@@ -1,9 +1,12 @@
 #include "tk/tk_words.h"
 
 #include "app/application.h"
+#include "app/popup_app_commands.h"
 #include "app/row_app_commands.h"
 #include "base/tcl_values.h"
 #include "base/text.h"
+#include "host/znBrowserDataItems.h"
+#include "host/znIBrowserDataSourceSimple.h"
 #include "model/popup_menu.h"
 #include "model/view.h"
 #include "tk/tk_windows.h"
@@ -25,10 +28,6 @@ Tcl_Obj* ListOf(std::initializer_list<Tcl_Obj*> objects) {
 }
 
 void Append(Tcl_Obj* list, Tcl_Obj* object) { Tcl_ListObjAppendElement(nullptr, list, object); }
-
-void Put(Tcl_Obj* dictionary, const char* key, Tcl_Obj* value) {
-    Tcl_DictObjPut(nullptr, dictionary, Tcl_NewStringObj(key, -1), value);
-}
 
 Tcl_Obj* NewIndices(const std::vector<std::uint32_t>& indices) {
     Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
@@ -199,6 +198,30 @@ Tcl_Obj* Count(const Question& question) {
     return Tcl_NewBooleanObj(question.window.Rows().IsUncounted());
 }
 
+/// The entries of the popup menu that is open.
+Tcl_Obj* Popup(const Question& question) { return NewPopupEntries(question.window.Popup().Entries()); }
+
+/// A right click beside all rows.
+Tcl_Obj* ClickAside(const Question& question) {
+    question.window.Popup().SetClick({});
+    return Tcl_NewObj();
+}
+
+/// The item that a row stands for: the name of its data source, and its number there. Empty for other rows.
+Tcl_Obj* Item(const Question& question) {
+    RowModel& rows = question.window.Rows();
+    const RowModel::Answering answering(rows);
+    znBrowserDataItem item;
+    const auto index = static_cast<std::uint32_t>(question.numbers[0]);
+    if (!rows.Has(index) || !rows.GetItem(index, item)) return Tcl_NewObj();
+    return ListOf({NewText(item.source->GetName()), Tcl_NewWideIntObj(item.row)});
+}
+
+/// Why a text is no value of a type.
+Tcl_Obj* Refusal(const Question& question) {
+    return NewText(WhyNoValue(static_cast<ZNBROWSER_DATA_TYPE>(question.numbers[0]), question.text));
+}
+
 Tcl_Obj* Trouble(const Question& question) { return NewText(question.window.Rows().TakeTrouble()); }
 
 struct TkWord {
@@ -210,13 +233,17 @@ struct TkWord {
 };
 
 constexpr TkWord tkWords[] = {
+    {"aside", "NUMBER", 0, false, ClickAside},
     {"count", "NUMBER", 0, false, Count},
     {"find", "NUMBER FIRST TEXT", 1, true, FindBeginning},
     {"indices", "NUMBER FIRST COUNT", 2, false, Indices},
+    {"item", "NUMBER INDEX", 1, false, Item},
     {"look", "NUMBER", 0, false, Look},
     {"page", "NUMBER FIRST COUNT", 2, false, Page},
+    {"popup", "NUMBER", 0, false, Popup},
     {"position", "NUMBER INDEX", 1, false, Position},
     {"prune", "NUMBER", 0, false, Prune},
+    {"refusal", "NUMBER TYPE TEXT", 1, true, Refusal},
     {"selected", "NUMBER", 0, false, Selected},
     {"trouble", "NUMBER", 0, false, Trouble},
 };

@@ -108,6 +108,17 @@ bool TkWork::End() {
     return cancelled_;
 }
 
+TkWork::Rest::Rest(TkWork& work) : work_(work), depth_(work.depth_), window_(work.window_) {
+    work_.depth_ = depth_ ? 1 : 0;
+    work_.End();
+}
+
+TkWork::Rest::~Rest() {
+    work_.depth_ = 0;
+    work_.Begin(window_);
+    work_.depth_ = depth_;
+}
+
 bool TkWork::HasTime() { return !depth_ || until_ == Clock::time_point::max() || Clock::now() < until_; }
 
 bool TkWork::GoesOn() {

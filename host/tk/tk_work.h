@@ -34,6 +34,19 @@ public:
     /// @return whether it was cancelled
     bool End();
     void Cancel() { cancelled_ = true; }
+    /// While one lives nobody waits for the work that has begun: in its middle the user is asked something.
+    class Rest {
+    public:
+        explicit Rest(TkWork& work);
+        ~Rest();
+        Rest(const Rest&) = delete;
+        Rest& operator=(const Rest&) = delete;
+
+    private:
+        TkWork& work_;
+        const int depth_;
+        const int window_;
+    };
     /// Whether the display is served at this moment, while the work waits.
     bool IsServing() const { return serving_; }
     /// Notes an `exit` that came while the display was served: in the middle of a statement the program must

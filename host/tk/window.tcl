@@ -85,7 +85,7 @@ proc ::znbrowser::open {n name frame} {
     variable numberOf
     upvar #0 ::znbrowser::window$n w
     array set w [list name $name first 0 full 1 page {} columns {} shown {} active -1 anchor -1 \
-        pending {} reported -1 trouble {} look [host look $n]]
+        pending {} reported -1 trouble {} menu 0 menus 0 look [host look $n]]
     set w(owns) [expr {$frame eq "" || ![winfo exists $frame]}]
     if {$w(owns)} {set frame [makeToplevel $n $name $frame]}
     set w(frame) $frame
@@ -126,7 +126,9 @@ proc ::znbrowser::build {n} {
     buildSearch $n $w(path).bar
     ttk::label $w(path).status.count -style Status.TLabel -anchor w
     ttk::label $w(path).status.message -style Message.TLabel -anchor e
+    ttk::label $w(path).status.help -style Status.TLabel -anchor w
     pack $w(path).status.count -side left
+    pack $w(path).status.help -side left -padx {16 0}
     pack $w(path).status.message -side right -fill x -expand 1 -padx {16 0}
     pack $w(path).bar -side top -fill x
     pack $w(path).status -side bottom -fill x
@@ -147,6 +149,7 @@ proc ::znbrowser::close {n args} {
     if {![info exists w(name)]} return
     foreach timer [array names w timer,*] {after cancel $w($timer)}
     unset -nocomplain numberOf($w(tree)) numberOf($w(frame))
+    unpostMenu $n
     set w(closing) 1
     if {[stands $w(path)]} {destroy $w(path)}
     foreach part $args {removePart $part}

@@ -43,6 +43,12 @@ public:
     bool SetFindRequestType(znIBrowserFindRequest* request, ZNBROWSER_FIND_REQUEST_TYPE type) override;
     bool PerformFindRequest(znIBrowserFindRequest* request) override;
 
+    // Popup menus.
+    bool PerformPopupItem(PopupItem& item, znIBrowserWindowAccess& window, const std::string& value) override;
+
+protected:
+    void OnPopupMenuDeleted(const PopupMenu& menu) override;
+
 private:
     std::unique_ptr<WindowList> windows_;
     std::unique_ptr<Collector> collector_;

@@ -25,6 +25,7 @@ void Window::Close() {
     if (closed_) return;
     closed_ = true;
     if (WindowDisplay* const display = Display()) display->Close(*this);
+    popup_.Close();
     finder_.reset();
     if (view_) view_->RemoveObserver(*this);
     view_ = nullptr;
@@ -77,7 +78,7 @@ void Window::SetBackground(std::string colour) {
 // ---- Scripts ----
 
 /// Calls a Tcl procedure; an error goes to the interpreter's background error handler.
-void Window::Call(const std::vector<std::string>& words) { browser_.Services().RunScript(ListText(words)); }
+void Window::Call(const std::vector<std::string>& words) { browser_.Services().RunProcedure(words); }
 
 /// An event of the window: each part's callbacks, then the listeners. What is to be done is noted before
 /// anything is done, and ends with the window.

@@ -9,6 +9,7 @@
 #include "model/view_observer.h"
 #include "rows/row_model.h"
 #include "window/window_part.h"
+#include "window/window_popup.h"
 #include "znBrowserTypes.h"
 
 #include <array>
@@ -58,6 +59,8 @@ public:
     void MoveInto(std::string frame);
     /// Posting fills the parts: their create procedures are called, then the pack procedures of those shown.
     void Post(bool posted);
+    /// Whether it is posted. Nothing is recorded.
+    bool IsShown() const { return posted_; }
     bool HasStripes() const { return stripes_; }
     void SetStripes(bool on);
     const std::string& Background() const { return background_; }
@@ -67,7 +70,7 @@ public:
     void ScrollTo(int position) noexcept { scrollPosition_ = position; }
     /// The collector bar.
     CollectorBar& Bar() { return bar_; }
-    bool HasPopup() const { return popup_; }
+    WindowPopup& Popup() { return popup_; }
 
     WindowPart::Parts& Parts() { return parts_; }
     WindowPart* FindPart(std::string_view name);
@@ -176,7 +179,6 @@ private:
     std::string background_;
     bool stripes_ = false;
     bool posted_ = false;
-    bool popup_ = false;
     bool closed_ = false;
     int scrollPosition_ = 0;
     CollectorBar bar_;
@@ -185,6 +187,7 @@ private:
     std::vector<std::string> listeners_;
     NamedList<FindRequest> findRequests_;
     RowModel rows_;
+    WindowPopup popup_{*this};
     bool filters_ = false;              ///< whether a text narrows the rows
     std::vector<KeptRow> expanded_;     ///< what was expanded before it did
     std::shared_ptr<RowFinder> finder_; ///< what was searched last

@@ -2,6 +2,8 @@
 #ifndef ZN_HOST_WINDOW_DISPLAY_H
 #define ZN_HOST_WINDOW_DISPLAY_H
 
+#include "window/popup_input.h"
+
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -28,6 +30,16 @@ public:
     /// The window is not posted any more, or goes, and its parts' frames with it. Nothing happens when it was
     /// not open.
     virtual void Close(Window& window) = 0;
+    /// The popup menu that is open in the window is not to be used any more.
+    virtual void ClosePopup(Window& /*window*/) {}
+    /// Asks the user of a posted window for values, and waits. Everything may have been deleted when he
+    /// answers. The values shown first are those given, and texts that `WhyNoValue` has a reason against are
+    /// not taken.
+    /// @param title  what the values are for
+    /// @return false when the user does not want it
+    virtual bool AskInput(Window& /*window*/, const std::string& /*title*/, InputValues& /*values*/) {
+        return true;
+    }
     /// How many windows stand on the screen.
     virtual std::size_t OpenWindows() const = 0;
 

@@ -220,28 +220,6 @@ bool Window::LeftHandClick(const char* column, const char* element, unsigned int
     return true;
 }
 
-bool Window::RightHandClick(znIBrowserViewColumn* column, const std::vector<unsigned int>& indices) {
-    if (Refused("znIBrowserWindowAccess::RightHandClick", column, indices)) return false;
-    const std::shared_ptr<Window> self = shared_from_this();
-    if (!column || !rows_.HasAll(indices)) return false;
-    Fire(EventKind::RightClick);
-    return true;
-}
-
-bool Window::PopupMenu(bool on) {
-    if (Refused("znIBrowserWindowAccess::PopupMenu", on)) return false;
-    popup_ = on;
-    return true;
-}
-
-// The menu offers the view's operations. One of the two texts is the name of the one that was chosen.
-bool Window::PerformPopupOperation(const char* first, const char* second) {
-    if (Refused("znIBrowserWindowAccess::PerformPopupOperation", first, second)) return false;
-    const std::shared_ptr<Window> self = shared_from_this();
-    return RunOperation(TextOf(first)) || RunOperation(TextOf(second)) ||
-           Fail("There is no view operation \"" + TextOf(first) + "\"");
-}
-
 // ---- Dropping ----
 
 bool Window::SetDropItem(unsigned int target, const std::vector<unsigned int>& indices) {

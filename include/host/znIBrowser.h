@@ -2,8 +2,8 @@
 #ifndef ZN_I_BROWSER_H
 #define ZN_I_BROWSER_H
 
-#include "host/znutl/znString.h"
-#include "znBrowserTypes.h"
+#include "../znBrowserTypes.h"
+#include "znutl/znString.h"
 #include <utility>
 #include <vector>
 
@@ -18,6 +18,8 @@ class znIBrowserEvent;
 class znIBrowserFindRequest;
 class znIBrowserGuiMap;
 class znIBrowserGuiMapList;
+class znIBrowserPopupMenu;
+class znIBrowserPopupMenuList;
 class znIBrowserState;
 class znIBrowserStyle;
 class znIBrowserView;
@@ -250,7 +252,8 @@ public:
     virtual bool SetCallbackOperation(znIBrowserWindowCallback* callback,
                                       ZNBROWSER_CALLBACK_OPERATION operation) = 0;
 
-    // GUI maps. The two maps "default_images_guimap" and "default_colors_guimap" are there from the start.
+    // GUI maps. The host makes the two maps "default_images_guimap" and "default_colors_guimap" before it
+    // makes the manager, and keeps them: the layer only refuses scripts that would delete them.
     /// The list of all GUI maps; null counts as an empty one.
     virtual znIBrowserGuiMapList* GetGuiMapList() = 0;
     /// Deletes a map, never one of the two default ones. Style elements keep its name. The result is not
@@ -333,6 +336,15 @@ public:
     /// Takes entities out of the state; in the same way.
     virtual bool RemoveStateEntities(znIBrowserDataCtrl* control, znIBrowserState* state,
                                      const std::vector<znString>& entities) = 0;
+
+    // Popup menus. A host that has none overrides none of these; see `znIBrowserPopupMenu`.
+    /// The list of all popup menus; null in a host that has none.
+    virtual znIBrowserPopupMenuList* GetPopupMenuList() { return nullptr; }
+    /// Makes a popup menu without items. The layer has made sure that the name is neither taken nor empty.
+    virtual bool CreatePopupMenu(const char* /*name*/) { return false; }
+    /// Deletes a popup menu with its items. What showed it, cascades of other menus included, shows none. One
+    /// that is open in a window is closed. Scripts may run.
+    virtual bool DeletePopupMenu(znIBrowserPopupMenu* /*menu*/) { return false; }
 
 protected:
     ~znIBrowser() = default;

@@ -2,7 +2,7 @@
 #ifndef ZN_I_BROWSER_APPLICATION_H
 #define ZN_I_BROWSER_APPLICATION_H
 
-#include "host/znsigslot/znSignal.h"
+#include "znsigslot/znSignal.h"
 #include <vector>
 
 class znIBrowser;
@@ -15,8 +15,8 @@ struct Tcl_Obj;
 /// The host application. General contract of the host interfaces, here and in the neighbouring headers:
 /// - **Ownership.** Every object belongs to the host. The scripting layer keeps plain pointers and never
 ///   deletes one; the destructors are therefore protected. It forgets what dies in a deletion that it asked
-///   for. Of any other deletion it hears nothing: a host that deletes an object on its own account first
-///   clears it where it is current (`ResetCurrent...` of the manager).
+///   for. Of any other deletion it hears nothing: a host that deletes an object on its own account first says
+///   so (`AboutToDelete` of the manager).
 /// - **Owners.** An operation that names an object's owner may answer null for "not known". The layer then
 ///   lets go of the object as soon as any owner of that kind is deleted.
 /// - **Texts given.** They are NUL-terminated, in Tcl's UTF-8, and belong to the caller: copy what is kept.
@@ -24,8 +24,10 @@ struct Tcl_Obj;
 ///   a null, and never as a name to be found.
 /// - **Texts returned.** A C string belongs to the host, stays valid until the next change of the object that
 ///   gave it, and may be null, which scripts see as an empty text or as a missing name.
-/// - **Names.** They are compared exactly, letter case included. An operation that finds an object answers
-///   null when there is none; that is no error and leaves no error text.
+/// - **Names.** `GetName` has the shape that each interface had first: a C string mostly, a `znString` for
+///   data sources without regard to their kind, a reference for views; events fill one in. Names are compared
+///   exactly, letter case included. An operation that finds an object answers null when there is none; that
+///   is no error and leaves no error text.
 /// - **Objects given.** They are the host's own, from an earlier answer, and not null unless the comment says
 ///   so.
 /// - **Refusals.** An operation that returns bool answers false when the host refuses, changes nothing then,

@@ -2,9 +2,9 @@
 #ifndef ZN_I_BROWSER_CRITERIA_H
 #define ZN_I_BROWSER_CRITERIA_H
 
-#include "host/znutl/znStlVector.h"
-#include "host/znutl/znString.h"
-#include "znBrowserTypes.h"
+#include "../znBrowserTypes.h"
+#include "znutl/znStlVector.h"
+#include "znutl/znString.h"
 #include <vector>
 
 class znIBrowserDataSourceSimple;

@@ -14,8 +14,9 @@ class znIBrowserStateContainer;
 class znIBrowserView;
 
 /// A container of data sources, references, operations, input fields and saved states. The host makes and
-/// deletes data controls itself. Names of data sources are unique among both kinds. The layer never reads
-/// the text of a refusal here: it has texts of its own, or only looks at what is there afterwards.
+/// deletes data controls itself, and says so before it deletes one (`znBrowserManagerTcl::AboutToDelete`):
+/// what is current in it is none then. Names of data sources are unique among both kinds. The layer never
+/// reads the text of a refusal here: it has texts of its own, or only looks at what is there afterwards.
 class znIBrowserDataCtrl {
 public:
     /// The name, unique in the application; null ends a script's list of names.

@@ -2,8 +2,8 @@
 #ifndef ZN_I_BROWSER_DATA_PROPERTY_H
 #define ZN_I_BROWSER_DATA_PROPERTY_H
 
-#include "host/znutl/znVariant.h"
-#include "znBrowserTypes.h"
+#include "../znBrowserTypes.h"
+#include "znutl/znVariant.h"
 
 struct znBrowserDataItem;
 

@@ -2,7 +2,7 @@
 #ifndef ZN_I_BROWSER_DATA_SOURCE_H
 #define ZN_I_BROWSER_DATA_SOURCE_H
 
-#include "host/znutl/znString.h"
+#include "znutl/znString.h"
 #include <vector>
 
 class znIBrowserDataProperty;
@@ -12,7 +12,9 @@ class znIBrowserView;
 class znIBrowserViewProperty;
 
 /// A data source seen without regard to its kind. Each simple and each hierarchical source has one of these,
-/// always the same, which lives as long as the source: the layer compares the pointers.
+/// always the same, which lives as long as the source: the layer compares the pointers. It is an object
+/// beside the source: one class cannot implement both, as `GetName` returns a `znString` here and a C string
+/// there.
 class znIBrowserDataSource {
 public:
     /// The name of the source itself.

@@ -2,7 +2,7 @@
 #ifndef ZN_I_BROWSER_DATA_SOURCE_SIMPLE_H
 #define ZN_I_BROWSER_DATA_SOURCE_SIMPLE_H
 
-#include "znBrowserTypes.h"
+#include "../znBrowserTypes.h"
 #include <vector>
 
 struct znBrowserDataItems;
@@ -11,6 +11,7 @@ class znIBrowserCriteriaContainer;
 class znIBrowserDataCtrl;
 class znIBrowserDataProperty;
 class znIBrowserDataSource;
+class znIBrowserPopupMenu;
 
 /// A flat source of data items. A base source comes with the data control; a custom (scripted) one is made by
 /// a script, gets its items from the base sources connected to it, and keeps criteria. A source has an error
@@ -76,6 +77,12 @@ public:
     virtual znIBrowserDataSource* GetDataSource() = 0;
     /// The data control that owns the source.
     virtual znIBrowserDataCtrl* GetDataCtrl() = 0;
+
+    /// The popup menu of the rows of the source's items, in any view; null for none.
+    virtual znIBrowserPopupMenu* GetPopupMenu() { return nullptr; }
+    /// Gives these rows the popup menu of that name, which exists; "" for none. The text of a refusal is the
+    /// browser object's.
+    virtual bool SetPopupMenu(const char* /*name*/) { return false; }
 
 protected:
     ~znIBrowserDataSourceSimple() = default;

@@ -2,7 +2,7 @@
 #ifndef ZN_I_BROWSER_EVENT_H
 #define ZN_I_BROWSER_EVENT_H
 
-#include "host/znutl/znString.h"
+#include "znutl/znString.h"
 
 class znIBrowserWindowAccess;
 class znIBrowserWindowPart;

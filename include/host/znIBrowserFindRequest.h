@@ -2,8 +2,8 @@
 #ifndef ZN_I_BROWSER_FIND_REQUEST_H
 #define ZN_I_BROWSER_FIND_REQUEST_H
 
-#include "host/znutl/znString.h"
-#include "znBrowserTypes.h"
+#include "../znBrowserTypes.h"
+#include "znutl/znString.h"
 #include <vector>
 
 class znIBrowserWindowAccess;

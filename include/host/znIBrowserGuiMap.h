@@ -2,8 +2,8 @@
 #ifndef ZN_I_BROWSER_GUI_MAP_H
 #define ZN_I_BROWSER_GUI_MAP_H
 
-#include "host/znutl/znString.h"
-#include "znBrowserTypes.h"
+#include "../znBrowserTypes.h"
+#include "znutl/znString.h"
 #include <utility>
 #include <vector>
 

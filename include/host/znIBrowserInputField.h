@@ -2,8 +2,8 @@
 #ifndef ZN_I_BROWSER_INPUT_FIELD_H
 #define ZN_I_BROWSER_INPUT_FIELD_H
 
-#include "host/znutl/znString.h"
-#include "znBrowserTypes.h"
+#include "../znBrowserTypes.h"
+#include "znutl/znString.h"
 
 /// A named, typed value, kept by a data control, that scripts and dialogs fill in and read back. The layer
 /// calls the getter and the setter that fit `GetDataType`. There are none for the array types, and scripts

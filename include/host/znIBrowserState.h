@@ -2,7 +2,7 @@
 #ifndef ZN_I_BROWSER_STATE_H
 #define ZN_I_BROWSER_STATE_H
 
-#include "host/znutl/znString.h"
+#include "znutl/znString.h"
 #include <map>
 #include <utility>
 #include <vector>

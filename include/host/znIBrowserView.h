@@ -2,7 +2,7 @@
 #ifndef ZN_I_BROWSER_VIEW_H
 #define ZN_I_BROWSER_VIEW_H
 
-#include "host/znutl/znString.h"
+#include "znutl/znString.h"
 #include <vector>
 
 struct znBrowserDataItems;
@@ -13,6 +13,7 @@ class znIBrowserDataSource;
 class znIBrowserDataSourceHierarchical;
 class znIBrowserDataSourceSimple;
 class znIBrowserFindRequest;
+class znIBrowserPopupMenu;
 class znIBrowserViewColumn;
 class znIBrowserViewItemFreeFolder;
 class znIBrowserViewOperation;
@@ -29,9 +30,11 @@ public:
     /// Connects a data control; null disconnects. The layer connects one only to a view that has none. The
     /// result is not used.
     virtual bool SetDataCtrl(znIBrowserDataCtrl* control) = 0;
-    /// The column that the view regards as current (or its first), or null. It becomes current with the view.
+    /// The column that the view regards as current (or its first), or null. It becomes current when a script
+    /// chooses the view, but not when one creates it.
     virtual znIBrowserViewColumn* GetCurrentColumn() = 0;
-    /// The folder that holds all other folders, or null. It becomes current with the view.
+    /// The folder that holds all other folders, or null. It becomes current when a script chooses the view,
+    /// but not when one creates it.
     virtual znIBrowserViewItemFreeFolder* GetRootFreeFolder() = 0;
     /// True when data sources connect to the view itself (the new connection scheme), false when they are
     /// found through the view's data control (the classic scheme).
@@ -61,7 +64,9 @@ public:
     virtual void GetDataSourcesSimple(std::vector<znIBrowserDataSourceSimple*>& sources) = 0;
     /// The hierarchical data sources connected to the view, or shared with it.
     virtual void GetDataSourcesHierarchical(std::vector<znIBrowserDataSourceHierarchical*>& sources) = 0;
-    /// A hierarchical data source configured in the view, or null: what can become a folder's tree.
+    /// A hierarchical data source that can become a folder's tree, or null: one connected to the view or
+    /// shared with it. In the classic scheme, where sources are not connected one by one, any of the view's
+    /// data control can.
     virtual znIBrowserDataSourceHierarchical* FindDataSourceHierarchical(const char* name) = 0;
     /// A data source (of either kind) connected to the view itself, or null.
     virtual znIBrowserDataSource* FindDataSource(const char* name) = 0;
@@ -123,6 +128,15 @@ public:
     virtual bool GetFilterMatchWord() const = 0;
     /// Lets the filter find whole words only, or parts of words too.
     virtual bool SetFilterMatchWord(bool matchWord) = 0;
+
+    // Popup menu, and what its items perform.
+    /// The popup menu of the view's rows, where nothing nearer has one; null for none.
+    virtual znIBrowserPopupMenu* GetPopupMenu() { return nullptr; }
+    /// Gives the rows the popup menu of that name, which exists; "" for none.
+    virtual bool SetPopupMenu(const char* /*name*/) { return false; }
+    /// All view operations, in the host's order. They are only listed to people who type a name of one; the
+    /// text of a refusal is not read.
+    virtual bool GetViewOperations(std::vector<znIBrowserViewOperation*>& /*operations*/) { return false; }
 
 protected:
     ~znIBrowserView() = default;

@@ -67,7 +67,8 @@ public:
     // Popup menu.
     /// The popup menu of the column's cells; null for none.
     virtual znIBrowserPopupMenu* GetPopupMenu() = 0;
-    /// Gives the cells the popup menu of that name; "" for none. Whether it must exist is the host's.
+    /// Gives the cells the popup menu of that name; "" for none. Whether it must exist is the host's: the
+    /// embedded host refuses one that does not.
     virtual bool SetPopupMenu(const char* name) = 0;
 
 protected:

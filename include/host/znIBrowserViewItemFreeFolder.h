@@ -2,14 +2,15 @@
 #ifndef ZN_I_BROWSER_VIEW_ITEM_FREE_FOLDER_H
 #define ZN_I_BROWSER_VIEW_ITEM_FREE_FOLDER_H
 
-#include "host/znIBrowserViewItem.h"
-#include "host/znutl/znString.h"
+#include "znIBrowserViewItem.h"
+#include "znutl/znString.h"
 #include <vector>
 
 struct znBrowserDataItems;
 class znIBrowserDataSource;
 class znIBrowserDataSourceHierarchical;
 class znIBrowserDataSourceSimple;
+class znIBrowserPopupMenu;
 class znIBrowserView;
 class znIBrowserViewColumn;
 
@@ -67,6 +68,12 @@ public:
     /// Whether the items of that data source are drawn, in that column, with the folder's own style.
     virtual bool SetDataSourceStyle(znIBrowserDataSource* source, znIBrowserViewColumn* column,
                                     bool style) = 0;
+
+    /// The popup menu of the folder's row and of the rows in it, those in folders below included, where
+    /// nothing nearer has one; null for none of its own.
+    virtual znIBrowserPopupMenu* GetPopupMenu() { return nullptr; }
+    /// Gives these rows the popup menu of that name, which exists; "" for none.
+    virtual bool SetPopupMenu(const char* /*name*/) { return false; }
 
 protected:
     ~znIBrowserViewItemFreeFolder() = default;

@@ -2,7 +2,7 @@
 #ifndef ZN_I_BROWSER_VIEW_PROPERTY_H
 #define ZN_I_BROWSER_VIEW_PROPERTY_H
 
-#include "znBrowserTypes.h"
+#include "../znBrowserTypes.h"
 #include <vector>
 
 class znIBrowserDataProperty;

@@ -2,7 +2,7 @@
 #ifndef ZN_I_BROWSER_WINDOW_ACCESS_H
 #define ZN_I_BROWSER_WINDOW_ACCESS_H
 
-#include "host/znutl/znString.h"
+#include "znutl/znString.h"
 #include <vector>
 
 class znIBrowserEvent;
@@ -65,7 +65,8 @@ public:
     /// The selecting is over, and whoever waits for the new selection can be told of it. A host tells scripts
     /// of selected folders with `znIBrowserManagerTcl::UpdateTclFreeFolderSelection`.
     virtual bool SelectionChangeFinished() = 0;
-    /// A popup menu of the window is opened (true) or has closed.
+    /// A popup menu of the window is opened (true) or has closed. It is the one for what `RightHandClick`
+    /// told last; `znIBrowserPopupMenu` says which one that is, and what is done before it is shown.
     virtual bool PopupMenu(bool on) = 0;
     /// A check box was clicked: the style element named `element` in that column and row. `value` is what the
     /// property is to be from now on. The names are unchecked.
@@ -80,7 +81,10 @@ public:
     /// Drops the items, at least one, on the item `target`.
     virtual bool SetDropItem(unsigned int target, const std::vector<unsigned int>& indices) = 0;
     /// An entry of the popup menu was chosen. What the two texts say is the host's own agreement with its Tk
-    /// code: in the embedded host either may be the name of a view operation.
+    /// code. In the embedded host `first` is an item of the menu for what `RightHandClick` told last, or
+    /// "MENU/ITEM" for an item of any menu, such as one in a cascade; `second` is the value that
+    /// `znIBrowserPopupMenuItem::Perform` takes: the data source of a container, or the new check state; ""
+    /// for none. Where there is no such item either may be the name of a view operation.
     virtual bool PerformPopupOperation(const char* first, const char* second) = 0;
 
     // Parts, events and callbacks. A part or event given may be another window's: refuse then.

@@ -2,7 +2,7 @@
 #ifndef ZN_I_BROWSER_WINDOW_CALLBACK_H
 #define ZN_I_BROWSER_WINDOW_CALLBACK_H
 
-#include "znBrowserTypes.h"
+#include "../znBrowserTypes.h"
 
 class znIBrowserEvent;
 class znIBrowserWindowAccess;

@@ -91,6 +91,8 @@ extern const CommandLevel viewDataItemLevel;
 extern const CommandLevel viewSortLevel;
 extern const CommandLevel viewFilterLevel;
 extern const CommandLevel viewOperationLevel;
+extern const CommandLevel viewPopupMenuLevel;
+extern const CommandLevel viewPopupMenuItemLevel;
 extern const CommandLevel viewDataSourceLevel;
 extern const CommandLevel viewDataReferenceLevel;
 extern const CommandLevel windowLevel;

@@ -68,6 +68,15 @@ inline void CreateWithName(Call& call, int position, Call::TextSetter action, co
     call.AnswerOutcome((call.manager.*action)(call.Text(position)), call.Text(position));
 }
 
+/// `word ?none|NAME?`: sets a name or, with none, clears it; then reads.
+inline void SetOrClearThenAnswer(Call& call, int position, Call::TextSetter setter, Call::Getter getter) {
+    if (call.Has(position)) {
+        const char* const name = call.Is(position, Keyword::NoneWord) ? "" : call.Text(position);
+        if (!(call.manager.*setter)(name)) return call.AnswerError();
+    }
+    call.AnswerValue(getter);
+}
+
 } // namespace znlayer
 
 #endif

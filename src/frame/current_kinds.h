@@ -35,34 +35,38 @@ inline constexpr std::tuple currentKinds{
                                                          &znBrowserCurrentObjects::viewOperation},
     CurrentKind<znIBrowserViewItemFreeFolder, znIBrowserView>{"free folder",
                                                               &znBrowserCurrentObjects::freeFolder},
-    CurrentKind<znIBrowserDataSourceSimple>{"list", &znBrowserCurrentObjects::list},
+    CurrentKind<znIBrowserDataSourceSimple, znIBrowserDataCtrl>{"list", &znBrowserCurrentObjects::list},
     CurrentKind<znIBrowserPopupMenu>{"popup menu", &znBrowserCurrentObjects::popupMenu},
-    CurrentKind<znIBrowserPopupMenuItem>{"popup menu item", &znBrowserCurrentObjects::popupMenuItem},
+    CurrentKind<znIBrowserPopupMenuItem, znIBrowserPopupMenu>{"popup menu item",
+                                                              &znBrowserCurrentObjects::popupMenuItem},
     CurrentKind<znIBrowserWindowAccess>{"window", &znBrowserCurrentObjects::windowAccess},
     CurrentKind<znIBrowserWindowPart, znIBrowserWindowAccess>{"window part",
                                                               &znBrowserCurrentObjects::windowPart},
     CurrentKind<znIBrowserEvent, znIBrowserWindowPart, znIBrowserWindowAccess>{
         "event", &znBrowserCurrentObjects::event},
-    CurrentKind<znIBrowserWindowCallback, znIBrowserWindowPart, znIBrowserWindowAccess>{
+    CurrentKind<znIBrowserWindowCallback, znIBrowserEvent, znIBrowserWindowPart, znIBrowserWindowAccess>{
         "window callback", &znBrowserCurrentObjects::windowCallback},
     CurrentKind<znIBrowserFindRequest, znIBrowserWindowAccess>{"find request",
                                                                &znBrowserCurrentObjects::findRequest},
-    CurrentKind<znBrowserProperty, znIBrowserWindowAccess>{"find request property",
-                                                           &znBrowserCurrentObjects::findRequestProperty},
-    CurrentKind<znBrowserCriterion, znIBrowserWindowAccess>{
+    CurrentKind<znBrowserProperty, znIBrowserFindRequest, znIBrowserWindowAccess>{
+        "find request property", &znBrowserCurrentObjects::findRequestProperty},
+    CurrentKind<znBrowserCriterion, znBrowserProperty, znIBrowserFindRequest, znIBrowserWindowAccess>{
         "find request property criterion", &znBrowserCurrentObjects::findRequestPropertyCriterion},
     CurrentKind<znIBrowserGuiMap>{"GUI map", &znBrowserCurrentObjects::guiMap},
     CurrentKind<znIBrowserDataCtrl>{"data control", &znBrowserCurrentObjects::dataCtrl},
-    CurrentKind<znIBrowserDataSourceSimple>{"data source simple", &znBrowserCurrentObjects::dataSourceSimple},
-    CurrentKind<znIBrowserDataSourceSimple>{"connect data source simple",
-                                            &znBrowserCurrentObjects::connectDataSourceSimple},
-    CurrentKind<znIBrowserDataSourceHierarchical>{"data source hierarchical",
-                                                  &znBrowserCurrentObjects::dataSourceHierarchical},
-    CurrentKind<znIBrowserCriteria, znIBrowserDataSourceSimple>{"criteria",
-                                                                &znBrowserCurrentObjects::criteria},
-    CurrentKind<znIBrowserDataOperation>{"data operation", &znBrowserCurrentObjects::dataOperation},
-    CurrentKind<znIBrowserInputField>{"input field", &znBrowserCurrentObjects::inputField},
-    CurrentKind<znIBrowserState>{"state", &znBrowserCurrentObjects::state},
+    CurrentKind<znIBrowserDataSourceSimple, znIBrowserDataCtrl>{"data source simple",
+                                                                &znBrowserCurrentObjects::dataSourceSimple},
+    CurrentKind<znIBrowserDataSourceSimple, znIBrowserDataCtrl>{
+        "connect data source simple", &znBrowserCurrentObjects::connectDataSourceSimple},
+    CurrentKind<znIBrowserDataSourceHierarchical, znIBrowserDataCtrl>{
+        "data source hierarchical", &znBrowserCurrentObjects::dataSourceHierarchical},
+    CurrentKind<znIBrowserCriteria, znIBrowserDataSourceSimple, znIBrowserDataCtrl>{
+        "criteria", &znBrowserCurrentObjects::criteria},
+    CurrentKind<znIBrowserDataOperation, znIBrowserDataCtrl>{"data operation",
+                                                             &znBrowserCurrentObjects::dataOperation},
+    CurrentKind<znIBrowserInputField, znIBrowserDataCtrl>{"input field",
+                                                          &znBrowserCurrentObjects::inputField},
+    CurrentKind<znIBrowserState, znIBrowserDataCtrl>{"state", &znBrowserCurrentObjects::state},
 };
 
 static_assert(sizeof(znBrowserCurrentObjects) == std::tuple_size_v<decltype(currentKinds)> * sizeof(void*),

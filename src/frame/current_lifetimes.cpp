@@ -4,8 +4,14 @@
 #include "host/znIBrowser.h"
 #include "host/znIBrowserApplication.h"
 #include "host/znIBrowserCriteria.h"
+#include "host/znIBrowserDataCtrl.h"
+#include "host/znIBrowserDataSourceHierarchical.h"
+#include "host/znIBrowserDataSourceSimple.h"
 #include "host/znIBrowserEvent.h"
 #include "host/znIBrowserFindRequest.h"
+#include "host/znIBrowserPopupMenu.h"
+#include "host/znIBrowserPopupMenuItem.h"
+#include "host/znIBrowserState.h"
 #include "host/znIBrowserStyle.h"
 #include "host/znIBrowserStyleElement.h"
 #include "host/znIBrowserView.h"
@@ -67,12 +73,29 @@ znIBrowserWindowAccess* OwnerOf(znIBrowserWindowCallback* callback, const znIBro
     znIBrowserEvent* const event = callback->GetEvent();
     return event ? event->GetWindowAccess() : nullptr;
 }
+znIBrowserEvent* OwnerOf(znIBrowserWindowCallback* callback, const znIBrowserEvent*) {
+    return callback->GetEvent();
+}
 znIBrowserWindowAccess* OwnerOf(znIBrowserFindRequest* request, const znIBrowserWindowAccess*) {
     return request->GetWindowAccess();
 }
 
+znIBrowserPopupMenu* OwnerOf(znIBrowserPopupMenuItem* item, const znIBrowserPopupMenu*) {
+    return item->GetMenu();
+}
+
 znIBrowserDataSourceSimple* OwnerOf(znIBrowserCriteria* criteria, const znIBrowserDataSourceSimple*) {
     return criteria->GetDataSource();
+}
+znIBrowserDataCtrl* OwnerOf(znIBrowserDataSourceSimple* source, const znIBrowserDataCtrl*) {
+    return source->GetDataCtrl();
+}
+znIBrowserDataCtrl* OwnerOf(znIBrowserDataSourceHierarchical* source, const znIBrowserDataCtrl*) {
+    return source->GetDataCtrl();
+}
+znIBrowserDataCtrl* OwnerOf(znIBrowserCriteria* criteria, const znIBrowserDataCtrl*) {
+    znIBrowserDataSourceSimple* const source = criteria->GetDataSource();
+    return source ? source->GetDataCtrl() : nullptr;
 }
 
 // ---- Whether an object lies in a dying one ----
@@ -114,43 +137,98 @@ bool MayLieIn(znIBrowserWindowCallback* callback, znIBrowserWindowPart* dying, c
     return MayLieIn(callback->GetEvent(), dying, manager);
 }
 
-bool Holds(znIBrowserWindowAccess* window, const znBrowserProperty* property,
-           const znBrowserCriterion* criterion) {
+// ---- What names no owner: it is safe while another than the dying one holds it ----
+
+template <class T>
+bool Contains(const std::vector<T*>& list, const T* object) {
+    return std::find(list.begin(), list.end(), object) != list.end();
+}
+
+bool IsHeld(const znBrowserProperty* property, const znBrowserProperty& candidate) {
+    return &candidate == property;
+}
+bool IsHeld(const znBrowserCriterion* criterion, const znBrowserProperty& candidate) {
+    return Contains<znBrowserCriterion>(candidate.criteria, criterion);
+}
+
+/// Whether a find request, of a window that passes, holds the property or the criterion.
+template <class Record, class Passes>
+bool AnyRequestHolds(const Manager& manager, const Record* record, Passes passes) {
+    std::vector<znIBrowserWindowAccess*> windows;
     std::vector<znIBrowserFindRequest*> requests;
     std::vector<znBrowserProperty*> properties;
-    window->GetFindRequests(requests);
-    for (znIBrowserFindRequest* const request : requests) {
-        properties.clear();
-        if (request) request->GetProperties(properties);
-        for (const znBrowserProperty* const candidate : properties) {
-            if (!candidate) continue;
-            if (property && candidate == property) return true;
-            const auto& criteria = candidate->criteria;
-            if (criterion && std::find(criteria.begin(), criteria.end(), criterion) != criteria.end())
-                return true;
+    znIBrowser* const browser = manager.GetApplication()->GetBrowser();
+    znIBrowserWindowAccessList* const list = browser ? browser->GetWindowAccessList() : nullptr;
+    if (list) list->GetWindowAccesses(windows, 0);
+    for (znIBrowserWindowAccess* const window : windows) {
+        requests.clear();
+        if (window) window->GetFindRequests(requests);
+        for (znIBrowserFindRequest* const request : requests) {
+            if (!request || !passes(window, request)) continue;
+            properties.clear();
+            request->GetProperties(properties);
+            for (const znBrowserProperty* const candidate : properties)
+                if (candidate && IsHeld(record, *candidate)) return true;
         }
     }
     return false;
 }
 
-/// The records of find requests name no owner: one is safe when a window other than the dying one holds it.
-bool OtherWindowHolds(const Manager& manager, const znIBrowserWindowAccess* dying,
-                      const znBrowserProperty* property, const znBrowserCriterion* criterion) {
-    std::vector<znIBrowserWindowAccess*> windows;
-    znIBrowser* const browser = manager.GetApplication()->GetBrowser();
-    znIBrowserWindowAccessList* const list = browser ? browser->GetWindowAccessList() : nullptr;
-    if (list) list->GetWindowAccesses(windows, 0);
-    return std::any_of(windows.begin(), windows.end(), [&](znIBrowserWindowAccess* window) {
-        return window && window != dying && Holds(window, property, criterion);
+template <class Record>
+bool MayRecordLieIn(const Record* record, const znIBrowserWindowAccess* dying, const Manager& manager) {
+    return !AnyRequestHolds(manager, record, [&](auto* window, auto*) { return window != dying; });
+}
+template <class Record>
+bool MayRecordLieIn(const Record* record, const znIBrowserFindRequest* dying, const Manager& manager) {
+    return !AnyRequestHolds(manager, record, [&](auto*, auto* request) { return request != dying; });
+}
+
+template <class Dying>
+bool MayLieIn(znBrowserProperty* property, Dying* dying, const Manager& manager) {
+    if constexpr (std::is_same_v<Dying, znBrowserProperty>)
+        return property == dying;
+    else
+        return MayRecordLieIn(property, dying, manager);
+}
+template <class Dying>
+bool MayLieIn(znBrowserCriterion* criterion, Dying* dying, const Manager& manager) {
+    if constexpr (std::is_same_v<Dying, znBrowserCriterion>)
+        return criterion == dying;
+    else if constexpr (std::is_same_v<Dying, znBrowserProperty>)
+        return IsHeld(criterion, *dying);
+    else
+        return MayRecordLieIn(criterion, dying, manager);
+}
+
+void ListIn(znIBrowserDataCtrl& control, std::vector<znIBrowserDataOperation*>& operations) {
+    control.GetDataOperations(operations);
+}
+void ListIn(znIBrowserDataCtrl& control, std::vector<znIBrowserInputField*>& fields) {
+    control.GetInputFields(fields);
+}
+void ListIn(znIBrowserDataCtrl& control, std::vector<znIBrowserState*>& states) {
+    if (znIBrowserStateContainer* const container = control.GetStateContainer()) container->GetStates(states);
+}
+
+template <class Object>
+bool OtherControlHolds(const Manager& manager, const znIBrowserDataCtrl* dying, const Object* object) {
+    std::vector<znIBrowserDataCtrl*> controls;
+    manager.GetApplication()->GetDataCtrls(controls);
+    return std::any_of(controls.begin(), controls.end(), [&](znIBrowserDataCtrl* control) {
+        std::vector<Object*> held;
+        if (control && control != dying) ListIn(*control, held);
+        return Contains<Object>(held, object);
     });
 }
 
-bool MayLieIn(znBrowserProperty* property, znIBrowserWindowAccess* dying, const Manager& manager) {
-    return !OtherWindowHolds(manager, dying, property, nullptr);
+bool MayLieIn(znIBrowserDataOperation* operation, znIBrowserDataCtrl* dying, const Manager& manager) {
+    return !OtherControlHolds(manager, dying, operation);
 }
-
-bool MayLieIn(znBrowserCriterion* criterion, znIBrowserWindowAccess* dying, const Manager& manager) {
-    return !OtherWindowHolds(manager, dying, nullptr, criterion);
+bool MayLieIn(znIBrowserInputField* field, znIBrowserDataCtrl* dying, const Manager& manager) {
+    return !OtherControlHolds(manager, dying, field);
+}
+bool MayLieIn(znIBrowserState* state, znIBrowserDataCtrl* dying, const Manager& manager) {
+    return !OtherControlHolds(manager, dying, state);
 }
 
 } // namespace
@@ -176,15 +254,29 @@ znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl& manager, Dying
 
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserView*);
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserViewColumn*);
-template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserViewProperty*);
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserStyle*);
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserStyleElement*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserViewProperty*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserViewOperation*);
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserViewItemFreeFolder*);
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserWindowAccess*);
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserWindowPart*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserEvent*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserWindowCallback*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserFindRequest*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znBrowserProperty*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znBrowserCriterion*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserGuiMap*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserDataCtrl*);
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserDataSourceSimple*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&,
+                                                znIBrowserDataSourceHierarchical*);
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserCriteria*);
 template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserDataOperation*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserInputField*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserState*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserPopupMenu*);
+template znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl&, znIBrowserPopupMenuItem*);
 
 void Forget(znBrowserManagerTcl& manager, const znBrowserCurrentObjects& doomed) {
     znBrowserCurrentObjects& current = CurrentAccess::Of(manager);

@@ -20,7 +20,7 @@ public:
 
 /// The current objects that lie in one that is about to be deleted, itself included. An object that cannot
 /// tell its owner is taken for one that dies: losing a current object does less harm than keeping a dead one.
-/// Offered for the objects that operations have deleted.
+/// Offered for each kind of current object.
 template <class Dying>
 znBrowserCurrentObjects CurrentsInside(const znBrowserManagerTcl& manager, Dying* dying);
 

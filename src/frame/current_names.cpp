@@ -8,6 +8,7 @@
 #include "host/znIBrowserInputField.h"
 #include "host/znIBrowserPopupMenu.h"
 #include "host/znIBrowserPopupMenuItem.h"
+#include "window/popup_messages.h"
 #include "znBrowserManagerTcl.h"
 
 using namespace znlayer;
@@ -57,12 +58,14 @@ bool znBrowserManagerTcl::GetCurrentInputField(znString& out) {
 
 bool znBrowserManagerTcl::GetCurrentPopupMenu(znString& out) {
     const Operation operation(*this);
+    if (!current_.popupMenu) return operation.Fail(popup_messages::noMenu);
     out = NameOf(current_.popupMenu);
     return true;
 }
 
 bool znBrowserManagerTcl::GetCurrentPopupMenuItem(znString& out) {
     const Operation operation(*this);
+    if (!current_.popupMenuItem) return operation.Fail(popup_messages::noItem);
     out = NameOf(current_.popupMenuItem);
     return true;
 }

@@ -246,6 +246,12 @@ void znBrowserManagerTcl::UpdateCurrentFindRequestPropertyCriterion(znBrowserPro
     current_.findRequestPropertyCriterion = property ? First(property->criteria) : nullptr;
 }
 
+void znBrowserManagerTcl::UpdateCurrentPopupMenuItem(znIBrowserPopupMenu* menu) {
+    std::vector<znIBrowserPopupMenuItem*> items;
+    if (menu && !menu->GetItems(items)) items.clear();
+    current_.popupMenuItem = First(items);
+}
+
 void znBrowserManagerTcl::UpdateCurrentDataSourceSimple(znIBrowserDataSourceSimple* source) {
     if (source) current_.dataSourceSimple = source;
 }

@@ -14,12 +14,15 @@
 #include "host/znIBrowserFindRequest.h"
 #include "host/znIBrowserGuiMap.h"
 #include "host/znIBrowserInputField.h"
+#include "host/znIBrowserPopupMenu.h"
+#include "host/znIBrowserPopupMenuItem.h"
 #include "host/znIBrowserState.h"
 #include "host/znIBrowserStyle.h"
 #include "host/znIBrowserStyleElement.h"
 #include "host/znIBrowserView.h"
 #include "host/znIBrowserViewColumn.h"
 #include "host/znIBrowserViewItemFreeFolder.h"
+#include "host/znIBrowserViewOperation.h"
 #include "host/znIBrowserViewProperty.h"
 #include "host/znIBrowserWindowAccess.h"
 #include "host/znIBrowserWindowCallback.h"
@@ -84,6 +87,12 @@ void AddWindows(const Manager& manager, Names& names) {
 void AddMaps(const Manager& manager, Names& names) {
     znIBrowser* const browser = BrowserOf(manager);
     AddListed(browser ? browser->GetGuiMapList() : nullptr, &znIBrowserGuiMapList::GetGuiMaps, names);
+}
+
+void AddPopupMenus(const Manager& manager, Names& names) {
+    znIBrowser* const browser = BrowserOf(manager);
+    AddListed(browser ? browser->GetPopupMenuList() : nullptr, &znIBrowserPopupMenuList::GetPopupMenus,
+              names);
 }
 
 void AddCriteria(const Manager& manager, Names& names) {
@@ -195,12 +204,15 @@ constexpr NamesOfKind namesOfKinds[] = {
     {ArgumentKind::Listener, AddListeners},
     {ArgumentKind::Map, AddMaps},
     {ArgumentKind::Part, AddParts},
+    {ArgumentKind::PopupMenu, AddPopupMenus},
+    {ArgumentKind::PopupMenuItem, AddOf<&Currents::popupMenu, &znIBrowserPopupMenu::GetItems>},
     {ArgumentKind::Property, AddOf<&Currents::view, &znIBrowserView::GetViewProperties>},
     {ArgumentKind::Reference, AddOf<&Currents::dataCtrl, &znIBrowserDataCtrl::GetDataReferences>},
     {ArgumentKind::State, AddStates},
     {ArgumentKind::Style, AddOf<&Currents::column, &znIBrowserViewColumn::GetStyles>},
     {ArgumentKind::Tree, AddOf<&Currents::freeFolder, &znIBrowserViewItemFreeFolder::GetTrees>},
     {ArgumentKind::View, AddViews},
+    {ArgumentKind::ViewOperation, AddOf<&Currents::view, &znIBrowserView::GetViewOperations>},
     {ArgumentKind::Window, AddWindows},
 };
 

@@ -39,10 +39,6 @@ const char* const znBrowserTclMessages::VIEW_ITALIC =
     "    \t[enabled|disabled]    Sets the italic font state for the current column\n"
     "    \t                      in the current view.\n";
 
-const char* const znBrowserTclMessages::VIEW_POPUPMENU =
-    "    znbrowsermanager view popupmenu [action] \n\n"
-    "    \tPopup menus and their items are served by the host application.\n\n";
-
 namespace znlayer {
 
 namespace {
@@ -92,7 +88,6 @@ void Names(Call& call) { call.AnswerValue(&Manager::GetViewNames); }
 void Namespace(Call& call) { call.AnswerValue(&Manager::GetTclNameSpace); }
 void Redraw(Call& call) { call.Run(&Manager::RedrawAllViews); }
 void ApplyPending(Call& call) { call.manager.ApplyPendingChanges(); }
-void PopupMenu(Call& call) { call.Answer(Messages::VIEW_POPUPMENU); }
 
 void Sort(Call& call) {
     if (call.Count() > 3) return RunLevel(call, viewSortLevel, 3);
@@ -143,8 +138,8 @@ constexpr CommandRow viewRows[] = {
     {Keyword::DataItem, "The items of the current view.", &viewDataItemLevel},
     {Keyword::DataItemList, "The items of the current view; another word for dataitem.", &viewDataItemLevel},
     {Keyword::DataReference, "The data references of the current view.", &viewDataReferenceLevel},
-    {Keyword::PopupMenu, "", "Answers who serves popup menus.", PopupMenu},
-    {Keyword::PopupMenuItem, "", "Answers who serves popup menus.", PopupMenu},
+    {Keyword::PopupMenu, "The menus that users get on a right click.", &viewPopupMenuLevel},
+    {Keyword::PopupMenuItem, "The items of the current popup menu.", &viewPopupMenuItemLevel},
     {Keyword::Redraw, "", "Draws all views again.", Redraw},
     {Keyword::Selection, "What is selected in the current view.", &viewSelectionLevel},
 };

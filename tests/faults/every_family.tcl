@@ -25,6 +25,14 @@ namespace eval znbrowser {
     proc AddToSelectedFreeFoldersArray {name} {zn view folder selected}
 }
 
+# The model, in statements of SQL.
+set model {
+    {CREATE TABLE unit(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES unit(id), name TEXT, on_ BOOLEAN)}
+    {CREATE TABLE note(id INTEGER PRIMARY KEY, unit INTEGER REFERENCES unit(id), text TEXT)}
+    {INSERT INTO unit VALUES (1, NULL, 'a', 1), (2, 1, 'b', 0), (3, 2, 'c', 1)}
+    {INSERT INTO note VALUES (1, 1, 'n'), (2, 3, 'o')}
+}
+
 set opening {
     {datactrl current m} {datasource simple create own Own text} {datasource simple connect unit}
     {datasource simple criteria create c} {datasource hierarchical create h 0 0}
@@ -78,8 +86,8 @@ set sections {
         {view column caption C} {view column width 40} {view column width} {view column justify left}
         {view column move 0} {view column show true} {view column show} {view column sort enabled}
         {view column sort byname title} {view column sort byname} {view column italic enabled} {view column italic}
-        {view column names} {view column popupmenu menu} {view column popupmenu} {view popupmenu}
-        {view popupmenuitem} {view style create s2} {view style current s} {view style folder} {view style names}
+        {view column names} {view column popupmenu menu} {view column popupmenu}
+        {view style create s2} {view style current s} {view style folder} {view style names}
         {view column current c3} {view style create ticks} {view element create tick}
         {view element connect property flag} {view column current c2} {view style current s}
         {view element create e2 text} {view element current e} {view element connect property title}
@@ -154,6 +162,35 @@ set sections {
         {window find property criteria useregexp} {OnTkTreeRequestCollapse win 1}
         {view column current c2} {view column width} {window find type previous} {window find type}
     }
+    menus {
+        {window create win} {window expandall} {OnTkTreeRequestSelect win 1} {app inputfield create m f integer}
+        {view popupmenu create deep} {view popupmenuitem create i} {view popupmenu create menu} {view popupmenu names}
+        {view popupmenu onpost told} {view popupmenu connect view} {view popupmenu connect folder}
+        {view popupmenu connect column} {view popupmenu connect datasource unit} {view popupmenu connected}
+        {view popupmenu disconnect column} {view popupmenu disconnect datasource unit} {view popupmenu current menu}
+        {view popupmenuitem create sources} {view popupmenuitem container simple all} {view popupmenuitem container}
+        {view popupmenuitem create more beginning} {view popupmenuitem cascade deep} {view popupmenuitem cascade}
+        {view popupmenuitem create line up} {view popupmenuitem separator true} {view popupmenuitem separator}
+        {view popupmenuitem create a down} {view popupmenuitem caption A} {view popupmenuitem caption}
+        {view popupmenuitem help H} {view popupmenuitem help} {view popupmenuitem description D}
+        {view popupmenuitem description} {view popupmenuitem icon i.png} {view popupmenuitem icon}
+        {view popupmenuitem checkable true} {view popupmenuitem checkable} {view popupmenuitem checked true}
+        {view popupmenuitem checked} {view popupmenuitem disabled true} {view popupmenuitem disabled}
+        {view popupmenuitem enable true} {view popupmenuitem enable} {view popupmenuitem visible true}
+        {view popupmenuitem visible} {view popupmenuitem onsingleitem true} {view popupmenuitem onsingleitem}
+        {view popupmenuitem showonfolder true} {view popupmenuitem showonfolder} {view popupmenuitem operation op}
+        {view popupmenuitem operation} {view popupmenuitem dataoperation o} {view popupmenuitem dataoperation}
+        {view popupmenuitem script told} {view popupmenuitem script} {view popupmenuitem preoperation told}
+        {view popupmenuitem preoperation} {view popupmenuitem userinput f} {view popupmenuitem userinput}
+        {view popupmenuitem names} {view popupmenuitem moveup} {view popupmenuitem movedown}
+        {view popupmenuitem move beginning} {view popupmenuitem move end} {view popupmenuitem moveto 1}
+        {view popupmenuitem current a} {view popupmenuitem perform} {app popup win Name 1}
+        {OnTkTreeRightHandClick win Name 1} {OnTkTreePopupMenu win true} {OnTkTreePerformPopupOperation win a true}
+        {OnTkTreePerformPopupOperation win deep/i {}} {OnTkTreePerformPopupOperation win sources unit}
+        {OnTkTreePopupMenu win false} {view popupmenuitem delete} {view popupmenuitem delete line}
+        {view popupmenu disconnect view} {view popupmenu disconnect folder} {view popupmenu delete deep}
+        {view popupmenu delete}
+    }
     selection {
         {window create win} {window part create part} {window listener connect told}
         {view dataitem simple select} {view dataitem simple select bypropval b}
@@ -225,7 +262,7 @@ set sections {
         {view folder datasource style true} {view dataitem select} {view dataitem current} {view dataitem selected}
         {view dataitem deselect bypropval b recursive} {view dataitemlist select} {view dataitemlist current}
         {view dataitemlist deselect} {view dataitem select bypropval c} {view datasource selected recursive}
-        {view dataitem selected all} {view datasource disconnect unit} {view delete}
+        {view dataitem selected all} {view datasource disconnect unit} {view datactrl disconnect} {view delete}
     }
     deletions {
         {window create win} {window part create part} {window listener connect told}

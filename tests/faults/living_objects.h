@@ -7,6 +7,8 @@
 #include "base/host_call.h"
 #include "frame/current_kinds.h"
 #include "frame/current_lifetimes.h"
+#include "host/znIBrowserPopupMenu.h"
+#include "host/znIBrowserPopupMenuItem.h"
 #include "model/browser.h"
 #include "model/gui_map_list.h"
 #include "model/view.h"
@@ -31,6 +33,7 @@ public:
         std::vector<znIBrowserGuiMap*> maps;
         browser.GuiMaps().GetGuiMaps(maps);
         AddAll(maps);
+        if (znIBrowserPopupMenuList* const menus = browser.GetPopupMenuList()) AddPopupMenus(*menus);
         for (const auto& control : host.App().DataControls()) AddDataCtrl(*control);
     }
     template <class Interface>
@@ -56,11 +59,21 @@ private:
             Add<znIBrowserViewItemFreeFolder>(folder);
         for (const auto& column : view.Columns()) {
             Add<znIBrowserViewColumn>(column.get());
-            Add(column->GetPopupMenu());
             for (const auto& style : column->Styles()) {
                 Add<znIBrowserStyle>(style.get());
                 for (const auto& element : style->Elements()) Add<znIBrowserStyleElement>(element.get());
             }
+        }
+    }
+
+    void AddPopupMenus(znIBrowserPopupMenuList& list) {
+        std::vector<znIBrowserPopupMenu*> menus;
+        std::vector<znIBrowserPopupMenuItem*> items;
+        list.GetPopupMenus(menus);
+        AddAll(menus);
+        for (znIBrowserPopupMenu* const menu : menus) {
+            menu->GetItems(items);
+            AddAll(items);
         }
     }
 

@@ -23,7 +23,12 @@ datasource hierarchical property
 datasource simple connect note
 datasource simple connect part
 datasource simple criteria data bool 1 unsigned 2 double 3 string d
+datasource simple criteria data bool true
+datasource simple criteria data double 4
 datasource simple criteria data integer 1
+datasource simple criteria data integer 3
+datasource simple criteria data string e
+datasource simple criteria data unsigned 2
 datasource simple disconnect unit
 datasource simple property create a 1 string 2
 datasource simple property create p 0 value
@@ -52,8 +57,7 @@ view flush false
 view flush true
 view folder createexpanded unit
 view operation names
-view popupmenu
-view popupmenuitem
+view property connect script value
 view property delete
 view property type
 view redraw

@@ -51,12 +51,7 @@ class SweepRun {
 public:
     explicit SweepRun(SweepScript& script)
         : script_(script), host_(std::make_unique<znhost::EmbeddedHost>(script.Interp())) {
-        constexpr char model[] =
-            "CREATE TABLE unit(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES unit(id), name TEXT, on_ "
-            "BOOLEAN);"
-            "CREATE TABLE note(id INTEGER PRIMARY KEY, unit INTEGER REFERENCES unit(id), text TEXT);"
-            "INSERT INTO unit VALUES (1, NULL, 'a', 1), (2, 1, 'b', 0), (3, 2, 'c', 1);"
-            "INSERT INTO note VALUES (1, 1, 'n'), (2, 3, 'o')";
+        const std::string model = script.Eval("join $model {;}");
         std::string error;
         EXPECT_TRUE(host_->CreateDataCtrl("m", "", error)) << error;
         EXPECT_TRUE(host_->App().DataControls().Find("m")->Db().RunScript(model, error)) << error;

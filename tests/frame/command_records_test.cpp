@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <set>
 #include <sstream>
 #include <string>
@@ -114,6 +115,25 @@ TEST(CommandRecords, WhatTheUsageTextsPromiseHasARow) {
     });
     EXPECT_EQ(missing, unkept);
     EXPECT_GT(texts, 25u);
+}
+
+TEST(CommandRecords, TheCommandsThatTheHeaderNamesAreThere) {
+    std::ifstream header(ZN_SOURCE_DIR "/include/znBrowserManagerTcl.h");
+    std::size_t named = 0;
+    for (std::string line; std::getline(header, line);) {
+        const std::size_t quote = line.find('"');
+        if (line.find("///") == std::string::npos || quote + 1 >= line.size() || line.back() != '"' ||
+            line.find_first_not_of("/<; ", line.find("///")) != quote)
+            continue;
+        std::istringstream text(line.substr(quote + 1, line.size() - quote - 2));
+        Words words;
+        for (std::string word; text >> word && word != "...";) {
+            if (word != "znbrowsermanager") words.push_back(word);
+        }
+        EXPECT_TRUE(IsKept({}, words)) << Joined(words);
+        ++named;
+    }
+    EXPECT_GT(named, 300u);
 }
 
 TEST(CommandRecords, AnArgumentIsFoundByItsPlace) {

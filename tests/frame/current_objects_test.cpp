@@ -1,6 +1,7 @@
 // The current objects as a C++ client reads, stores and clears them, and the entries of the families.
 #include "frame/current_kinds.h"
 #include "frame/current_lifetimes.h"
+#include "host/app/application.h"
 #include "host/app/embedded_host.h"
 #include "host/znIBrowserPopupMenu.h"
 #include "host/znIBrowserPopupMenuItem.h"
@@ -29,7 +30,7 @@ constexpr char makeAllCurrent[] = R"(
         {window part create x} {window part event current SELECTION_CHANGED}
         {window part event callback create told script} {window find property add p}
         {window find property current p} {window find property criterion current value}
-        {app state create m st} {state current st}
+        {app state create m st} {state current st} {view popupmenu create menu} {view popupmenuitem create i}
     } {
         set answer [znbrowsermanager {*}$words]
         if {[string match {\[Command\]*} $answer]} {error $answer}
@@ -85,6 +86,8 @@ TEST_F(CurrentObjects, AreReadClearedAndStored) {
     EXPECT_KEPT(DataOperation);
     EXPECT_KEPT(InputField);
     EXPECT_KEPT(State);
+    EXPECT_KEPT(PopupMenu);
+    EXPECT_KEPT(PopupMenuItem);
 #undef EXPECT_KEPT
     ExpectKept(manager, "WindowPart", &Manager::GetCurrentWindowPartPtr, &Manager::SetCurrentWindowPartByPtr,
                &Manager::ResetCurrentWindowPart);
@@ -96,14 +99,13 @@ TEST_F(CurrentObjects, AreReadClearedAndStored) {
                &Manager::SetCurrentFindRequestPropertyCriterionByPtr,
                &Manager::ResetCurrentFindRequestPropertyCriterion);
 
-    // Each kind was among them, but for those whose setters take no null, and the menus, which the host
-    // lacks.
+    // Each kind was among them, but for those whose setters take no null.
     std::string missing;
     const znBrowserCurrentObjects& current = znlayer::CurrentAccess::Of(manager);
     znlayer::ForEachCurrentKind([&](const auto& kind) {
         if (lookedAt.count(current.*kind.member) == 0) missing += std::string(kind.name) + "; ";
     });
-    EXPECT_EQ(missing, "popup menu; popup menu item; connect data source simple; data source hierarchical; ");
+    EXPECT_EQ(missing, "connect data source simple; data source hierarchical; ");
 }
 
 TEST_F(CurrentObjects, DataSourcesStayWhenNoneIsGiven) {
@@ -150,26 +152,97 @@ TEST_F(CurrentObjects, SomeNeverFollow) {
                                       manager.GetCurrentDataSourceSimplePtr(), manager.GetCurrentListPtr()));
 }
 
-TEST_F(CurrentObjects, PopupMenusAreTheHosts) {
-    struct Menu final : znIBrowserPopupMenu, znIBrowserPopupMenuItem {
-        const char* GetName() const override { return name; }
-        const char* name = "menu";
-    } menu;
-    znString name;
+/// The kinds that are not current any more once the host has told that the object goes; then all are again.
+template <class T>
+std::string ForgottenWith(Manager& manager, T* dying) {
+    znBrowserCurrentObjects& current = znlayer::CurrentAccess::Of(manager);
+    const znBrowserCurrentObjects before = current;
+    std::string forgotten;
+    manager.AboutToDelete(dying);
+    znlayer::ForEachCurrentKind([&](const auto& kind) {
+        if (before.*kind.member && !(current.*kind.member)) forgotten += std::string(kind.name) + "; ";
+    });
+    current = before;
+    return forgotten;
+}
+
+TEST_F(CurrentObjects, GoWithWhatTheHostDeletesByItself) {
+#define EXPECT_FORGOTTEN(Kind, kinds)                                                                        \
+    EXPECT_EQ(ForgottenWith(manager, manager.GetCurrent##Kind##Ptr()), kinds)
+    EXPECT_FORGOTTEN(
+        View, "view; column; style; style element; view property; view operation; free folder; list; ");
+    EXPECT_FORGOTTEN(Column, "column; style; style element; ");
+    EXPECT_FORGOTTEN(Style, "style; style element; ");
+    EXPECT_FORGOTTEN(StyleElement, "style element; ");
+    EXPECT_FORGOTTEN(ViewProperty, "view property; ");
+    EXPECT_FORGOTTEN(ViewOperation, "view operation; ");
+    EXPECT_FORGOTTEN(FreeFolder, "free folder; list; ");
+    EXPECT_FORGOTTEN(WindowAccess, "window; window part; event; window callback; find request; "
+                                   "find request property; find request property criterion; ");
+    EXPECT_FORGOTTEN(WindowPart, "window part; event; window callback; ");
+    EXPECT_FORGOTTEN(Event, "event; window callback; ");
+    EXPECT_FORGOTTEN(WindowCallback, "window callback; ");
+    EXPECT_FORGOTTEN(FindRequest, "find request; find request property; find request property criterion; ");
+    EXPECT_FORGOTTEN(FindRequestProperty, "find request property; find request property criterion; ");
+    EXPECT_FORGOTTEN(FindRequestPropertyCriterion, "find request property criterion; ");
+    EXPECT_FORGOTTEN(GuiMap, "GUI map; ");
+    EXPECT_FORGOTTEN(DataCtrl, "list; data control; data source simple; data source hierarchical; criteria; "
+                               "data operation; input field; state; ");
+    EXPECT_FORGOTTEN(DataSourceSimple, "list; data source simple; criteria; ");
+    EXPECT_FORGOTTEN(DataSourceHierarchical, "data source hierarchical; ");
+    EXPECT_FORGOTTEN(Criteria, "criteria; ");
+    EXPECT_FORGOTTEN(DataOperation, "data operation; ");
+    EXPECT_FORGOTTEN(InputField, "input field; ");
+    EXPECT_FORGOTTEN(State, "state; ");
+    EXPECT_FORGOTTEN(PopupMenu, "popup menu; popup menu item; ");
+    EXPECT_FORGOTTEN(PopupMenuItem, "popup menu item; ");
+#undef EXPECT_FORGOTTEN
+}
+
+TEST_F(CurrentObjects, StayWhenTheHostDeletesOthers) {
+    const znBrowserCurrentObjects kept = znlayer::CurrentAccess::Of(manager);
+    ASSERT_EQ(Tcl_Eval(interp, "znbrowsermanager view create other; znbrowsermanager window create other;"
+                               "znbrowsermanager app datactrl create other"),
+              TCL_OK);
+    znIBrowserView* const view = manager.GetCurrentViewPtr();
+    znIBrowserWindowAccess* const window = manager.GetCurrentWindowAccessPtr();
+    znIBrowserFindRequest* const request = manager.GetCurrentFindRequestPtr();
+    znlayer::CurrentAccess::Of(manager) = kept;
+    ASSERT_TRUE(view != kept.view && window != kept.windowAccess && request && request != kept.findRequest);
+    EXPECT_EQ(ForgottenWith(manager, view), "");
+    EXPECT_EQ(ForgottenWith(manager, window), "");
+    EXPECT_EQ(ForgottenWith(manager, request), "");
+    EXPECT_EQ(ForgottenWith(manager, host.App().FindDataCtrl("other")), "");
+}
+
+/// One written before there were any operations but the name.
+struct OldPopupMenu final : znIBrowserPopupMenu, znIBrowserPopupMenuItem {
+    const char* GetName() const override { return "old"; }
+};
+
+TEST_F(CurrentObjects, AnOldPopupMenuSupportsNothing) {
+    OldPopupMenu menu;
     manager.SetCurrentPopupMenu(&menu);
     manager.SetCurrentPopupMenuItem(&menu);
-    EXPECT_TRUE(manager.GetCurrentPopupMenu(name));
-    EXPECT_EQ(name, "menu");
-    EXPECT_TRUE(manager.GetCurrentPopupMenuItem(name));
-    menu.name = nullptr;
-    EXPECT_TRUE(manager.GetCurrentPopupMenuItem(name));
-    EXPECT_EQ(name, "");
-    EXPECT_EQ(manager.GetCurrentPopupMenuPtr(), &menu);
-    EXPECT_EQ(manager.GetCurrentPopupMenuItemPtr(), &menu);
-    manager.ResetCurrentPopupMenu();
-    manager.ResetCurrentPopupMenuItem();
-    EXPECT_EQ(manager.GetCurrentPopupMenuPtr(), nullptr);
+    znString text;
+    EXPECT_FALSE(manager.CreatePopupMenuItem("i", ZNBROWSER_POPUP_END));
+    EXPECT_FALSE(manager.GetPopupMenuItemNames(text));
+    EXPECT_FALSE(manager.SetPopupMenuItemCaption("c"));
+    EXPECT_FALSE(manager.SetPopupMenuItemVisible(true));
+    EXPECT_FALSE(manager.SetPopupMenuItemContainer(ZNBROWSER_POPUP_CONTAINER_SIMPLE, true));
+    EXPECT_FALSE(manager.GetPopupMenuItemUserInput(text));
+    EXPECT_FALSE(manager.PerformPopupMenuItem(nullptr));
+    for (const auto get : {&Manager::GetPopupMenuPostScript, &Manager::GetPopupMenuItemCaption,
+                           &Manager::GetPopupMenuItemCascade, &Manager::GetPopupMenuItemContainer}) {
+        EXPECT_TRUE((manager.*get)(text));
+        EXPECT_EQ(text, "");
+    }
+    EXPECT_TRUE(manager.GetPopupMenuItemEnabled(text));
+    EXPECT_EQ(text, "false");
+    EXPECT_EQ(ForgottenWith<znIBrowserPopupMenu>(manager, &menu), "popup menu; popup menu item; ");
+    manager.UpdateCurrentPopupMenuItem(&menu);
     EXPECT_EQ(manager.GetCurrentPopupMenuItemPtr(), nullptr);
+    manager.ResetCurrentPopupMenu();
 }
 
 using Family = int (Manager::*)(int, Tcl_Obj* const[]);

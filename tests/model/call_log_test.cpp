@@ -1,6 +1,6 @@
 // What scripts cannot reach of the record of host calls: faults from C++, calls the host makes unseen.
 #include "host/base/host_call.h"
-#include "host/model/popup_menu.h"
+#include "host/model/gui_map.h"
 #include "host/znBrowserDataItems.h"
 
 #include <gtest/gtest.h>
@@ -28,15 +28,15 @@ private:
 TEST(CallLog, ArgumentsReadAsScriptsWriteThem) {
     CallLog log;
     Probe probe(log);
-    PopupMenu menu(log, "my menu");
-    const znIBrowserPopupMenu* const none = nullptr;
+    GuiMap map(log, "my map");
+    const znIBrowserGuiMap* const none = nullptr;
     const char* const noText = nullptr;
     log.SetJournal(true);
-    probe.CreateView("a b", noText, znString("text"), true, -3, 7U, 0.1,
-                     static_cast<znIBrowserPopupMenu*>(&menu), none, std::vector<znString>{"x", "y z"},
-                     std::vector<bool>{true, false}, znBrowserDataItem{nullptr, 5});
-    ASSERT_EQ(log.Journal().size(), 1U); // asking the menu for its name is not recorded
-    const std::vector<std::string> words{"a b", "", "text", "1", "-3", "7", "0.1", "my menu", ""};
+    probe.CreateView("a b", noText, znString("text"), true, -3, 7U, 0.1, static_cast<znIBrowserGuiMap*>(&map),
+                     none, std::vector<znString>{"x", "y z"}, std::vector<bool>{true, false},
+                     znBrowserDataItem{nullptr, 5});
+    ASSERT_EQ(log.Journal().size(), 1U); // asking the map for its name is not recorded
+    const std::vector<std::string> words{"a b", "", "text", "1", "-3", "7", "0.1", "my map", ""};
     const std::vector<CallArgument>& arguments = log.Journal()[0].arguments;
     ASSERT_EQ(arguments.size(), words.size() + 3);
     for (std::size_t i = 0; i < words.size(); ++i) EXPECT_EQ(arguments[i].words, std::vector{words[i]});
@@ -48,11 +48,11 @@ TEST(CallLog, ArgumentsReadAsScriptsWriteThem) {
 TEST(CallLog, ARefusalIsUsedUpByOneCallOfItsOperation) {
     CallLog log;
     Probe probe(log);
-    PopupMenu menu(log, "menu");
+    GuiMap map(log, "map");
     EXPECT_FALSE(log.Refuse("znIBrowser::NoSuchOperation", "text"));
     ASSERT_TRUE(log.Refuse("znIBrowser::CreateView", "first"));
     ASSERT_TRUE(log.Refuse("znIBrowser::CreateView", "second"));
-    EXPECT_STREQ(menu.GetName(), "menu");
+    EXPECT_STREQ(map.GetName(), "map");
     {
         const CallLog::Quiet quiet(log);
         EXPECT_TRUE(probe.CreateView());

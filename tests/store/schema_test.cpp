@@ -94,6 +94,7 @@ TEST(Schema, KnowsTheColumnsKeysAndIndexes) {
     EXPECT_EQ(IndexedColumns(*maker), "name id - - ");
     EXPECT_EQ(ForeignKeys(*part), "(up -> part id ) (area code -> kind area code ) (title -> maker name ) ");
     EXPECT_TRUE(part->columns[2].notNull && part->columns[2].text && !part->columns[3].notNull);
+    EXPECT_TRUE(part->columns[0].numeric && part->columns[3].numeric && !part->columns[2].numeric);
     EXPECT_EQ(kind->columns[0].primaryKey, 2);
     const std::tuple<const char*, const char*, const char*, int> cases[] = {
         {"part", "main.\"part\"", "\"id\"", 2},

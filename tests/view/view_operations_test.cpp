@@ -82,7 +82,8 @@ TEST_F(ViewOperations, NullObjectsAreRefused) {
 TEST_F(ViewOperations, WhatNoCommandReaches) {
     EXPECT_TRUE(manager.CreateComboBoxColumn("x", ""));
     EXPECT_EQ(Fault(manager.SetFreeFolderSortingException("part", 1)), "Cannot find data source simple");
-    znString text;
+    znString text = "before";
+    EXPECT_FALSE(manager.GetFreeFolderSortingException(text) || !text.empty());
     EXPECT_TRUE(manager.GetStyleElementMapName(text));
     manager.ResetCurrentStyleElement();
     EXPECT_EQ(Fault(manager.GetStyleElementMapName(text)),

@@ -57,3 +57,23 @@ proc refusals {setup prefix state table} {
             " -result [list $message 1]
     }
 }
+
+# A window with two popup menus: "m" with the items a, b and c, of which b is current, and "other" without items.
+proc freshMenus {} {
+    freshWindow
+    foreach menu [zn view popupmenu names] {zn view popupmenu delete $menu}
+    zn view popupmenu create other
+    zn view popupmenu create m
+    foreach item {a b c} {zn view popupmenuitem create $item}
+    zn view popupmenuitem current b
+}
+
+# The same without a menu, and with one that has no items.
+proc freshNoMenu {} {
+    freshMenus
+    foreach menu {m other} {zn view popupmenu delete $menu}
+}
+proc freshNoItem {} {
+    freshMenus
+    zn view popupmenu current other
+}

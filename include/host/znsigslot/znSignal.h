@@ -2,7 +2,7 @@
 #ifndef ZN_SIGNAL_H
 #define ZN_SIGNAL_H
 
-#include "host/znsigslot/znListener.h"
+#include "znListener.h"
 
 #include <functional>
 #include <iterator>
@@ -29,7 +29,7 @@ public:
 
     /// Disconnects every slot. What the slots hold goes at the end of the emission that runs, if one does.
     ~znSignal() override {
-        for (Slot& slot : state_->slots) {
+        for (Slot& slot : state_->connections) {
             if (slot.listener) std::exchange(slot.listener, nullptr)->SignalDisconnectPrivate(this);
         }
     }
@@ -40,7 +40,7 @@ public:
         if (!function) return;
         listener.SignalConnectPrivate(this);
         try {
-            state_->slots.push_back({&listener, std::move(function)});
+            state_->connections.push_back({&listener, std::move(function)});
         } catch (...) {
             if (!IsConnected(listener)) listener.SignalDisconnectPrivate(this);
             throw;
@@ -57,7 +57,7 @@ public:
 
     /// Disconnects every slot of the listener. It need not have one.
     void Disconnect(Listener& listener) override {
-        for (Slot& slot : state_->slots) {
+        for (Slot& slot : state_->connections) {
             if (slot.listener == &listener) slot.listener = nullptr;
         }
         listener.SignalDisconnectPrivate(this);
@@ -66,7 +66,7 @@ public:
 
     /// Whether the listener has a slot here.
     bool IsConnected(const Listener& listener) const {
-        for (const Slot& slot : state_->slots) {
+        for (const Slot& slot : state_->connections) {
             if (slot.listener == &listener) return true;
         }
         return false;
@@ -74,11 +74,11 @@ public:
 
     /// Calls the slots. Does nothing when the signal is blocked or is being emitted already.
     void Emit(Args... args) {
-        if (state_->blocked || state_->emitting || state_->slots.empty()) return;
+        if (state_->blocked || state_->emitting || state_->connections.empty()) return;
         const Emission emission(state_);
-        std::list<Slot>& slots = emission.state->slots;
-        const auto last = std::prev(slots.end());
-        for (auto slot = slots.begin();; ++slot) {
+        std::list<Slot>& connections = emission.state->connections;
+        const auto last = std::prev(connections.end());
+        for (auto slot = connections.begin();; ++slot) {
             if (slot->listener) slot->function(args...);
             if (slot == last) return;
         }
@@ -100,16 +100,16 @@ private:
     };
 
     struct State {
-        std::list<Slot> slots;
+        std::list<Slot> connections;
         bool blocked = false;
         bool emitting = false;
 
         /// The slots are taken out before they are destroyed: what they hold may disconnect others.
         static void RemoveDisconnected(State& state) {
             std::list<Slot> removed;
-            for (auto slot = state.slots.begin(); slot != state.slots.end();) {
+            for (auto slot = state.connections.begin(); slot != state.connections.end();) {
                 const auto next = std::next(slot);
-                if (!slot->listener) removed.splice(removed.end(), state.slots, slot);
+                if (!slot->listener) removed.splice(removed.end(), state.connections, slot);
                 slot = next;
             }
         }

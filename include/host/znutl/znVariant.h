@@ -2,7 +2,7 @@
 #ifndef ZN_VARIANT_H
 #define ZN_VARIANT_H
 
-#include "host/znutl/znString.h"
+#include "znString.h"
 
 #include <cstdint>
 #include <utility>

@@ -1,0 +1,23 @@
+// An input field, as the model reads it.
+#ifndef ZN_HOST_READABLE_FIELD_H
+#define ZN_HOST_READABLE_FIELD_H
+
+#include "host/znIBrowserInputField.h"
+
+#include <string>
+
+namespace znhost {
+
+/// What every input field of this host is.
+class ReadableField : public znIBrowserInputField {
+public:
+    /// The value of any type as a text that Tcl reads as the same value; "" for none.
+    virtual std::string Text() const = 0;
+
+protected:
+    ~ReadableField() = default;
+};
+
+} // namespace znhost
+
+#endif

@@ -1,0 +1,150 @@
+# The popup menu of the default browser: rows with the same value, rows that refer to a row, a row by itself. Each opens
+# a window of its own, on custom data sources that hold these rows only. It bears the name of the data control, as the
+# view and the window do.
+
+namespace eval ::znbrowser::any {
+    variable clicked ;# by window: the table, the condition for the row, the column and its text
+    variable opened 0 ;# how many windows have been opened
+}
+
+proc ::znbrowser::any::MakeMenu {control} {
+    if {$control in [Do view popupmenu names]} return ;# a script has one of that name
+    Do view popupmenu create $control
+    Do view popupmenu onpost ::znbrowser::any::Posting
+    foreach {item caption procedure help} {
+        same "Filter by this value" ShowSame "The rows of this table with the same value in this column"
+        refers "Show what refers to this row" ShowReferring "The rows of other tables that name this one"
+        own "Open in a window of its own" ShowRow "This row, with all its columns"
+    } {
+        Do view popupmenuitem create $item
+        Do view popupmenuitem caption $caption
+        Do view popupmenuitem help $help
+        Do view popupmenuitem onsingleitem true
+        Do view popupmenuitem script ::znbrowser::any::$procedure
+    }
+    Do view popupmenu connect view
+}
+
+# Before the menu is shown: what was clicked, and what there is to show of it.
+proc ::znbrowser::any::Posting {window column rows} {
+    variable clicked
+    set clicked($window) {}
+    set enabled {same 0 refers 0 own 0}
+    if {[llength $rows] == 1 && ![catch {ReadClicked $window $column [lindex $rows 0]} found]} {
+        set clicked($window) $found
+        lassign $found table condition field text
+        set enabled [list same [expr {$field ne ""}] refers [expr {[Referring $window $table $condition] ne ""}] own 1]
+    }
+    Do view popupmenu current $window
+    foreach {item on} $enabled {
+        Do view popupmenuitem current $item
+        Do view popupmenuitem enable $on
+    }
+}
+
+# The table of a row, a condition that only this row meets, the table's column that is shown in a column, and the value
+# there, as SQL writes it. An error where rows have no numbers, as in views.
+proc ::znbrowser::any::ReadClicked {window column index} {
+    lassign [::znbrowser::host item [::znbrowser::number $window] $index] table number
+    set columns [ColumnsOf $window $table]
+    foreach name {rowid _rowid_ oid} {
+        if {$name ni [string tolower $columns]} break
+    }
+    set condition "$name = $number"
+    set field $column
+    if {$field ni $columns} {set field ""}
+    if {$column eq "Name"} {
+        set field [DisplayColumn [Sql $window {SELECT name, lower(type) FROM pragma_table_xinfo(?, 'main')
+            WHERE hidden <> 1 ORDER BY cid} $table]]
+    }
+    set value [expr {$field eq "" ? "NULL" : "quote([Quoted $field])"}]
+    set rows [Sql $window "SELECT $value FROM [Quoted $table] WHERE $condition"]
+    if {[llength $rows] != 1} {error "no such row"}
+    return [list $table $condition $field [lindex $rows 0 0]]
+}
+
+proc ::znbrowser::any::ColumnsOf {control table} {
+    return [lmap row [Sql $control {SELECT name FROM pragma_table_xinfo(?, 'main') WHERE hidden <> 1 ORDER BY cid} $table] {
+        lindex $row 0
+    }]
+}
+
+# The tables with rows that refer to that one, each with the condition for them.
+proc ::znbrowser::any::Referring {control table condition} {
+    set conditions {}
+    foreach row [Sql $control {
+        SELECT child.name, key.id, key."from", coalesce(key."to", (SELECT name FROM pragma_table_info(?1) WHERE pk = key.seq + 1))
+        FROM pragma_table_list AS child, pragma_foreign_key_list(child.name) AS key
+        WHERE child.schema = 'main' AND child.type = 'table' AND key."table" = ?1 COLLATE NOCASE ORDER BY 1, 2, key.seq
+    } $table] {
+        lassign $row child id from to
+        set value [Sql $control "SELECT quote([Quoted $to]) FROM [Quoted $table] WHERE $condition"]
+        dict lappend conditions [list $child $id] "[Quoted $from] = [lindex $value 0 0]"
+    }
+    set referring {}
+    dict for {key parts} $conditions {dict lappend referring [lindex $key 0] ([join $parts { AND }])}
+    set found {}
+    dict for {child parts} $referring {
+        set where [join $parts " OR "]
+        if {[CountRows $control $child "WHERE $where" 1]} {lappend found $child $where}
+    }
+    return $found
+}
+
+# ---- What the items do
+
+proc ::znbrowser::any::ShowSame {window args} {
+    lassign [set ::znbrowser::any::clicked($window)] table condition field value
+    ShowRows $window "$table: $field" [list $table "[Quoted $field] IS $value"]
+}
+
+proc ::znbrowser::any::ShowReferring {window args} {
+    lassign [set ::znbrowser::any::clicked($window)] table condition
+    ShowRows $window "refers to $table" [Referring $window $table $condition]
+}
+
+proc ::znbrowser::any::ShowRow {window args} {
+    lassign [set ::znbrowser::any::clicked($window)] table condition
+    ShowRows $window $table [list $table $condition]
+}
+
+# Opens a window on rows of tables: each table with a condition. What is current stays so.
+proc ::znbrowser::any::ShowRows {control title tables} {
+    variable opened
+    set name "$control, $title ([incr opened])"
+    Do datactrl current $control
+    Do view create $name true
+    Do view datactrl connect
+    Do view column current Name
+    Do view column width 240
+    foreach {table condition} $tables {ShowTable $control $name $table $condition}
+    Do window create $name
+    Do window stripe true
+    Do window expandall
+    Do window post true
+    Do window current $control
+}
+
+proc ::znbrowser::any::ShowTable {control view table condition} {
+    set source "$view: $table"
+    Do datasource simple create $source $table
+    Do datasource simple connect $table
+    Do datasource simple criteria create rows
+    Do datasource simple criteria code $condition
+    Do view datasource connect $source
+    set place -1
+    foreach column [ColumnsOf $control $table] {
+        if {[incr place] >= $::znbrowser::any::columnLimit} break
+        catch {
+            Do datasource simple property create $column 1 string $place
+            if {$column ni [Do view property names]} {
+                Do view property create $column
+                Do view property type string
+                Do view column create $column
+            }
+            Do view property connect $source $column
+        }
+    }
+    Do view folder current $view
+    Do view list create $source
+}
