@@ -213,14 +213,19 @@ set sections {
         {collector option create act acting} {collector option names} {collector option current act}
         {collector option perform} {collector option perform isolate} {collector option delete act}
         {collector selection add byprop title b c} {collector selection toggle displayed}
-        {collector selection remove byprop title b} {collector pnlcolselector current kept}
+        {collector selection remove byprop title b} {collector selection set byprop title d}
+        {collector pnlcolselector current kept}
         {collector pnlcolselector names} {collector addtopnlcol kept} {collector selection clear}
         {collector optionselector names} {collector optionselector current toggle} {OnTkTreeRequestSelect win 3}
         {collector optionselector current select} {OnTkTreeRequestSelect win 5} {collector autofit true}
         {collector preselector} {collector preselector on} {collector preselector dataitem} {collector isolate}
         {app sql m {DELETE FROM unit WHERE id = 2}} {collector undo names} {collector undo} {collector undo}
         {app sql m {INSERT INTO unit VALUES (9, 1, 'i', 0)}} {collector showhide all} {collector undo count}
-        {collector undo show false} {collector addremove enable} {collector entityselector show}
+        {collector undo show false} {collector undo enable false} {collector addremove enable}
+        {collector addremove show true} {collector entityselector show} {collector entityselector enable true}
+        {collector optionselector show} {collector optionselector enable} {collector pnlcolselector show}
+        {collector pnlcolselector enable} {collector preselector show} {collector preselector enable}
+        {collector preselector off} {collector selection show true} {collector selection enable}
         {app state create m st} {state current st} {state save} {collector undo clear} {state restore} {app rows win}
         {collector pnlcolselector delete kept} {collector datasource simple current own} {view datasource simple disconnect own}
         {datasource simple delete own} {collector datasource simple current} {collector selection add displayed}

@@ -17,8 +17,9 @@ const char* const znBrowserTclMessages::COLLECTOR_SELECTION =
     "    \tset byprop <property> <value> ...       Collects the items with one of the values, and no "
     "others.\n"
     "    \tshow [true|false]                       Gets/sets whether it stands in the collector bar.\n"
-    "    \ttoggle [selected|displayed|all]         Collects those of the items that are not, and only "
-    "those.\n\n";
+    "    \ttoggle [selected|displayed|all]         Collects those of these items that are not, and the "
+    "others\n"
+    "    \t                                        no more.\n\n";
 
 namespace znlayer {
 
@@ -92,8 +93,8 @@ constexpr CommandRow rows[] = {
     {Keyword::Set, "?selected|displayed|all?", "Collects these items, and no others.",
      Change<ZNBROWSER_COLLECT_SET>, &byPropLevel<ZNBROWSER_COLLECT_SET>},
     showControlRow<ZNBROWSER_COLLECTOR_SELECTION, &Messages::COLLECTOR_SELECTION>,
-    {Keyword::Toggle, "?selected|displayed|all?", "Collects those of the items that are not, and only those.",
-     Change<ZNBROWSER_COLLECT_TOGGLE>},
+    {Keyword::Toggle, "?selected|displayed|all?",
+     "Collects those of these items that are not, and the others no more.", Change<ZNBROWSER_COLLECT_TOGGLE>},
 };
 
 } // namespace
