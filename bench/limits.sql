@@ -77,6 +77,17 @@ from run as large, run as small where large.name = 'Page/1000000' and small.name
 union all
 select 'whether a row can be expanded, us', ns / 50e3, 10 from run where name = 'ExpandersOfPage/1000000'
 union all
+select 'collecting and isolating 100,000 of 1,000,000, s', ns / 1e9, 1 from run where name = 'CollectAndIsolate/100000'
+union all
+select 'collecting and isolating 100,000 of 1,000,000, MiB', mebibytes, 16
+from run where name = 'CollectAndIsolate/100000'
+union all
+select 'taking that back, s', ns / 1e9, 0.5 from run where name = 'UndoIsolation/100000'
+union all
+select '50 rows of an isolated view, to 50 of the whole', isolated.ns / whole.ns, 1.2
+from run as isolated, run as whole
+where isolated.name = 'PageOfIsolated/100000' and whole.name = 'PageOfWhole/100000'
+union all
 select 'selecting 1,000 to 100,000 rows, growth a decade', sqrt(large.ns / 100 / small.ns), 1.5
 from run as large, run as small where large.name = 'SelectRows/100000' and small.name = 'SelectRows/1000';
 

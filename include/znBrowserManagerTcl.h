@@ -210,7 +210,7 @@ public:
     int DataCtrlTclAPICommands(int objc, Tcl_Obj* const objv[]);
     /// "znbrowsermanager userinput ..."
     int DataUserInputTclAPICommands(int objc, Tcl_Obj* const objv[]);
-    /// "znbrowsermanager collector ...": always the usage text.
+    /// "znbrowsermanager collector ..."; always TCL_OK.
     int CollectorTclAPICommands(int objc, Tcl_Obj* const objv[]);
     /// "znbrowsermanager datasource ..."
     int DataSourceTclAPICommands(int objc, Tcl_Obj* const objv[]);
@@ -1084,9 +1084,10 @@ public:
     bool OnTkTreeDispElemsToggleClick(const char* window, int value); ///< "checkbox display elem"
     bool OnTkTreeDispGeomsToggleClick(const char* window, int value); ///< "checkbox display geom"
 
-    /// Events of the collector, which this version does not serve: true, and nothing happens.
-    bool OnTkColListItemSelected(const char* first, const char* second);   ///< "OnTkColListItemSelected"
-    bool OnTkColOptionItemSelected(const char* first, const char* second); ///< "OnTkColOptionItemSelected"
+    /// Events of a window's collector bar: a data source was chosen, as with
+    /// `SetCurrentCollectorDataSourceSimple`, or an action, as with `SetCurrentCollectorOption`.
+    bool OnTkColListItemSelected(const char* window, const char* dataSource); ///< "OnTkColListItemSelected"
+    bool OnTkColOptionItemSelected(const char* window, const char* option);   ///< "OnTkColOptionItemSelected"
 
     // ---- Data controls ----
     // The containers of all data. The application makes them; scripts choose and connect them.
@@ -1358,6 +1359,102 @@ public:
     /// with a heading each. A section that the state cannot deliver ends it: silently false, and the sections
     /// before it stand in `lines`.
     bool GetConfigData(std::vector<znString>& lines); ///< "state data"
+
+    // ---- The collector ----
+    // Picks items of the current view, shows only some of them, and takes each step back. The collection, the
+    // display state, the steps and the named collections are the view's; everything else is the collector's.
+    // Each needs a host with a collector (`znIBrowserApplication::GetCollector`), which is the first thing
+    // that is looked for. The lists here are Tcl lists, whatever the names hold.
+
+    /// The data source whose items are collected, found by its name among those of the current view; null
+    /// when none is chosen, and when the view does not have it. The error state stays.
+    znIBrowserDataSourceSimple* GetCurrentCollectorDataSourceSimplePtr() const;
+    /// Chooses it, among those of `GetCollectorDataSourceSimpleNames`. "none" chooses none, so that items of
+    /// every kind are collected, and needs no view. It is kept by name, in the collector helper: a view that
+    /// has no data source of that name collects nothing, and says so.
+    bool SetCurrentCollectorDataSourceSimple(const char* name);
+    /// Its name; "" when none is chosen. One that is deleted through the manager is chosen no more.
+    const char* GetCurrentCollectorDataSourceSimple() const;
+    /// The same, but "none" when none is chosen.
+    bool GetCurrentCollectorDataSourceSimple(znString& out);
+    /// The data sources whose items can be collected in the current view.
+    bool GetCollectorDataSourceSimpleNames(znString& out);
+
+    /// Collects items of the chosen kind.
+    bool ChangeCollectorSelection(ZNBROWSER_COLLECT change, ZNBROWSER_COLLECT_FROM from);
+    /// Collects the items of the chosen kind whose value of that view property is one of `values`. For
+    /// `ZNBROWSER_COLLECT_TOGGLE` and without values it fails.
+    bool ChangeCollectorSelectionByProp(ZNBROWSER_COLLECT change, const char* property,
+                                        const std::vector<znString>& values);
+    /// Collects nothing any more, whatever the kind.
+    bool ClearCollectorSelection();
+    /// The data sources that have collected items, each with how many behind its name.
+    bool GetCollectorSelectionCount(znString& out);
+    /// The value of a view property for each collected item: a quoted list, from which items without a value
+    /// are missing. A null `property` stands for the current one.
+    bool GetCollectorDataItems(const char* property, znString& out);
+
+    /// Shows and hides items, those collected in particular.
+    bool ChangeCollectorDisplay(ZNBROWSER_COLLECTOR_DISPLAY change);
+
+    /// The actions, four of the host's and those of scripts.
+    bool GetCollectorOptionNames(znString& out);
+    /// Choose an action, which is not performed, and tell which one is chosen.
+    bool SetCurrentCollectorOption(const char* name);
+    bool GetCurrentCollectorOption(znString& out);
+    /// Performs an action in the current view; a null `name` stands for the chosen one.
+    bool PerformCollectorOption(const char* name);
+    /// Make an action of a Tcl procedure, and delete it again. What the procedure is called with stands at
+    /// `znIBrowserCollector::PerformOption`.
+    bool CreateCollectorOption(const char* name, const char* procedure);
+    bool DeleteCollectorOption(const char* name);
+
+    /// How clicks in windows collect.
+    bool SetCollectorClickMode(ZNBROWSER_COLLECTOR_CLICK mode);
+    bool GetCollectorClickMode(ZNBROWSER_COLLECTOR_CLICK& mode);
+    /// Whether windows scroll to the collected items after an action.
+    bool SetCollectorAutofit(bool autofit);
+    bool GetCollectorAutofit(bool& autofit);
+    /// Whether windows mark the item under the pointer.
+    bool SetCollectorPreselector(bool on);
+    bool GetCollectorPreselector(bool& on);
+    /// The value of a view property for the marked item, as `GetCollectorDataItems` gives it; "" when none is
+    /// marked.
+    bool GetCollectorPreselectedDataItem(const char* property, znString& out);
+
+    /// Takes back the last step of the current view.
+    bool UndoCollectorStep();
+    /// Does again the step that was taken back last.
+    bool RestoreCollectorStep();
+    /// Forgets the steps; what they did stays.
+    bool ClearCollectorSteps();
+    /// How many steps can be taken back.
+    bool GetCollectorStepCount(znString& out);
+    /// What they did, the last one last.
+    bool GetCollectorStepNames(znString& out);
+
+    /// The named collections of the current view.
+    bool GetCollectorPanelCollectionNames(znString& out);
+    /// Keeps what is collected under a new name, and makes that current.
+    bool CreateCollectorPanelCollection(const char* name);
+    /// Collects what a named collection holds, in place of what was collected, and makes it current.
+    bool SetCurrentCollectorPanelCollection(const char* name);
+    /// The name of the current one; "" when there is none.
+    bool GetCurrentCollectorPanelCollection(znString& out);
+    /// Deletes one. What is collected stays so.
+    bool DeleteCollectorPanelCollection(const char* name);
+    /// Adds what is collected to one; a null `name` stands for the current one.
+    bool AddToCollectorPanelCollection(const char* name);
+
+    /// Whether the current window has its collector bar.
+    bool SetCollectorBarShown(bool shown);
+    bool GetCollectorBarShown(bool& shown);
+    /// Whether a control stands in that bar, which is shown with it.
+    bool SetCollectorControlShown(ZNBROWSER_COLLECTOR_CONTROL control, bool shown);
+    bool GetCollectorControlShown(ZNBROWSER_COLLECTOR_CONTROL control, bool& shown);
+    /// Whether a control answers to the user.
+    bool SetCollectorControlEnabled(ZNBROWSER_COLLECTOR_CONTROL control, bool enabled);
+    bool GetCollectorControlEnabled(ZNBROWSER_COLLECTOR_CONTROL control, bool& enabled);
 
     // ---- Popup menus ----
     // The menus that users get on a right click. With a menu its first item becomes current, or none. A host

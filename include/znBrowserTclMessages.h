@@ -10,7 +10,6 @@
 struct ZN_API znBrowserTclMessages {
     // The command and the families that the top level serves.
     static const char* const GENERAL;
-    static const char* const COLLECTOR;
     static const char* const EMPTY;     ///< "empty show ..."
     static const char* const NO_FILTER; ///< "no filter", which no words reach
     static const char* const CHECKBOX;  ///< "checkbox ..."
@@ -89,6 +88,21 @@ struct ZN_API znBrowserTclMessages {
 
     // "state ..."
     static const char* const STATE;
+
+    // "collector ..."
+    static const char* const COLLECTOR;
+    static const char* const COLLECTOR_ADDREMOVE;
+    static const char* const COLLECTOR_AUTOFIT;
+    static const char* const COLLECTOR_DATASOURCE;
+    static const char* const COLLECTOR_ENTITYSELECTOR;
+    static const char* const COLLECTOR_OPTION;
+    static const char* const COLLECTOR_OPTIONSELECTOR;
+    static const char* const COLLECTOR_PNLCOLSELECTOR;
+    static const char* const COLLECTOR_PRESELECTOR;
+    static const char* const COLLECTOR_SELECTION;
+    static const char* const COLLECTOR_SHOW;
+    static const char* const COLLECTOR_SHOWHIDE;
+    static const char* const COLLECTOR_UNDO;
 };
 
 #endif

@@ -64,6 +64,50 @@ enum ZNBROWSER_CALLBACK_OPERATION : int {
     ZNBROWSER_CALLBACK_TREE_AREA_SELECT_CHILDREN_ITEMS
 };
 
+/// What becomes of the collection with the items that are collected now.
+enum ZNBROWSER_COLLECT : int {
+    ZNBROWSER_COLLECT_ADD = 0, ///< they join it
+    ZNBROWSER_COLLECT_REMOVE,  ///< they leave it
+    ZNBROWSER_COLLECT_TOGGLE,  ///< those in it leave it, the others join it
+    ZNBROWSER_COLLECT_SET      ///< they are the collection
+};
+
+/// Which items of a view are collected.
+enum ZNBROWSER_COLLECT_FROM : int {
+    ZNBROWSER_COLLECT_FROM_SELECTED = 0, ///< those selected in the windows of the view
+    ZNBROWSER_COLLECT_FROM_DISPLAYED,    ///< those that its display state shows
+    ZNBROWSER_COLLECT_FROM_ALL           ///< all
+};
+
+/// What an action of the collector does to the display state of a view.
+enum ZNBROWSER_COLLECTOR_DISPLAY : int {
+    ZNBROWSER_COLLECTOR_SHOW = 0,     ///< the collected items are shown
+    ZNBROWSER_COLLECTOR_HIDE,         ///< the collected items are hidden
+    ZNBROWSER_COLLECTOR_TOGGLE,       ///< collected items that are shown are hidden, and the other way round
+    ZNBROWSER_COLLECTOR_SHOW_ONLY,    ///< of the data sources of the collected items only these are shown
+    ZNBROWSER_COLLECTOR_ISOLATE,      ///< only they, with what lies above and below them, are shown
+    ZNBROWSER_COLLECTOR_ISOLATE_ONLY, ///< only they, with what lies above them, are shown
+    ZNBROWSER_COLLECTOR_SHOW_ALL      ///< everything is shown; nothing need be collected
+};
+
+/// How clicks in a window collect.
+enum ZNBROWSER_COLLECTOR_CLICK : int {
+    ZNBROWSER_COLLECTOR_CLICK_NONE = 0, ///< not at all
+    ZNBROWSER_COLLECTOR_CLICK_SELECT,   ///< what is selected is the collection
+    ZNBROWSER_COLLECTOR_CLICK_TOGGLE    ///< an item that is clicked joins or leaves the collection
+};
+
+/// A control in the collector bar of a window.
+enum ZNBROWSER_COLLECTOR_CONTROL : int {
+    ZNBROWSER_COLLECTOR_ADDREMOVE = 0,  ///< adds the selected items, or removes them
+    ZNBROWSER_COLLECTOR_ENTITYSELECTOR, ///< chooses the kind of item
+    ZNBROWSER_COLLECTOR_OPTIONSELECTOR, ///< chooses an action, performs it, and says how clicks collect
+    ZNBROWSER_COLLECTOR_PNLCOLSELECTOR, ///< the named collections
+    ZNBROWSER_COLLECTOR_PRESELECTOR,    ///< switches the preselector
+    ZNBROWSER_COLLECTOR_UNDO,           ///< takes steps back, and restores them
+    ZNBROWSER_COLLECTOR_SELECTION       ///< tells how many are collected, and empties the collection
+};
+
 /// For which data sources a popup menu item stands, one entry each.
 enum ZNBROWSER_POPUP_CONTAINER : int {
     ZNBROWSER_POPUP_CONTAINER_NONE = 0,

@@ -2,6 +2,7 @@
 
 #include "state/state_container.h"
 #include "store/data_ctrl.h"
+#include "window/collector.h"
 
 namespace znhost {
 
@@ -51,6 +52,11 @@ Tcl_Interp* Application::GetTclInterp() { return interp_; }
 znSignal<single_threaded, const char*>& Application::GetWindowReselectedSignal() {
     static_cast<void>(Refused("znIBrowserApplication::GetWindowReselectedSignal"));
     return windowReselected_;
+}
+
+znIBrowserCollector* Application::GetCollector() {
+    if (Refused("znIBrowserApplication::GetCollector")) return nullptr;
+    return &browser_.VirtualCollector();
 }
 
 } // namespace znhost

@@ -32,6 +32,7 @@ public:
     Tcl_Interp* GetTclInterp() override;
     int EvalAppCommand(int objc, Tcl_Obj* const objv[]) override;
     znSignal<single_threaded, const char*>& GetWindowReselectedSignal() override;
+    znIBrowserCollector* GetCollector() override;
 
 private:
     znSignal<single_threaded, const char*> windowReselected_;

@@ -51,6 +51,7 @@ Tcl_Obj* NewRow(RowModel& rows, const RowLook& look, std::size_t& bytes) {
     Put(row, "cells", cells);
     Put(row, "expanded", Tcl_NewBooleanObj(look.expanded));
     Put(row, "selected", Tcl_NewBooleanObj(look.selected));
+    Put(row, "collected", Tcl_NewBooleanObj(look.collected));
     Put(row, "children", Tcl_NewWideIntObj(rows.CountBelow(look.index)));
     return row;
 }

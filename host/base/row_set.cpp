@@ -39,6 +39,13 @@ bool RowSet::Remove(Row row) {
     return true;
 }
 
+std::vector<RowSet::Row> RowSet::ToVector() const {
+    std::vector<Row> rows;
+    rows.reserve(size_);
+    ForEach([&rows](Row row) { rows.push_back(row); });
+    return rows;
+}
+
 bool RowSet::Add(std::vector<Row> rows) {
     std::sort(rows.begin(), rows.end());
     const std::size_t before = size_;

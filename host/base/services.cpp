@@ -11,20 +11,6 @@
 
 namespace znhost {
 
-namespace {
-
-/// The words as a Tcl list.
-znString ListOf(const std::vector<std::string>& words) {
-    std::vector<const char*> texts;
-    texts.reserve(words.size());
-    for (const std::string& word : words) texts.push_back(word.c_str());
-    const std::unique_ptr<char, void (*)(char*)> list(Tcl_Merge(static_cast<int>(texts.size()), texts.data()),
-                                                      Tcl_Free);
-    return znString(list.get());
-}
-
-} // namespace
-
 std::string_view HostServices::WhyStop() const {
     if (interrupted_) return "interrupted";
     if (work_ && !work_->GoesOn()) return "cancelled";
@@ -77,7 +63,7 @@ bool HostServices::ComputeValue(const std::string& procedure, const std::vector<
     Tcl_ResetResult(interp_);
     znString result; // written when the procedure ended well, though something refused it may be noted then
     const bool computed =
-        manager_->GetStringFromScript(procedure.c_str(), result, ListOf(item)) || !result.IsNull();
+        manager_->GetStringFromScript(procedure.c_str(), result, ListText(item)) || !result.IsNull();
     if (computed) {
         value = result.Str();
     } else {

@@ -18,6 +18,14 @@ Tcl_Obj* NewList(const std::vector<std::string>& words) {
     return list;
 }
 
+std::string ListText(const std::vector<std::string>& words) {
+    Tcl_Obj* const list = NewList(words);
+    Tcl_IncrRefCount(list);
+    std::string text = Tcl_GetString(list);
+    Tcl_DecrRefCount(list);
+    return text;
+}
+
 void Put(Tcl_Obj* dictionary, const char* key, Tcl_Obj* value) {
     Tcl_DictObjPut(nullptr, dictionary, Tcl_NewStringObj(key, -1), value);
 }

@@ -15,6 +15,8 @@ namespace znhost {
 Tcl_Obj* NewText(std::string_view text);
 /// A new list of such texts.
 Tcl_Obj* NewList(const std::vector<std::string>& words);
+/// The same as a text.
+std::string ListText(const std::vector<std::string>& words);
 /// Puts a value into a dictionary that nobody else holds.
 void Put(Tcl_Obj* dictionary, const char* key, Tcl_Obj* value);
 

@@ -3,6 +3,7 @@
 #define ZN_HOST_ROW_SOURCE_H
 
 #include "host/znIBrowserDataSourceSimple.h"
+#include "host/znutl/znString.h"
 
 #include <cstdint>
 #include <functional>
@@ -81,6 +82,11 @@ struct RowQuery {
     RowOrder order;
 };
 
+/// How far the rows of a source are numbered at some moment: rows that come later are known by it.
+struct RowMark {
+    std::vector<std::int64_t> greatest; ///< by table; the lowest number of all for a table without rows
+};
+
 /// The rows of one simple data source, as the row model needs them. Every call reads what the database holds
 /// at that moment. None throws; a database error reads as "no rows" and is noted among the application's
 /// `ReadTrouble`, and is a refusal with its text from the two operations that write. Row numbers are those of
@@ -104,6 +110,19 @@ public:
     /// (rows of this source) below them; in any order, each once.
     virtual void Parents(const RowLink& link, const std::vector<std::int64_t>& children,
                          std::vector<std::int64_t>& parents) = 0;
+    /// The same downwards: the rows of this source, the link's child, that lie below one of `parents`.
+    virtual void Children(const RowLink& link, const std::vector<std::int64_t>& parents,
+                          std::vector<std::int64_t>& children) = 0;
+    /// Whether the source has more rows than that; no more are looked at.
+    virtual bool HasMoreThan(std::size_t count) = 0;
+
+    /// How far the rows are numbered now.
+    virtual RowMark Mark() = 0;
+    /// Replaces what `rows` holds by the rows that have come since: those numbered beyond the mark.
+    virtual void NewRows(const RowMark& since, std::vector<std::int64_t>& rows) = 0;
+    /// The condition that the value of a property is one of these: as a number where the property is one, as
+    /// a text else; an index is of use where there is one.
+    virtual RowCondition OneOf(znIBrowserDataProperty& property, const std::vector<znString>& values) = 0;
 
     /// Whether the row still exists and belongs to the source.
     virtual bool HasRow(std::int64_t row) = 0;

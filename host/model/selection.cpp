@@ -89,6 +89,23 @@ bool Selection::Replace(const znBrowserDataItems& items) {
     });
 }
 
+/// The sources keep their order.
+Selection Selection::With(const ItemSets& items) const {
+    Selection other(nullptr);
+    for (const Part& part : parts_) {
+        const RowSet* const rows = items.Of(part.source);
+        other.parts_.push_back({part.source, rows ? *rows : RowSet()});
+    }
+    for (const auto& [source, rows] : items.All()) other.RowsFor(source) = rows;
+    return other;
+}
+
+ItemSets Selection::Items() const {
+    ItemSets items;
+    for (const Part& part : parts_) items.Set(part.source, part.rows);
+    return items;
+}
+
 bool Selection::Clear() {
     const bool had = !IsEmpty();
     parts_.clear();
@@ -107,9 +124,7 @@ bool Selection::Forget(const std::function<std::vector<Row>(Source*, const std::
     return AnnounceWhatDid([&] {
         bool changed = false;
         for (Part& part : parts_) {
-            std::vector<Row> rows;
-            rows.reserve(part.rows.Size());
-            part.rows.ForEach([&rows](Row row) { rows.push_back(row); });
+            const std::vector<Row> rows = part.rows.ToVector();
             if (!rows.empty()) changed = part.rows.Remove(missing(part.source, rows)) || changed;
         }
         return changed;

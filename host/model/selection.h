@@ -3,6 +3,7 @@
 #define ZN_HOST_SELECTION_H
 
 #include "base/row_set.h"
+#include "model/item_sets.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -35,6 +36,10 @@ public:
     /// Exactly these items are selected now.
     bool Replace(const znBrowserDataItems& items);
     bool Clear();
+    /// Takes memory for exactly these items; to `Exchange` them for what is selected takes none, and
+    /// announces nothing.
+    Selection With(const ItemSets& items) const;
+    void Exchange(Selection& other) noexcept { parts_.swap(other.parts_); }
     /// Deselects everything of that source.
     bool Clear(const Source* source);
     /// Deselects what does not exist any more: `missing(source, rows)` gives those of a source's selected
@@ -48,6 +53,7 @@ public:
     /// The selected rows of a source; null when none is.
     const RowSet* Rows(const Source* source) const;
 
+    ItemSets Items() const;
     /// Appends the selected items: of all sources, or of one; by ascending row number.
     void AppendTo(znBrowserDataItems& items) const;
     void AppendTo(znBrowserDataItems& items, Source* source) const;

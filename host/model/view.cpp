@@ -56,6 +56,7 @@ void View::AddObserver(ViewObserver& observer) { observers_.push_back(&observer)
 
 void View::RemoveObserver(const ViewObserver& observer) {
     ViewObserver* const removed = const_cast<ViewObserver*>(&observer);
+    collector_.ForgetWindow(&observer);
     std::replace(observers_.begin(), observers_.end(), removed, static_cast<ViewObserver*>(nullptr));
     if (telling_ == 0) DropRemovedObservers();
 }
@@ -91,12 +92,14 @@ znIBrowserDataCtrl* View::GetDataCtrl() {
 }
 
 // What the view shows of another control stays configured, so that it is there again when that is connected
-// again; only the selection goes.
+// again; only the selection and the
+// collection go.
 bool View::SetDataCtrl(znIBrowserDataCtrl* control) {
     if (Refused("znIBrowserView::SetDataCtrl", control)) return false;
     if (control == dataControl_) return true;
     dataControl_ = control;
     ClearAllSelection();
+    collector_.Reset();
     Changed(VIEW_ALL);
     return true;
 }

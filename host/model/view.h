@@ -9,6 +9,7 @@
 #include "model/free_folder.h"
 #include "model/popup_place.h"
 #include "model/selection.h"
+#include "model/view_collector.h"
 #include "model/view_observer.h"
 #include "model/view_operation.h"
 #include "model/view_property.h"
@@ -86,6 +87,9 @@ public:
     // Selection.
     Selection& Selected() { return selection_; }
     const Selection& Selected() const { return selection_; }
+    /// What is collected and shown of the view, and its steps.
+    ViewCollector& Collector() { return collector_; }
+    const ViewCollector& Collector() const { return collector_; }
     /// True when that changed something.
     bool SelectFolder(FreeFolder& folder, bool selected);
     void ClearAllSelection();
@@ -205,6 +209,7 @@ private:
     std::vector<std::weak_ptr<View>> sharers_; ///< Who shared something with this view, perhaps no more.
 
     Selection selection_;
+    ViewCollector collector_;
     bool sorting_ = true;
     Column* sortColumn_ = nullptr;
     bool sortAscending_ = true;
@@ -216,7 +221,7 @@ private:
     std::vector<ViewObserver*> observers_; ///< Null: removed while they are being told something.
     int telling_ = 0;
     unsigned heldBack_ = 0;
-    bool mayMissItems_ = false; ///< Selected items may not exist any more.
+    bool mayMissItems_ = false; ///< Selected and collected items may not exist any more.
 };
 
 } // namespace znhost

@@ -1,4 +1,5 @@
 // The selection of a view, its sorting and its filters.
+#include "base/services.h"
 #include "host/znBrowserDataItems.h"
 #include "model/browser.h"
 #include "model/data_sources.h"
@@ -19,11 +20,12 @@ void View::ClearAllSelection() {
     selection_.Clear();
 }
 
-/// Deselects the items that do not exist any more: a new item may take their row numbers.
+/// Lets go of the items that do not exist any more: a new item may take their row numbers.
 void View::ForgetMissingItems() {
     mayMissItems_ = false; // first: a change of the selection is told at once
     try {
         selection_.Forget([](auto* source, const auto& rows) { return GetRowSource(source)->Missing(rows); });
+        if (collector_.LookAgain(browser_.Services().Trouble())) heldBack_ |= VIEW_ROWS | VIEW_COLLECTED;
     } catch (...) {
         mayMissItems_ = true;
         throw;

@@ -63,7 +63,10 @@ void View::Forget(znIBrowserDataSource& source) {
     if (znIBrowserDataSourceHierarchical* const hierarchical = HierarchicalOf(log_, &source)) {
         RemoveWhere(shares_, [&](const Share& share) { return share.first == hierarchical; });
     }
-    if (znIBrowserDataSourceSimple* const simple = SimpleOf(log_, &source)) selection_.Clear(simple);
+    if (znIBrowserDataSourceSimple* const simple = SimpleOf(log_, &source)) {
+        collector_.Forget(simple);
+        selection_.Clear(simple);
+    }
     Changed(VIEW_ALL);
 }
 

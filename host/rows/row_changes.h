@@ -15,6 +15,7 @@ struct RowChange {
         AllFilled, ///< what every container holds may be different: look at them all
         AllCells,  ///< all texts and columns may be different
         Selection, ///< other rows are selected
+        Collector, ///< what the window's collector bar tells may be different
         Shown,     ///< `index` became visible on purpose: scroll there
     };
     /// The root, which has no index of its own.

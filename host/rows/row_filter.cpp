@@ -1,12 +1,15 @@
 #include "rows/row_filter.h"
 
+#include "rows/row_display.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace znhost {
 
 RowFilter::RowFilter(const std::vector<RowSource*>& sources, const std::vector<RowLink>& links,
-                     const Conditions& conditions, const std::function<bool()>& isStopped)
+                     const Conditions& conditions, const RowDisplay* display,
+                     const std::function<bool()>& isStopped)
     : links_(links), parents_(links.size()) {
     std::vector<RowSource*> all = sources;
     for (const RowLink& link : links) {
@@ -22,11 +25,12 @@ RowFilter::RowFilter(const std::vector<RowSource*>& sources, const std::vector<R
         std::vector<std::int64_t> rows;
         source->List(query, rows);
         if (isStopped()) return;
+        if (display) display->Narrow(source, rows);
         matches_[source].Add(rows);
         kept_[source].Add(rows);
         found.emplace_back(source, std::move(rows));
     }
-    for (auto& [source, rows] : found) KeepParents(source, std::move(rows));
+    for (auto& [source, rows] : found) KeepParents(source, std::move(rows), display);
 }
 
 bool RowFilter::Has(const Sets& sets, const RowSource* source, std::int64_t row) {
@@ -35,7 +39,7 @@ bool RowFilter::Has(const Sets& sets, const RowSource* source, std::int64_t row)
 }
 
 /// Each item is looked at once: what is kept already has had its parents kept.
-void RowFilter::KeepParents(RowSource* source, std::vector<std::int64_t> rows) {
+void RowFilter::KeepParents(RowSource* source, std::vector<std::int64_t> rows, const RowDisplay* display) {
     std::vector<std::pair<RowSource*, std::vector<std::int64_t>>> open;
     open.emplace_back(source, std::move(rows));
     while (!open.empty()) {
@@ -46,6 +50,7 @@ void RowFilter::KeepParents(RowSource* source, std::vector<std::int64_t> rows) {
             if (link.child != child || children.empty()) continue;
             std::vector<std::int64_t> parents;
             child->Parents(link, children, parents);
+            if (display) display->Narrow(link.parent, parents);
             parents_[i].Add(parents);
             RowSet& kept = kept_[link.parent];
             parents.erase(std::remove_if(parents.begin(), parents.end(),

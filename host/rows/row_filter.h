@@ -12,6 +12,8 @@
 
 namespace znhost {
 
+class RowDisplay;
+
 /// The items of some linked sources that fulfil a condition, together with their parents, the parents of
 /// these, and so on. Made by one pass over each source, however many items are expanded.
 class RowFilter {
@@ -21,8 +23,10 @@ public:
 
     /// The values that conditions look at may come from scripts that delete anything: when `isStopped` tells
     /// so, no more is looked at, and the filter is of no use.
+    /// @param display  hidden items match nothing, nor is anything kept above them; null: nothing is hidden
     RowFilter(const std::vector<RowSource*>& sources, const std::vector<RowLink>& links,
-              const Conditions& conditions, const std::function<bool()>& isStopped);
+              const Conditions& conditions, const RowDisplay* display,
+              const std::function<bool()>& isStopped);
 
     bool IsMatch(const RowSource* source, std::int64_t row) const { return Has(matches_, source, row); }
     bool Keeps(const RowSource* source, std::int64_t row) const { return Has(kept_, source, row); }
@@ -35,7 +39,7 @@ private:
     using Sets = std::unordered_map<const RowSource*, RowSet>;
 
     static bool Has(const Sets& sets, const RowSource* source, std::int64_t row);
-    void KeepParents(RowSource* source, std::vector<std::int64_t> rows);
+    void KeepParents(RowSource* source, std::vector<std::int64_t> rows, const RowDisplay* display);
 
     std::vector<RowLink> links_;
     std::vector<RowSet> parents_; ///< by link: the items with something kept below them

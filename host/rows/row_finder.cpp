@@ -112,7 +112,7 @@ std::shared_ptr<const RowFilter> RowFinder::FilterFor(const RowContent& block) {
             [this](RowSource& source, std::vector<RowCondition>& conditions) {
                 return ConditionsFor(source, conditions);
             },
-            [this] { return model_.IsStopped(); });
+            block.scope->display.get(), [this] { return model_.IsStopped(); });
     }
     return filter;
 }

@@ -68,9 +68,10 @@ struct RowModel::WantedRows {
     }
 };
 
-/// False when there is nothing below the row, or the work must be given up.
+/// False when there is nothing below the row, or the work must be given up. A row that is brought back was
+/// expanded, perhaps with nothing below it any more: so it is again.
 bool RowModel::ExpandWanted(RowNode& node, const Row& row) {
-    if (!node.expanded && HasRows(row)) FillAndExpand(node);
+    if (!node.expanded && (kept_ || HasRows(row))) FillAndExpand(node);
     return node.expanded && !stopped_;
 }
 
@@ -107,7 +108,7 @@ void RowModel::ExpandExactly(RowBlock& block, WantedRows& wanted, OpenRows& open
         const auto item = items.find(block.rows[i]);
         if (item == items.end()) continue;
         const Row row = RowTree::ItemAt(block, i);
-        if (row.IsExpanded() || HasRows(row)) {
+        if (row.IsExpanded() || kept_ || HasRows(row)) {
             RowNode& node = tree_.NodeOf(row);
             if (ExpandWanted(node, row)) open.emplace_back(&node, item->second);
         }
@@ -115,32 +116,103 @@ void RowModel::ExpandExactly(RowBlock& block, WantedRows& wanted, OpenRows& open
     }
 }
 
-std::vector<std::size_t> RowModel::SetExpanded(const std::vector<KeptRow>& rows) {
+/// @param nodes  by the numbers of the rows: receives those that are expanded now
+/// @return the places of the rows that do not exist
+std::vector<std::size_t> RowModel::ExpandExactly(const std::vector<KeptRow>& rows,
+                                                 std::vector<RowNode*>& nodes) {
     std::vector<std::vector<std::size_t>> below(rows.size() + 1); // by the number of the row above
     for (std::size_t place = 0; place < rows.size(); ++place) {
         if (rows[place].above <= place) below[rows[place].above].push_back(place);
     }
     std::vector<std::size_t> missing;
-    const Change change(*this);
-    if (!change) return below[0];
     RowNode& root = tree_.Root();
-    {
-        const RowTree::ManyChanges many(tree_, root);
-        OpenRows open{{&root, 0}};
-        while (!open.empty() && !stopped_) {
-            const auto [node, number] = open.back();
-            open.pop_back();
-            WantedRows wanted;
-            for (const std::size_t place : below[number]) wanted.Add(rows[place], place);
-            OpenRows found;
-            ExpandExactly(*node, wanted, found);
-            for (const auto& [expanded, place] : found) open.emplace_back(expanded, place + 1);
-            wanted.AppendTo(missing);
+    nodes.assign(rows.size() + 1, nullptr);
+    nodes[0] = &root;
+    const RowTree::ManyChanges many(tree_, root);
+    OpenRows open{{&root, 0}};
+    while (!open.empty() && !stopped_) {
+        const auto [node, number] = open.back();
+        open.pop_back();
+        WantedRows wanted;
+        for (const std::size_t place : below[number]) wanted.Add(rows[place], place);
+        OpenRows found;
+        ExpandExactly(*node, wanted, found);
+        for (const auto& [expanded, place] : found) {
+            open.emplace_back(expanded, place + 1);
+            nodes[place + 1] = expanded;
+        }
+        wanted.AppendTo(missing);
+    }
+    return missing;
+}
+
+std::vector<std::size_t> RowModel::SetExpanded(const std::vector<KeptRow>& rows) {
+    const Change change(*this);
+    std::vector<RowNode*> nodes;
+    std::vector<std::size_t> missing;
+    if (change) {
+        missing = ExpandExactly(rows, nodes);
+    } else {
+        for (std::size_t place = 0; place < rows.size(); ++place) {
+            if (rows[place].above == 0) missing.push_back(place);
         }
     }
     std::sort(missing.begin(), missing.end());
     Tell(RowChange::AllFilled);
     return missing;
+}
+
+// ---- A look that is to come back ----
+
+std::vector<KeptRow> RowModel::SelectedContainers() {
+    const Answering answering(*this);
+    std::vector<KeptRow> kept;
+    if (!IsReady() || selectedContainers_.empty()) return kept;
+    std::unordered_map<const RowNode*, std::size_t> numbers;
+    for (RowNode* const node : RowTree::Expanded(tree_.Root())) numbers.emplace(node, numbers.size());
+    for (const std::uint32_t index : selectedContainers_) {
+        const Row row = Find(index);
+        if (!row) continue;
+        const RowContent& content = row.Content();
+        kept.push_back({numbers.at(&row.Owner()), content.kind, NameOf(log_, content), 0});
+    }
+    return kept;
+}
+
+void RowModel::BringBack(std::vector<KeptRow> expanded, std::vector<KeptRow> selected) noexcept {
+    kept_ = Kept{std::move(expanded), std::move(selected)};
+    OnViewChanged(VIEW_ROWS | VIEW_SELECTION);
+}
+
+/// It stays to be brought back until that has succeeded.
+void RowModel::BringBackKept() {
+    std::vector<RowNode*> nodes;
+    ExpandExactly(kept_->expanded, nodes);
+    if (stopped_) return;
+    std::set<std::uint32_t> selected;
+    for (const KeptRow& row : kept_->selected) {
+        const RowNode* const above = row.above < nodes.size() ? nodes[row.above] : nullptr;
+        if (!above) continue;
+        for (const TreePart& part : above->parts) {
+            if (part.node && part.node->content.kind == row.kind &&
+                NameOf(log_, part.node->content) == row.name) {
+                selected.insert(part.node->index);
+            }
+        }
+    }
+    selectedContainers_.swap(selected);
+    kept_.reset();
+}
+
+std::int64_t RowModel::ShowCollected() {
+    const Answering answering(*this);
+    if (!IsReady() || view_->Collector().Collected().IsEmpty()) return -1;
+    for (Row row = tree_.First(); row; row = tree_.Next(row)) {
+        if (!IsCollected(row)) continue;
+        Tell(RowChange::Shown, row.Index());
+        return tree_.PositionOf(row);
+    }
+    return -1;
 }
 
 void RowModel::ExpandAlso(const std::vector<KeptRow>& rows) {

@@ -24,9 +24,10 @@ void RowModel::OnViewChanged(unsigned changes) noexcept {
     pending_ |= changes;
     if (changes & VIEW_ROWS) {
         Tell(RowChange::AllFilled);
-    } else if (changes & (VIEW_CELLS | VIEW_COLUMNS)) {
+    } else if (changes & (VIEW_CELLS | VIEW_COLUMNS | VIEW_COLLECTED)) {
         Tell(RowChange::AllCells);
     }
+    if (changes & VIEW_COLLECTED) Tell(RowChange::Collector);
     if (changes & VIEW_SELECTION) Tell(RowChange::Selection);
 }
 
@@ -77,11 +78,13 @@ void RowModel::LetGo() noexcept {
     tree_.Clear();
     tree_.Root().content.folder.reset();
     shown_.clear();
+    kept_.reset();
     ForgetCounts();
 }
 
 void RowModel::ForgetCounts() noexcept {
     slow_.clear();
+    whole_.clear();
     uncounted_.clear();
 }
 
@@ -93,12 +96,13 @@ void RowModel::TakeOver() {
         return;
     }
     const unsigned changes = std::exchange(pending_, 0U);
-    if (changes & ~unsigned{VIEW_SELECTION}) ++revision_;
+    if (changes & ~unsigned{VIEW_SELECTION | VIEW_COLLECTED}) ++revision_;
     if (changes & VIEW_COLUMNS) shown_.clear();
     if (changes & (VIEW_ROWS | VIEW_CELLS)) ForgetCounts();
     if (!(changes & VIEW_ROWS)) return;
     plan_.Forget();
     Refresh();
+    if (kept_ && !stopped_) BringBackKept();
     if (stopped_) pending_ |= VIEW_ROWS;
 }
 
@@ -257,6 +261,11 @@ bool RowModel::IsSelected(const Row& row) const {
     return selectedContainers_.count(row.Index()) != 0;
 }
 
+bool RowModel::IsCollected(const Row& row) const {
+    if (!row.IsItem() || view_->Collector().Collected().IsEmpty()) return false;
+    return view_->Collector().Collected().Has(row.Content().source->GetSource(), row.Number());
+}
+
 /// How the rows look, those of each block at once. Fewer when the work had to be given up.
 std::vector<RowLook> RowModel::LooksOf(const std::vector<Row>& rows) {
     PlacesByBlock places;
@@ -298,6 +307,7 @@ std::vector<RowLook> RowModel::LooksOfContainers(const std::vector<Row>& rows, P
         looks[i].depth = row.Depth();
         looks[i].expanded = row.IsExpanded();
         looks[i].selected = IsSelected(row);
+        looks[i].collected = IsCollected(row);
     }
     return looks;
 }
@@ -360,7 +370,7 @@ RowLook RowModel::LookOf(const Row& row) {
     }
     if (!settings.countByNumber && !settings.countByImage) return look;
     const std::optional<std::int64_t> count = CountOf(row);
-    if (settings.countByNumber) look.text += " (" + (count ? std::to_string(*count) : "?") + ")";
+    if (settings.countByNumber) look.text += CountText(row, count);
     if (settings.countByImage && count)
         look.icon = *count == 0 ? "count_none" : *count == 1 ? "count_one" : "count_many";
     return look;
@@ -410,6 +420,21 @@ std::optional<std::int64_t> RowModel::CountOf(const Row& row) {
     const std::int64_t count = plan_.Count(container);
     if (IsTooLong(watch, container) || NoteTrouble(watch)) return std::nullopt;
     return count;
+}
+
+/// "(12)", or where rows are hidden "(7 of 12)".
+std::string RowModel::CountText(const Row& row, std::optional<std::int64_t> count) {
+    if (!count) return " (?)";
+    const RowContent& container = row.Content();
+    const auto [known, isNew] = whole_.try_emplace(PlaceOf(container));
+    if (isNew) {
+        const ReadTrouble::Watch watch(Services().Trouble());
+        known->second = plan_.CountWhole(container);
+        if (watch.Seen()) known->second.reset();
+    }
+    std::string text = " (" + std::to_string(*count);
+    if (known->second && *known->second != *count) text += " of " + std::to_string(*known->second);
+    return text + ")";
 }
 
 bool RowModel::MayHaveRows(const Row& row) {

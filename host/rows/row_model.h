@@ -38,6 +38,7 @@ struct RowLook {
     std::string text;
     bool expanded = false;
     bool selected = false;
+    bool collected = false;
     bool hasRows = false; ///< it can be expanded
     bool bold = false;
     bool italic = false;
@@ -135,6 +136,11 @@ public:
     std::vector<std::size_t> SetExpanded(const std::vector<KeptRow>& rows);
     /// Expands these rows, as far as they exist, and leaves expanded what is.
     void ExpandAlso(const std::vector<KeptRow>& rows);
+    /// The trees and lists that are selected, each in the row `above` among those of `Expanded`.
+    std::vector<KeptRow> SelectedContainers();
+    /// With the next question, or as soon after it as there is memory, exactly `expanded` is expanded, and
+    /// exactly those of the trees and lists are selected, as far as they exist.
+    void BringBack(std::vector<KeptRow> expanded, std::vector<KeptRow> selected) noexcept;
 
     // Selection: of items and folders it is the view's; that of trees and lists is the window's own.
     enum class Selecting { Add, Remove, Replace };
@@ -151,6 +157,10 @@ public:
     /// Moves items below another item. False, with the reason in `error`, when no reference allows it
     /// or the database refuses.
     bool Drop(std::uint32_t target, const std::vector<std::uint32_t>& indices, std::string& error);
+
+    /// The position of the first visible row of a collected item; -1 for none. Who draws the rows scrolls
+    /// there.
+    std::int64_t ShowCollected();
 
     // Observers are not owned.
     void AddObserver(RowObserver& observer) { observers_.push_back(&observer); }
@@ -229,7 +239,9 @@ private:
     RowLook LookOf(const Row& container);
     bool HasRows(const Row& row) const;
     bool IsSelected(const Row& row) const;
+    bool IsCollected(const Row& row) const;
     std::vector<std::uint32_t> SelectedIndices();
+    std::string CountText(const Row& container, std::optional<std::int64_t> count);
 
     struct Listed;
     bool ListBelow(RowNode& node, std::vector<Listed>& all);
@@ -249,6 +261,8 @@ private:
     void ExpandExactly(RowNode& node, WantedRows& wanted, OpenRows& open);
     void ExpandExactly(RowBlock& block, WantedRows& wanted, OpenRows& open);
     bool ExpandWanted(RowNode& node, const Row& row);
+    std::vector<std::size_t> ExpandExactly(const std::vector<KeptRow>& rows, std::vector<RowNode*>& found);
+    void BringBackKept();
     RowNode* FindContainer(const FreeFolder& folder, const znIBrowserDataSourceSimple* list);
     void CollapseInside(RowNode& node);
     void CollapseAround(RowNode& node, const std::unordered_set<const RowNode*>& stays);
@@ -274,6 +288,12 @@ private:
     std::map<Place, std::optional<std::int64_t>>
         slow_; ///< what takes long to count, and its count when known
     std::vector<RowContent> uncounted_;
+    std::map<Place, std::optional<std::int64_t>> whole_; ///< how many rows there would be if none were hidden
+    struct Kept {
+        std::vector<KeptRow> expanded;
+        std::vector<KeptRow> selected;
+    };
+    std::optional<Kept> kept_; ///< to be brought back
     std::vector<RowChange> changes_;
     bool untold_ = false; ///< Memory ran out over what changed: everything may have.
     std::vector<RowObserver*> observers_;

@@ -83,7 +83,7 @@ void RowPlan::AddChildFolders(const RowContent& folder, std::vector<RowContent>&
     for (const std::shared_ptr<FreeFolder>& child : folder.folder->Children()) {
         RowContent content;
         content.folder = child;
-        if (!HidesEmpty(settings.showEmptyFolders) || HasRows(content)) contents.push_back(content);
+        if (Stands(content, settings.showEmptyFolders)) contents.push_back(content);
     }
     Column* const column = view_.SortColumn();
     if (settings.keepChildrenAsCreated || column != &view_.DefaultColumn()) return;
@@ -97,8 +97,7 @@ void RowPlan::AddChildFolders(const RowContent& folder, std::vector<RowContent>&
 void RowPlan::AddTopItems(const RowContent& folder, std::vector<RowContent>& contents) const {
     if (folder.folder->Tree().source) {
         const RowContent tree = Container(RowKind::Tree, folder, TreeScope(*folder.folder), nullptr);
-        if (!HidesEmpty(folder.folder->Settings().showEmptyContainers) || HasRows(tree))
-            contents.push_back(tree);
+        if (Stands(tree, folder.folder->Settings().showEmptyContainers)) contents.push_back(tree);
     }
     std::vector<RowSource*> tops;
     std::vector<RowContent> blocks;
@@ -125,8 +124,7 @@ void RowPlan::AddLists(const RowContent& folder, std::vector<RowContent>& conten
         if (!source || !IsShown(source)) continue;
         const RowContent content =
             Container(RowKind::List, folder, MakeScope(*folder.folder, {source}, source), source);
-        if (!HidesEmpty(folder.folder->Settings().showEmptyContainers) || HasRows(content))
-            contents.push_back(content);
+        if (Stands(content, folder.folder->Settings().showEmptyContainers)) contents.push_back(content);
     }
 }
 
@@ -134,7 +132,52 @@ bool RowPlan::IsShown(RowSource* source) const { return view_.IsShown(source->Ge
 
 /// Whether containers without rows are hidden. A text filter always hides them: they would bury what it
 /// found.
-bool RowPlan::HidesEmpty(bool shows) const { return !shows || !view_.Filter().pattern.empty(); }
+bool RowPlan::HidesEmpty(bool shows) const { return !shows || (!whole_ && !view_.Filter().pattern.empty()); }
+
+/// Whether a container has its place: it has rows, or it is shown without, unless it would have some if none
+/// were hidden.
+bool RowPlan::Stands(const RowContent& container, bool showsEmpty) const {
+    if (HidesEmpty(showsEmpty)) return HasRows(container);
+    if (!Hides(container) || HasRows(container)) return true;
+    RowPlan whole(view_);
+    whole.whole_ = true;
+    return !whole.HasRows(whole.Whole(container));
+}
+
+// ---- The display state ----
+
+std::shared_ptr<const RowDisplay> RowPlan::Display() const {
+    const DisplayState& state = view_.Collector().Display();
+    if (whole_ || state.ShowsAll()) return nullptr;
+    if (!display_) display_ = std::make_shared<const RowDisplay>(state, Trouble());
+    return display_;
+}
+
+/// Whether something may be hidden that would stand in the container.
+bool RowPlan::Hides(const RowContent& container) const {
+    if (!Display()) return false;
+    if (container.kind == RowKind::Folder) return true;
+    const RowScope& scope = *container.scope;
+    const auto hides = [&scope](RowSource* source) { return scope.display && scope.display->Hides(source); };
+    return hides(container.kind == RowKind::Tree ? scope.top : container.source);
+}
+
+/// The same container, in which nothing is hidden or filtered.
+RowContent RowPlan::Whole(RowContent container) const {
+    if (!container.scope) return container;
+    const auto scope = std::make_shared<RowScope>(*container.scope);
+    scope->display.reset();
+    scope->filter.reset();
+    container.scope = scope;
+    return container;
+}
+
+std::optional<std::int64_t> RowPlan::CountWhole(const RowContent& container) const {
+    if (container.IsNote() || !Hides(container)) return std::nullopt;
+    RowPlan whole(view_);
+    whole.whole_ = true;
+    return whole.Count(Whole(container));
+}
 
 // ---- Links and filters ----
 
@@ -189,11 +232,12 @@ std::vector<RowLink> RowPlan::AllLinks() const {
     return links;
 }
 
-/// With a filter, only the items with the text remain, and those above them.
+/// With a filter, only the shown items with the text remain, and those above them.
 void RowPlan::Filter(RowScope& scope, const std::vector<RowSource*>& tops, const FreeFolder& folder,
                      const void* what) const {
+    scope.display = Display();
     const TextFilter& filter = view_.Filter();
-    if (filter.pattern.empty()) return;
+    if (whole_ || filter.pattern.empty()) return;
     std::shared_ptr<const RowFilter>& known = filters_[{&folder, what}];
     const ReadTrouble::Watch watch(Trouble());
     if (!known) {
@@ -209,7 +253,8 @@ void RowPlan::Filter(RowScope& scope, const std::vector<RowSource*>& tops, const
             return true;
         };
         // No script is asked for the text of an item.
-        known = std::make_shared<RowFilter>(tops, scope.links, conditions, [] { return false; });
+        known = std::make_shared<RowFilter>(tops, scope.links, conditions, scope.display.get(),
+                                            [] { return false; });
     }
     scope.filter = known;
     if (watch.Seen()) filters_.erase({&folder, what}); // it does not know all that matches
@@ -224,12 +269,19 @@ std::vector<std::int64_t> RowPlan::List(const RowContent& block, const RowOrder&
     query.order = order;
     std::vector<std::int64_t> rows;
     block.source->List(query, rows);
-    if (block.scope->filter) block.scope->filter->Narrow(block.source, rows);
+    if (block.scope->filter) {
+        block.scope->filter->Narrow(block.source, rows);
+    } else if (block.scope->display) {
+        block.scope->display->Narrow(block.source, rows);
+    }
     return rows;
 }
 
 std::int64_t RowPlan::CountRows(const RowContent& block) {
-    if (block.scope->filter) return static_cast<std::int64_t>(List(block, {}).size());
+    const RowScope& scope = *block.scope;
+    const bool isHidden = scope.display && scope.display->Hides(block.source);
+    if (isHidden && !scope.filter && !block.link.reference) return scope.display->Count(*block.source);
+    if (isHidden || scope.filter) return static_cast<std::int64_t>(List(block, {}).size());
     return block.source->Count(QueryFor(block));
 }
 
@@ -247,6 +299,7 @@ bool RowPlan::HasRows(const RowContent& container) const {
 bool RowPlan::HasRows(const RowContent& block, const RowLink& link, std::int64_t row) const {
     const RowFilter* const filter = block.scope->filter.get();
     if (filter) return filter->KeepsBelow(link, row);
+    if (block.scope->display) return block.scope->display->HaveChildren(link, {row})[0];
     const ReadTrouble::Watch watch(Trouble());
     return link.child->HasChildren(link, row) || watch.Seen();
 }
@@ -256,11 +309,13 @@ const ReadTrouble& RowPlan::Trouble() const { return view_.Owner().Services().Tr
 std::vector<bool> RowPlan::HaveRows(const RowContent& block, const std::vector<std::int64_t>& rows) const {
     std::vector<bool> have(rows.size(), false);
     const RowFilter* const filter = block.scope->filter.get();
+    const RowDisplay* const display = block.scope->display.get();
     for (const RowLink& link : block.scope->links) {
         if (link.parent != block.source) continue;
         std::vector<bool> along;
         const ReadTrouble::Watch watch(Trouble());
-        if (!filter) link.child->HaveChildren(link, rows, along);
+        if (!filter && display) along = display->HaveChildren(link, rows);
+        if (!filter && !display) link.child->HaveChildren(link, rows, along);
         for (std::size_t i = 0; i < rows.size(); ++i) {
             if (filter ? filter->KeepsBelow(link, rows[i]) : along[i] || watch.Seen()) have[i] = true;
         }

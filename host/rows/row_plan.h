@@ -2,12 +2,14 @@
 #ifndef ZN_HOST_ROW_PLAN_H
 #define ZN_HOST_ROW_PLAN_H
 
+#include "rows/row_display.h"
 #include "rows/row_filter.h"
 #include "rows/row_tree.h"
 
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -26,18 +28,23 @@ struct RowScope {
     std::vector<RowLink> links; ///< only those whose children are shown
     bool groups = false;        ///< children stand together by source, below a row for each source
     bool groupsLeafs = false;   ///< those do that have no children themselves
-    std::shared_ptr<const RowFilter> filter; ///< null: everything is shown
+    std::shared_ptr<const RowDisplay> display; ///< null: nothing is hidden
+    std::shared_ptr<const RowFilter> filter;   ///< null: there is none; it knows of what is hidden, too
 
     bool HasLinksBelow(const RowSource* source) const;
 };
 
-/// Reads from a view what its windows show. Nothing is kept but what a text filter found.
+/// Reads from a view what its windows show. Nothing is kept but what a text filter and the display state
+/// found.
 class RowPlan {
 public:
     explicit RowPlan(View& view) : view_(view) {}
 
-    /// Forgets what the filter found: the view or the data changed.
-    void Forget() { filters_.clear(); }
+    /// Forgets what was found: the view or the data changed.
+    void Forget() {
+        filters_.clear();
+        display_.reset();
+    }
 
     /// What stands in a folder, tree or list, in order.
     std::vector<RowContent> Below(const RowContent& container) const;
@@ -52,6 +59,9 @@ public:
     std::vector<bool> HaveRows(const RowContent& block, const std::vector<std::int64_t>& rows) const;
     std::int64_t Count(const RowContent& container) const;
     std::int64_t Count(const RowContent& block, std::int64_t row) const;
+    /// How many rows there would be directly in a container if nothing were hidden or filtered; nothing when
+    /// nothing is hidden that could stand in it.
+    std::optional<std::int64_t> CountWhole(const RowContent& container) const;
 
     /// Every link along which the view shows items below others, each once.
     std::vector<RowLink> AllLinks() const;
@@ -61,6 +71,10 @@ public:
 
 private:
     bool HasRows(const RowContent& block, const RowLink& link, std::int64_t row) const;
+    bool Stands(const RowContent& container, bool showsEmpty) const;
+    bool Hides(const RowContent& container) const;
+    std::shared_ptr<const RowDisplay> Display() const;
+    RowContent Whole(RowContent container) const;
     const ReadTrouble& Trouble() const;
     std::vector<RowContent> InFolder(const RowContent& folder) const;
     void AddChildFolders(const RowContent& folder, std::vector<RowContent>& contents) const;
@@ -80,6 +94,8 @@ private:
     static std::int64_t CountRows(const RowContent& block);
 
     View& view_;
+    bool whole_ = false; ///< as if nothing were hidden or filtered
+    mutable std::shared_ptr<const RowDisplay> display_;
     /// By folder and by what stands in it.
     mutable std::map<std::pair<const FreeFolder*, const void*>, std::shared_ptr<const RowFilter>> filters_;
 };

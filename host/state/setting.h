@@ -87,6 +87,13 @@ inline constexpr const char* background = "background";
 /// counted from 1, or 0 at the top; what it is: "folder", "tree", "list", or an item's row number. A row
 /// before those below it.
 inline constexpr const char* expandedRow = "expanded row";
+/// Which items of a data source are shown: its name; "hidden", or "only" and the greatest row numbers that
+/// its tables had then; the row numbers of the items that are hidden, or that are the only ones shown:
+/// "1:64 70".
+inline constexpr const char* displayedItems = "displayed items";
+/// A named collection: its name; the data source's; the row numbers of its items. One without items has no
+/// data source.
+inline constexpr const char* namedCollection = "named collection";
 /// How far the window is scrolled: nothing; nothing; the position.
 inline constexpr const char* scrollPosition = "scroll position";
 

@@ -74,6 +74,7 @@ struct SettingKind {
 const std::vector<SettingKind>& FolderKinds();
 const std::vector<SettingKind>& ViewKinds();
 const std::vector<SettingKind>& GuiMapKinds();
+const std::vector<SettingKind>& CollectorKinds();
 const std::vector<SettingKind>& PopupKinds();
 const std::vector<SettingKind>& WindowKinds();
 

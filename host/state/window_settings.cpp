@@ -12,8 +12,8 @@ namespace znhost {
 namespace {
 
 /// Rows come last: by then it is decided what the folders show.
-constexpr const std::vector<SettingKind>& (*allKinds[])() = {FolderKinds, ViewKinds, GuiMapKinds, PopupKinds,
-                                                             WindowKinds};
+constexpr const std::vector<SettingKind>& (*allKinds[])() = {FolderKinds, ViewKinds,      GuiMapKinds,
+                                                             PopupKinds,  CollectorKinds, WindowKinds};
 
 /// While one lives the windows do not hear of changes.
 class HeldBack {

@@ -5,9 +5,9 @@
 #include "model/browser.h"
 #include "model/data_sources.h"
 #include "model/view.h"
+#include "model/view_links.h"
 #include "store/data_ctrl.h"
 #include "store/view_items.h"
-#include "store/wanted_values.h"
 
 #include <algorithm>
 
@@ -91,18 +91,16 @@ bool DataSource::SelectByProperty(znIBrowserView* view, znIBrowserViewProperty* 
     const std::shared_ptr<View> holdView = shown.Owner().shared_from_this();
     const std::shared_ptr<ViewProperty> holdProperty = shown.shared_from_this();
     return Select(view, select, recursive, [&](SimpleSource& source, std::vector<RowCondition>& conditions) {
-        RowCondition condition;
-        condition.property = shown.DataProperty(&source);
-        if (!condition.property) return false;
-        condition.accept = [](std::string_view) { return true; };
+        znIBrowserDataProperty* const dataProperty = shown.DataProperty(&source);
+        if (!dataProperty) return false;
         if (values) {
-            const CallLog::Quiet quiet(log_);
-            const auto wanted =
-                std::make_shared<WantedValues>(*values, IsNumber(condition.property->GetType()));
-            condition.accept = [wanted](std::string_view text) { return wanted->Has(text); };
-            condition.wanted = wanted;
+            conditions.push_back(source.OneOf(*dataProperty, *values));
+            return true;
         }
-        conditions.push_back(std::move(condition));
+        RowCondition any;
+        any.property = dataProperty;
+        any.accept = [](std::string_view) { return true; };
+        conditions.push_back(std::move(any));
         return true;
     });
 }

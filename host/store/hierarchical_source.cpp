@@ -4,6 +4,7 @@
 #include "host/znBrowserDataItems.h"
 #include "model/browser.h"
 #include "model/data_sources.h"
+#include "model/view_links.h"
 #include "store/data_ctrl.h"
 #include "store/tree_walk.h"
 #include "store/view_items.h"

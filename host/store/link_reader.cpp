@@ -10,8 +10,10 @@ namespace znhost {
 
 namespace {
 
-/// Above so many rows one look at all pairs is cheaper than a question for each.
+/// Above so many rows one look at all pairs is cheaper than a question for each, unless there are this many
+/// times more pairs.
 constexpr std::size_t manyRows = 256;
+constexpr std::size_t farMore = 64;
 
 LinkEnd Opposite(LinkEnd end) { return end == LINK_PARENT ? LINK_CHILD : LINK_PARENT; }
 
@@ -209,27 +211,28 @@ bool LinkReader::HaveChildren(const Rows& parents, std::vector<bool>& have) {
 }
 
 bool LinkReader::RelatedToAny(LinkEnd end, const Rows& others, Rows& rows) {
-    RowSet found;
-    if (others.size() <= manyRows) {
+    Rows all;
+    const std::size_t many = others.size() * farMore;
+    if (others.size() <= manyRows || source_[LINK_PARENT]->HasMoreThan(many) ||
+        source_[LINK_CHILD]->HasMoreThan(many)) {
         Rows some;
         for (const std::int64_t other : others) {
             if (!Related(end, other, some, false)) return false;
-            found.Add(some);
+            all.insert(all.end(), some.begin(), some.end());
         }
     } else {
         RowSet wanted;
         wanted.Add(others);
-        Rows all;
         const bool read = ForEachPair([&](std::int64_t parent, std::int64_t child) {
             if (wanted.Has(end == LINK_CHILD ? parent : child)) {
                 all.push_back(end == LINK_CHILD ? child : parent);
             }
         });
         if (!read) return false;
-        found.Add(std::move(all));
     }
-    rows.clear();
-    found.ForEach([&rows](std::int64_t row) { rows.push_back(row); });
+    RowSet found;
+    found.Add(std::move(all));
+    rows = found.ToVector();
     return true;
 }
 

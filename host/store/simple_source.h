@@ -94,6 +94,12 @@ public:
                       std::vector<bool>& have) override;
     void Parents(const RowLink& link, const std::vector<std::int64_t>& children,
                  std::vector<std::int64_t>& parents) override;
+    void Children(const RowLink& link, const std::vector<std::int64_t>& parents,
+                  std::vector<std::int64_t>& children) override;
+    bool HasMoreThan(std::size_t count) override;
+    RowMark Mark() override;
+    void NewRows(const RowMark& since, std::vector<std::int64_t>& rows) override;
+    RowCondition OneOf(znIBrowserDataProperty& property, const std::vector<znString>& values) override;
     bool HasRow(std::int64_t row) override;
     std::vector<std::int64_t> Missing(const std::vector<std::int64_t>& rows) override;
     bool GetText(std::int64_t row, std::string& text) override;

@@ -53,6 +53,12 @@ void SimpleSource::Parents(const RowLink& link, const std::vector<std::int64_t>&
     LinkReader(link).RelatedToAny(LINK_PARENT, children, parents);
 }
 
+void SimpleSource::Children(const RowLink& link, const std::vector<std::int64_t>& parents,
+                            std::vector<std::int64_t>& children) {
+    children.clear();
+    LinkReader(link).RelatedToAny(LINK_CHILD, parents, children);
+}
+
 bool SimpleSource::HasRow(std::int64_t row) {
     const RowPlace place = PlaceOf(row);
     for (const RowPart& part : Parts()) {

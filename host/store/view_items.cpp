@@ -1,37 +1,12 @@
 #include "store/view_items.h"
 
 #include "model/data_sources.h"
-#include "model/view.h"
 #include "store/data_ctrl.h"
 #include "store/link_reader.h"
 
 #include <algorithm>
 
 namespace znhost {
-
-void AddNewLink(std::vector<RowLink>& links, const RowLink& link) {
-    if (!Contains(links, link)) links.push_back(link);
-}
-
-std::vector<RowLink> LinksOf(const View& view) {
-    std::vector<RowLink> links;
-    const auto addTree = [&links](znIBrowserDataSourceHierarchical* source) {
-        if (!source) return;
-        for (const RowLink& link : GetRowLinks(*source)) AddNewLink(links, link);
-    };
-    for (znIBrowserDataSource* const source : view.ConnectedSources()) {
-        addTree(HierarchicalOf(view.Log(), source));
-    }
-    for (FreeFolder* const folder : view.RootFolder().WithBelow()) {
-        addTree(folder->Tree().source);
-        for (const FolderTreeLink& link : folder->TreeLinks()) {
-            RowSource* const parent = GetRowSource(SimpleOf(view.Log(), link.parent));
-            RowSource* const child = GetRowSource(SimpleOf(view.Log(), link.child));
-            if (parent && child && link.reference) AddNewLink(links, {parent, child, link.reference});
-        }
-    }
-    return links;
-}
 
 // Level by level: each row is entered once, so that circles end.
 void ViewItems::AddBelow(const std::vector<RowLink>& links) {

@@ -11,13 +11,6 @@
 namespace znhost {
 
 class SimpleSource;
-class View;
-
-/// The links of all trees that the view has.
-std::vector<RowLink> LinksOf(const View& view);
-
-/// Adds a link that is not there yet.
-void AddNewLink(std::vector<RowLink>& links, const RowLink& link);
 
 /// All items of one source, and if wanted those below them.
 class ViewItems {

@@ -53,6 +53,7 @@ const char* KindName(RowChange::Kind kind) {
     case RowChange::AllFilled: return "allFilled";
     case RowChange::AllCells: return "allCells";
     case RowChange::Selection: return "selection";
+    case RowChange::Collector: return "collector";
     case RowChange::Shown: break;
     }
     return "shown";
@@ -89,11 +90,11 @@ Tcl_Obj* NewRow(const RowLook& look, const ColumnNumbers& columns) {
         const auto column = columns.find(cell.column);
         if (column != columns.end()) Append(cells, NewCell(cell, column->second));
     }
-    return ListOf({Tcl_NewWideIntObj(look.index), Tcl_NewWideIntObj(look.parent),
-                   Tcl_NewWideIntObj(look.depth), NewText(KindName(look.kind)), NewText(look.text),
-                   Tcl_NewBooleanObj(look.expanded), Tcl_NewBooleanObj(look.selected),
-                   Tcl_NewBooleanObj(look.hasRows), Tcl_NewBooleanObj(look.bold),
-                   Tcl_NewBooleanObj(look.italic), NewText(look.icon), cells});
+    return ListOf(
+        {Tcl_NewWideIntObj(look.index), Tcl_NewWideIntObj(look.parent), Tcl_NewWideIntObj(look.depth),
+         NewText(KindName(look.kind)), NewText(look.text), Tcl_NewBooleanObj(look.expanded),
+         Tcl_NewBooleanObj(look.selected), Tcl_NewBooleanObj(look.hasRows), Tcl_NewBooleanObj(look.bold),
+         Tcl_NewBooleanObj(look.italic), NewText(look.icon), cells, Tcl_NewBooleanObj(look.collected)});
 }
 
 Tcl_Obj* NewColumn(const View& view, const Column& column) {

@@ -1,6 +1,7 @@
 // Windows, their parts and callbacks, and find requests.
 #include "window/browser_windows.h"
 
+#include "window/collector.h"
 #include "window/window_list.h"
 
 namespace znhost {
@@ -14,7 +15,8 @@ Window* Own(znIBrowserWindowAccess* window) { return static_cast<Window*>(window
 } // namespace
 
 BrowserWindows::BrowserWindows(HostServices& services)
-    : Browser(services), windows_(std::make_unique<WindowList>(*this)) {}
+    : Browser(services), windows_(std::make_unique<WindowList>(*this)),
+      collector_(std::make_unique<Collector>(*this)) {}
 
 BrowserWindows::~BrowserWindows() = default;
 

@@ -8,6 +8,7 @@
 
 namespace znhost {
 
+class Collector;
 class WindowList;
 
 /// The browser object, with the windows on its views; it owns them.
@@ -17,6 +18,7 @@ public:
     ~BrowserWindows() override;
 
     WindowList& Windows() { return *windows_; }
+    Collector& VirtualCollector() { return *collector_; }
 
     // Windows.
     znIBrowserWindowAccessList* GetWindowAccessList() override;
@@ -49,6 +51,7 @@ protected:
 
 private:
     std::unique_ptr<WindowList> windows_;
+    std::unique_ptr<Collector> collector_;
 };
 
 } // namespace znhost

@@ -166,18 +166,15 @@ std::string DrawRows(Window& window) {
         columns.push_back({column.get(), {}, 0});
         columns.back().Add(DrawnText(Caption(*view, *column)));
     }
-    std::vector<bool> selected;
+    std::vector<std::string> marks; // the selected rows, and the collected ones
     window.Rows().ReadEach(0, std::numeric_limits<std::int64_t>::max(), [&](const RowLook& look) {
         AddRow(look, columns);
-        selected.push_back(look.selected);
+        marks.push_back(std::string(look.selected ? "*" : " ") + (look.collected ? "+" : " "));
         return true;
     });
     std::string text = DrawLine(columns, 0) + "\n" + DrawRule(columns);
-    for (std::size_t i = 0; i < selected.size(); ++i) {
-        std::string line = DrawLine(columns, i + 1);
-        if (selected[i]) line.replace(0, 1, "*");
-        text += "\n" + line;
-    }
+    for (std::size_t i = 0; i < marks.size(); ++i)
+        text += "\n" + DrawLine(columns, i + 1).replace(0, marks[i].size(), marks[i]);
     return text;
 }
 

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <new>
-#include <tcl.h>
 #include <utility>
 
 namespace znhost {

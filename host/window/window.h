@@ -10,7 +10,9 @@
 #include "rows/row_model.h"
 #include "window/window_part.h"
 #include "window/window_popup.h"
+#include "znBrowserTypes.h"
 
+#include <array>
 #include <memory>
 #include <string>
 #include <vector>
@@ -22,6 +24,18 @@ class RowFinder;
 struct FindCriterion;
 class View;
 class WindowDisplay;
+
+/// The collector bar of a window, and its controls by `ZNBROWSER_COLLECTOR_CONTROL`.
+struct CollectorBar {
+    static constexpr std::size_t controls = ZNBROWSER_COLLECTOR_SELECTION + 1;
+    struct Control {
+        bool shown = true;
+        bool enabled = true;
+    };
+
+    bool shown = false;
+    std::array<Control, controls> control;
+};
 
 /// A window on a view. Its events run scripts, and a script may delete the window: then it is closed at once
 /// (it has no view, no rows and no parts any more) and goes when the event has been handled.
@@ -53,6 +67,9 @@ public:
     void SetBackground(std::string colour);
     /// As the Tk tree reported it last.
     int ScrollPosition() const { return scrollPosition_; }
+    void ScrollTo(int position) noexcept { scrollPosition_ = position; }
+    /// The collector bar.
+    CollectorBar& Bar() { return bar_; }
     WindowPopup& Popup() { return popup_; }
 
     WindowPart::Parts& Parts() { return parts_; }
@@ -164,6 +181,7 @@ private:
     bool posted_ = false;
     bool closed_ = false;
     int scrollPosition_ = 0;
+    CollectorBar bar_;
     unsigned partsMade_ = 0;
     WindowPart::Parts parts_;
     std::vector<std::string> listeners_;

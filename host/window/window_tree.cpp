@@ -2,6 +2,7 @@
 #include "base/services.h"
 #include "host/znBrowserDataItems.h"
 #include "window/browser_windows.h"
+#include "window/collector.h"
 #include "window/window.h"
 #include "znIBrowserManagerTcl.h"
 
@@ -93,6 +94,7 @@ bool Window::SelectionUpdate(const std::vector<unsigned int>& indices) {
 bool Window::SelectionChangeFinished() {
     if (Refused("znIBrowserWindowAccess::SelectionChangeFinished")) return false;
     const std::shared_ptr<Window> self = shared_from_this();
+    if (view_) browser_.VirtualCollector().OnSelected(*view_);
     TellSelectedFolders();
     Fire(EventKind::SelectionChanged);
     return true;
@@ -212,6 +214,8 @@ bool Window::LeftHandClick(const char* column, const char* element, unsigned int
     if (Refused("znIBrowserWindowAccess::LeftHandClick", column, element, index)) return false;
     const std::shared_ptr<Window> self = shared_from_this();
     if (!FindColumn(column) || !rows_.Has(index)) return false;
+    znBrowserDataItem item;
+    if (rows_.GetItem(index, item) && view_) browser_.VirtualCollector().OnClicked(*view_, item);
     Fire(EventKind::LeftClick);
     return true;
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 class znIBrowser;
+class znIBrowserCollector;
 class znIBrowserDataCtrl;
 
 struct Tcl_Interp;
@@ -61,6 +62,9 @@ public:
     /// Emitted with the window's name when a script or an event selects the window that is current already.
     /// Belongs to the host; its slots may do anything.
     virtual znSignal<single_threaded, const char*>& GetWindowReselectedSignal() = 0;
+    /// The virtual collector; asked for each time. Null for a host that has none, as it is without an
+    /// operation of its own here: every collector word says so then.
+    virtual znIBrowserCollector* GetCollector() { return nullptr; }
 
 protected:
     ~znIBrowserApplication() = default;

@@ -9,6 +9,7 @@
 #include "host/znIBrowserDataProperty.h"
 #include "host/znIBrowserDataSource.h"
 #include "host/znIBrowserDataSourceSimple.h"
+#include "state/collector/collected_source.h"
 #include "znBrowserManagerTcl.h"
 #include "znBrowserMessages.h"
 
@@ -59,7 +60,7 @@ bool znBrowserManagerTcl::DeleteDataSourceSimple(const char* name) {
         if (name) current_.dataCtrl->DeleteDataSourceSimple(name);
         return FindDataSourceSimple(name) != dying;
     };
-    DeleteAndForget(*this, doomed, deletion);
+    if (DeleteAndForget(*this, doomed, deletion)) ForgetCollectorDataSource(*this, name);
     return GetState();
 }
 

@@ -102,6 +102,7 @@ extern const CommandLevel dataOperationLevel;
 extern const CommandLevel dataReferenceLevel;
 extern const CommandLevel userInputLevel;
 extern const CommandLevel stateLevel;
+extern const CommandLevel collectorLevel;
 
 } // namespace znlayer
 

@@ -2,6 +2,7 @@
 
 #include "frame/current_lifetimes.h"
 #include "frame/operation.h"
+#include "host/znIBrowserCollector.h"
 #include "host/znIBrowserCriteria.h"
 #include "host/znIBrowserDataCtrl.h"
 #include "host/znIBrowserDataOperation.h"
@@ -104,11 +105,15 @@ void AddStates(const Manager& manager, Names& names) {
     AddListed(control ? control->GetStateContainer() : nullptr, &znIBrowserStateContainer::GetStates, names);
 }
 
+void AddTexts(const std::vector<znString>& texts, Names& names) {
+    for (const znString& text : texts) AddName(text, names);
+}
+
 void AddListeners(const Manager& manager, Names& names) {
     std::vector<znString> listeners;
     if (znIBrowserWindowAccess* const window = CurrentOf(manager).windowAccess)
         window->GetListenerNames(listeners);
-    for (const znString& listener : listeners) AddName(listener, names);
+    AddTexts(listeners, names);
 }
 
 void AddEvents(const Manager& manager, Names& names) {
@@ -140,6 +145,28 @@ void AddParts(const Manager& manager, Names& names) {
     AddListed(CurrentOf(manager).windowAccess, &znIBrowserWindowAccess::GetWindowParts, names, true);
 }
 
+void AddCollections(const Manager& manager, Names& names) {
+    znIBrowserCollector* const collector = manager.GetApplication()->GetCollector();
+    std::vector<znString> collections;
+    if (collector && CurrentOf(manager).view)
+        collector->GetNamedCollections(CurrentOf(manager).view, collections);
+    AddTexts(collections, names);
+}
+
+void AddCollectorKinds(const Manager& manager, Names& names) {
+    znIBrowserCollector* const collector = manager.GetApplication()->GetCollector();
+    std::vector<znIBrowserDataSourceSimple*> kinds;
+    if (collector && CurrentOf(manager).view) collector->GetKinds(CurrentOf(manager).view, kinds);
+    AddAll(kinds, names);
+}
+
+void AddCollectorOptions(const Manager& manager, Names& names) {
+    std::vector<znString> options;
+    if (znIBrowserCollector* const collector = manager.GetApplication()->GetCollector())
+        collector->GetOptionNames(options);
+    AddTexts(options, names);
+}
+
 /// What a current object lists.
 template <auto member, auto list>
 void AddOf(const Manager& manager, Names& names) {
@@ -155,6 +182,9 @@ struct NamesOfKind {
 
 constexpr NamesOfKind namesOfKinds[] = {
     {ArgumentKind::Callback, AddCallbacks},
+    {ArgumentKind::Collection, AddCollections},
+    {ArgumentKind::CollectorKind, AddCollectorKinds},
+    {ArgumentKind::CollectorOption, AddCollectorOptions},
     {ArgumentKind::Column, AddOf<&Currents::view, &znIBrowserView::GetColumns>},
     {ArgumentKind::Criteria, AddCriteria},
     {ArgumentKind::Criterion, AddCriterions},

@@ -10,8 +10,9 @@
 
 namespace znlayer {
 
-/// How an entry is written: as it is, in braces when it holds a blank, or in double quotes.
-enum class EntryForm { Plain, Braced, Quoted };
+/// How an entry is written: as it is, in braces when it holds a blank, in double quotes, or as an element of
+/// a Tcl list, whatever it holds.
+enum class EntryForm { Plain, Braced, Quoted, Element };
 
 /// Which blanks a list has besides the one that stands before each entry but the first. The command families
 /// differ in this, and scripts may have come to rely on it.
@@ -39,7 +40,10 @@ public:
     bool Add(const char* entry) {
         if (!entry) return false;
         if (blanks_ == ExtraBlanks::Between && count_ > 0) AppendPiece(text_, " ", false, true, false);
-        AppendPiece(text_, entry, form_ == EntryForm::Quoted, true, form_ == EntryForm::Braced);
+        if (form_ == EntryForm::Element)
+            AppendElement(text_, entry);
+        else
+            AppendPiece(text_, entry, form_ == EntryForm::Quoted, true, form_ == EntryForm::Braced);
         if (blanks_ == ExtraBlanks::After) AppendPiece(text_, " ", false, true, false);
         ++count_;
         return true;

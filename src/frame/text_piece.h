@@ -23,6 +23,9 @@ inline bool AppendPiece(znString& text, const char* piece, bool quoted, bool sep
     return true;
 }
 
+/// Appends an element of a Tcl list, quoted where it must be, behind a blank unless the text is empty.
+void AppendElement(znString& text, const char* element);
+
 } // namespace znlayer
 
 #endif

@@ -1,4 +1,5 @@
-// Events of the Tk tree: the window that an event names becomes current, and takes the event.
+// Events of the Tk tree and of the collector bar: the window that an event names becomes current, and takes
+// the event.
 //
 // The error state is not cleared first; choosing the window does that. A window may run scripts for an event,
 // and a script may delete the window: nothing here touches it after it has answered.
@@ -118,4 +119,13 @@ bool znBrowserManagerTcl::OnTkTreeDispElemsToggleClick(const char* window, int) 
 
 bool znBrowserManagerTcl::OnTkTreeDispGeomsToggleClick(const char* window, int value) {
     return OnTkTreeDispElemsToggleClick(window, value);
+}
+
+// The collector bar belongs to the window, what is chosen in it to the collector.
+bool znBrowserManagerTcl::OnTkColListItemSelected(const char* window, const char* dataSource) {
+    return SelectWindow(*this, window) && SetCurrentCollectorDataSourceSimple(dataSource);
+}
+
+bool znBrowserManagerTcl::OnTkColOptionItemSelected(const char* window, const char* option) {
+    return SelectWindow(*this, window) && SetCurrentCollectorOption(option);
 }

@@ -1,6 +1,7 @@
 // Memory runs out at the n-th allocation of our own code, library and host: nothing crashes, nothing is lost,
 // the interpreter goes on. This file replaces the program's operator new; it fails only while a sweep has
 // armed it.
+#include "tests/faults/allocations.h"
 #include "tests/faults/sweep.h"
 #include "tests/frame/fake_application.h"
 
@@ -8,24 +9,7 @@
 #include <iostream>
 #include <new>
 
-namespace {
-
-/// What operator new does. No other thread allocates while a sweep runs.
-struct Allocations {
-    bool armed = false;
-    bool andFollowing = false;
-    std::size_t left = 0; ///< allocations before the one that fails
-    bool failed = false;
-    long living = 0; ///< allocated and not freed
-
-    bool Fails() {
-        if (!armed || (left > 0 && left-- > 0) || (failed && !andFollowing)) return false;
-        failed = true;
-        return true;
-    }
-} allocations;
-
-} // namespace
+Allocations allocations;
 
 // Not inlined: g++ would take new and free for a pair that does not match.
 [[gnu::noinline]] void* operator new(std::size_t size) {

@@ -17,6 +17,8 @@ proc show {section} {
     }
 }
 proc value {item} {return v}
+proc acting {view items} {foreach words {{showhide hide} undo {selection clear}} {zn collector {*}$words}}
+proc going {view items} {zn collector isolate; zn window current win; zn window delete; zn view delete; error gone}
 proc told {args} {foreach family {view window state datactrl} {zn $family current}}
 namespace eval znbrowser {
     proc ResetSelectedFreeFoldersArray {} {zn view folder current}
@@ -199,6 +201,35 @@ set sections {
         {view datasource hierarchical selected} {view dataitemlist selected} {view dataitemlist simple select}
         {view dataitemlist hierarchical select} {view selection single} {view selection multiple}
         {view selection clear} {selection clear} {window collapseall} {app draw win}
+    }
+    collector {
+        {window create win} {window listener connect told} {window expandall} {collector show true}
+        {collector datasource simple names} {collector datasource simple current unit} {collector selection add all}
+        {collector selection count} {collector selection dataitems} {collector pnlcolselector create kept}
+        {collector isolate} {app rows win} {view dataitem simple select bypropval b} {collector selection set}
+        {collector showhide hide} {app rows win} {collector showhide toggle} {collector showhide show}
+        {collector isolateonly} {collector undo} {collector undo restore} {app rows win} {collector showonly}
+        {collector undo} {app rows win} {OnTkColListItemSelected win none} {OnTkColOptionItemSelected win isolate}
+        {collector option create act acting} {collector option names} {collector option current act}
+        {collector option perform} {collector option perform isolate} {collector option delete act}
+        {collector selection add byprop title b c} {collector selection toggle displayed}
+        {collector selection remove byprop title b} {collector selection set byprop title d}
+        {collector pnlcolselector current kept}
+        {collector pnlcolselector names} {collector addtopnlcol kept} {collector selection clear}
+        {collector optionselector names} {collector optionselector current toggle} {OnTkTreeRequestSelect win 3}
+        {collector optionselector current select} {OnTkTreeRequestSelect win 5} {collector autofit true}
+        {collector preselector} {collector preselector on} {collector preselector dataitem} {collector isolate}
+        {app sql m {DELETE FROM unit WHERE id = 2}} {collector undo names} {collector undo} {collector undo}
+        {app sql m {INSERT INTO unit VALUES (9, 1, 'i', 0)}} {collector showhide all} {collector undo count}
+        {collector undo show false} {collector undo enable false} {collector addremove enable}
+        {collector addremove show true} {collector entityselector show} {collector entityselector enable true}
+        {collector optionselector show} {collector optionselector enable} {collector pnlcolselector show}
+        {collector pnlcolselector enable} {collector preselector show} {collector preselector enable}
+        {collector preselector off} {collector selection show true} {collector selection enable}
+        {app state create m st} {state current st} {state save} {collector undo clear} {state restore} {app rows win}
+        {collector pnlcolselector delete kept} {collector datasource simple current own} {view datasource simple disconnect own}
+        {datasource simple delete own} {collector datasource simple current} {collector selection add displayed}
+        {collector option create gone going} {collector option perform gone}
     }
     rows {
         {window create win} {view folder current v} {view list add note true} {window expandall} {app rows win}
