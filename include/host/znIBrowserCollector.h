@@ -2,8 +2,8 @@
 #ifndef ZN_I_BROWSER_COLLECTOR_H
 #define ZN_I_BROWSER_COLLECTOR_H
 
-#include "host/znutl/znString.h"
-#include "znBrowserTypes.h"
+#include "../znBrowserTypes.h"
+#include "znutl/znString.h"
 #include <cstddef>
 #include <vector>
 

@@ -11,6 +11,8 @@ namespace eval ::znbrowser::hostcheck {
         folder {{view current hostcheck2} {view current hostcheck} {view folder current hostcheck}}
         window {{window current hostcheck} {window part current toplevel}}
         part {{window current hostcheck} {window part current hostcheck}}
+        menu {{view popupmenu current hostcheck}}
+        item {{view popupmenu current hostcheck} {view popupmenuitem current hostcheck}}
         data {{datactrl current @dataCtrl}}
         source {{datactrl current @dataCtrl} {datasource simple current hostcheck}}
     }
@@ -85,6 +87,17 @@ namespace eval ::znbrowser::hostcheck {
             {znIBrowser::CreateGuiMap znIBrowserGuiMapList::GetGuiMaps znIBrowserGuiMapList::FindGuiMap
                 znIBrowser::DeleteGuiMap}
             {-again 1 -unheard 1}
+        "popup menu" none
+            {{view popupmenu create %} {view popupmenu names} {view popupmenu current %} {view popupmenu delete %}}
+            {znIBrowser::CreatePopupMenu znIBrowserPopupMenuList::GetPopupMenus znIBrowserPopupMenuList::FindPopupMenu
+                znIBrowser::DeletePopupMenu}
+            {-stays 1}
+        "popup menu item" menu
+            {{view popupmenuitem create %} {view popupmenuitem names} {view popupmenuitem current %}
+                {view popupmenuitem delete %}}
+            {znIBrowserPopupMenu::CreateItem znIBrowserPopupMenu::GetItems znIBrowserPopupMenu::FindItem
+                znIBrowserPopupMenu::DeleteItem}
+            {-created 1 -stays 1}
         "data source" data
             {{datasource simple create %} {datasource simple names} {datasource simple current %}
                 {datasource simple delete %}}
@@ -152,6 +165,10 @@ namespace eval ::znbrowser::hostcheck {
         window {window background} {red red white white}
             znIBrowser::SetWindowBackgroundColor znIBrowserWindowAccess::GetBackgroundColor
         part {window part show} @flags znIBrowser::SetWindowPartShown znIBrowserWindowAccess::IsWindowPartShown
+        item {view popupmenuitem caption} {{Ä Ä} {Ä Ä} a a}
+            znIBrowserPopupMenuItem::SetCaption znIBrowserPopupMenuItem::GetCaption
+        item {view popupmenuitem visible} @flags
+            znIBrowserPopupMenuItem::SetVisible znIBrowserPopupMenuItem::GetVisible
         source {datasource simple caption} {{Ä Ä} {Ä Ä} a a}
             znIBrowserDataCtrl::SetDataSourceSimpleCaption znIBrowserDataSourceSimple::GetCaption
         source {datasource simple filtercaption} {{Ä Ä} {Ä Ä} a a}

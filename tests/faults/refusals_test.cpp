@@ -104,12 +104,13 @@ TEST_F(Refusals, EachOperationIsRefusedByItsNameAndThatIsNoticed) {
         "znIBrowserDataCtrl::SetCurrentView", "znIBrowserDataSourceSimple::Update",
         "znIBrowserViewColumn::SetCurrentStyle", "znIBrowserViewItemFreeFolder::SetDropItem",
         // Nothing, zero and an unknown number are what the host gives anyway.
-        "znIBrowserApplication::GetTclNameSpace", "znIBrowserInputField::SetUnsignedValue",
+        "znIBrowserApplication::GetTclNameSpace", "znIBrowserCollector::GetPreselectedItem",
+        "znIBrowserCollector::GetPreselector", "znIBrowserInputField::SetUnsignedValue",
         "znIBrowserWindowPart::GetPosition",
         // Whose owner the host does not tell is taken to die with it, as here it does.
         "znIBrowserCriteria::GetDataSource", "znIBrowserDataSourceSimple::GetDataCtrl",
-        "znIBrowserEvent::GetWindowPart", "znIBrowserStyleElement::GetStyle",
-        "znIBrowserViewItemFreeFolder::GetView", "znIBrowserViewOperation::GetView"};
+        "znIBrowserEvent::GetWindowPart", "znIBrowserViewItemFreeFolder::GetView",
+        "znIBrowserViewOperation::GetView"};
 
     RefuseAllOf("");
     RefuseAllOf("client");

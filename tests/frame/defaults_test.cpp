@@ -1,5 +1,6 @@
 // A host can be made of the default answers alone, with its own where it has some.
 #include "host/defaults/znBrowserApplicationDefaults.h"
+#include "host/defaults/znBrowserCollectorDefaults.h"
 #include "host/defaults/znBrowserCriteriaDefaults.h"
 #include "host/defaults/znBrowserDataCtrlDefaults.h"
 #include "host/defaults/znBrowserDataOperationDefaults.h"
@@ -44,6 +45,7 @@ template <class Class>
 constexpr bool answersAll = !std::is_abstract_v<Class>;
 
 static_assert(answersAll<znBrowserApplicationDefaults>);
+static_assert(answersAll<znBrowserCollectorDefaults>);
 static_assert(answersAll<znBrowserCriteriaDefaults>);
 static_assert(answersAll<znBrowserCriteriaContainerDefaults>);
 static_assert(answersAll<znBrowserDataCtrlDefaults>);
