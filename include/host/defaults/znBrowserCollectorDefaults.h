@@ -10,12 +10,24 @@
 /// `znIBrowserCollector` for hosts that have a part of it: override what there is.
 class znBrowserCollectorDefaults : public znIBrowserCollector {
 public:
-    bool GetKinds(znIBrowserView*, std::vector<znIBrowserDataSourceSimple*>& kinds) override { kinds.clear(); return false; }
+    bool GetKinds(znIBrowserView*, std::vector<znIBrowserDataSourceSimple*>& kinds) override {
+        kinds.clear();
+        return false;
+    }
     bool SetKind(const char*) override { return false; }
-    bool Collect(znIBrowserView*, ZNBROWSER_COLLECT, ZNBROWSER_COLLECT_FROM, znIBrowserDataSourceSimple*) override { return false; }
-    bool CollectByValues(znIBrowserView*, ZNBROWSER_COLLECT, znIBrowserViewProperty*, const std::vector<znString>&, znIBrowserDataSourceSimple*) override { return false; }
+    bool Collect(znIBrowserView*, ZNBROWSER_COLLECT, ZNBROWSER_COLLECT_FROM,
+                 znIBrowserDataSourceSimple*) override {
+        return false;
+    }
+    bool CollectByValues(znIBrowserView*, ZNBROWSER_COLLECT, znIBrowserViewProperty*,
+                         const std::vector<znString>&, znIBrowserDataSourceSimple*) override {
+        return false;
+    }
     bool ClearCollection(znIBrowserView*) override { return false; }
-    bool GetCollectedCounts(znIBrowserView*, std::vector<znBrowserCollectedCount>& counts) override { counts.clear(); return false; }
+    bool GetCollectedCounts(znIBrowserView*, std::vector<znBrowserCollectedCount>& counts) override {
+        counts.clear();
+        return false;
+    }
     bool GetCollectedItems(znIBrowserView*, znBrowserDataItems&) override { return false; }
     bool ChangeDisplay(znIBrowserView*, ZNBROWSER_COLLECTOR_DISPLAY) override { return false; }
     void GetOptionNames(std::vector<znString>& names) override { names.clear(); }
@@ -46,9 +58,13 @@ public:
     bool IsBarShown(znIBrowserWindowAccess*) override { return false; }
     bool SetBarShown(znIBrowserWindowAccess*, bool) override { return false; }
     bool IsControlShown(znIBrowserWindowAccess*, ZNBROWSER_COLLECTOR_CONTROL) override { return false; }
-    bool SetControlShown(znIBrowserWindowAccess*, ZNBROWSER_COLLECTOR_CONTROL, bool) override { return false; }
+    bool SetControlShown(znIBrowserWindowAccess*, ZNBROWSER_COLLECTOR_CONTROL, bool) override {
+        return false;
+    }
     bool IsControlEnabled(znIBrowserWindowAccess*, ZNBROWSER_COLLECTOR_CONTROL) override { return false; }
-    bool SetControlEnabled(znIBrowserWindowAccess*, ZNBROWSER_COLLECTOR_CONTROL, bool) override { return false; }
+    bool SetControlEnabled(znIBrowserWindowAccess*, ZNBROWSER_COLLECTOR_CONTROL, bool) override {
+        return false;
+    }
 
 protected:
     ~znBrowserCollectorDefaults() = default;
