@@ -1484,7 +1484,7 @@ public:
     /// Let the current view, folder or column, or a simple data source of the current data control, show the
     /// current menu in place of any other (true), or none (false). It is an error to disconnect what does not
     /// show the menu.
-    bool ConnectPopupMenuToView(bool connect);       ///< "view popupmenu connect view", "disconnect view"
+    bool ConnectPopupMenuToView(bool connect);       ///< "view popupmenu connect view", and disconnect
     bool ConnectPopupMenuToFreeFolder(bool connect); ///< "... folder"
     bool ConnectPopupMenuToColumn(bool connect);     ///< "... column"
     bool ConnectPopupMenuToDataSourceSimple(const char* name, bool connect); ///< "... datasource"
@@ -1517,7 +1517,7 @@ public:
     bool GetPopupMenuItemNames(znString& out); ///< "view popupmenuitem names"
     /// Moves the item to an end of its menu, or one up or down; one that is there already stays. The current
     /// menu must hold it.
-    bool MovePopupMenuItem(ZNBROWSER_POPUP_PLACE place); ///< "view popupmenuitem move", "moveup", "movedown"
+    bool MovePopupMenuItem(ZNBROWSER_POPUP_PLACE place); ///< "view popupmenuitem move", moveup, movedown
     /// Moves the item to a place, counted from 0; one that does not exist is an error.
     bool MovePopupMenuItemTo(int place); ///< "view popupmenuitem moveto"
 

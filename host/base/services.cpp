@@ -39,7 +39,7 @@ bool HostServices::RunScript(const std::string& script, std::string* result) {
 }
 
 bool HostServices::RunProcedure(const std::vector<std::string>& words, std::string* result) {
-    return RunScript(ListOf(words).Str(), result);
+    return RunScript(ListText(words), result);
 }
 
 bool HostServices::CallProcedure(const std::vector<std::string>& words, std::string& result) {

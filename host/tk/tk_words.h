@@ -12,8 +12,8 @@ namespace znhost {
 ///   position NUMBER INDEX       the position of a row; -1 when there is none
 ///   find NUMBER FIRST TEXT      the position of the next row, from FIRST on, that begins with TEXT; or -1
 ///   indices NUMBER FIRST COUNT  the Tk indices of rows, by position
-///   item NUMBER INDEX           the data source of the item that a row stands for, and its number there; or ""
-///   look NUMBER                 all but the rows, as a dictionary: columns, operations, counts, settings
+///   item NUMBER INDEX           the data source of the item that a row stands for, and its number there; or
+///   "" look NUMBER                 all but the rows, as a dictionary: columns, operations, counts, settings
 ///   changes NUMBER              what changed since this was asked last: kinds of changes and Tk indices
 ///   page NUMBER FIRST COUNT     rows, each a list: index, parent, depth, kind, text, expanded, selected,
 ///                               whether it can be expanded, bold, italic, icon, cells, whether it is
