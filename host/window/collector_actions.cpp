@@ -125,6 +125,7 @@ bool Collector::Display(View& view, ZNBROWSER_COLLECTOR_DISPLAY change, const st
 }
 
 std::size_t Collector::CountHidden(View& view) const {
+    const std::shared_ptr<View> held = view.shared_from_this();
     view.Changed(0);
     std::size_t hidden = 0;
     const DisplayState display = view.Collector().Display();
