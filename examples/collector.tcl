@@ -32,7 +32,7 @@ zn view folder current parts
 zn view folder create Structure
 zn view tree create structure
 zn view list create material
-zn view folder show count number true
+zn view folder children count bynumber true
 zn window create parts
 zn window post
 zn window expandall

@@ -9,7 +9,10 @@
 #include "host/znIBrowserDataSourceSimple.h"
 #include "model/popup_menu.h"
 #include "model/view.h"
+#include "tk/tk_collector.h"
 #include "tk/tk_windows.h"
+#include "window/browser_windows.h"
+#include "window/collector.h"
 #include "window/window.h"
 
 #include <tcl.h>
@@ -187,6 +190,17 @@ Tcl_Obj* FindBeginning(const Question& question) {
     return Tcl_NewWideIntObj(-1);
 }
 
+Tcl_Obj* AboutCollector(const Question& question) { return NewCollectorBar(question.window); }
+
+/// The item under the pointer; no row has the index 0.
+Tcl_Obj* Preselect(const Question& question) {
+    Window& window = question.window;
+    znBrowserDataItem item;
+    window.Rows().GetItem(static_cast<std::uint32_t>(question.numbers[0]), item);
+    if (window.ShownView()) window.Owner().VirtualCollector().Preselect(*window.ShownView(), item);
+    return Tcl_NewObj();
+}
+
 Tcl_Obj* Prune(const Question& question) {
     question.window.Rows().CollapseButSelected();
     return Tcl_NewObj();
@@ -234,6 +248,7 @@ struct TkWord {
 
 constexpr TkWord tkWords[] = {
     {"aside", "NUMBER", 0, false, ClickAside},
+    {"collector", "NUMBER", 0, false, AboutCollector},
     {"count", "NUMBER", 0, false, Count},
     {"find", "NUMBER FIRST TEXT", 1, true, FindBeginning},
     {"indices", "NUMBER FIRST COUNT", 2, false, Indices},
@@ -242,6 +257,7 @@ constexpr TkWord tkWords[] = {
     {"page", "NUMBER FIRST COUNT", 2, false, Page},
     {"popup", "NUMBER", 0, false, Popup},
     {"position", "NUMBER INDEX", 1, false, Position},
+    {"preselect", "NUMBER INDEX", 1, false, Preselect},
     {"prune", "NUMBER", 0, false, Prune},
     {"refusal", "NUMBER TYPE TEXT", 1, true, Refusal},
     {"selected", "NUMBER", 0, false, Selected},

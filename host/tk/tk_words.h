@@ -16,11 +16,14 @@ namespace znhost {
 ///   "" look NUMBER                 all but the rows, as a dictionary: columns, operations, counts, settings
 ///   changes NUMBER              what changed since this was asked last: kinds of changes and Tk indices
 ///   page NUMBER FIRST COUNT     rows, each a list: index, parent, depth, kind, text, expanded, selected,
-///                               whether it can be expanded, bold, italic, icon, cells. A cell is a list: the
-///                               number of its column, then its elements, each a list: kind, text, colour,
-///                               name. Columns are counted from 0, hidden ones too.
+///                               whether it can be expanded, bold, italic, icon, cells, whether it is
+///                               collected. A cell is a list: the number of its column, then its elements,
+///                               each a list: kind, text, colour, name. Columns are counted from 0, hidden
+///                               ones too.
 ///   popup NUMBER                what the popup menu shows that is open: a list as "app popup" answers it
 ///   aside NUMBER                there was a right click beside all rows: the next menu is about it
+///   collector NUMBER            what the collector bar shows, see `NewCollectorBar`
+///   preselect NUMBER INDEX      the row under the pointer; 0 when there is none
 ///   prune NUMBER                collapses whatever holds no selected row
 ///   refusal NUMBER TYPE TEXT    why a text is no value of a type of input fields; "" when it is one
 ///   selected NUMBER             the Tk indices of the selected rows that are visible

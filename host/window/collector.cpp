@@ -157,6 +157,7 @@ bool Collector::GetCollectedCounts(znIBrowserView* view, std::vector<znBrowserCo
     counts.clear();
     if (Refused("znIBrowserCollector::GetCollectedCounts", view)) return false;
     if (!FailWithout(view, "view")) return false;
+    const std::shared_ptr<View> held = Own(view).shared_from_this();
     Own(view).Changed(0);
     const ItemSets& collected = Own(view).Collector().Collected();
     for (znIBrowserDataSourceSimple* const source : SourcesOf(Own(view), collected)) {
@@ -175,6 +176,7 @@ bool Collector::GetCollectedItems(znIBrowserView* view, znBrowserDataItems& item
 
 /// By data source in the order of the view.
 znBrowserDataItems Collector::CollectedItems(View& view) {
+    const std::shared_ptr<View> held = view.shared_from_this();
     view.Changed(0);
     znBrowserDataItems items;
     const ItemSets& collected = view.Collector().Collected();
@@ -229,6 +231,7 @@ bool Collector::GetPreselectedItem(znIBrowserView* view, znBrowserDataItem& item
     item = {};
     if (Refused("znIBrowserCollector::GetPreselectedItem", view)) return false;
     if (!view || !preselector_) return false;
+    const std::shared_ptr<View> held = Own(view).shared_from_this();
     Own(view).Changed(0);
     item = Own(view).Collector().Preselected();
     return item.source != nullptr;
@@ -250,6 +253,7 @@ const char* Collector::GetCurrentNamedCollection(znIBrowserView* view) const {
 bool Collector::CreateNamedCollection(znIBrowserView* view, const char* name) {
     if (Refused("znIBrowserCollector::CreateNamedCollection", view, name)) return false;
     if (!FailWithout(view, "view")) return false;
+    const std::shared_ptr<View> held = Own(view).shared_from_this();
     std::string own = TextOf(name);
     if (own.empty()) return Fail("A named collection needs a name");
     Own(view).Changed(0);
@@ -276,6 +280,7 @@ NamedCollection* FindNamed(const View& view, ViewCollector& collector, const cha
 bool Collector::SetCurrentNamedCollection(znIBrowserView* view, const char* name) {
     if (Refused("znIBrowserCollector::SetCurrentNamedCollection", view, name)) return false;
     if (!FailWithout(view, "view")) return false;
+    const std::shared_ptr<View> held = Own(view).shared_from_this();
     ViewCollector& collector = Own(view).Collector();
     std::string own = TextOf(name);
     const bool collected =
@@ -303,6 +308,7 @@ bool Collector::DeleteNamedCollection(znIBrowserView* view, const char* name) {
 bool Collector::AddToNamedCollection(znIBrowserView* view, const char* name) {
     if (Refused("znIBrowserCollector::AddToNamedCollection", view, name)) return false;
     if (!FailWithout(view, "view")) return false;
+    const std::shared_ptr<View> held = Own(view).shared_from_this();
     Own(view).Changed(0);
     ViewCollector& collector = Own(view).Collector();
     NamedCollection* const named = FindNamed(Own(view), collector, name);
@@ -317,6 +323,7 @@ bool Collector::AddToNamedCollection(znIBrowserView* view, const char* name) {
 // ---- Saved states ----
 
 bool Collector::RestoreState(View& view, DisplayState display, std::vector<NamedCollection> named) {
+    const std::shared_ptr<View> held = view.shared_from_this();
     for (NamedCollection& each : named) view.Collector().SetNamed(each.name, std::move(each.items));
     const bool made = Make(view, "state restore", [&display](CollectorState& state) {
         state.display = std::move(display);

@@ -33,6 +33,8 @@ public:
     /// The item under the pointer is another one; without a source: none is under it.
     void Preselect(View& view, const znBrowserDataItem& item);
     const std::string& Kind() const { return kind_; }
+    /// How many items of the view are hidden.
+    std::size_t CountHidden(View& view) const;
 
     bool GetKinds(znIBrowserView* view, std::vector<znIBrowserDataSourceSimple*>& kinds) override;
     bool SetKind(const char* name) override;

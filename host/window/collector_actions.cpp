@@ -3,6 +3,7 @@
 #include "base/tcl_values.h"
 #include "host/znBrowserDataItems.h"
 #include "model/data_sources.h"
+#include "model/row_source.h"
 #include "model/view_links.h"
 #include "window/browser_windows.h"
 #include "window/collector.h"
@@ -121,6 +122,19 @@ bool Collector::Display(View& view, ZNBROWSER_COLLECTOR_DISPLAY change, const st
     });
     if (done && !acting_) Fit(view);
     return done;
+}
+
+std::size_t Collector::CountHidden(View& view) const {
+    const std::shared_ptr<View> held = view.shared_from_this();
+    view.Changed(0);
+    std::size_t hidden = 0;
+    const DisplayState display = view.Collector().Display();
+    for (const auto& [source, displayed] : display.All()) {
+        const std::size_t size = displayed->rows.Size();
+        if (!displayed->only) hidden += size;
+        if (displayed->only) hidden += static_cast<std::size_t>(GetRowSource(source)->Count({})) - size;
+    }
+    return hidden;
 }
 
 /// Scrolls to the first collected item. The step has been made: where that fails the windows stay.

@@ -184,6 +184,8 @@ bool Collector::Make(View& view, const std::string& name, const Work& work) {
     const Raised working(working_);
     const CallLog::Quiet quiet(log_);
     view.Changed(0); // lets go of what has vanished
+    if (!acting_ && view.Collector().Done().IsEmpty() && view.Collector().Undone().IsEmpty())
+        view.Collector().ClearSteps(); // and with them the numbers of rows that nothing names any more
     CollectorLook look;
     if (!acting_) look = TakeLook(view);
     const std::size_t looks = view.Collector().Looks();
