@@ -232,11 +232,9 @@ TEST_F(CurrentObjects, AnOldPopupMenuSupportsNothing) {
     EXPECT_FALSE(manager.SetPopupMenuItemContainer(ZNBROWSER_POPUP_CONTAINER_SIMPLE, true));
     EXPECT_FALSE(manager.GetPopupMenuItemUserInput(text));
     EXPECT_FALSE(manager.PerformPopupMenuItem(nullptr));
-    for (const auto get : {&Manager::GetPopupMenuPostScript, &Manager::GetPopupMenuItemCaption,
-                           &Manager::GetPopupMenuItemCascade, &Manager::GetPopupMenuItemContainer}) {
-        EXPECT_TRUE((manager.*get)(text));
-        EXPECT_EQ(text, "");
-    }
+    EXPECT_TRUE(manager.GetPopupMenuPostScript(text) && manager.GetPopupMenuItemCaption(text) &&
+                manager.GetPopupMenuItemCascade(text) && manager.GetPopupMenuItemContainer(text));
+    EXPECT_EQ(text, "");
     EXPECT_TRUE(manager.GetPopupMenuItemEnabled(text));
     EXPECT_EQ(text, "false");
     EXPECT_EQ(ForgottenWith<znIBrowserPopupMenu>(manager, &menu), "popup menu; popup menu item; ");

@@ -121,19 +121,4 @@ TEST(CollectorSteps, AnythingDoneIsTakenBackExactly) {
     }
 }
 
-TEST(CollectorSteps, WindowsScrollToTheFirstCollectedRowWhenTheyAreTold) {
-    for (const bool autofit : {false, true}) {
-        CollectorModel model;
-        model.Collector().SetAutofit(autofit);
-        model.Eval("zn collector selection set byprop number 17 18; zn collector showhide show\n"
-                   "zn collector selection remove all; zn collector selection set byprop number 17 18\n"
-                   "zn collector showonly");
-        const znhost::RowLook row = model.Window(true).Rows().Read(model.Window(true).ScrollPosition(), 1)[0];
-        EXPECT_EQ(row.text, autofit ? "p17" : "structure");
-        model.Collector().Undo(&model.View());
-        EXPECT_EQ(model.Window(true).ScrollPosition() > 0, autofit)
-            << "the first action did nothing, but scroll";
-    }
-}
-
 } // namespace
