@@ -20,7 +20,7 @@ proc ::znbrowser::cutText {n x y} {
     lassign [$w(tree) item bbox $at(item) $at(column) $at(element)] x1 y1 x2 y2
     set whole [dict get [pointed $n $x $y] text] ;# with its line breaks
     if {[oneLine $whole] ne $text} {set whole $text}
-    return [expr {[font measure $font $text] > $x2 - $x1 + 1 || [string first \n $whole] >= 0 ? $whole : ""}]
+    if {[font measure $font $text] > $x2 - $x1 + 1 || [string first \n $whole] >= 0} {return $whole}
 }
 
 # Below the place, or above it where the screen ends; of a long text the beginning.
