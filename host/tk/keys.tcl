@@ -43,6 +43,7 @@ proc ::znbrowser::bindWindowKeys {} {
 # The widget and those in it have these keys; they go before what else is done with a key.
 proc ::znbrowser::takeWindowKeys {widget} {
     set tags [bindtags $widget]
+    if {[winfo class $widget] eq "TButton"} {$widget configure -takefocus ttk::takefocus}
     if {"znBrowserWindow" ni $tags} {
         set own [expr {[isField $widget] ? {znBrowserWindow znBrowserField} : {znBrowserWindow}}]
         bindtags $widget [linsert $tags 1 {*}$own]

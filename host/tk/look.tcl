@@ -2,9 +2,9 @@
 
 namespace eval ::znbrowser {
     variable colours {
-        surface #f4f5f7  paper #ffffff  stripe #f5f8fb  text #1d2733  faint #66727f  line #d8dde3
+        surface #f4f5f7  paper #ffffff  stripe #f5f8fb  text #1d2733  faint #5f6b78  line #d8dde3
         header #eef0f3   headerHot #e3e7ec  chosen #cde3fa  hover #edf4fc  drop #ffe9b8  focus #5a9ae6
-        button #f2f4f7   buttonLine #b9c2cc  accent #1f6fd1  disabled #a3acb6  problem #b3261e  tip #fffbe8
+        button #f2f4f7   buttonLine #b9c2cc  accent #1b67c4  disabled #a3acb6  problem #b3261e  tip #fffbe8
     }
 }
 

@@ -178,11 +178,13 @@ proc ::znbrowser::unpost {n} {
     if {![info exists w(name)]} return
     if {[host busy]} {
         if {[winfo exists $w(path).progress]} {host cancel} ;# nobody waits for it any longer
+        if {$w(owns) && [stands $w(frame)]} {wm withdraw $w(frame)} ;# it is gone at once, as far as anybody sees
         after 100 [list ::znbrowser::unpost $n]
         return
     }
     manager window current $w(name)
     manager window post false
+    if {[isOpen $n] && $w(owns)} {wm deiconify $w(frame)} ;# it was refused
 }
 
 # Somebody destroyed the frame in which the window stood.
