@@ -300,7 +300,7 @@ proc ::znbrowser::keepCollected {n} {
     upvar #0 ::znbrowser::window$n w
     if {![isOpen $n]} return
     for {set number 1} {"Collection $number" in [fromCollector $n named]} {incr number} {}
-    lassign [askInput $n "Keep what is collected" Name 5 "Collection $number"] done name
+    lassign [askInput $n "Keep what is collected" Name 5 "Collection $number" {}] done name
     if {$done eq "ok" && [isOpen $n]} {collect $n pnlcolselector create $name}
 }
 
