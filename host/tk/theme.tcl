@@ -89,7 +89,12 @@ proc ::znbrowser::styleBelow {path} {
     foreach child [winfo children $path] {
         switch [winfo class $child] {
             Menu {styleMenu $child}
-            TEntry - TSpinbox - TCombobox {$child configure -font znBrowser00}
+            TEntry - TSpinbox {$child configure -font znBrowser00}
+            TCombobox {
+                $child configure -font znBrowser00
+                [ttk::combobox::PopdownWindow $child].f.l configure -font znBrowser00 -background [colour paper] \
+                    -foreground [colour text] -selectbackground [colour chosen] -selectforeground [colour text]
+            }
         }
         styleBelow $child
     }
