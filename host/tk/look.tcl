@@ -24,12 +24,8 @@ proc ::znbrowser::prepareLook {} {
     ttk::style map . -background [list disabled [colour surface] active [colour header]] \
         -foreground [list disabled [colour disabled]] -fieldbackground [list disabled [colour surface]] \
         -selectbackground {} -selectforeground {}
-    ttk::style configure TSpinbox -arrowsize [scaled 10]
-    ttk::style configure TMenubutton -arrowsize [scaled 5]
-    ttk::style configure TCheckbutton -indicatorbackground [colour paper] -indicatorforeground [colour text] \
-        -indicatorsize [scaled 11] -upperbordercolor [colour faint] -lowerbordercolor [colour faint]
-    ttk::style map TCheckbutton -indicatorbackground [list disabled [colour surface] pressed [colour header]] \
-        -indicatorforeground [list disabled [colour disabled]]
+    styleFields
+    styleTools
     ttk::style configure Browser.TFrame -background [colour surface]
     ttk::style configure Line.TFrame -background [colour line]
     ttk::style configure Status.TLabel -background [colour surface] -foreground [colour faint] \
@@ -43,6 +39,31 @@ proc ::znbrowser::prepareLook {} {
     ttk::style configure Browser.TCombobox -selectbackground [colour paper] -selectforeground [colour text]
     ttk::style map Browser.TCombobox -fieldbackground [list readonly [colour paper]] \
         -bordercolor [list focus [colour accent]]
+    ttk::style configure Panel.TFrame -background [colour paper] -relief solid -borderwidth 1 \
+        -bordercolor [colour buttonLine]
+    ttk::style configure Panel.TLabel -background [colour paper]
+    ttk::style configure Browser.Horizontal.TProgressbar -background [colour accent] \
+        -troughcolor [colour header] -bordercolor [colour line] -lightcolor [colour accent] \
+        -darkcolor [colour accent]
+    foreach style {Vertical.TScrollbar Horizontal.TScrollbar} {
+        ttk::style configure $style -gripcount 0 -background [colour line] -troughcolor [colour surface] \
+            -bordercolor [colour surface] -lightcolor [colour line] -darkcolor [colour line] \
+            -arrowcolor [colour faint] -arrowsize [scaled 12]
+        ttk::style map $style -background [list active [colour buttonLine] disabled [colour surface]]
+    }
+}
+
+proc ::znbrowser::styleFields {} {
+    ttk::style configure TSpinbox -arrowsize [scaled 10]
+    ttk::style configure TMenubutton -arrowsize [scaled 5]
+    ttk::style configure TCheckbutton -indicatorbackground [colour paper] -indicatorforeground [colour text] \
+        -indicatorsize [scaled 11] -upperbordercolor [colour faint] -lowerbordercolor [colour faint]
+    ttk::style map TCheckbutton -indicatorbackground [list disabled [colour surface] pressed [colour header]] \
+        -indicatorforeground [list disabled [colour disabled]]
+}
+
+# Buttons, and what looks like them.
+proc ::znbrowser::styleTools {} {
     foreach style {Tool.TButton Tool.TMenubutton} {
         ttk::style configure $style -padding [list [scaled 8] [scaled 3]] -background [colour paper] -relief flat -width 0 \
             -bordercolor [colour buttonLine] -lightcolor [colour paper] -darkcolor [colour paper]
@@ -62,18 +83,6 @@ proc ::znbrowser::prepareLook {} {
     ttk::style configure Link.TButton -background [colour surface] -foreground [colour accent] -relief flat \
         -padding {2 0} -borderwidth 0 -font znBrowserLink
     ttk::style map Link.TButton -background [list active [colour header]]
-    ttk::style configure Panel.TFrame -background [colour paper] -relief solid -borderwidth 1 \
-        -bordercolor [colour buttonLine]
-    ttk::style configure Panel.TLabel -background [colour paper]
-    ttk::style configure Browser.Horizontal.TProgressbar -background [colour accent] \
-        -troughcolor [colour header] -bordercolor [colour line] -lightcolor [colour accent] \
-        -darkcolor [colour accent]
-    foreach style {Vertical.TScrollbar Horizontal.TScrollbar} {
-        ttk::style configure $style -gripcount 0 -background [colour line] -troughcolor [colour surface] \
-            -bordercolor [colour surface] -lightcolor [colour line] -darkcolor [colour line] \
-            -arrowcolor [colour faint] -arrowsize [scaled 12]
-        ttk::style map $style -background [list active [colour buttonLine] disabled [colour surface]]
-    }
 }
 
 # The fonts of rows: they go by TkDefaultFont, in every combination of bold and italic. What is measured in pixels goes
