@@ -15,6 +15,7 @@ struct DatabaseOption {
 struct Options {
     std::vector<DatabaseOption> databases;
     bool strict = false;
+    bool write = false;  /// a browser on a database may change it
     bool tk = false;     /// windows stand on the display, or are drawn as text where there is none
     std::string program; /// as it was called
     std::optional<std::string> script;  /// none: the prompt, or the script on standard input

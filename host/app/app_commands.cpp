@@ -2,6 +2,7 @@
 #include "app/app_commands.h"
 
 #include "app/data_app_commands.h"
+#include "app/item_app_commands.h"
 #include "app/popup_app_commands.h"
 #include "app/row_app_commands.h"
 #include "app/state_app_commands.h"
@@ -161,14 +162,29 @@ int Journal(AppCall& call) {
 constexpr AppWord appWords[] = {
     {"datactrl create", "NAME ?FILE?", "adds a data control on the database FILE, or on one in memory", 1, 2,
      CreateDataCtrl},
+    {"datactrl changes", "NAME", "lists what people have changed in windows and can undo, the first change first",
+     1, 1, AppChanges},
+    {"datactrl follow", "NAME", "looks whether others have changed the database: windows show it then", 1, 1,
+     AppFollow},
     {"datactrl names", "", "lists the data controls", 0, 0, DataCtrlNames},
+    {"datactrl open", "NAME FILE",
+     "adds a data control on the database FILE, which is only read: nothing is written to it or beside it", 2, 2,
+     AppOpenToRead},
+    {"datactrl refresh", "NAME", "lets windows read the database anew", 1, 1, AppRefresh},
+    {"datactrl undo", "NAME", "undoes the last change that people have made in windows", 1, 1, AppUndo},
+    {"datactrl write", "NAME ?BOOLEAN?", "tells whether the database may be changed, or says so", 1, 2, AppWrite},
     {"draw", "WINDOW", "draws what a window shows, as a table", 1, 1, AnswerDraw},
+    {"flat", "WINDOW ?BOOLEAN?", "tells whether the items of a window's lists stand at the top, or lets them", 1, 2,
+     AnswerFlat},
     {"glance", "NAME STATEMENT ?VALUE ...?", "runs one SQL statement, but no longer than a tenth of a second",
      2, anyNumber, Glance},
     {"help", "", "lists these words", 0, 0, Help},
     {"inputfield create", "DATACTRL NAME TYPE",
      "adds a user input field: bool, unsigned, integer, double or string", 3, 3, AppCreateInputField},
     {"inputfield delete", "DATACTRL NAME", "deletes a user input field", 2, 2, AppDeleteInputField},
+    {"item", "WINDOW INDEX ?BYTES?",
+     "tells all about an item: a dictionary, with one for each column, of their values at most so many bytes", 2,
+     3, AnswerItem},
     {"journal", "", "lists the host calls recorded", 0, 0, Journal},
     {"journal clear", "", "empties the record of host calls", 0, 0, JournalClear},
     {"journal off", "", "stops recording host calls", 0, 0, JournalOff},
@@ -176,8 +192,15 @@ constexpr AppWord appWords[] = {
     {"popup", "WINDOW ?COLUMN INDEX ...?",
      "lists what a right click on these rows shows, or on the selected ones: a dictionary for each entry", 1,
      anyNumber, AnswerPopup},
+    {"references", "WINDOW INDEX", "lists the items that an item refers to, a dictionary for each", 2, 2,
+     AnswerReferences},
+    {"referring", "WINDOW INDEX ?REFERENCE ?MOST??",
+     "counts the items that refer to an item, by reference; or lists those of one reference", 2, 4,
+     AnswerReferring},
     {"refuse", "?OPERATION? ?TEXT?", "lets the next call of OPERATION fail with TEXT; or lists what waits", 0,
      2, Refuse},
+    {"reveal", "WINDOW SOURCE ROW", "opens what lies above an item and scrolls to it: whether it is shown", 3, 3,
+     AnswerReveal},
     {"rows", "WINDOW ?FIRST COUNT?", "lists what a window shows, a dictionary for each row", 1, 3,
      AnswerRows},
     {"sql", "NAME STATEMENT ?VALUE ...?", "runs one SQL statement, the values bound to its ?s", 2, anyNumber,

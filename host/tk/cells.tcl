@@ -38,14 +38,15 @@ proc ::znbrowser::styleFor {n inTree kinds} {
 proc ::znbrowser::elementsFor {n kind place} {
     upvar #0 ::znbrowser::window$n w
     # A button is a rectangle around a text.
-    set types [dict get {text text icon image disabled image check image button {rect text} image {}} $kind]
+    set types [dict get {text text null text icon image disabled image check image button {rect text} image {}} $kind]
     set names [lrange [list $kind$place $kind${place}t] 0 [llength $types]-1]
     foreach name $names type $types {
         if {$name in $w(elements)} continue
         lappend w(elements) $name
         $w(tree) element create $name $type
         if {$type eq "text"} {
-            $w(tree) element configure $name -lines 1 -wrap none -fill [colour text] -font znBrowser00
+            set fill [colour [expr {$kind eq "null" ? "faint" : "text"}]]
+            $w(tree) element configure $name -lines 1 -wrap none -fill $fill -font znBrowser00
         } elseif {$type eq "rect"} {
             $w(tree) element configure $name -fill [colour button] -outline [colour buttonLine] \
                 -outlinewidth 1 -rx 3
@@ -65,7 +66,7 @@ proc ::znbrowser::layoutStyle {n style parts} {
                 $w(tree) style layout $style $part -union ${part}t -ipadx 8 -ipady 1 -padx 4
             }
             {^button\d+t$} {$w(tree) style layout $style $part -expand ns -squeeze x}
-            {^text} {$w(tree) style layout $style $part -padx 4 -expand ns -squeeze x}
+            {^(text|null)} {$w(tree) style layout $style $part -padx 4 -expand ns -squeeze x}
             default {$w(tree) style layout $style $part -padx 3 -expand ns}
         }
     }
@@ -124,7 +125,8 @@ proc ::znbrowser::drawContainer {n slot number inTree row} {
     lassign $row index parent depth kind text expanded selected hasRows bold italic icon
     set item $w(item,$slot)
     set column $w(column,$number)
-    setStyle $n $slot $number [styleFor $n 1 {image text}]
+    setStyle $n $slot $number [styleFor $n 1 [expr {$icon eq "note" ? {image text button} : {image text}}]]
+    if {$icon eq "note"} {$w(tree) item element configure $item $column button2t -text "Retry"}
     $w(tree) item element configure $item $column indent -width [indentOf $depth]
     $w(tree) item element configure $item $column icon -image [imageNamed $icon]
     $w(tree) item element configure $item $column text1 -text [oneLine $text] -fill {} \
@@ -137,6 +139,7 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
     set item $w(item,$slot)
     set column $w(column,$number)
     set italic [dict get [lindex $w(columns) $number] italic]
+    if {!$w(bare)} {set elements [lsearch -all -inline -not -exact -index 0 $elements null]}
     setStyle $n $slot $number [styleFor $n $inTree [lmap element $elements {lindex $element 0}]]
     if {$inTree} {$w(tree) item element configure $item $column indent -width [indentOf $depth]}
     set place 0
@@ -144,8 +147,12 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
         lassign $element kind text colour
         switch $kind {
             text {
-                $w(tree) item element configure $item $column text$place -text [oneLine $text] \
+                $w(tree) item element configure $item $column text$place \
+                    -text [fitNumber $n $number $inTree [oneLine $text]] \
                     -font [fontOf 0 $italic] -fill [colourOr $colour ""]
+            }
+            null {
+                $w(tree) item element configure $item $column null$place -text NULL -font [fontOf 0 1]
             }
             button {
                 $w(tree) item element configure $item $column button${place}t -text [oneLine $text]
