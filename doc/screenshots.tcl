@@ -20,12 +20,10 @@ proc rowOf {window text} {
 }
 
 # Until what follows by itself has been drawn.
-proc waitAWhile {} {
-    for {set time 0} {$time < 5} {incr time} {
-        after 100 {set ::waited 1}
-        vwait ::waited
-        update
-    }
+proc wait {milliseconds} {
+    after $milliseconds {set waited 1}
+    vwait waited
+    update
 }
 
 # Takes a picture of the current window at that size, once all of it is drawn.
@@ -33,15 +31,9 @@ proc takePicture {size file} {
     set top [winfo toplevel [zn window frame]]
     wm geometry $top $size+0+0
     raise $top
-    waitAWhile
+    wait 500
     exec import -window [winfo id $top] -strip $file
     zn window post false
-}
-
-proc wait {milliseconds} {
-    after $milliseconds {set waited 1}
-    vwait waited
-    update
 }
 
 source [file join $examples browser.tcl]
@@ -51,7 +43,7 @@ takePicture 1080x640 [file join $images browser.png]
 zn app datactrl create shop [file join $examples models shop.db]
 znbrowser::any::browse shop
 foreach text {Bicycles "City bicycles" Ciclofficina 2024-103 "order line"} {zn OnTkTreeRequestExpand shop [rowOf shop $text]}
-waitAWhile
+wait 500
 znbrowser::goTo [znbrowser::number shop] select [znbrowser::host position [znbrowser::number shop] [rowOf shop 2024-103]]
 znbrowser::toggleDetails [znbrowser::number shop]
 zn window current shop

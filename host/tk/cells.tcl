@@ -93,15 +93,24 @@ proc ::znbrowser::drawRow {n slot row} {
     $w(tree) item style set $w(item,$slot) $w(filler) [styleFor $n 0 {}]
     lassign $row index parent depth kind
     set cells [lindex $row 11]
+    spanRow $n $slot [expr {[lindex $row 10] eq "note"}]
     foreach number $w(shown) {
         set inTree [dict get [lindex $w(columns) $number] tree]
         if {$kind ne "item"} {
-            drawContainer $n $slot $number $inTree $row
+            drawContainer $n $slot $number [expr {$inTree || ($w(flat) && $number == [lindex $w(shown) 0])}] $row
         } else {
             set cell [lsearch -exact -integer -inline -index 0 $cells $number]
             drawCell $n $slot $number $inTree $depth [lrange $cell 1 end]
         }
     }
+}
+
+# A row that says why something cannot be read has the whole width for it.
+proc ::znbrowser::spanRow {n slot spans} {
+    upvar #0 ::znbrowser::window$n w
+    if {$spans == [info exists w(span,$slot)]} return
+    $w(tree) item span $w(item,$slot) $w(column,[lindex $w(shown) 0]) [expr {$spans ? [llength $w(shown)] + 1 : 1}]
+    if {$spans} {set w(span,$slot) 1} else {unset w(span,$slot)}
 }
 
 proc ::znbrowser::drawState {n slot row odd} {
@@ -127,8 +136,15 @@ proc ::znbrowser::drawContainer {n slot number inTree row} {
     lassign $row index parent depth kind text expanded selected hasRows bold italic icon
     set item $w(item,$slot)
     set column $w(column,$number)
-    setStyle $n $slot $number [styleFor $n 1 [expr {$icon eq "note" ? {image text button} : {image text}}]]
-    if {$icon eq "note"} {$w(tree) item element configure $item $column button2t -text "Retry"}
+    if {$icon eq "note"} {
+        setStyle $n $slot $number [styleFor $n 1 {image button text}]
+        $w(tree) item element configure $item $column button1t -text "Retry"
+        $w(tree) item element configure $item $column text2 -text "  [oneLine $text]" -fill [colour problem]
+        $w(tree) item element configure $item $column icon -image [imageNamed $icon]
+        $w(tree) item element configure $item $column indent -width [indentOf $depth]
+        return
+    }
+    setStyle $n $slot $number [styleFor $n 1 {image text}]
     $w(tree) item element configure $item $column indent -width [indentOf $depth]
     $w(tree) item element configure $item $column icon -image [imageNamed $icon]
     $w(tree) item element configure $item $column text1 -text [oneLine $text] -fill {} \
@@ -198,6 +214,7 @@ proc ::znbrowser::forgetSlots {n} {
     upvar #0 ::znbrowser::window$n w
     foreach slot [array names w drawn,*] {unset w($slot)}
     foreach style [array names w style,*] {unset w($style)}
+    foreach slot [array names w span,*] {spanRow $n [lindex [split $slot ,] 1] 0}
     foreach key [array names w item,*] {$w(tree) item configure $w($key) -visible no}
 }
 
@@ -205,7 +222,7 @@ proc ::znbrowser::forgetSlots {n} {
 proc ::znbrowser::elementNamed {name tkIndex column place} {
     set n [number $name]
     upvar #0 ::znbrowser::window$n w
-    if {$place eq "expander"} {return expander}
+    if {![string is integer $place]} {return $place}
     foreach cell [lindex [lindex $w(page) [slotOf $n $tkIndex]] 11] {
         if {[dict get [lindex $w(columns) [lindex $cell 0]] name] eq $column} {
             return [lindex $cell [expr {$place + 1}] 0]$place

@@ -146,8 +146,10 @@ proc ::znbrowser::any::SayAccess {n} {
     $w(path).status.access configure -text [expr {$may ? "changes allowed" : "only read"}]
 }
 
+# Undoes a change of the database; where there is none, a step of the collector, as in any window.
 proc ::znbrowser::any::Undo {n} {
     upvar #0 ::znbrowser::window$n w
+    if {[Do app datactrl changes [ControlOf $w(name)]] eq ""} {return [::znbrowser::undoStep $n]}
     Try $n Do app datactrl undo [ControlOf $w(name)]
 }
 

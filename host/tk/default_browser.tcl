@@ -199,7 +199,7 @@ proc ::znbrowser::any::CommonType {one other} {
 proc ::znbrowser::any::MakeColumn {name type tables} {
     Do view property create $name
     Do view property type [expr {$type eq "" ? "string" : $type}]
-    foreach table $tables {Do view property connect $table $name}
+    foreach table $tables {catch {Do view property connect $table $name}} ;# not every view shows every table
     Do view column create $name
     lassign [dict get {bool {50 center} integer {60 right} double {80 right} string {100 left} {} {80 left}} $type] \
         width justify

@@ -1,7 +1,7 @@
-# Numbers in columns: a number is never cut off, as what is left of it would be another number.
+# Columns and what is in them: a number is never cut off, as what is left of it would be another number.
 #
 #   width,COLUMN  how wide a column is, by its number
-#   grown         how wide columns have become for their numbers, by their names
+#   grown         how wide columns have become for what is in them, by their names
 #   sized         the columns whose width the user has chosen
 
 namespace eval ::znbrowser {
@@ -32,27 +32,37 @@ proc ::znbrowser::fitNumber {n number inTree text} {
     return "###"
 }
 
-# Before a page is drawn: columns become as wide as the numbers in them, unless the user has said how wide they are.
-proc ::znbrowser::growNumbers {n} {
+# Before a page is drawn: columns become as wide as the numbers in them, and once as wide as the texts that are seen
+# first, unless the user has said how wide they are.
+proc ::znbrowser::growColumns {n} {
     upvar #0 ::znbrowser::window$n w
     foreach number $w(shown) {
-        if {![holdsNumbers $n $number]} continue
-        set name [dict get [lindex $w(columns) $number] name]
-        if {$name in $w(sized)} continue
-        set longest ""
-        foreach row $w(page) {
-            set cell [lsearch -exact -integer -inline -index 0 [lindex $row 11] $number]
-            lassign [lindex $cell 1] kind text
-            if {$kind eq "text" && [string length $text] > [string length $longest]} {set longest $text}
-        }
+        set column [lindex $w(columns) $number]
+        set name [dict get $column name]
+        set numbers [holdsNumbers $n $number]
+        if {$name in $w(sized) || [dict get $column tree] || (!$numbers && [dict exists $w(grown) $name])} continue
+        set longest [longestText $n $number]
+        if {$longest eq ""} continue
         set wanted [expr {[font measure znBrowser00 $longest] + $::znbrowser::besideNumber + 2}]
-        set wanted [expr {min($wanted, $::znbrowser::widestNumber)}]
-        if {$wanted <= $w(width,$number)} continue
+        set wanted [expr {max($w(width,$number), min($wanted, $::znbrowser::widestNumber))}]
+        if {[dict exists $w(grown) $name] && $wanted == $w(width,$number)} continue
         dict set w(grown) $name $wanted
         set w(width,$number) $wanted
         $w(tree) column configure $w(column,$number) -width $wanted
         forgetSlots $n
     }
+}
+
+# The longest text of a column in the page.
+proc ::znbrowser::longestText {n number} {
+    upvar #0 ::znbrowser::window$n w
+    set longest ""
+    foreach row $w(page) {
+        set cell [lsearch -exact -integer -inline -index 0 [lindex $row 11] $number]
+        lassign [lindex $cell 1] kind text
+        if {$kind eq "text" && [string length $text] > [string length $longest]} {set longest [string range $text 0 99]}
+    }
+    return $longest
 }
 
 # How wide a column is to be: as the view says, or wider where its numbers need it.

@@ -130,7 +130,7 @@ proc ::znbrowser::drawPage {n} {
     if {$w(shown) eq ""} return
     set w(page) [host page $n $w(first) [expr {$w(full) + 1}]]
     if {![isOpen $n]} return ;# a script that computed a value closed it
-    if {$w(bare)} {growNumbers $n}
+    if {$w(bare)} {growColumns $n}
     set slot 0
     foreach row $w(page) {
         drawRow $n $slot $row

@@ -36,7 +36,8 @@ proc ::znbrowser::any::FollowTables {window control tables sources} {
     set w(choose) [list ::znbrowser::any::SetMode $n]
     set w(offered) {}
     lappend w(watchers) ::znbrowser::any::Follow
-    Follow $n
+    ::znbrowser::flush $n
+    if {[::znbrowser::isOpen $n]} {Follow $n}
 }
 
 # The data control of a browser's window.
@@ -124,9 +125,10 @@ proc ::znbrowser::any::WantedColumns {window tables} {
 # that is called "Name" already.
 proc ::znbrowser::any::OrderedColumns {window table} {
     variable followed
+    set flat [set ::znbrowser::window[::znbrowser::number $window](flat)]
     set own {}
     foreach {column type isKey isNamed} [dict get $followed($window,tables) $table] {
-        if {!$isNamed || ![string equal -nocase $column Name]} {lappend own $column}
+        if {$flat || !$isNamed || ![string equal -nocase $column Name]} {lappend own $column}
     }
     set ordered [lsearch -all -inline -exact -not [Remembered $window $table order] ""]
     set ordered [lmap column $ordered {if {$column ni $own} continue; set column}]

@@ -61,7 +61,7 @@ proc ::znbrowser::columnAt {name column} {
 }
 
 # The box of a row, of a cell of it or of an element in the cell, in the pixels of the tree: x1 y1 x2 y2.
-# Elements are counted from 0; "expander" is what opens and closes a row.
+# Elements are counted from 0; "expander" is what opens and closes a row, "button1" the Retry of one that cannot be read.
 proc ::znbrowser::boxOf {name tkIndex {column ""} {element ""}} {
     set item [itemAt $name $tkIndex]
     if {$item eq ""} {return ""}
