@@ -50,7 +50,7 @@ int AppWrite(AppCall& call) {
         if (!control->SetMayChange(may != 0, error))
             return call.Fail("\"" + control->Name() + "\": " + error, "WRITE", control->Name());
     }
-    return call.Answer(Tcl_NewBooleanObj(control->MayChange()));
+    return call.Answer(control->MayChange() ? "true" : "false");
 }
 
 namespace {
@@ -62,7 +62,7 @@ int Follow(AppCall& call, bool anyway) {
     std::string error;
     const bool read = control->FollowOthers(changed, error);
     if (anyway && !changed) control->ItemsChanged(); // what could not be read is tried again
-    if (read) return call.Answer(Tcl_NewBooleanObj(changed));
+    if (read) return call.Answer(changed ? "true" : "false");
     return call.Fail("\"" + control->Name() + "\" cannot be read: " + error, "READ", control->Name());
 }
 

@@ -239,7 +239,7 @@ int AnswerReveal(AppCall& call) {
     if (Tcl_GetWideIntFromObj(nullptr, call.Word(2), &row) != TCL_OK)
         return call.Fail("ROW must be a whole number, but is \"" + call.Text(2) + "\"", "NUMBER", call.Text(2));
     const std::vector<RowStep> path = PathToItem(window->Rows(), call.Text(1), row);
-    return call.Answer(Tcl_NewBooleanObj(!path.empty() && window->Rows().Reveal(path)));
+    return call.Answer(!path.empty() && window->Rows().Reveal(path) ? "true" : "false");
 }
 
 } // namespace znhost

@@ -92,7 +92,7 @@ int AnswerFlat(AppCall& call) {
         if (Tcl_GetBooleanFromObj(call.App().Interp(), call.Word(1), &flat) != TCL_OK) return TCL_ERROR;
         window->Rows().SetFlat(flat != 0);
     }
-    return call.Answer(Tcl_NewBooleanObj(window->Rows().IsFlat()));
+    return call.Answer(window->Rows().IsFlat() ? "true" : "false");
 }
 
 int AnswerDraw(AppCall& call) {

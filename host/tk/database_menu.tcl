@@ -54,7 +54,7 @@ proc ::znbrowser::any::FillDatabaseMenu {n menu} {
     $menu add command -label "Details" -accelerator F4 -command [list ::znbrowser::toggleDetails $n]
     $menu add command -label "Read again" -accelerator F5 -command [list ::znbrowser::any::Refresh $n]
     $menu add separator
-    set mayChange($w(name)) [Do app datactrl write $control]
+    set mayChange($w(name)) [string is true [Do app datactrl write $control]]
     $menu add checkbutton -label "Allow changes" -variable ::znbrowser::any::mayChange($w(name)) \
         -command [list ::znbrowser::any::AllowChanges $n]
     set changes [Do app datactrl changes $control]

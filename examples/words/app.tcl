@@ -1,0 +1,37 @@
+znbrowsermanager app datactrl create shop
+znbrowsermanager app datactrl names
+znbrowsermanager app sql bicycle {SELECT name FROM part WHERE grams < ?} 500
+znbrowsermanager app glance bicycle {SELECT count(*) FROM part}
+znbrowsermanager app rows main
+znbrowsermanager window expandall
+znbrowsermanager app rows main 2 1
+znbrowsermanager app draw main
+znbrowsermanager app popup main
+# An item, what it refers to, what refers to it, and the way to another one.
+znbrowsermanager app item main 2 100
+znbrowsermanager app references main 2
+znbrowsermanager app referring main 2
+znbrowsermanager app reveal main part 3
+znbrowsermanager app flat main
+# Another database file, which is only read; and one that may be changed.
+znbrowsermanager app datactrl open old nosuch.db
+znbrowsermanager app datactrl write bicycle
+znbrowsermanager app datactrl changes bicycle
+znbrowsermanager app datactrl undo bicycle
+znbrowsermanager app datactrl follow bicycle
+znbrowsermanager app datactrl refresh bicycle
+# What the host was asked, and a call that is refused.
+znbrowsermanager app journal on
+znbrowsermanager view names
+znbrowsermanager app journal
+znbrowsermanager app journal clear
+znbrowsermanager app journal off
+znbrowsermanager app refuse znIBrowser::CreateView "no more views"
+znbrowsermanager app refuse
+znbrowsermanager view create another
+znbrowsermanager app inputfield create bicycle limit integer
+znbrowsermanager app inputfield delete bicycle limit
+znbrowsermanager app state create bicycle morning
+znbrowsermanager app state entities bicycle morning
+znbrowsermanager app state delete bicycle morning
+znbrowsermanager app help
