@@ -87,7 +87,8 @@ bool Session::AddDatabases(const std::vector<DatabaseOption>& databases) {
         std::string file;
         std::string error;
         const std::string name = FromNative(database.name);
-        if (!znhost::FileOfNative(database.file, file, error) || !host_->CreateDataCtrl(name, file, error, readsOnly_)) {
+        if (!znhost::FileOfNative(database.file, file, error) ||
+            !host_->CreateDataCtrl(name, file, error, readsOnly_)) {
             PrintLine(TCL_STDERR,
                       "znbrowsersh: --db " + FromNative(database.name + "=" + database.file) + ": " + error);
             return false;

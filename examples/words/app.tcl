@@ -16,6 +16,11 @@ znbrowsermanager app flat main
 # Another database file, which is only read; and one that may be changed.
 znbrowsermanager app datactrl open old nosuch.db
 znbrowsermanager app datactrl write bicycle
+znbrowsermanager view property create spare
+znbrowsermanager view property type bool
+znbrowsermanager view property connect part spare
+znbrowsermanager view column create spare
+znbrowsermanager OnTkTreeCheckBoxClick main spare "" 3 false
 znbrowsermanager app datactrl changes bicycle
 znbrowsermanager app datactrl undo bicycle
 znbrowsermanager app datactrl follow bicycle

@@ -34,8 +34,8 @@ struct AskedItem {
     BaseSource* base = nullptr; ///< of the table in which the row lies
 };
 
-/// The item that the first two arguments name. Nothing, and the error stands in the interpreter, when there is
-/// none.
+/// The item that the first two arguments name. Nothing, and the error stands in the interpreter, when there
+/// is none.
 std::optional<AskedItem> ItemOf(AppCall& call) {
     AskedItem asked;
     asked.window = WindowOf(call);
@@ -83,10 +83,9 @@ Tcl_Obj* NewColumn(const TableColumn& column, const Statement& statement, int pl
     const bool isBlob = type == Statement::Type::Blob;
     const std::string_view bytes = statement.Stored(place);
     const std::size_t size = bytes.size();
-    Tcl_Obj* const value =
-        isBlob ? Tcl_NewByteArrayObj(reinterpret_cast<const unsigned char*>(bytes.data()),
-                                     static_cast<int>(std::min(size, most)))
-               : nullptr;
+    Tcl_Obj* const value = isBlob ? Tcl_NewByteArrayObj(reinterpret_cast<const unsigned char*>(bytes.data()),
+                                                        static_cast<int>(std::min(size, most)))
+                                  : nullptr;
     const std::string shown = isBlob ? DescribeBlob(bytes) : statement.TextUpTo(place, most);
     return NewDict({{"column", NewText(column.name)},
                     {"declared", NewText(column.declaredType)},
@@ -101,9 +100,8 @@ Tcl_Obj* NewColumn(const TableColumn& column, const Statement& statement, int pl
 
 Tcl_Obj* NewReference(const DataReference& reference, const std::vector<std::string>& columns,
                       const std::string& table) {
-    return NewDict({{"reference", NewText(reference.Name())},
-                    {"columns", NewList(columns)},
-                    {"table", NewText(table)}});
+    return NewDict(
+        {{"reference", NewText(reference.Name())}, {"columns", NewList(columns)}, {"table", NewText(table)}});
 }
 
 /// Calls `take` for each reference of the item's table, in either direction, with the link along which the
@@ -118,7 +116,8 @@ void ForEachLink(const AskedItem& item, bool outwards, Take take) {
         if (!SameName(outwards ? holder : target, item.base->Name())) continue;
         SimpleSource* const other = control.FindSimple(outwards ? target : holder);
         if (!other) continue;
-        const RowLink link = outwards ? RowLink{other, item.base, reference} : RowLink{item.base, other, reference};
+        const RowLink link =
+            outwards ? RowLink{other, item.base, reference} : RowLink{item.base, other, reference};
         take(*reference, *other, link);
     }
 }
@@ -237,7 +236,8 @@ int AnswerReveal(AppCall& call) {
     Tcl_WideInt row = 0;
     if (!window) return TCL_ERROR;
     if (Tcl_GetWideIntFromObj(nullptr, call.Word(2), &row) != TCL_OK)
-        return call.Fail("ROW must be a whole number, but is \"" + call.Text(2) + "\"", "NUMBER", call.Text(2));
+        return call.Fail("ROW must be a whole number, but is \"" + call.Text(2) + "\"", "NUMBER",
+                         call.Text(2));
     const std::vector<RowStep> path = PathToItem(window->Rows(), call.Text(1), row);
     return call.Answer(!path.empty() && window->Rows().Reveal(path) ? "true" : "false");
 }

@@ -24,8 +24,9 @@ struct CellElement {
     enum Kind { Text, Icon, DisabledIcon, CheckBox, Button, Null };
 
     Kind kind = Text;
-    std::string name;   ///< of the style's element; "" where the column has no style
-    std::string text;   ///< what is written; of an icon: its file; of a check box: "true" or "false"; of NULL: nothing
+    std::string name; ///< of the style's element; "" where the column has no style
+    std::string
+        text; ///< what is written; of an icon: its file; of a check box: "true" or "false"; of NULL: nothing
     std::string colour; ///< "" for the usual one
 };
 

@@ -68,8 +68,7 @@ bool RowModel::ListBelow(RowNode& node, std::vector<Listed>& all) {
     if (!node.block && node.content.IsNote()) return true;
     const Row row = RowTree::RowOf(node);
     const ReadTrouble::Watch whole(Services().Trouble()); // the filter is made with what stands below
-    for (RowContent& content :
-         node.block ? plan_.Below(row.Content(), row.Number()) : ContentsOf(node)) {
+    for (RowContent& content : node.block ? plan_.Below(row.Content(), row.Number()) : ContentsOf(node)) {
         Listed listed{std::move(content), {}, {}};
         if (listed.content.kind == RowKind::Item) listed.rows = plan_.List(listed.content);
         if (stopped_) return false;

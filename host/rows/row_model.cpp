@@ -453,7 +453,8 @@ bool RowModel::IsWaiting(const RowContent& container) const {
     return slow != slow_.end() && !slow->second;
 }
 
-/// "(12)", or where rows are hidden "(7 of 12)"; "(…)" as long as it is not known, nothing where it cannot be.
+/// "(12)", or where rows are hidden "(7 of 12)"; "(…)" as long as it is not known, nothing where it cannot
+/// be.
 std::string RowModel::CountText(const Row& row, std::optional<std::int64_t> count) {
     if (!count) return IsWaiting(row.Content()) ? " (…)" : "";
     const RowContent& container = row.Content();

@@ -9,8 +9,8 @@
 
 namespace znhost {
 
-/// The contents and rows on the way to that item, for `RowModel::Reveal`: to where it stands by itself or below
-/// items of its own kind, else below others. Empty when the window has no such place.
+/// The contents and rows on the way to that item, for `RowModel::Reveal`: to where it stands by itself or
+/// below items of its own kind, else below others. Empty when the window has no such place.
 std::vector<RowStep> PathToItem(RowModel& rows, const std::string& source, std::int64_t row);
 
 } // namespace znhost

@@ -28,8 +28,8 @@ class Browser;
 /// What has gone is not listed any more, but its object stays, and is the one listed when it comes back.
 class DataCtrl final : public znIBrowserDataCtrl, public HostObject {
 public:
-    /// Opens the database `file`, made when missing unless it is only to be read, or one in memory when `file`
-    /// is "". Null, with the reason in `error`, when that cannot be done.
+    /// Opens the database `file`, made when missing unless it is only to be read, or one in memory when
+    /// `file` is "". Null, with the reason in `error`, when that cannot be done.
     static std::shared_ptr<DataCtrl> Open(Browser& model, const std::string& name, const std::string& file,
                                           Database::Access access, std::string& error);
     DataCtrl(Browser& model, std::string name, std::unique_ptr<Database> database);
@@ -138,7 +138,7 @@ private:
     RowCopies copies_;
     ChangeLog changes_;
     Database::Stamp followed_; // when it was last looked whether others changed something
-    Database::Stamp stamp_; // of the tables when the sources were last brought up to date
+    Database::Stamp stamp_;    // of the tables when the sources were last brought up to date
 
     // All that there ever was, and what there is now.
     std::unordered_map<std::string, std::shared_ptr<BaseSource>> knownBases_;

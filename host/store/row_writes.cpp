@@ -86,8 +86,7 @@ bool SimpleSource::WriteBoolean(znIBrowserDataProperty& property, std::int64_t r
     const std::string update = UpdateOf(*part->table, name + " = ?");
     std::vector<Value> undo;
     Transaction transaction(control_.Db());
-    if (!transaction.Begin(error) ||
-        !ReadOwnRow(control_.Db(), *part->table, name, place.row, undo, error)) {
+    if (!transaction.Begin(error) || !ReadOwnRow(control_.Db(), *part->table, name, place.row, undo, error)) {
         return FailWith(error);
     }
     {
@@ -98,8 +97,9 @@ bool SimpleSource::WriteBoolean(znIBrowserDataProperty& property, std::int64_t r
     }
     if (!transaction.Commit(error)) return FailWith(error);
     undo.insert(undo.end(), {place.row, std::int64_t{value}});
-    control_.Changes().Add({part->table->name + ": " + part->table->columns[*column].name + " = " + (value ? "1" : "0"),
-                            {{update + " AND " + name + " IS ?", std::move(undo)}}});
+    control_.Changes().Add(
+        {part->table->name + ": " + part->table->columns[*column].name + " = " + (value ? "1" : "0"),
+         {{update + " AND " + name + " IS ?", std::move(undo)}}});
     control_.ItemsChanged();
     return true;
 }

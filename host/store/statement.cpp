@@ -103,7 +103,8 @@ Statement::Type Statement::TypeOf(int column) const {
 std::string_view Statement::Stored(int column) const {
     if (TypeOf(column) != Type::Blob) return Bytes(column);
     const auto* const bytes = static_cast<const char*>(sqlite3_column_blob(Handle(), column));
-    return bytes ? std::string_view(bytes, static_cast<std::size_t>(sqlite3_column_bytes(Handle(), column))) : "";
+    return bytes ? std::string_view(bytes, static_cast<std::size_t>(sqlite3_column_bytes(Handle(), column)))
+                 : "";
 }
 
 std::string Statement::Shown(int column, std::size_t most) const {
