@@ -2,6 +2,7 @@
 #include "app/app_commands.h"
 
 #include "app/data_app_commands.h"
+#include "app/database_app_commands.h"
 #include "app/item_app_commands.h"
 #include "app/popup_app_commands.h"
 #include "app/row_app_commands.h"
@@ -183,6 +184,8 @@ constexpr AppWord appWords[] = {
     {"glance", "DATACTRL STATEMENT ?VALUE ...?", "VALUE ...",
      "runs one SQL statement, but no longer than a tenth of a second", 2, anyNumber, Glance},
     {"help", "", "TEXT", "lists these words", 0, 0, Help},
+    {"inputfield choices", "DATACTRL NAME ?VALUES?", "VALUE ...",
+     "sets or reads what users choose from; an empty list lets them type", 2, 3, AppInputFieldChoices},
     {"inputfield create", "DATACTRL NAME TYPE", "NAME",
      "adds a user input field: bool, unsigned, integer, double or string", 3, 3, AppCreateInputField},
     {"inputfield delete", "DATACTRL NAME", "", "deletes a user input field", 2, 2, AppDeleteInputField},

@@ -1,4 +1,4 @@
-// The host's own words about data: "znbrowsermanager app datactrl ..." and "app inputfield ...".
+// The host's own words about data: "znbrowsermanager app inputfield ...".
 #ifndef ZN_HOST_DATA_APP_COMMANDS_H
 #define ZN_HOST_DATA_APP_COMMANDS_H
 
@@ -10,14 +10,9 @@ class AppCall;
 int AppCreateInputField(AppCall& call);
 /// DATACTRL NAME
 int AppDeleteInputField(AppCall& call);
-
-// Of a database as a whole.
-int AppOpenToRead(AppCall& call);
-int AppWrite(AppCall& call);
-int AppFollow(AppCall& call);
-int AppRefresh(AppCall& call);
-int AppChanges(AppCall& call);
-int AppUndo(AppCall& call);
+/// DATACTRL NAME ?VALUES?: sets what users choose from, each a value of the field's type; none: any value
+/// again. Answers it.
+int AppInputFieldChoices(AppCall& call);
 
 } // namespace znhost
 
