@@ -40,7 +40,7 @@ source [file join $examples browser.tcl]
 foreach text {{Ball bearing} {Shim}} {zn OnTkTreeRequestSelect gearbox [rowOf gearbox $text]}
 takePicture 1080x640 [file join $images browser.png]
 
-zn app datactrl create shop [file join $examples models shop.db]
+zn app datactrl open shop [file join $examples models shop.db]
 znbrowser::any::browse shop
 foreach text {Bicycles "City bicycles" Ciclofficina 2024-103 "order line"} {zn OnTkTreeRequestExpand shop [rowOf shop $text]}
 wait 500

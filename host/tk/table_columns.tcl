@@ -95,7 +95,10 @@ proc ::znbrowser::any::Follow {n} {
     if {$looked ne ""} {set followed($window,looked) $looked}
     if {$followed($window,mode) eq "all"} {set looked [dict keys $followed($window,tables)]}
     if {$looked eq ""} {set looked $followed($window,looked)}
-    if {[catch {ShowColumns $n $window [WantedColumns $window $looked]} message]} {::znbrowser::say $n $message}
+    if {[catch {ShowColumns $n $window [WantedColumns $window $looked]} message]} {return [::znbrowser::say $n $message]}
+    if {[llength $w(offered)] >= $::znbrowser::any::mostColumns} {
+        ::znbrowser::say $n "Only the first $::znbrowser::any::mostColumns columns are shown"
+    }
 }
 
 # The columns to be shown for those tables; all that there could be are offered for choice.
