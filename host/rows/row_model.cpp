@@ -390,7 +390,8 @@ RowLook RowModel::LookOf(const Row& row) {
         const FolderList* const list =
             container.link.reference ? nullptr : container.folder->FindList(source);
         look.text = list && !list->caption.empty() ? list->caption : TextOf(source->GetCaption());
-        if (look.text.empty()) look.text = NameOf(log_, source);
+        look.source = NameOf(log_, source);
+        if (look.text.empty()) look.text = look.source;
         if (IsOneOfSeveral(container)) look.text += " · " + ColumnOf(*container.link.reference);
     }
     if (!settings.countByNumber && !settings.countByImage) return look;

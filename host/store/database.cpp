@@ -104,8 +104,14 @@ bool Database::Reopen(Access access, std::string& error) {
     idle_.clear();
     NoteRollback(); // nothing that was found with the old connection holds for the new one
     disregarded_ = 0;
-    if (Connect(error)) return true;
+    if (Connect(error)) {
+        // SQLite takes a file that may not be written for one that is only read.
+        if (access == Access::Read || sqlite3_db_readonly(Handle(), "main") == 0) return true;
+        error = "the file may not be written";
+    }
     access_ = before;
+    idleBySql_.clear();
+    idle_.clear();
     std::string ignored;
     Connect(ignored);
     return false;

@@ -31,6 +31,7 @@ proc ::znbrowser::any::Posting {window column rows} {
     variable clicked
     set clicked($window) {}
     set enabled {same 0 refers 0 own 0 grid 0}
+    if {[TableOfCurrent [::znbrowser::number $window]] ne ""} {dict set enabled grid 1}
     if {[llength $rows] == 1 && ![catch {ReadClicked $window $column [lindex $rows 0]} found]} {
         set clicked($window) $found
         lassign $found table condition field text
@@ -102,9 +103,7 @@ proc ::znbrowser::any::ShowRow {window args} {
     ShowRows $window $table [list $table $condition]
 }
 
-proc ::znbrowser::any::ShowGrid {window args} {
-    OpenGrid [ControlOf $window] [lindex [set ::znbrowser::any::clicked($window)] 0]
-}
+proc ::znbrowser::any::ShowGrid {window args} {GridOfCurrent [::znbrowser::number $window]}
 
 # Opens a window on rows of tables: each table with a condition. What is current stays so.
 proc ::znbrowser::any::ShowRows {window title conditions} {

@@ -71,7 +71,7 @@ proc ::znbrowser::any::LookedAt {n} {
     set counts {}
     foreach row $w(page) {
         set table [TableOf $w(name) [lindex $row 13]]
-        if {$table eq ""} continue
+        if {$table eq "" || [lindex $row 3] ne "item"} continue
         dict incr counts $table
         if {[lindex $row 0] == $w(active)} {dict incr counts $table 100000}
     }
@@ -95,7 +95,10 @@ proc ::znbrowser::any::Follow {n} {
     if {$looked ne ""} {set followed($window,looked) $looked}
     if {$followed($window,mode) eq "all"} {set looked [dict keys $followed($window,tables)]}
     if {$looked eq ""} {set looked $followed($window,looked)}
-    if {[catch {ShowColumns $n $window [WantedColumns $window $looked]} message]} {return [::znbrowser::say $n $message]}
+    set before [Do window current]
+    set failed [catch {ShowColumns $n $window [WantedColumns $window $looked]} message]
+    if {$before ne "" && [Do window current] ne $before} {catch {Do window current $before}} ;# what is current stays so
+    if {$failed} {return [::znbrowser::say $n $message]}
     if {[llength $w(offered)] >= $::znbrowser::any::mostColumns} {
         ::znbrowser::say $n "Only the first $::znbrowser::any::mostColumns columns are shown"
     }
@@ -158,13 +161,15 @@ proc ::znbrowser::any::MakeFollowed {window column} {
     dict for {source table} $followed($window,sources) {
         if {$table in $tables} {lappend tables $source}
     }
-    Do view current $window
+    Do window current $window
+    set current [Do view column current]
     if {[catch {MakeColumn $column [dict get $followed($window,types) $column] $tables}]} return
     Do view column show false
     foreach table $tables {
         set width [Remembered $window $table width,$column]
         if {$width ne ""} {Do view column width $width}
     }
+    if {$current ne ""} {Do view column current $current}
 }
 
 # The names of the view's columns, in their order.
@@ -176,7 +181,6 @@ proc ::znbrowser::any::ViewColumns {n} {
 proc ::znbrowser::any::ShowColumns {n window wanted} {
     variable followed
     if {$wanted eq $followed($window,shown)} return
-    set before [Do window current]
     Do window current $window
     set current [Do view column current]
     set known [ViewColumns $n]
@@ -196,7 +200,6 @@ proc ::znbrowser::any::ShowColumns {n window wanted} {
         }
     }
     if {$current ne ""} {catch {Do view column current $current}}
-    if {$before ne "" && $before ne $window} {catch {Do window current $before}}
     set followed($window,shown) $wanted
     set followed($window,widths) {}
 }
@@ -270,7 +273,7 @@ proc ::znbrowser::any::SortedTable {window} {
 proc ::znbrowser::any::RestoreSort {window} {
     lassign [Remembered $window [SortedTable $window] sort] column order
     if {$column eq ""} return
-    Do view current $window
+    Do window current $window
     if {$column ne "Name"} {MakeFollowed $window $column}
     if {$column ni [ViewColumns [::znbrowser::number $window]]} return
     Do view column current $column
