@@ -124,6 +124,8 @@ std::optional<ExitCode> ParseOptions(int argc, const char* const* argv, Options&
         ->disable_flag_override();
     app.add_flag("--write", options.write, "Let a browser that is opened on a database change it")
         ->disable_flag_override();
+    app.add_flag("--dark", options.dark, "Light text on dark in the windows on the display")
+        ->disable_flag_override();
     AddPage(app, options, "--reference", Reference, "Print all words of the command, as Markdown, and end");
     AddPage(app, options, "--manual", Manual, "Print the same as a manual page for man, and end");
     app.set_version_flag("--version", "znbrowsersh " ZN_BROWSER_VERSION);

@@ -58,6 +58,10 @@ bool Session::Start(const Options& options) {
     readsOnly_ = options.tk && !options.script && !options.write;
     if (!AddDatabases(options.databases)) return false;
     if (options.tk) FindDisplay();
+    if (options.dark && windows_ == Windows::OnDisplay) {
+        const bool dark = Tcl_Eval(interp_, "::znbrowser::theme dark") == TCL_OK;
+        if (!dark) PrintLine(TCL_STDERR, Tcl_GetObjResult(interp_));
+    }
     return true;
 }
 

@@ -23,6 +23,9 @@ proc ::znbrowser::openChooser {n {rootX ""} {rootY ""}} {
     upvar #0 ::znbrowser::window$n w
     set top $w(path).chooser
     if {![winfo exists $top]} {makeChooser $n $top}
+    ttk::style configure Chooser.Treeview -rowheight [rowHeight] -background [colour paper] \
+        -fieldbackground [colour paper] -foreground [colour text]
+    ttk::style map Chooser.Treeview -background [list selected [colour chosen]] -foreground [list selected [colour text]]
     fillChooser $n
     if {$rootX eq ""} {
         set button [winfo parent $w(searchField)].columns
@@ -49,7 +52,7 @@ proc ::znbrowser::makeChooser {n top} {
     ttk::entry $top.search -style Search.TEntry -textvariable ::znbrowser::window${n}(wanted) -width 30
     ttk::frame $top.choice -style Browser.TFrame
     ttk::frame $top.list -style Browser.TFrame
-    ttk::treeview $top.list.tree -show tree -selectmode browse -height 14 \
+    ttk::treeview $top.list.tree -style Chooser.Treeview -show tree -selectmode browse -height 14 \
         -yscrollcommand [list $top.list.y set]
     ttk::scrollbar $top.list.y -orient vertical -command [list $top.list.tree yview]
     pack $top.list.y -side right -fill y

@@ -41,7 +41,7 @@ proc ::znbrowser::makeColumns {n shown} {
     foreach key [array names w number,*] {unset w($key)}
     foreach number $shown {
         set w(column,$number) [$w(tree) column create -borderwidth 1 -textpadx {5 5} -textpady 5 \
-            -minwidth 24 -arrowpadx {4 6} -arrowpady {2 0} \
+            -minwidth [scaled 24] -arrowpadx {4 6} -arrowpady {2 0} \
             -arrowimage {znbrowser::image::up up znbrowser::image::down down} \
             -background [list [colour headerHot] active [colour line] pressed [colour header] {}]]
         set w(number,$w(column,$number)) $number
@@ -95,7 +95,7 @@ proc ::znbrowser::columnsResized {n} {
         set column [lindex $w(columns) $number]
         if {$width == [widthOf $n $column]} continue
         lappend w(sized) [dict get $column name]
-        columnCommand $n [dict get $column name] view column width $width
+        columnCommand $n [dict get $column name] view column width [unscaled $width]
         if {![isOpen $n]} return
     }
 }

@@ -14,6 +14,7 @@ proc ::znbrowser::any::AddDatabaseMenu {window} {
     ::znbrowser::makeMenu $button.menu -postcommand [list ::znbrowser::any::FillDatabaseMenu $n $button.menu]
     ::znbrowser::makeMenu $button.menu.recent -postcommand [list ::znbrowser::any::FillRecent $n $button.menu.recent]
     pack $button -side left -padx {0 6} -before [lindex [pack slaves $w(path).bar] 0]
+    ::znbrowser::takeWindowKeys $button
     ttk::label $w(path).status.access -style Status.TLabel
     pack $w(path).status.access -side left -padx {0 16} -before $w(path).status.count
     SayAccess $n

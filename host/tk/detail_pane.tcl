@@ -28,6 +28,7 @@ proc ::znbrowser::toggleDetails {n} {
     }
     makeDetails $n $pane
     $w(path).panes add $pane -weight 0
+    takeWindowKeys $pane
     lappend w(watchers) ::znbrowser::followDetails
     set w(detailOf) ""
     followDetails $n
@@ -38,19 +39,12 @@ proc ::znbrowser::makeDetails {n pane} {
     ttk::frame $pane -style Browser.TFrame
     set text $pane.text
     text $text -width 40 -height 4 -wrap word -state disabled -cursor {} -borderwidth 0 -highlightthickness 1 \
-        -highlightcolor [colour focus] -highlightbackground [colour line] -background [colour paper] \
-        -foreground [colour text] -font znBrowser00 -padx 10 -pady 6 -takefocus 1 -insertwidth 0 \
-        -yscrollcommand [list $pane.y set]
+        -font znBrowser00 -padx 10 -pady 6 -takefocus 1 -insertwidth 0 -yscrollcommand [list $pane.y set]
     ttk::scrollbar $pane.y -orient vertical -command [list $text yview]
     grid $text $pane.y -sticky nsew
     grid rowconfigure $pane 0 -weight 1
     grid columnconfigure $pane 0 -weight 1
-    $text tag configure title -font znBrowser10 -spacing3 4
-    $text tag configure name -foreground [colour faint] -font znBrowserSmall -spacing1 6
-    $text tag configure null -foreground [colour faint] -font znBrowser01
-    $text tag configure hex -font TkFixedFont
-    $text tag configure link -foreground [colour accent] -underline 1
-    $text tag configure chosen -background [colour chosen]
+    styleDetails $text
     $text tag bind link <Enter> [list $text configure -cursor hand2]
     $text tag bind link <Leave> [list $text configure -cursor {}]
     $text tag bind link <ButtonRelease-1> "[list ::znbrowser::clickLink $n]\ %x %y"
@@ -61,6 +55,17 @@ proc ::znbrowser::makeDetails {n pane} {
     foreach {key amount} {Up {-1 units} Down {1 units} Prior {-1 pages} Next {1 pages}} {
         bind $text <$key> "$text yview scroll $amount; break"
     }
+}
+
+proc ::znbrowser::styleDetails {text} {
+    $text configure -highlightcolor [colour focus] -highlightbackground [colour line] -background [colour paper] \
+        -foreground [colour text]
+    $text tag configure title -font znBrowser10 -spacing3 4
+    $text tag configure name -foreground [colour faint] -font znBrowserSmall -spacing1 6
+    $text tag configure null -foreground [colour faint] -font znBrowser01
+    $text tag configure hex -font TkFixedFont
+    $text tag configure link -foreground [colour accent] -underline 1
+    $text tag configure chosen -background [colour chosen]
 }
 
 proc ::znbrowser::leaveDetails {n} {

@@ -21,7 +21,7 @@ proc ::znbrowser::fitNumber {n number inTree text} {
     if {$inTree || [string length $text] < 3 || ![holdsNumbers $n $number] || ![string is double -strict $text]} {
         return $text
     }
-    set room [expr {$w(width,$number) - $::znbrowser::besideNumber}]
+    set room [expr {$w(width,$number) - [scaled $::znbrowser::besideNumber]}]
     if {[font measure znBrowser00 $text] <= $room} {return $text}
     if {![string is entier -strict $text]} {
         for {set digits 12} {$digits > 2} {incr digits -1} {
@@ -43,8 +43,8 @@ proc ::znbrowser::growColumns {n} {
         if {$name in $w(sized) || [dict get $column tree] || (!$numbers && [dict exists $w(grown) $name])} continue
         set longest [longestText $n $number]
         if {$longest eq ""} continue
-        set wanted [expr {[font measure znBrowser00 $longest] + $::znbrowser::besideNumber + 2}]
-        set wanted [expr {max($w(width,$number), min($wanted, $::znbrowser::widestNumber))}]
+        set wanted [expr {[font measure znBrowser00 $longest] + [scaled $::znbrowser::besideNumber] + 2}]
+        set wanted [expr {max($w(width,$number), min($wanted, [scaled $::znbrowser::widestNumber]))}]
         if {[dict exists $w(grown) $name] && $wanted == $w(width,$number)} continue
         dict set w(grown) $name $wanted
         set w(width,$number) $wanted
@@ -69,7 +69,7 @@ proc ::znbrowser::longestText {n number} {
 proc ::znbrowser::widthOf {n column} {
     upvar #0 ::znbrowser::window$n w
     set name [dict get $column name]
-    set width [expr {max(24, [dict get $column width])}]
+    set width [scaled [expr {max(24, [dict get $column width])}]]
     if {$name ni $w(sized) && [dict exists $w(grown) $name]} {return [expr {max($width, [dict get $w(grown) $name])}]}
     return $width
 }
