@@ -2,6 +2,7 @@
 #include "app/app_commands.h"
 
 #include "app/data_app_commands.h"
+#include "app/find_app_commands.h"
 #include "app/popup_app_commands.h"
 #include "app/row_app_commands.h"
 #include "app/state_app_commands.h"
@@ -163,6 +164,10 @@ constexpr AppWord appWords[] = {
      CreateDataCtrl},
     {"datactrl names", "", "lists the data controls", 0, 0, DataCtrlNames},
     {"draw", "WINDOW", "draws what a window shows, as a table", 1, 1, AnswerDraw},
+    {"filter column", "VIEW COLUMN ?none|null|contains TEXT|equals VALUE|between LOW HIGH?",
+     "sets or reads which values in a column are shown", 2, 5, AppFilterColumn},
+    {"filter scope", "VIEW ?name|shown?",
+     "sets or reads whether the text filter looks at names or at all columns shown", 1, 2, AppFilterScope},
     {"glance", "NAME STATEMENT ?VALUE ...?", "runs one SQL statement, but no longer than a tenth of a second",
      2, anyNumber, Glance},
     {"help", "", "lists these words", 0, 0, Help},
@@ -173,13 +178,22 @@ constexpr AppWord appWords[] = {
     {"journal clear", "", "empties the record of host calls", 0, 0, JournalClear},
     {"journal off", "", "stops recording host calls", 0, 0, JournalOff},
     {"journal on", "", "records host calls from now on", 0, 0, JournalOn},
+    {"path", "WINDOW INDEX", "names the way to a row, for \"app row\"", 2, 2, AppPath},
     {"popup", "WINDOW ?COLUMN INDEX ...?",
      "lists what a right click on these rows shows, or on the selected ones: a dictionary for each entry", 1,
      anyNumber, AnswerPopup},
+    {"prune", "WINDOW", "collapses whatever holds no selected row", 1, 1, AppPrune},
+    {"record", "", "lists what the user did while it was recorded, as lines of script", 0, 0, AppRecord},
+    {"record off", "", "stops recording what the user does", 0, 0, AppRecordOff},
+    {"record on", "?FILE?", "records what the user does in windows from now on, in FILE too", 0, 1, AppRecordOn},
     {"refuse", "?OPERATION? ?TEXT?", "lets the next call of OPERATION fail with TEXT; or lists what waits", 0,
      2, Refuse},
+    {"row", "WINDOW PATH ?LASTPATH?",
+     "answers the index of the row that names lead to, or those of all rows between two", 2, 3, AppRow},
     {"rows", "WINDOW ?FIRST COUNT?", "lists what a window shows, a dictionary for each row", 1, 3,
      AnswerRows},
+    {"sort natural", "VIEW COLUMN ?BOOL?",
+     "sets or reads whether numbers in the texts of a column are ordered as numbers", 2, 3, AppSortNatural},
     {"sql", "NAME STATEMENT ?VALUE ...?", "runs one SQL statement, the values bound to its ?s", 2, anyNumber,
      Sql},
     {"state create", "DATACTRL NAME", "adds a state in which nothing is saved yet", 2, 2, AppCreateState},

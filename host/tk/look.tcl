@@ -4,7 +4,7 @@ namespace eval ::znbrowser {
     variable colours {
         surface #f4f5f7  paper #ffffff  stripe #f5f8fb  text #1d2733  faint #66727f  line #d8dde3
         header #eef0f3   headerHot #e3e7ec  chosen #cde3fa  hover #edf4fc  drop #ffe9b8  focus #5a9ae6
-        button #f2f4f7   buttonLine #b9c2cc  accent #1f6fd1  problem #b3261e  tip #fffbe8
+        button #f2f4f7   buttonLine #b9c2cc  accent #1f6fd1  problem #b3261e  tip #fffbe8  found #ffe38a
     }
 }
 
@@ -91,9 +91,15 @@ proc ::znbrowser::drawStatus {n} {
     if {[dict exists $w(look) selected] && [dict get $w(look) selected]} {
         append text "   ·   [grouped [dict get $w(look) selected]] selected"
     }
-    if {[dict exists $w(look) filter] && [dict get $w(look) filter] ne ""} {append text "   ·   filtered"}
+    if {[info exists w(seeking)] && [dict get $w(seeking) looked]} {
+        append text "   ·   searching: [matchCount [dict get $w(seeking) found]] in [grouped [dict get $w(seeking) looked]] rows …"
+    } elseif {[filtered $n]} {
+        append text "   ·   [matchCount [host matches $n]]"
+    }
     $w(path).status.count configure -text $text
 }
+
+proc ::znbrowser::matchCount {matches} {return "[grouped $matches] [expr {$matches == 1 ? "match" : "matches"}]"}
 
 # A number with its thousands apart.
 proc ::znbrowser::grouped {number} {

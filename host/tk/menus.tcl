@@ -17,7 +17,9 @@ proc ::znbrowser::pressRight {n x y state rootX rootY} {
     flush $n
     set at [pointed $n $x $y]
     if {[dict get $at where] eq "header"} {
-        popupAt [winfo parent $w(searchField)].columns.menu $rootX $rootY
+        set column [expr {[dict exists $at number] ? [dict get $at number] : -1}]
+        popupAt [expr {$column < 0 ? "[winfo parent $w(searchField)].columns.menu" : [headerMenu $n $column]}] \
+            $rootX $rootY
         return
     }
     if {![dict exists $at row]} {return [openMenuAside $n $rootX $rootY]}

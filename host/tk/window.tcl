@@ -124,6 +124,7 @@ proc ::znbrowser::build {n} {
     buildTree $n $w(path).body
     buildChooser $n $w(path).bar
     buildSearch $n $w(path).bar
+    buildRecorder $n $w(path).bar
     ttk::label $w(path).status.count -style Status.TLabel -anchor w
     ttk::label $w(path).status.message -style Message.TLabel -anchor e
     ttk::label $w(path).status.help -style Status.TLabel -anchor w
@@ -139,6 +140,7 @@ proc ::znbrowser::build {n} {
     bind $w(path) <Destroy> [list ::znbrowser::destroyed $n %W]
     set top [winfo toplevel $w(path)]
     bind $top <Control-f> [list ::znbrowser::focusSearch $n]
+    foreach key {f F} {bind $top <Control-Shift-$key> [list ::znbrowser::switchScope $n]}
     focus $w(tree)
 }
 
@@ -175,8 +177,11 @@ proc ::znbrowser::unpost {n} {
         after 100 [list ::znbrowser::unpost $n]
         return
     }
-    manager window current $w(name)
-    manager window post false
+    set name $w(name)
+    foreach words [list [list window current $name] {window post false}] {
+        manager {*}$words
+        record $n [list znbrowsermanager {*}$words]
+    }
 }
 
 # Somebody destroyed the frame in which the window stood.
@@ -253,9 +258,11 @@ proc ::znbrowser::columnCommand {n column args} {
 proc ::znbrowser::tell {n words} {
     host error
     host begin $n
+    set line [lineFor $n $words]
     set failed [catch {manager {*}$words} answer]
     if {[regexp {^\[Command\] .*?\n\t\[Error\] (.*)$} $answer -> answer]} {set failed 1}
     set refusal [host error]
+    if {!$failed} {record $n $line}
     if {!$failed || ($answer eq "Unknown error" && $refusal ne "")} {set answer $refusal}
     finish $n $answer
     return [expr {!$failed && [isOpen $n]}]
@@ -318,6 +325,8 @@ proc ::znbrowser::draw {n changes} {
     drawPage $n
     if {![isOpen $n]} return
     drawStatus $n
+    showNoMatch $n
+    followRecording
     if {[dict get [host look $n] uncounted] && ![info exists w(timer,count)]} {
         set w(timer,count) [after 20 [list ::znbrowser::countMore $n]]
     }
