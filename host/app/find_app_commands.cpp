@@ -24,7 +24,8 @@ Column* ColumnOf(const AppCall& call) {
     View* const view = ViewOf(call);
     Column* const column = view ? view->Columns().Find(call.Text(1)) : nullptr;
     if (view && !column)
-        call.Fail("the view \"" + view->Name() + "\" has no column \"" + call.Text(1) + "\"", "COLUMN", call.Text(1));
+        call.Fail("the view \"" + view->Name() + "\" has no column \"" + call.Text(1) + "\"", "COLUMN",
+                  call.Text(1));
     return column;
 }
 
@@ -76,14 +77,15 @@ int AppFilterColumn(AppCall& call) {
     for (const FilterWord& row : filterWords) {
         if (word != row.word) continue;
         if (call.Count() != 3 + row.values) {
-            return call.Fail("wrong # args: should be \"znbrowsermanager app filter column VIEW COLUMN " + word +
-                                 row.arguments + "\"",
+            return call.Fail("wrong # args: should be \"znbrowsermanager app filter column VIEW COLUMN " +
+                                 word + row.arguments + "\"",
                              "ARGUMENTS");
         }
         column->SetFilter({row.kind, call.Text(3), call.Text(4)});
         return call.Answer(WordsFor(column->Filter()));
     }
-    return call.Fail("bad filter \"" + word + "\": must be none, null, contains, equals or between", "FILTER", word);
+    return call.Fail("bad filter \"" + word + "\": must be none, null, contains, equals or between", "FILTER",
+                     word);
 }
 
 int AppSortNatural(AppCall& call) {
@@ -92,7 +94,8 @@ int AppSortNatural(AppCall& call) {
     if (!column) return TCL_ERROR;
     if (call.Count() > 2) {
         if (Tcl_GetBooleanFromObj(nullptr, call.Word(2), &naturally) != TCL_OK)
-            return call.Fail("bad boolean \"" + call.Text(2) + "\": must be true or false", "BOOLEAN", call.Text(2));
+            return call.Fail("bad boolean \"" + call.Text(2) + "\": must be true or false", "BOOLEAN",
+                             call.Text(2));
         column->SetSortsNaturally(naturally != 0);
     }
     return call.Answer(column->SortsNaturally() ? "true" : "false");
@@ -107,7 +110,8 @@ namespace {
 std::optional<std::uint32_t> RowAt(const AppCall& call, RowModel& rows, std::size_t position) {
     int count = 0;
     Tcl_Obj** steps = nullptr;
-    if (Tcl_ListObjGetElements(call.App().Interp(), call.Word(position), &count, &steps) != TCL_OK) return std::nullopt;
+    if (Tcl_ListObjGetElements(call.App().Interp(), call.Word(position), &count, &steps) != TCL_OK)
+        return std::nullopt;
     std::vector<std::string> path;
     for (int i = 0; i < count; ++i) path.emplace_back(Tcl_GetString(steps[i]));
     std::size_t wrong = 0;
@@ -118,7 +122,8 @@ std::optional<std::uint32_t> RowAt(const AppCall& call, RowModel& rows, std::siz
         return std::nullopt;
     }
     const std::string above = wrong == 0 ? "at the top" : "in an open row \"" + path[wrong - 1] + "\"";
-    call.Fail("the window \"" + call.Text(0) + "\" shows no row \"" + path[wrong] + "\" " + above, "ROW", path[wrong]);
+    call.Fail("the window \"" + call.Text(0) + "\" shows no row \"" + path[wrong] + "\" " + above, "ROW",
+              path[wrong]);
     return std::nullopt;
 }
 

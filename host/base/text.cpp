@@ -246,7 +246,9 @@ std::string Fold(std::string_view text) {
 /// apart by these zeros, which stand behind it all.
 std::string NaturalKey(std::string_view text) {
     constexpr std::size_t longest = 0xFF;
-    const auto isDigit = [&text](std::size_t place) { return ByteAt(text, place) >= '0' && ByteAt(text, place) <= '9'; };
+    const auto isDigit = [&text](std::size_t place) {
+        return ByteAt(text, place) >= '0' && ByteAt(text, place) <= '9';
+    };
     std::string key;
     std::string zeros;
     for (std::size_t place = 0; place < text.size();) {

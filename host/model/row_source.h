@@ -45,11 +45,11 @@ struct RowLink {
 /// One condition on the items.
 struct RowCondition {
     enum class Compare {
-        Accept, ///< `accept` takes the value's text; an item without a value is not taken.
-        Equal,  ///< The value equals `value`: as a number where the property is a number, else as a text,
-                ///< letter case aside.
-        Less,   ///< The value is less than `value`, compared in the same way.
-        More,   ///< The value is more than `value`.
+        Accept,  ///< `accept` takes the value's text; an item without a value is not taken.
+        Equal,   ///< The value equals `value`: as a number where the property is a number, else as a text,
+                 ///< letter case aside.
+        Less,    ///< The value is less than `value`, compared in the same way.
+        More,    ///< The value is more than `value`.
         AtLeast, ///< The value is `value` or more.
         AtMost,  ///< The value is `value` or less.
         Null,    ///< There is no value.
@@ -104,7 +104,7 @@ struct RowScan {
     std::int64_t row = 0; ///< behind that row of it,
     bool inPart = false;  ///< unless it is still to be begun
     bool done = false;
-    bool failed = false;      ///< not all could be read; the reason is noted
+    bool failed = false;     ///< not all could be read; the reason is noted
     std::int64_t looked = 0; ///< how many rows have been looked at
 };
 

@@ -165,8 +165,9 @@ bool View::SetFilterString(const char* pattern) {
 void View::SetFilterAllColumns(bool all) { Set(filter_.allColumns, all, VIEW_FILTER); }
 
 bool View::IsFiltered() const {
-    return !filter_.pattern.empty() ||
-           std::any_of(columns_.begin(), columns_.end(), [](const auto& column) { return column->Filter().IsSet(); });
+    return !filter_.pattern.empty() || std::any_of(columns_.begin(), columns_.end(), [](const auto& column) {
+        return column->Filter().IsSet();
+    });
 }
 
 bool View::GetFilterMatchCase() const {

@@ -30,7 +30,8 @@ FilterMatches::Known& FilterMatches::Find(RowSource& source, const TextFilter& f
                                           const SearchedProperties& properties) {
     Results& results = known_[&source];
     const std::uint64_t version = source.Version();
-    results.remove_if([version](const Known& known) { return known.version != version || known.scan.failed; });
+    results.remove_if(
+        [version](const Known& known) { return known.version != version || known.scan.failed; });
     const Known* widest = nullptr;
     for (Known& known : results) {
         if (known.properties != properties) continue;

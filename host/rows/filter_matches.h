@@ -38,8 +38,8 @@ struct SearchProgress {
 };
 
 /// The rows that hold a text, by source. What was found is kept, as long as the rows are the same: the same
-/// text is not searched for again, and one that only adds to it is searched for among what was found. A search
-/// can be made ahead, a slice at a time; who asks for its rows meanwhile is given those found so far.
+/// text is not searched for again, and one that only adds to it is searched for among what was found. A
+/// search can be made ahead, a slice at a time; who asks for its rows meanwhile is given those found so far.
 class FilterMatches {
 public:
     using Clock = std::chrono::steady_clock;

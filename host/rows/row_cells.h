@@ -103,7 +103,8 @@ private:
 
     View& view_;
     const RowPlan& plan_;
-    std::map<std::tuple<const FreeFolder*, const RowSource*, Showing>, std::shared_ptr<const Layout>> layouts_;
+    std::map<std::tuple<const FreeFolder*, const RowSource*, Showing>, std::shared_ptr<const Layout>>
+        layouts_;
 };
 
 } // namespace znhost

@@ -116,7 +116,8 @@ void RowFinder::Match(RowSource& source, std::vector<std::int64_t>& rows) const 
 /// What a filter on the items' texts would look for; nothing when that is not what is looked for.
 std::optional<TextFilter> RowFinder::AsFilter() const {
     const znBrowserCriterion& criterion = criteria_[0].criterion;
-    const bool compares = criterion.type == ZNBROWSER_CRITERION_MORE_THAN || criterion.type == ZNBROWSER_CRITERION_LESS_THAN;
+    const bool compares =
+        criterion.type == ZNBROWSER_CRITERION_MORE_THAN || criterion.type == ZNBROWSER_CRITERION_LESS_THAN;
     const std::string pattern = criterion.value.Str();
     if (criteria_.size() != 1 || tests_[0].second || compares || criterion.useregexp) return std::nullopt;
     if (pattern.find_first_of("*?") != pattern.npos) return std::nullopt;

@@ -240,9 +240,7 @@ void RowPlan::Filter(RowScope& scope, const std::vector<RowSource*>& tops, const
     std::shared_ptr<const RowFilter>& known = filters_[{&folder, what}];
     const ReadTrouble::Watch watch(Trouble());
     if (!known) {
-        const auto matches = [&](RowSource& source, std::vector<std::int64_t>& rows) {
-            Match(source, rows);
-        };
+        const auto matches = [&](RowSource& source, std::vector<std::int64_t>& rows) { Match(source, rows); };
         known = std::make_shared<RowFilter>(tops, scope.links, matches, scope.display.get(),
                                             [this] { return IsStopped(); });
     }
@@ -330,7 +328,8 @@ void RowPlan::AddShownProperties(const FreeFolder& folder, RowSource& source, Se
         for (ViewProperty* const property : shown) {
             if (property ? property->Type() == ZNBROWSER_DATA_BOOL : column->Kind() != ColumnKind::BuiltIn)
                 continue;
-            znIBrowserDataProperty* const data = property ? property->DataProperty(source.GetSource()) : nullptr;
+            znIBrowserDataProperty* const data =
+                property ? property->DataProperty(source.GetSource()) : nullptr;
             if (property && !data) continue;
             if (std::find(all.begin(), all.end(), data) == all.end()) all.push_back(data);
         }

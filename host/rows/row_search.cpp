@@ -1,4 +1,5 @@
-// Looking for rows: by how their texts begin, by the names on the way to them, and for what a filter will leave.
+// Looking for rows: by how their texts begin, by the names on the way to them, and for what a filter will
+// leave.
 #include "base/text.h"
 #include "model/browser.h"
 #include "model/view.h"
@@ -22,8 +23,10 @@ std::vector<std::string> RowModel::TextsOf(const std::vector<Row>& rows) {
         }
         std::vector<std::int64_t> numbers;
         std::size_t end = first;
-        for (; end < rows.size() && rows[end].block == row.block; ++end) numbers.push_back(rows[end].Number());
-        std::vector<std::string> names = cells_.ReadNames(row.Content(), numbers, [this] { return stopped_; });
+        for (; end < rows.size() && rows[end].block == row.block; ++end)
+            numbers.push_back(rows[end].Number());
+        std::vector<std::string> names =
+            cells_.ReadNames(row.Content(), numbers, [this] { return stopped_; });
         std::move(names.begin(), names.end(), texts.begin() + static_cast<std::ptrdiff_t>(first));
         first = end;
     }
@@ -94,7 +97,8 @@ std::string RowModel::StepTo(const Row& row) {
         const bool isHere = part.block.get() == row.block;
         const auto end = isHere ? rows.begin() + row.position : rows.end();
         if (same.Size() > (isHere ? 1U : 0U))
-            number += static_cast<std::size_t>(std::count_if(rows.begin(), end, [&](auto at) { return same.Has(at); }));
+            number += static_cast<std::size_t>(
+                std::count_if(rows.begin(), end, [&](auto at) { return same.Has(at); }));
         if (isHere) break;
     }
     const bool looksNumbered = TakeStep(name).first != name;

@@ -126,7 +126,7 @@ private:
     const std::unique_ptr<Database> database_;
     Schema schema_;
     RowCopies copies_;
-    Database::Stamp stamp_; // of the tables when the sources were last brought up to date
+    Database::Stamp stamp_;   // of the tables when the sources were last brought up to date
     Database::Stamp counted_; // of the rows when the version was last asked for
     std::uint64_t version_ = 0;
 

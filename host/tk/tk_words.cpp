@@ -204,7 +204,9 @@ Tcl_Obj* GoOnSearching(const Question& question) {
                    Tcl_NewWideIntObj(progress.found)});
 }
 
-Tcl_Obj* Matches(const Question& question) { return Tcl_NewWideIntObj(question.window.Rows().CountMatches()); }
+Tcl_Obj* Matches(const Question& question) {
+    return Tcl_NewWideIntObj(question.window.Rows().CountMatches());
+}
 
 Tcl_Obj* FirstSelected(const Question& question) {
     return Tcl_NewWideIntObj(question.window.Rows().FirstSelected());
@@ -326,9 +328,7 @@ Tcl_Obj* Cancel(TkWindows& windows, int) {
 
 Tcl_Obj* IsBusy(TkWindows& windows, int) { return Tcl_NewBooleanObj(windows.Work().IsServing()); }
 
-Tcl_Obj* IsRecording(TkWindows& windows, int) {
-    return Tcl_NewBooleanObj(windows.App().Recording().IsOn());
-}
+Tcl_Obj* IsRecording(TkWindows& windows, int) { return Tcl_NewBooleanObj(windows.App().Recording().IsOn()); }
 
 Tcl_Obj* Changes(TkWindows& windows, int window) {
     Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
@@ -345,8 +345,8 @@ struct PlainWord {
 };
 
 constexpr PlainWord plainWords[] = {
-    {"begin", Begin}, {"busy", IsBusy},     {"cancel", Cancel},  {"changes", Changes},
-    {"end", End},     {"error", LastError}, {"quietly", BeginQuietly}, {"recording", IsRecording},
+    {"begin", Begin},  {"busy", IsBusy},     {"cancel", Cancel},        {"changes", Changes},
+    {"end", End},      {"error", LastError}, {"quietly", BeginQuietly}, {"recording", IsRecording},
     {"time", SetTime},
 };
 

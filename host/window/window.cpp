@@ -68,8 +68,8 @@ std::vector<KeptRow> ContainersOf(const std::vector<KeptRow>& rows) {
 
 } // namespace
 
-// Rows that a filter hides are collapsed. When it is gone, they are as they were; and when it lets others through,
-// the lists and folders are that have something to show again.
+// Rows that a filter hides are collapsed. When it is gone, they are as they were; and when it lets others
+// through, the lists and folders are that have something to show again.
 void Window::OnViewChanged(unsigned changes) {
     const std::shared_ptr<Window> self = shared_from_this(); // listing the rows may run scripts
     const bool filtered = filters_;
