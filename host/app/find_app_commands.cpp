@@ -121,7 +121,8 @@ std::optional<std::uint32_t> RowAt(const AppCall& call, RowModel& rows, std::siz
         call.Fail("the path of the row is empty: must be the names on the way to it", "ROW");
         return std::nullopt;
     }
-    const std::string above = wrong == 0 ? "at the top" : "in an open row \"" + path[wrong - 1] + "\"";
+    const std::string above =
+        wrong == 0 ? "at the top" : "below \"" + path[wrong - 1] + "\", which must be expanded";
     call.Fail("the window \"" + call.Text(0) + "\" shows no row \"" + path[wrong] + "\" " + above, "ROW",
               path[wrong]);
     return std::nullopt;
