@@ -82,7 +82,10 @@ union all
 select 'collecting and isolating 100,000 of 1,000,000, MiB', mebibytes, 16
 from run where name = 'CollectAndIsolate/100000'
 union all
-select 'taking that back, s', ns / 1e9, 0.5 from run where name = 'UndoIsolation/100000'
+select 'collecting and isolating 1,000 of 1,000,000, to listing all', step.ns / list.ns, 2
+from run as step, run as list where step.name = 'CollectAndIsolate/1000' and list.name = 'ExpandList/1000000'
+union all
+select 'taking back the isolation of 100,000, s', ns / 1e9, 0.5 from run where name = 'UndoIsolation/100000'
 union all
 select '50 rows of an isolated view, to 50 of the whole', isolated.ns / whole.ns, 1.2
 from run as isolated, run as whole
