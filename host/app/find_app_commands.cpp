@@ -6,7 +6,6 @@
 #include "model/view.h"
 #include "window/window.h"
 
-#include <iterator>
 #include <optional>
 #include <tcl.h>
 
@@ -29,35 +28,9 @@ Column* ColumnOf(const AppCall& call) {
     return column;
 }
 
-// ---- Filters ----
-
-struct FilterWord {
-    const char* word;
-    ColumnFilter::Kind kind;
-    std::size_t values;
-    const char* arguments;
-};
-
-constexpr FilterWord filterWords[] = {
-    {"none", ColumnFilter::Kind::None, 0, ""},
-    {"null", ColumnFilter::Kind::Null, 0, ""},
-    {"contains", ColumnFilter::Kind::Contains, 1, " TEXT"},
-    {"equals", ColumnFilter::Kind::Equals, 1, " VALUE"},
-    {"between", ColumnFilter::Kind::Between, 2, " LOW HIGH"},
-};
-
 } // namespace
 
-std::vector<std::string> WordsFor(const ColumnFilter& filter) {
-    for (const FilterWord& row : filterWords) {
-        if (row.kind != filter.kind) continue;
-        std::vector<std::string> words{row.word};
-        if (row.values > 0) words.push_back(filter.value);
-        if (row.values > 1) words.push_back(filter.to);
-        return words;
-    }
-    return {};
-}
+// ---- Filters ----
 
 int AppFilterScope(AppCall& call) {
     View* const view = ViewOf(call);
@@ -72,20 +45,17 @@ int AppFilterScope(AppCall& call) {
 int AppFilterColumn(AppCall& call) {
     Column* const column = ColumnOf(call);
     if (!column) return TCL_ERROR;
-    if (call.Count() == 2) return call.Answer(WordsFor(column->Filter()));
-    const std::string word = call.Text(2);
-    for (const FilterWord& row : filterWords) {
-        if (word != row.word) continue;
-        if (call.Count() != 3 + row.values) {
-            return call.Fail("wrong # args: should be \"znbrowsermanager app filter column VIEW COLUMN " +
-                                 word + row.arguments + "\"",
-                             "ARGUMENTS");
-        }
-        column->SetFilter({row.kind, call.Text(3), call.Text(4)});
-        return call.Answer(WordsFor(column->Filter()));
+    if (call.Count() == 2) return call.Answer(WordsOf(column->Filter()));
+    std::vector<std::string> words;
+    for (std::size_t i = 2; i < call.Count(); ++i) words.push_back(call.Text(i));
+    ColumnFilter filter;
+    if (!ReadColumnFilter(words, filter)) {
+        return call.Fail("bad filter \"" + ListText(words) +
+                             "\": must be none, null, contains TEXT, equals VALUE or between LOW HIGH",
+                         "FILTER", words[0]);
     }
-    return call.Fail("bad filter \"" + word + "\": must be none, null, contains, equals or between", "FILTER",
-                     word);
+    column->SetFilter(filter);
+    return call.Answer(WordsOf(filter));
 }
 
 int AppSortNatural(AppCall& call) {

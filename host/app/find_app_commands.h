@@ -2,16 +2,9 @@
 #ifndef ZN_HOST_FIND_APP_COMMANDS_H
 #define ZN_HOST_FIND_APP_COMMANDS_H
 
-#include <string>
-#include <vector>
-
 namespace znhost {
 
 class AppCall;
-struct ColumnFilter;
-
-/// The filter of a column as the words that set it.
-std::vector<std::string> WordsFor(const ColumnFilter& filter);
 
 /// VIEW ?name|shown?: whether the text filter looks at the items' names or at all columns shown.
 int AppFilterScope(AppCall& call);

@@ -3,6 +3,7 @@
 #define ZN_HOST_COLUMN_FILTER_H
 
 #include <string>
+#include <vector>
 
 namespace znhost {
 
@@ -16,6 +17,11 @@ struct ColumnFilter {
     bool IsSet() const { return kind != Kind::None; }
     friend bool operator==(const ColumnFilter&, const ColumnFilter&) = default;
 };
+
+/// The filter as words: "none", "null", "contains TEXT", "equals VALUE" or "between LOW HIGH".
+std::vector<std::string> WordsOf(const ColumnFilter& filter);
+/// False, and `filter` is as it was, when the words are none of these.
+bool ReadColumnFilter(const std::vector<std::string>& words, ColumnFilter& filter);
 
 } // namespace znhost
 

@@ -1,8 +1,6 @@
 #include "rows/filter_matches.h"
 
 #include "base/text.h"
-#include "host/znBrowserDataItems.h"
-#include "host/znIBrowserDataProperty.h"
 #include "rows/text_matcher.h"
 
 #include <algorithm>
@@ -31,7 +29,7 @@ FilterMatches::Known& FilterMatches::Find(RowSource& source, const TextFilter& f
     Results& results = known_[&source];
     const std::uint64_t version = source.Version();
     results.remove_if(
-        [version](const Known& known) { return known.version != version || known.scan.failed; });
+        [version](const Known& known) { return known.version != version || known.scan.failed || known.broken; });
     const Known* widest = nullptr;
     for (Known& known : results) {
         if (known.properties != properties) continue;
@@ -59,60 +57,70 @@ FilterMatches::Known& FilterMatches::Find(RowSource& source, const TextFilter& f
     return results.front();
 }
 
-const RowSet& FilterMatches::Of(RowSource& source, const TextFilter& filter,
-                                const SearchedProperties& properties, const Stopped& stopped) {
-    Known& known = Find(source, filter, properties);
-    if (!IsSearching(filter)) Run(source, known, Clock::time_point::max(), stopped);
+const RowSet& FilterMatches::Of(RowSource& source, const TextFilter& filter, const Asked& asked) {
+    Known& known = Find(source, filter, asked.properties(source));
+    if (!IsSearching(filter)) Run(source, known, Clock::time_point::max(), asked);
     return *known.rows;
 }
 
 /// Values that scripts compute are asked for when no statement is open any more.
-void FilterMatches::Run(RowSource& source, Known& known, Clock::time_point until, const Stopped& stopped) {
+void FilterMatches::Run(RowSource& source, Known& known, Clock::time_point until, const Asked& asked) {
     constexpr auto slice = std::chrono::milliseconds(2);
+    known.broken = true;
     while (!known.scan.done && !known.scan.failed) {
         const bool computes = !known.computed.empty();
         std::vector<std::int64_t> found;
         std::vector<std::int64_t> others;
         source.Scan(known.scan, computes ? std::min(until, Clock::now() + slice) : until, found,
                     computes ? &others : nullptr);
-        if (computes) Compute(source, known, others, found, stopped);
+        if (computes) Compute(source, known, std::move(others), found, asked);
         if (!found.empty()) known.rows->Add(std::move(found));
-        if (Clock::now() >= until) return;
+        if (Clock::now() >= until) break;
     }
+    known.broken = false;
 }
 
-void FilterMatches::Compute(RowSource& source, Known& known, const std::vector<std::int64_t>& rows,
-                            std::vector<std::int64_t>& found, const Stopped& stopped) {
-    for (const std::int64_t row : rows) {
-        for (znIBrowserDataProperty* const property : known.computed) {
-            if (stopped()) {
-                known.scan.failed = true;
-                return;
-            }
-            znString value;
-            if (!property->GetValueString({source.GetSource(), row}, 0, value)) continue;
-            if (!known.scan.accept(0, value.View())) continue;
-            found.push_back(row);
-            break;
+/// Of each property in turn, as the others may be gone when its script has run.
+void FilterMatches::Compute(RowSource& source, Known& known, std::vector<std::int64_t> rows,
+                            std::vector<std::int64_t>& found, const Asked& asked) {
+    RowSet left;
+    left.Add(std::move(rows));
+    for (znIBrowserDataProperty* const property : known.computed) {
+        if (left.IsEmpty()) return;
+        if (!asked.stopped()) {
+            const SearchedProperties now = asked.properties(source);
+            known.scan.failed = std::find(now.begin(), now.end(), property) == now.end();
         }
+        if (known.scan.failed || asked.stopped()) break;
+        RowQuery query;
+        query.conditions.emplace_back();
+        query.conditions.back().property = property;
+        query.conditions.back().accept = [&known](std::string_view text) { return known.scan.accept(0, text); };
+        query.among = &left;
+        std::vector<std::int64_t> hits;
+        source.List(query, hits);
+        left.Remove(hits);
+        found.insert(found.end(), hits.begin(), hits.end());
     }
+    if (asked.stopped()) known.scan.failed = true;
 }
 
 // ---- A search ahead ----
 
 void FilterMatches::Begin(TextFilter filter, std::vector<SearchTask> tasks) {
     searching_ = true;
+    stale_ = false;
     wanted_ = std::move(filter);
     tasks_ = std::move(tasks);
 }
 
-SearchProgress FilterMatches::GoOn(Clock::time_point until, const Stopped& stopped) {
+SearchProgress FilterMatches::GoOn(Clock::time_point until, const Asked& asked) {
     SearchProgress progress;
     progress.done = true;
     for (const SearchTask& task : tasks_) {
-        if (stopped()) break;
+        if (asked.stopped()) break;
         Known& known = Find(*task.source, wanted_, task.properties);
-        if (Clock::now() < until) Run(*task.source, known, until, stopped);
+        if (Clock::now() < until) Run(*task.source, known, until, asked);
         progress.looked += known.scan.looked;
         progress.found += static_cast<std::int64_t>(known.rows->Size());
         if (!known.scan.done && !known.scan.failed) progress.done = false;

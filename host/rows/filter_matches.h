@@ -43,34 +43,45 @@ struct SearchProgress {
 class FilterMatches {
 public:
     using Clock = std::chrono::steady_clock;
-    /// Whether no more is to be looked at: what is being searched was deleted, or nobody waits any longer.
-    using Stopped = std::function<bool()>;
+    /// What scripts that compute values may have changed meanwhile.
+    struct Asked {
+        /// Whether no more is to be looked at: what is being searched was deleted, or nobody waits any longer.
+        std::function<bool()> stopped;
+        /// What is to be searched now.
+        std::function<SearchedProperties(RowSource& source)> properties;
+    };
 
-    /// Rows, values or sources changed.
-    void Forget() { known_.clear(); }
+    /// Rows, values or sources changed. A search under way must be begun again.
+    void Forget() {
+        known_.clear();
+        tasks_.clear();
+        stale_ = searching_;
+    }
 
     /// The rows of the source with the text. Not all of them while a search for it is under way, and when
     /// `stopped` tells so or the database cannot be read; of the last two trouble is noted.
-    const RowSet& Of(RowSource& source, const TextFilter& filter, const SearchedProperties& properties,
-                     const Stopped& stopped);
+    const RowSet& Of(RowSource& source, const TextFilter& filter, const Asked& asked);
 
     /// Begins a search, instead of the one that may be under way. What it finds is kept for `Of`.
     void Begin(TextFilter filter, std::vector<SearchTask> tasks);
-    SearchProgress GoOn(Clock::time_point until, const Stopped& stopped);
+    SearchProgress GoOn(Clock::time_point until, const Asked& asked);
     /// Whether a search for that text is under way.
     bool IsSearching(const TextFilter& filter) const { return searching_ && filter == wanted_; }
+    bool IsStale() const { return stale_; }
+    const TextFilter& Wanted() const { return wanted_; }
 
 private:
     struct Known;
     using Results = std::list<Known>; ///< the newest first
 
     Known& Find(RowSource& source, const TextFilter& filter, const SearchedProperties& properties);
-    static void Run(RowSource& source, Known& known, Clock::time_point until, const Stopped& stopped);
-    static void Compute(RowSource& source, Known& known, const std::vector<std::int64_t>& rows,
-                        std::vector<std::int64_t>& found, const Stopped& stopped);
+    static void Run(RowSource& source, Known& known, Clock::time_point until, const Asked& asked);
+    static void Compute(RowSource& source, Known& known, std::vector<std::int64_t> rows,
+                        std::vector<std::int64_t>& found, const Asked& asked);
 
     std::map<RowSource*, Results> known_;
     bool searching_ = false;
+    bool stale_ = false;
     TextFilter wanted_;
     std::vector<SearchTask> tasks_;
 };
@@ -84,6 +95,7 @@ struct FilterMatches::Known {
     std::shared_ptr<RowSet> rows;
     RowScan scan;
     SearchedProperties computed;
+    bool broken = false; ///< memory ran out: not all that was looked at is noted
 };
 
 /// Whether whatever holds the text of `narrow` also holds that of `wide`.

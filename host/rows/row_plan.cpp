@@ -262,7 +262,12 @@ void RowPlan::Match(RowSource& source, std::vector<std::int64_t>& rows) const {
 }
 
 const RowSet& RowPlan::Matches(RowSource& source, const TextFilter& filter) const {
-    return matches_.Of(source, filter, SearchedIn(source, filter), [this] { return IsStopped(); });
+    return matches_.Of(source, filter, Asked(filter));
+}
+
+FilterMatches::Asked RowPlan::Asked(const TextFilter& filter) const {
+    return {[this] { return IsStopped(); },
+            [this, filter](RowSource& source) { return SearchedIn(source, filter); }};
 }
 
 /// What the filter of a column asks of the values of a property; null: of the items' texts.
@@ -348,7 +353,8 @@ void RowPlan::BeginSearch(const TextFilter& filter) {
 }
 
 SearchProgress RowPlan::GoOnSearching(std::chrono::milliseconds time) {
-    return matches_.GoOn(FilterMatches::Clock::now() + time, [this] { return IsStopped(); });
+    if (matches_.IsStale()) BeginSearch(TextFilter(matches_.Wanted()));
+    return matches_.GoOn(FilterMatches::Clock::now() + time, Asked(matches_.Wanted()));
 }
 
 std::int64_t RowPlan::CountMatches() const {

@@ -50,7 +50,7 @@ public:
     /// Rows or values changed: what the filter searched is out of date.
     void ForgetMatches() { matches_.Forget(); }
     /// Lets who computes values tell when to stop.
-    void SetStopped(FilterMatches::Stopped stopped) { stopped_ = std::move(stopped); }
+    void SetStopped(std::function<bool()> stopped) { stopped_ = std::move(stopped); }
 
     /// What stands in a folder, tree or list, in order.
     std::vector<RowContent> Below(const RowContent& container) const;
@@ -114,6 +114,7 @@ private:
     void Match(RowSource& source, std::vector<std::int64_t>& rows) const;
     std::optional<RowSet> Fulfilling(RowSource& source) const;
     static RowCondition ConditionFor(const ColumnFilter& filter, znIBrowserDataProperty* property);
+    FilterMatches::Asked Asked(const TextFilter& filter) const;
     SearchedProperties SearchedIn(RowSource& source, const TextFilter& filter) const;
     void AddShownProperties(const FreeFolder& folder, RowSource& source, SearchedProperties& all) const;
     bool IsStopped() const { return stopped_ && stopped_(); }
@@ -121,7 +122,7 @@ private:
 
     View& view_;
     bool whole_ = false; ///< as if nothing were hidden or filtered
-    FilterMatches::Stopped stopped_;
+    std::function<bool()> stopped_;
     mutable FilterMatches matches_;
     mutable std::shared_ptr<const RowDisplay> display_;
     /// By folder and by what stands in it.

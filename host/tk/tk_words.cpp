@@ -1,12 +1,12 @@
 #include "tk/tk_words.h"
 
 #include "app/application.h"
-#include "app/find_app_commands.h"
 #include "app/popup_app_commands.h"
 #include "app/row_app_commands.h"
 #include "base/tcl_values.h"
 #include "base/text.h"
 #include "host/znBrowserDataItems.h"
+#include "host/znIBrowserDataCtrl.h"
 #include "host/znIBrowserDataSourceSimple.h"
 #include "model/popup_menu.h"
 #include "model/view.h"
@@ -112,7 +112,7 @@ Tcl_Obj* NewColumn(const View& view, const Column& column) {
     Put(dictionary, "italic", Tcl_NewBooleanObj(column.IsItalic()));
     Put(dictionary, "tree", Tcl_NewBooleanObj(column.Kind() == ColumnKind::BuiltIn));
     Put(dictionary, "sorts", Tcl_NewBooleanObj(column.MaySort()));
-    Put(dictionary, "filter", column.Filter().IsSet() ? NewList(WordsFor(column.Filter())) : Tcl_NewObj());
+    Put(dictionary, "filter", column.Filter().IsSet() ? NewList(WordsOf(column.Filter())) : Tcl_NewObj());
     Put(dictionary, "natural", Tcl_NewBooleanObj(column.SortsNaturally()));
     Put(dictionary, "order", NewText(!sorts ? "" : view.SortsAscending() ? "ascending" : "descending"));
     Put(dictionary, "menu", NewText(column.Popup() ? column.Popup()->Name() : std::string()));
@@ -125,6 +125,7 @@ void PutView(Tcl_Obj* dictionary, const View& view) {
     Tcl_Obj* const operations = Tcl_NewListObj(0, nullptr);
     for (const auto& operation : view.Operations()) Append(operations, NewText(operation->Name()));
     Put(dictionary, "view", NewText(view.Name()));
+    Put(dictionary, "control", NewText(NameOf(view.Log(), view.DataControl())));
     Put(dictionary, "columns", columns);
     Put(dictionary, "operations", operations);
     Put(dictionary, "filter", NewText(view.Filter().pattern));
