@@ -66,7 +66,7 @@ proc ::znbrowser::askFilter {n name kind} {
     if {$fields ne ""} {
         set asked {}
         foreach field $fields value [lrange [list $low $high] 0 [llength $fields]-1] {
-            lappend asked $field 5 $value ;# a text
+            lappend asked $field 5 $value {} ;# a text, whichever
         }
         set answer [askInput $n $name {*}$asked]
         if {![isOpen $n] || [lindex $answer 0] ne "ok"} return

@@ -21,6 +21,12 @@ proc ::znbrowser::prepareLook {} {
     ttk::style configure Line.TFrame -background [colour line]
     ttk::style configure Status.TLabel -background [colour surface] -foreground [colour faint] \
         -font znBrowserSmall
+    foreach style {Status.Toolbutton Status.TMenubutton} {
+        ttk::style configure $style -font znBrowserSmall -padding {6 0} -background [colour surface] \
+            -foreground [colour faint] -relief flat -borderwidth 1 -bordercolor [colour surface]
+        ttk::style map $style -background [list selected [colour found] active [colour header]] \
+            -foreground [list selected [colour text]]
+    }
     ttk::style configure Message.TLabel -background [colour surface] -foreground [colour problem] \
         -font znBrowserSmall
     ttk::style configure Search.TEntry -padding {6 4} -fieldbackground [colour paper] \

@@ -2,13 +2,13 @@
 # way to them, as their numbers are others on another day.
 
 proc ::znbrowser::buildRecorder {n bar} {
-    ttk::checkbutton $bar.record -text "Record" -style Toolbutton -takefocus 0 \
+    ttk::checkbutton $bar.record -text "Record" -style Status.Toolbutton -takefocus 0 \
         -variable ::znbrowser::recording -command ::znbrowser::switchRecording
-    pack $bar.record -side right -padx {6 0}
+    pack $bar.record -side right -padx {4 0}
 }
 
 # The button of a window, for scripts and tests.
-proc ::znbrowser::recordButton {name} {return [set ::znbrowser::window[number $name](path)].bar.record}
+proc ::znbrowser::recordButton {name} {return [set ::znbrowser::window[number $name](path)].status.record}
 
 # The button was pressed: what was recorded is kept in a file, where its user wants that.
 proc ::znbrowser::switchRecording {} {

@@ -220,7 +220,11 @@ proc ::znbrowser::clearSearch {n} {
 # Goes to the next match, or to the one before: by the window's find request, for the text in the field.
 proc ::znbrowser::findNext {n direction} {
     upvar #0 ::znbrowser::window$n w
-    if {[host busy]} return
+    if {![isOpen $n]} return
+    if {[host busy]} {
+        after 20 [list ::znbrowser::findNext $n $direction]
+        return
+    }
     if {![applySearch $n] || ![isOpen $n] || $w(search) eq ""} return
     quietly $n {findMatch $n $direction}
 }

@@ -1,13 +1,13 @@
 # The menu "State": what a window looks like is kept by a name, and brought back, by the words of states.
 
 proc ::znbrowser::buildStates {n bar} {
-    ttk::menubutton $bar.state -text "State" -style Tool.TMenubutton -menu $bar.state.menu
+    ttk::menubutton $bar.state -text "State" -style Status.TMenubutton -menu $bar.state.menu
     makeMenu $bar.state.menu -postcommand [list ::znbrowser::fillStates $n $bar.state.menu]
-    pack $bar.state -side right -padx {6 0}
+    pack $bar.state -side right -padx {4 0}
 }
 
 # The menu of a window, for scripts and tests.
-proc ::znbrowser::stateMenu {name} {return [set ::znbrowser::window[number $name](path)].bar.state.menu}
+proc ::znbrowser::stateMenu {name} {return [set ::znbrowser::window[number $name](path)].status.state.menu}
 
 # The names of states are somebody else's: they become labels, and words of commands.
 proc ::znbrowser::fillStates {n menu} {
@@ -39,7 +39,7 @@ proc ::znbrowser::chooseControl {n} {
 }
 
 proc ::znbrowser::askState {n} {
-    set answer [askInput $n "Keep this state" Name 5 ""]
+    set answer [askInput $n "Keep this state" Name 5 "" {}]
     if {[isOpen $n] && [lindex $answer 0] eq "ok" && [lindex $answer 1] ne ""} {keepState $n [lindex $answer 1]}
 }
 

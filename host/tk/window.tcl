@@ -126,8 +126,8 @@ proc ::znbrowser::build {n} {
     buildChooser $n $w(path).bar
     buildCollectorButton $n $w(path).bar
     buildSearch $n $w(path).bar
-    buildRecorder $n $w(path).bar
-    buildStates $n $w(path).bar
+    buildStates $n $w(path).status
+    buildRecorder $n $w(path).status
     ttk::label $w(path).status.count -style Status.TLabel -anchor w
     ttk::label $w(path).status.message -style Message.TLabel -anchor e
     ttk::label $w(path).status.help -style Status.TLabel -anchor w
