@@ -205,6 +205,7 @@ constexpr AppWord appWords[] = {
     {"state delete", "DATACTRL NAME", "", "deletes a saved state", 2, 2, AppDeleteState},
     {"state entities", "DATACTRL NAME", "NAME ...", "lists the entities kept with a state", 2, 2,
      AppStateEntities},
+    {"state names", "DATACTRL", "STATE ...", "lists the saved states", 1, 1, AppStateNames},
 };
 
 int Help(AppCall& call) {

@@ -22,8 +22,9 @@ constexpr KindRow kinds[] = {
 } // namespace
 
 std::vector<std::string> WordsOf(const ColumnFilter& filter) {
-    const auto row = std::find_if(std::begin(kinds), std::end(kinds),
-                                  [&filter](const KindRow& candidate) { return candidate.kind == filter.kind; });
+    const auto row = std::find_if(std::begin(kinds), std::end(kinds), [&filter](const KindRow& candidate) {
+        return candidate.kind == filter.kind;
+    });
     std::vector<std::string> words{row->word, filter.value, filter.to};
     words.resize(1 + row->values);
     return words;
@@ -34,7 +35,8 @@ bool ReadColumnFilter(const std::vector<std::string>& words, ColumnFilter& filte
         return !words.empty() && words[0] == candidate.word;
     });
     if (row == std::end(kinds) || words.size() != 1 + row->values) return false;
-    filter = {row->kind, row->values > 0 ? words[1] : std::string(), row->values > 1 ? words[2] : std::string()};
+    filter = {row->kind, row->values > 0 ? words[1] : std::string(),
+              row->values > 1 ? words[2] : std::string()};
     return true;
 }
 

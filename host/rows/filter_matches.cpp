@@ -28,8 +28,9 @@ FilterMatches::Known& FilterMatches::Find(RowSource& source, const TextFilter& f
                                           const SearchedProperties& properties) {
     Results& results = known_[&source];
     const std::uint64_t version = source.Version();
-    results.remove_if(
-        [version](const Known& known) { return known.version != version || known.scan.failed || known.broken; });
+    results.remove_if([version](const Known& known) {
+        return known.version != version || known.scan.failed || known.broken;
+    });
     const Known* widest = nullptr;
     for (Known& known : results) {
         if (known.properties != properties) continue;
@@ -95,7 +96,9 @@ void FilterMatches::Compute(RowSource& source, Known& known, std::vector<std::in
         RowQuery query;
         query.conditions.emplace_back();
         query.conditions.back().property = property;
-        query.conditions.back().accept = [&known](std::string_view text) { return known.scan.accept(0, text); };
+        query.conditions.back().accept = [&known](std::string_view text) {
+            return known.scan.accept(0, text);
+        };
         query.among = &left;
         std::vector<std::int64_t> hits;
         source.List(query, hits);

@@ -45,7 +45,8 @@ public:
     using Clock = std::chrono::steady_clock;
     /// What scripts that compute values may have changed meanwhile.
     struct Asked {
-        /// Whether no more is to be looked at: what is being searched was deleted, or nobody waits any longer.
+        /// Whether no more is to be looked at: what is being searched was deleted, or nobody waits any
+        /// longer.
         std::function<bool()> stopped;
         /// What is to be searched now.
         std::function<SearchedProperties(RowSource& source)> properties;

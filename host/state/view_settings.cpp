@@ -157,7 +157,8 @@ void RestoreConnections(Restoring& restoring, const Settings& settings) {
 constexpr const char* allColumns = "all columns";
 constexpr const char* upTo = "to";
 
-/// The text filter, and behind it those of columns, each with its kind; what ends at a value has another line.
+/// The text filter, and behind it those of columns, each with its kind; what ends at a value has another
+/// line.
 void KeepFilter(Keeping& keeping) {
     const TextFilter& text = keeping.view.Filter();
     keeping.Add("", text.allColumns ? allColumns : "", text.pattern);

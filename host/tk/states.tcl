@@ -27,8 +27,9 @@ proc ::znbrowser::fillStates {n menu} {
 }
 
 proc ::znbrowser::stateNames {n} {
-    if {![chooseControl $n]} return
-    return [manager state names]
+    upvar #0 ::znbrowser::window$n w
+    if {![chooseControl $n] || [catch {manager app state names [dict get $w(look) control]} names]} return
+    return $names
 }
 
 # The data control of the window's view becomes the current one: states are its.
