@@ -29,7 +29,10 @@ proc ::znbrowser::styleTree {n} {
 proc ::znbrowser::styleElement {n name} {
     upvar #0 ::znbrowser::window$n w
     switch [$w(tree) element type $name] {
-        text {$w(tree) element configure $name -fill [fillOf $n [colour text]]}
+        text {
+            set fill [colour [expr {[string match null* $name] ? "faint" : "text"}]]
+            $w(tree) element configure $name -fill [fillOf $n $fill]
+        }
         rect {
             set colours [expr {[string match found* $name] ? {found found} : {button buttonLine}}]
             lassign [lmap colour $colours {colour $colour}] fill outline
@@ -63,7 +66,7 @@ proc ::znbrowser::styleFor {n inTree kinds} {
 proc ::znbrowser::elementsFor {n kind place} {
     upvar #0 ::znbrowser::window$n w
     # A button is a rectangle around a text; in a text that was found a rectangle is behind the part that matched.
-    set types [dict get {text text icon image disabled image check image button {rect text} image {}
+    set types [dict get {text text null text icon image disabled image check image button {rect text} image {}
         found {text rect text text}} $kind]
     set suffixes [expr {$kind eq "found" ? {{} Mark Match Rest} : {{} t}}]
     set names [lmap type $types suffix [lrange $suffixes 0 [llength $types]-1] {string cat $kind $place $suffix}]
@@ -97,7 +100,7 @@ proc ::znbrowser::layoutStyle {n style parts} {
             {^found\d+Mark$} {$w(tree) style layout $style $part -union [string map {Mark Match} $part]}
             {^found\d+Match$} {$w(tree) style layout $style $part -expand ns}
             {^found\d+Rest$} {$w(tree) style layout $style $part -padx {0 4} -expand ns -squeeze x}
-            {^text} {$w(tree) style layout $style $part -padx 4 -expand ns -squeeze x}
+            {^(text|null)} {$w(tree) style layout $style $part -padx 4 -expand ns -squeeze x}
             default {$w(tree) style layout $style $part -padx 3 -expand ns}
         }
     }
@@ -122,15 +125,24 @@ proc ::znbrowser::drawRow {n slot row} {
     $w(tree) item style set $w(item,$slot) $w(filler) [styleFor $n 0 {}]
     lassign $row index parent depth kind
     set cells [lindex $row 11]
+    spanRow $n $slot [expr {[lindex $row 10] eq "note"}]
     foreach number $w(shown) {
         set inTree [dict get [lindex $w(columns) $number] tree]
         if {$kind ne "item"} {
-            drawContainer $n $slot $number $inTree $row
+            drawContainer $n $slot $number [expr {$inTree || ($w(flat) && $number == [lindex $w(shown) 0])}] $row
         } else {
             set cell [lsearch -exact -integer -inline -index 0 $cells $number]
             drawCell $n $slot $number $inTree $depth [lrange $cell 1 end]
         }
     }
+}
+
+# A row that says why something cannot be read has the whole width for it.
+proc ::znbrowser::spanRow {n slot spans} {
+    upvar #0 ::znbrowser::window$n w
+    if {$spans == [info exists w(span,$slot)]} return
+    $w(tree) item span $w(item,$slot) $w(column,[lindex $w(shown) 0]) [expr {$spans ? [llength $w(shown)] + 1 : 1}]
+    if {$spans} {set w(span,$slot) 1} else {unset w(span,$slot)}
 }
 
 proc ::znbrowser::drawState {n slot row odd} {
@@ -156,6 +168,15 @@ proc ::znbrowser::drawContainer {n slot number inTree row} {
     lassign $row index parent depth kind text expanded selected hasRows bold italic icon
     set item $w(item,$slot)
     set column $w(column,$number)
+    if {$icon eq "note"} {
+        setStyle $n $slot $number [styleFor $n 1 {image button text}]
+        $w(tree) item element configure $item $column button1t -text "Retry"
+        $w(tree) item element configure $item $column text2 -text "  [oneLine $text]" \
+            -fill [fillOf $n [colour problem]]
+        $w(tree) item element configure $item $column icon -image [imageNamed $icon]
+        $w(tree) item element configure $item $column indent -width [indentOf $depth]
+        return
+    }
     setStyle $n $slot $number [styleFor $n 1 {image text}]
     $w(tree) item element configure $item $column indent -width [indentOf $depth]
     $w(tree) item element configure $item $column icon -image [imageNamed $icon]
@@ -169,6 +190,7 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
     set item $w(item,$slot)
     set column $w(column,$number)
     set italic [dict get [lindex $w(columns) $number] italic]
+    if {!$w(bare)} {set elements [lsearch -all -inline -not -exact -index 0 $elements null]}
     set elements [lmap element $elements {markFound $n $element $inTree}]
     setStyle $n $slot $number [styleFor $n $inTree [lmap element $elements {lindex $element 0}]]
     if {$inTree} {$w(tree) item element configure $item $column indent -width [indentOf $depth]}
@@ -177,7 +199,8 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
         lassign $element kind text colour
         switch $kind {
             text {
-                $w(tree) item element configure $item $column text$place -text [oneLine $text] \
+                $w(tree) item element configure $item $column text$place \
+                    -text [fitNumber $n $number $inTree [oneLine $text]] \
                     -font [fontOf 0 $italic] -fill [textFill $n $colour]
             }
             found {
@@ -187,6 +210,9 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
                     $w(tree) item element configure $item $column found$place$part \
                         -text [string range $text $from $to] -font [fontOf 0 $italic] -fill [textFill $n $colour]
                 }
+            }
+            null {
+                $w(tree) item element configure $item $column null$place -text NULL -font [fontOf 0 1]
             }
             button {
                 $w(tree) item element configure $item $column button${place}t -text [oneLine $text]
@@ -257,6 +283,7 @@ proc ::znbrowser::forgetSlots {n} {
     upvar #0 ::znbrowser::window$n w
     foreach slot [array names w drawn,*] {unset w($slot)}
     foreach style [array names w style,*] {unset w($style)}
+    foreach slot [array names w span,*] {spanRow $n [lindex [split $slot ,] 1] 0}
     foreach key [array names w item,*] {$w(tree) item configure $w($key) -visible no}
 }
 
@@ -264,7 +291,7 @@ proc ::znbrowser::forgetSlots {n} {
 proc ::znbrowser::elementNamed {name tkIndex column place} {
     set n [number $name]
     upvar #0 ::znbrowser::window$n w
-    if {$place eq "expander"} {return expander}
+    if {![string is integer $place]} {return $place}
     foreach cell [lindex [lindex $w(page) [slotOf $n $tkIndex]] 11] {
         if {[dict get [lindex $w(columns) [lindex $cell 0]] name] eq $column} {
             set kind [lindex [markFound $n [lindex $cell [expr {$place + 1}]] [dict get [lindex $w(columns) [lindex $cell 0]] tree]] 0]

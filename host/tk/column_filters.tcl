@@ -8,14 +8,8 @@ proc ::znbrowser::headerMenu {n number} {
     set column [lindex $w(columns) $number]
     fillHeaderMenu $n $menu $column
     $menu add separator
-    $menu add command -label "Columns…" -command [list ::znbrowser::postChooser $n]
+    $menu add command -label "Columns…" -command [list ::znbrowser::openChooser $n]
     return $menu
-}
-
-proc ::znbrowser::postChooser {n} {
-    upvar #0 ::znbrowser::window$n w
-    set chooser [winfo parent $w(searchField)].columns
-    tk_popup $chooser.menu [winfo rootx $chooser] [expr {[winfo rooty $chooser] + [winfo height $chooser]}]
 }
 
 # What is chosen now is ticked.

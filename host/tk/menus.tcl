@@ -17,9 +17,11 @@ proc ::znbrowser::pressRight {n x y state rootX rootY} {
     flush $n
     set at [pointed $n $x $y]
     if {[dict get $at where] eq "header"} {
-        set column [expr {[dict exists $at number] ? [dict get $at number] : -1}]
-        popupAt [expr {$column < 0 ? "[winfo parent $w(searchField)].columns.menu" : [headerMenu $n $column]}] \
-            $rootX $rootY
+        if {[dict exists $at number]} {
+            popupAt [headerMenu $n [dict get $at number]] $rootX $rootY
+        } else {
+            openChooser $n $rootX $rootY
+        }
         return
     }
     if {![dict exists $at row]} {return [openMenuAside $n $rootX $rootY]}
