@@ -120,6 +120,37 @@ foreach {what script} {
 report "memory at the end" [memory VmRSS] MiB 300
 report "memory at most" [memory VmHWM] MiB 300
 
+# ---- Keys pressed by another program while the window searches: how long one waits at most ----
+
+# The clock of the display began at another time: what the fastest key took counts as nothing.
+proc waits {widget text pace ready} {
+    set ::delays {}
+    bind $widget <KeyPress> {lappend ::delays [expr {[clock milliseconds] - %t}]}
+    focus -force $widget
+    update
+    exec xdotool key --delay $pace {*}[lmap character [split $text ""] {string map {" " space \b BackSpace} $character}] &
+    while {[llength $::delays] < [string length $text] || ![uplevel 1 [list expr $ready]]} {
+        after 5 {set ::tick 1}
+        vwait ::tick
+    }
+    bind $widget <KeyPress> {}
+    set sorted [lsort -integer $::delays]
+    return [expr {[lindex $sorted end] - [lindex $sorted 0]}]
+}
+proc look {key} {dict get [::znbrowser::host look [znbrowser::number speed]] $key}
+zn OnTkTreeRequestExpand speed [index item]
+update
+set field [znbrowser::searchField speed]
+foreach pace {30 120} {
+    set text "item 4${pace}77"
+    report "a key typed at $pace ms into the search field" [waits $field $text $pace {[look filter] eq $text}] ms 50
+    report "the same, taken back" [waits $field [string repeat \b [string length $text]] $pace {[look filter] eq ""}] ms 50
+}
+focus -force $tree
+report "a key typed to find a row that is not there" [waits $tree "item x" 120 {![info exists ::znbrowser::window[znbrowser::number speed](finding)]}] ms 50
+zn OnTkTreeRequestCollapse speed [index item]
+update
+
 # ---- A popup menu of 30 items, against Tk's menu with the same entries ----
 
 zn view popupmenu create thirty

@@ -7,6 +7,21 @@ znbrowsermanager window expandall
 znbrowsermanager app rows main 2 1
 znbrowsermanager app draw main
 znbrowsermanager app popup main
+# The same row on another day, and all from one to another.
+znbrowsermanager app path main 3
+znbrowsermanager app row main {part wheel}
+znbrowsermanager app row main {part wheel} {part rim}
+# Only rows with such a name; the text of a filter may stand in any column shown.
+znbrowsermanager app filter column parts Name contains e
+znbrowsermanager app draw main
+znbrowsermanager app filter column parts Name none
+znbrowsermanager app filter scope parts shown
+znbrowsermanager app sort natural parts Name true
+znbrowsermanager app prune main
+# What is done in windows from now on.
+znbrowsermanager app record on
+znbrowsermanager app record
+znbrowsermanager app record off
 # An item, what it refers to, what refers to it, and the way to another one.
 znbrowsermanager app item main 2 100
 znbrowsermanager app references main 2
@@ -38,6 +53,7 @@ znbrowsermanager app inputfield create bicycle limit integer
 znbrowsermanager app inputfield choices bicycle limit {300 500}
 znbrowsermanager app inputfield delete bicycle limit
 znbrowsermanager app state create bicycle morning
+znbrowsermanager app state names bicycle
 znbrowsermanager app state entities bicycle morning
 znbrowsermanager app state delete bicycle morning
 znbrowsermanager app help

@@ -3,6 +3,7 @@
 
 #include "app/data_app_commands.h"
 #include "app/database_app_commands.h"
+#include "app/find_app_commands.h"
 #include "app/item_app_commands.h"
 #include "app/popup_app_commands.h"
 #include "app/row_app_commands.h"
@@ -178,6 +179,10 @@ constexpr AppWord appWords[] = {
     {"datactrl write", "DATACTRL ?BOOL?", "BOOL", "tells whether the database may be changed, or sets it", 1,
      2, AppWrite},
     {"draw", "WINDOW", "TEXT", "draws what a window shows, as a table", 1, 1, AnswerDraw},
+    {"filter column", "VIEW COLUMN ?none|null|contains TEXT|equals VALUE|between LOW HIGH?", "FILTER",
+     "sets or reads which values in a column are shown", 2, 5, AppFilterColumn},
+    {"filter scope", "VIEW ?name|shown?", "name|shown",
+     "sets or reads whether the text filter looks at names or at all columns shown", 1, 2, AppFilterScope},
     {"flat", "WINDOW ?BOOL?", "BOOL",
      "tells whether the items of the lists at the top stand there without a row for each list, or sets it", 1,
      2, AnswerFlat},
@@ -196,9 +201,16 @@ constexpr AppWord appWords[] = {
     {"journal clear", "", "", "empties the record of host calls", 0, 0, JournalClear},
     {"journal off", "", "", "stops recording host calls", 0, 0, JournalOff},
     {"journal on", "", "", "records host calls from now on", 0, 0, JournalOn},
+    {"path", "WINDOW INDEX", "PATH", "names the way to a row, for \"app row\"", 2, 2, AppPath},
     {"popup", "WINDOW ?COLUMN INDEX ...?", "ENTRY ...",
      "lists what a right click on these rows shows, or on the selected ones: a dictionary for each entry", 1,
      anyNumber, AnswerPopup},
+    {"prune", "WINDOW", "", "collapses whatever holds no selected row", 1, 1, AppPrune},
+    {"record", "", "LINE ...", "lists what the user did while it was recorded, as lines of script", 0, 0,
+     AppRecord},
+    {"record off", "", "", "stops recording what the user does", 0, 0, AppRecordOff},
+    {"record on", "?FILE?", "", "records what the user does in windows from now on, in FILE too", 0, 1,
+     AppRecordOn},
     {"references", "WINDOW INDEX", "ITEM ...",
      "lists the items that an item refers to, a dictionary for each", 2, 2, AnswerReferences},
     {"referring", "WINDOW INDEX ?REFERENCE ?MOST??", "ENTRY ...",
@@ -208,8 +220,12 @@ constexpr AppWord appWords[] = {
      "lets the next call of OPERATION fail with TEXT; or lists what waits", 0, 2, Refuse},
     {"reveal", "WINDOW DATASOURCE ROW", "BOOL",
      "opens what lies above an item and scrolls to it; tells whether the window has it", 3, 3, AnswerReveal},
+    {"row", "WINDOW PATH ?LASTPATH?", "INDEX ...",
+     "answers the index of the row that names lead to, or those of all rows between two", 2, 3, AppRow},
     {"rows", "WINDOW ?FIRST COUNT?", "ROW ...", "lists what a window shows, a dictionary for each row", 1, 3,
      AnswerRows},
+    {"sort natural", "VIEW COLUMN ?BOOL?", "BOOL",
+     "sets or reads whether numbers in the texts of a column are ordered as numbers", 2, 3, AppSortNatural},
     {"sql", "DATACTRL STATEMENT ?VALUE ...?", "VALUE ...",
      "runs one SQL statement, the values bound to its ?s", 2, anyNumber, Sql},
     {"state create", "DATACTRL NAME", "NAME", "adds a state in which nothing is saved yet", 2, 2,
@@ -217,6 +233,7 @@ constexpr AppWord appWords[] = {
     {"state delete", "DATACTRL NAME", "", "deletes a saved state", 2, 2, AppDeleteState},
     {"state entities", "DATACTRL NAME", "NAME ...", "lists the entities kept with a state", 2, 2,
      AppStateEntities},
+    {"state names", "DATACTRL", "STATE ...", "lists the saved states", 1, 1, AppStateNames},
 };
 
 int Help(AppCall& call) {

@@ -2,6 +2,7 @@
 #ifndef ZN_HOST_APPLICATION_H
 #define ZN_HOST_APPLICATION_H
 
+#include "app/recorder.h"
 #include "base/named_list.h"
 #include "base/services.h"
 #include "host/znIBrowserApplication.h"
@@ -20,6 +21,7 @@ public:
     ~Application() override;
 
     BrowserStates& Model() { return browser_; }
+    Recorder& Recording() { return recorder_; }
     NamedList<DataCtrl>& DataControls() { return dataControls_; }
     /// Adds a data control on a database file, made when missing unless it is only to be read, or on one in
     /// memory when `file` is "".
@@ -38,6 +40,7 @@ public:
 
 private:
     znSignal<single_threaded, const char*> windowReselected_;
+    Recorder recorder_;
     // The browser goes first: what it holds points into the data controls.
     NamedList<DataCtrl> dataControls_;
     BrowserStates browser_;

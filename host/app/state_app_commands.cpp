@@ -34,6 +34,15 @@ int AppDeleteState(AppCall& call) {
     return call.Answer("");
 }
 
+int AppStateNames(AppCall& call) {
+    DataCtrl* const control = call.DataControl(0);
+    if (!control) return TCL_ERROR;
+    std::vector<std::string> names;
+    std::string error;
+    if (!StatesOf(*control).Store().Names(names, error)) return FailState(call, error);
+    return call.Answer(names);
+}
+
 int AppStateEntities(AppCall& call) {
     DataCtrl* const control = call.DataControl(0);
     if (!control) return TCL_ERROR;

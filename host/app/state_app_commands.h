@@ -12,6 +12,8 @@ int AppCreateState(AppCall& call);
 int AppDeleteState(AppCall& call);
 /// DATACTRL NAME: answers the entities kept with a state, in the order added.
 int AppStateEntities(AppCall& call);
+/// DATACTRL
+int AppStateNames(AppCall& call);
 
 } // namespace znhost
 

@@ -1,5 +1,6 @@
 #include "base/text.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <tcl.h>
@@ -239,6 +240,34 @@ std::string Fold(std::string_view text) {
     std::string folded;
     Fold(text, folded);
     return folded;
+}
+
+/// Before each number stands how many digits it has, without zeros in front; numbers of equal value are told
+/// apart by these zeros, which stand behind it all.
+std::string NaturalKey(std::string_view text) {
+    constexpr std::size_t longest = 0xFF;
+    const auto isDigit = [&text](std::size_t place) {
+        return ByteAt(text, place) >= '0' && ByteAt(text, place) <= '9';
+    };
+    std::string key;
+    std::string zeros;
+    for (std::size_t place = 0; place < text.size();) {
+        if (!isDigit(place)) {
+            key += text[place++];
+            continue;
+        }
+        const std::size_t start = place;
+        while (text[place] == '0' && isDigit(place + 1)) ++place;
+        const std::size_t first = place;
+        while (place < text.size() && isDigit(place)) ++place;
+        // A sign that is ordered as digits are among other characters.
+        key += '0';
+        for (std::size_t length = place - first; length >= longest; length -= longest) key += '\xFF';
+        key += static_cast<char>((place - first) % longest);
+        key += text.substr(first, place - first);
+        zeros += static_cast<char>(std::min<std::size_t>(first - start, longest));
+    }
+    return key + '\0' + zeros;
 }
 
 bool BeginsWithFolded(std::string_view text, std::string_view beginning) {

@@ -35,6 +35,8 @@ char32_t Folded(char32_t character);
 /// The text in lower case, in a storage that is used again. Texts are sorted by the bytes of this.
 const std::string& Fold(std::string_view text, std::string& folded);
 std::string Fold(std::string_view text);
+/// The text so that ordering the bytes orders the numbers in it by their values: "row 2" before "row 10".
+std::string NaturalKey(std::string_view text);
 /// Whether the text begins with the other one, letter case aside.
 bool BeginsWithFolded(std::string_view text, std::string_view beginning);
 

@@ -31,6 +31,17 @@ void Column::SetJustification(Justify justify) {
     Changed(VIEW_COLUMNS);
 }
 
+void Column::SetSortsNaturally(bool naturally) {
+    naturally_ = naturally;
+    Changed(VIEW_ROWS | VIEW_COLUMNS);
+}
+
+void Column::SetFilter(ColumnFilter filter) {
+    if (filter == filter_) return;
+    filter_ = std::move(filter);
+    Changed(VIEW_FILTER | VIEW_COLUMNS);
+}
+
 void Column::Forget(const ViewProperty& property) {
     if (sortProperty_ == property.Name()) sortProperty_.clear();
 }

@@ -5,6 +5,7 @@
 #include "base/host_call.h"
 #include "base/named_list.h"
 #include "host/znIBrowserViewColumn.h"
+#include "model/column_filter.h"
 #include "model/popup_place.h"
 #include "model/style.h"
 
@@ -46,6 +47,11 @@ public:
     ZNBROWSER_SORT_ORDER SortOrder() const;
     /// The view property by which the column sorts; "" for its text.
     const std::string& SortProperty() const { return sortProperty_; }
+    /// Whether the numbers in texts are compared as numbers: "row 2" before "row 10".
+    bool SortsNaturally() const { return naturally_; }
+    void SetSortsNaturally(bool naturally);
+    const ColumnFilter& Filter() const { return filter_; }
+    void SetFilter(ColumnFilter filter);
     /// Lets go of a property that is about to be deleted.
     void Forget(const ViewProperty& property);
     const NamedList<Style>& Styles() const { return styles_; }
@@ -89,6 +95,8 @@ private:
     bool italic_ = false;
     bool shown_ = true;
     bool sorting_ = true;
+    bool naturally_ = false;
+    ColumnFilter filter_;
     int width_;
     Justify justify_ = Justify::Left;
     NamedList<Style> styles_;

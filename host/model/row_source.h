@@ -2,9 +2,11 @@
 #ifndef ZN_HOST_ROW_SOURCE_H
 #define ZN_HOST_ROW_SOURCE_H
 
+#include "base/row_set.h"
 #include "host/znIBrowserDataSourceSimple.h"
 #include "host/znutl/znString.h"
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -43,10 +45,14 @@ struct RowLink {
 /// One condition on the items.
 struct RowCondition {
     enum class Compare {
-        Accept, ///< `accept` takes the value's text; an item without a value is not taken.
-        Equal,  ///< The value equals `value`: as a number where the property is a number, as a text else.
-        Less,   ///< The value is less than `value`, compared in the same way.
-        More,   ///< The value is more than `value`.
+        Accept,  ///< `accept` takes the value's text; an item without a value is not taken.
+        Equal,   ///< The value equals `value`: as a number where the property is a number, else as a text,
+                 ///< letter case aside.
+        Less,    ///< The value is less than `value`, compared in the same way.
+        More,    ///< The value is more than `value`.
+        AtLeast, ///< The value is `value` or more.
+        AtMost,  ///< The value is `value` or less.
+        Null,    ///< There is no value.
     };
 
     /// The property whose value is tested; null: the item's text.
@@ -66,6 +72,7 @@ struct RowOrder {
     /// without a value come first; items of equal value keep the source's own order in either direction.
     znIBrowserDataProperty* property = nullptr;
     bool descending = false;
+    bool natural = false; ///< The numbers in texts are compared as numbers.
 };
 
 /// Which rows of a source are meant: all, or
@@ -77,9 +84,28 @@ struct RowQuery {
     /// to.
     std::int64_t parent = 0;
     bool top = false;
-    /// - of these, the ones that fulfil every condition.
+    /// - of these, the ones that fulfil every condition,
     std::vector<RowCondition> conditions;
+    /// - and are in this set; null: whatever they are.
+    const RowSet* among = nullptr;
     RowOrder order;
+};
+
+/// A search through all rows of a source, a slice at a time: what is looked for, and how far it has come.
+struct RowScan {
+    /// Whose values are looked at, all of them stored; null: the item's text.
+    std::vector<znIBrowserDataProperty*> properties;
+    /// Takes the text of a value of `properties[place]`; an item without a value there is not asked about.
+    std::function<bool(std::size_t place, std::string_view text)> accept;
+    /// Only these rows are looked at; null: all.
+    const RowSet* among = nullptr;
+
+    std::size_t part = 0; ///< of the source's tables the one to go on with,
+    std::int64_t row = 0; ///< behind that row of it,
+    bool inPart = false;  ///< unless it is still to be begun
+    bool done = false;
+    bool failed = false;     ///< not all could be read; the reason is noted
+    std::int64_t looked = 0; ///< how many rows have been looked at
 };
 
 /// How far the rows of a source are numbered at some moment: rows that come later are known by it.
@@ -99,6 +125,12 @@ public:
 
     /// Replaces what `rows` holds by the rows of `query`, in order: one pass, nothing else is kept.
     virtual void List(const RowQuery& query, std::vector<std::int64_t>& rows) = 0;
+    /// Goes on with a search until that time, or to its end. Appends the rows with a value that is taken, in
+    /// ascending order of each table, to `found`, and the others to `others`, unless that is null.
+    virtual void Scan(RowScan& scan, std::chrono::steady_clock::time_point until,
+                      std::vector<std::int64_t>& found, std::vector<std::int64_t>* others) = 0;
+    /// Another number as soon as rows of the database may be others than before.
+    virtual std::uint64_t Version() = 0;
     /// How many rows `List` would give.
     virtual std::int64_t Count(const RowQuery& query) = 0;
     /// Whether the item `parent` of the link's parent source has a child along `link`. Answered from an

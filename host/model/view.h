@@ -9,6 +9,7 @@
 #include "model/free_folder.h"
 #include "model/popup_place.h"
 #include "model/selection.h"
+#include "model/text_filter.h"
 #include "model/view_collector.h"
 #include "model/view_observer.h"
 #include "model/view_operation.h"
@@ -24,13 +25,6 @@
 namespace znhost {
 
 class Browser;
-
-/// What narrows the rows of a view to those with a text.
-struct TextFilter {
-    std::string pattern; ///< "" for no filter.
-    bool matchCase = false;
-    bool matchWord = false;
-};
 
 class View final : public znIBrowserView, public HostObject, public std::enable_shared_from_this<View> {
 public:
@@ -98,6 +92,10 @@ public:
     /// Whether the filter shows the items of that source.
     bool IsShown(znIBrowserDataSourceSimple* source) const;
     const TextFilter& Filter() const { return filter_; }
+    /// Lets the text filter look at all columns shown, or at the items' texts only.
+    void SetFilterAllColumns(bool all);
+    /// Whether there is a text filter, or one of a column.
+    bool IsFiltered() const;
     bool GroupsFilter() const { return groupFilter_; }
     /// The simple data sources that the view has: in its folders, then those only connected.
     std::vector<znIBrowserDataSourceSimple*> ShowableSources() const;

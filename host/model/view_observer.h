@@ -12,12 +12,13 @@ class FreeFolder;
 
 /// What changed in a view, as bits.
 enum ViewChange : unsigned {
-    VIEW_ROWS = 1,       ///< Which rows there are, or their order: folders, trees, lists, filters, sorting.
+    VIEW_ROWS = 1,       ///< Which rows there are, or their order: folders, trees, lists, sorting.
     VIEW_COLUMNS = 2,    ///< Which columns there are, or how they are laid out.
     VIEW_CELLS = 4,      ///< What cells show: properties, connections, styles, fonts.
     VIEW_SELECTION = 8,  ///< What is selected.
     VIEW_COLLECTED = 16, ///< What is collected.
-    VIEW_ALL = 31
+    VIEW_FILTER = 32,    ///< Which of the rows the filter lets through.
+    VIEW_ALL = 63
 };
 
 /// Whoever shows a view. Changes come in batches, so an observer takes note and looks at the view when it

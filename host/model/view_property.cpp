@@ -77,7 +77,8 @@ znVariant ScriptedValue::GetValue(const znBrowserDataItem& item) {
 ViewProperty::ViewProperty(View& view, std::string name)
     : HostObject(view.Log()), view_(view), name_(std::move(name)), scripted_(*this) {}
 
-void ViewProperty::Changed() const { view_.Changed(VIEW_CELLS); }
+/// Filters look at values, too.
+void ViewProperty::Changed() const { view_.Changed(VIEW_CELLS | (view_.IsFiltered() ? VIEW_FILTER : 0U)); }
 
 void ViewProperty::SetType(ZNBROWSER_DATA_TYPE type) {
     type_ = type;

@@ -6,6 +6,8 @@
 #include "model/row_source.h"
 #include "model/view.h"
 
+#include <algorithm>
+
 namespace znhost {
 
 bool View::SelectFolder(FreeFolder& folder, bool selected) {
@@ -157,7 +159,15 @@ const char* View::GetFilterString() const {
 
 bool View::SetFilterString(const char* pattern) {
     if (Refused("znIBrowserView::SetFilterString", pattern)) return false;
-    return Set(filter_.pattern, TextOf(pattern), VIEW_ROWS);
+    return Set(filter_.pattern, TextOf(pattern), VIEW_FILTER);
+}
+
+void View::SetFilterAllColumns(bool all) { Set(filter_.allColumns, all, VIEW_FILTER); }
+
+bool View::IsFiltered() const {
+    return !filter_.pattern.empty() || std::any_of(columns_.begin(), columns_.end(), [](const auto& column) {
+        return column->Filter().IsSet();
+    });
 }
 
 bool View::GetFilterMatchCase() const {
@@ -167,7 +177,7 @@ bool View::GetFilterMatchCase() const {
 
 bool View::SetFilterMatchCase(bool matchCase) {
     if (Refused("znIBrowserView::SetFilterMatchCase", matchCase)) return false;
-    return Set(filter_.matchCase, matchCase, VIEW_ROWS);
+    return Set(filter_.matchCase, matchCase, VIEW_FILTER);
 }
 
 bool View::GetFilterMatchWord() const {
@@ -177,7 +187,7 @@ bool View::GetFilterMatchWord() const {
 
 bool View::SetFilterMatchWord(bool matchWord) {
     if (Refused("znIBrowserView::SetFilterMatchWord", matchWord)) return false;
-    return Set(filter_.matchWord, matchWord, VIEW_ROWS);
+    return Set(filter_.matchWord, matchWord, VIEW_FILTER);
 }
 
 } // namespace znhost

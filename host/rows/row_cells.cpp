@@ -21,7 +21,7 @@ std::string RowCell::Text() const {
 
 std::vector<ItemCells> RowCells::Read(const RowContent& block, const std::vector<std::int64_t>& rows,
                                       const std::function<bool()>& isStopped) {
-    const std::shared_ptr<const Layout> layout = LayoutOf(block);
+    const std::shared_ptr<const Layout> layout = LayoutOf(block, Showing::All);
     std::vector<std::optional<std::string>> texts;
     block.source->ReadTexts(rows, layout->stored, texts);
     std::vector<ItemCells> items;
@@ -37,14 +37,28 @@ std::vector<ItemCells> RowCells::Read(const RowContent& block, const std::vector
     return items;
 }
 
+std::vector<std::string> RowCells::ReadNames(const RowContent& block, const std::vector<std::int64_t>& rows,
+                                             const std::function<bool()>& isStopped) {
+    const std::shared_ptr<const Layout> layout = LayoutOf(block, Showing::Names);
+    std::vector<std::optional<std::string>> texts;
+    block.source->ReadTexts(rows, layout->stored, texts);
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < rows.size() && !isStopped(); ++i) {
+        const Item item{block, rows[i], texts.data() + i * layout->stored.size(), isStopped};
+        names.push_back(ReadCell(layout->columns.front(), item).Text());
+    }
+    return names;
+}
+
 // ---- What is looked up ----
 
-std::shared_ptr<const RowCells::Layout> RowCells::LayoutOf(const RowContent& block) {
-    std::shared_ptr<const Layout>& known = layouts_[{block.folder.get(), block.source}];
+std::shared_ptr<const RowCells::Layout> RowCells::LayoutOf(const RowContent& block, Showing what) {
+    std::shared_ptr<const Layout>& known = layouts_[{block.folder.get(), block.source, what}];
     if (!known) {
         const auto layout = std::make_shared<Layout>();
         for (const std::shared_ptr<Column>& column : view_.Columns()) {
-            if (column->IsShown() || column->Kind() == ColumnKind::BuiltIn) AddColumn(column, block, *layout);
+            const bool isShown = what == Showing::All && column->IsShown();
+            if (isShown || column->Kind() == ColumnKind::BuiltIn) AddColumn(column, block, *layout);
         }
         known = layout;
     }

@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -59,6 +60,10 @@ public:
     std::vector<ItemCells> Read(const RowContent& block, const std::vector<std::int64_t>& rows,
                                 const std::function<bool()>& isStopped);
 
+    /// What they are called only: what they show in the built-in column.
+    std::vector<std::string> ReadNames(const RowContent& block, const std::vector<std::int64_t>& rows,
+                                       const std::function<bool()>& isStopped);
+
     /// The view property of an element, by its name; with an unknown one, the property that the column shows.
     /// Null when there is none.
     ViewProperty* PropertyOf(const RowContent& block, const Column& column, const std::string& element) const;
@@ -88,7 +93,8 @@ private:
         const std::function<bool()>& isStopped;
     };
 
-    std::shared_ptr<const Layout> LayoutOf(const RowContent& block);
+    enum class Showing { All, Names };
+    std::shared_ptr<const Layout> LayoutOf(const RowContent& block, Showing what);
     void AddColumn(const std::shared_ptr<Column>& column, const RowContent& block, Layout& layout) const;
     Element MakeElement(ViewProperty& property, const StyleElement* element, const RowContent& block,
                         Layout& layout) const;
@@ -98,7 +104,8 @@ private:
 
     View& view_;
     const RowPlan& plan_;
-    std::map<std::pair<const FreeFolder*, const RowSource*>, std::shared_ptr<const Layout>> layouts_;
+    std::map<std::tuple<const FreeFolder*, const RowSource*, Showing>, std::shared_ptr<const Layout>>
+        layouts_;
 };
 
 } // namespace znhost

@@ -8,7 +8,7 @@
 namespace znhost {
 
 RowFilter::RowFilter(const std::vector<RowSource*>& sources, const std::vector<RowLink>& links,
-                     const Conditions& conditions, const RowDisplay* display,
+                     const Matches& matches, const RowDisplay* display,
                      const std::function<bool()>& isStopped)
     : links_(links), parents_(links.size()) {
     std::vector<RowSource*> all = sources;
@@ -20,10 +20,9 @@ RowFilter::RowFilter(const std::vector<RowSource*>& sources, const std::vector<R
     all.erase(std::unique(all.begin(), all.end()), all.end());
     std::vector<std::pair<RowSource*, std::vector<std::int64_t>>> found;
     for (RowSource* const source : all) {
-        RowQuery query;
-        if (!source || !conditions(*source, query.conditions)) continue;
+        if (!source) continue;
         std::vector<std::int64_t> rows;
-        source->List(query, rows);
+        matches(*source, rows);
         if (isStopped()) return;
         if (display) display->Narrow(source, rows);
         matches_[source].Add(rows);
@@ -33,9 +32,16 @@ RowFilter::RowFilter(const std::vector<RowSource*>& sources, const std::vector<R
     for (auto& [source, rows] : found) KeepParents(source, std::move(rows), display);
 }
 
-bool RowFilter::Has(const Sets& sets, const RowSource* source, std::int64_t row) {
+const RowSet& RowFilter::Of(const Sets& sets, const RowSource* source) {
+    static const RowSet none;
     const auto set = sets.find(source);
-    return set != sets.end() && set->second.Has(row);
+    return set == sets.end() ? none : set->second;
+}
+
+std::map<const RowSource*, std::size_t> RowFilter::CountMatches() const {
+    std::map<const RowSource*, std::size_t> counts;
+    for (const auto& [source, rows] : matches_) counts.emplace(source, rows.Size());
+    return counts;
 }
 
 /// Each item is looked at once: what is kept already has had its parents kept.
@@ -65,17 +71,6 @@ void RowFilter::KeepParents(RowSource* source, std::vector<std::int64_t> rows, c
 bool RowFilter::KeepsBelow(const RowLink& link, std::int64_t parent) const {
     const auto found = std::find(links_.begin(), links_.end(), link);
     return found != links_.end() && parents_[static_cast<std::size_t>(found - links_.begin())].Has(parent);
-}
-
-void RowFilter::Narrow(const RowSource* source, std::vector<std::int64_t>& rows) const {
-    const auto kept = kept_.find(source);
-    if (kept == kept_.end()) {
-        rows.clear();
-        return;
-    }
-    const RowSet& set = kept->second;
-    rows.erase(std::remove_if(rows.begin(), rows.end(), [&set](std::int64_t row) { return !set.Has(row); }),
-               rows.end());
 }
 
 } // namespace znhost

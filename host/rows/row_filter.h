@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <unordered_map>
 #include <vector>
 
@@ -18,27 +19,28 @@ class RowDisplay;
 /// these, and so on. Made by one pass over each source, however many items are expanded.
 class RowFilter {
 public:
-    /// Fills in what an item of the source must fulfil; false when none of its items can.
-    using Conditions = std::function<bool(RowSource& source, std::vector<RowCondition>& conditions)>;
+    /// Fills in which rows of the source are looked for.
+    using Matches = std::function<void(RowSource& source, std::vector<std::int64_t>& rows)>;
 
     /// The values that conditions look at may come from scripts that delete anything: when `isStopped` tells
     /// so, no more is looked at, and the filter is of no use.
     /// @param display  hidden items match nothing, nor is anything kept above them; null: nothing is hidden
     RowFilter(const std::vector<RowSource*>& sources, const std::vector<RowLink>& links,
-              const Conditions& conditions, const RowDisplay* display,
-              const std::function<bool()>& isStopped);
+              const Matches& matches, const RowDisplay* display, const std::function<bool()>& isStopped);
 
-    bool IsMatch(const RowSource* source, std::int64_t row) const { return Has(matches_, source, row); }
-    bool Keeps(const RowSource* source, std::int64_t row) const { return Has(kept_, source, row); }
+    bool IsMatch(const RowSource* source, std::int64_t row) const { return Of(matches_, source).Has(row); }
+    bool Keeps(const RowSource* source, std::int64_t row) const { return Of(kept_, source).Has(row); }
     /// Whether a kept item lies below `parent` along that link.
     bool KeepsBelow(const RowLink& link, std::int64_t parent) const;
-    /// Takes out of `rows` what is not kept.
-    void Narrow(const RowSource* source, std::vector<std::int64_t>& rows) const;
+    /// The rows of the source that are kept.
+    const RowSet& Kept(const RowSource* source) const { return Of(kept_, source); }
+    /// By source: how many rows match.
+    std::map<const RowSource*, std::size_t> CountMatches() const;
 
 private:
     using Sets = std::unordered_map<const RowSource*, RowSet>;
 
-    static bool Has(const Sets& sets, const RowSource* source, std::int64_t row);
+    static const RowSet& Of(const Sets& sets, const RowSource* source);
     void KeepParents(RowSource* source, std::vector<std::int64_t> rows, const RowDisplay* display);
 
     std::vector<RowLink> links_;

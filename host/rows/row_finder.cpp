@@ -67,7 +67,7 @@ RowFinder::RowFinder(View& view, RowModel& model, std::vector<FindCriterion> cri
     const ReadTrouble::Watch watch(view.Owner().Services().Trouble());
     const RowModel::Answering answering(model); // may run a script that deletes the view
     revision_ = model.Revision();
-    if (!model.IsStopped() && Prepare(view)) Walk();
+    if (!model.IsStopped() && Prepare(view)) Walk(view.Owner().Services());
     if (watch.Seen() && error_.empty()) error_ = watch.Text();
     if (model.IsStopped()) error_ = "What was to be searched has been deleted";
 }
@@ -104,14 +104,32 @@ bool RowFinder::ConditionsFor(RowSource& source, std::vector<RowCondition>& cond
     return true;
 }
 
+void RowFinder::Match(RowSource& source, std::vector<std::int64_t>& rows) const {
+    RowQuery query;
+    if (const std::optional<TextFilter> filter = AsFilter()) {
+        rows = model_.Plan().Matches(source, *filter).ToVector();
+    } else if (ConditionsFor(source, query.conditions)) {
+        source.List(query, rows);
+    }
+}
+
+/// What a filter on the items' texts would look for; nothing when that is not what is looked for.
+std::optional<TextFilter> RowFinder::AsFilter() const {
+    const znBrowserCriterion& criterion = criteria_[0].criterion;
+    const bool compares =
+        criterion.type == ZNBROWSER_CRITERION_MORE_THAN || criterion.type == ZNBROWSER_CRITERION_LESS_THAN;
+    const std::string pattern = criterion.value.Str();
+    if (criteria_.size() != 1 || tests_[0].second || compares || criterion.useregexp) return std::nullopt;
+    if (pattern.find_first_of("*?") != pattern.npos) return std::nullopt;
+    return TextFilter{pattern, criterion.matchcase, criterion.matchword, false};
+}
+
 std::shared_ptr<const RowFilter> RowFinder::FilterFor(const RowContent& block) {
     std::shared_ptr<const RowFilter>& filter = filters_[{block.scope.get(), block.source}];
     if (!filter) {
         filter = std::make_shared<RowFilter>(
             std::vector<RowSource*>{block.source}, block.scope->links,
-            [this](RowSource& source, std::vector<RowCondition>& conditions) {
-                return ConditionsFor(source, conditions);
-            },
+            [this](RowSource& source, std::vector<std::int64_t>& rows) { Match(source, rows); },
             block.scope->display.get(), [this] { return model_.IsStopped(); });
     }
     return filter;
@@ -119,10 +137,13 @@ std::shared_ptr<const RowFilter> RowFinder::FilterFor(const RowContent& block) {
 
 // ---- The walk ----
 
-void RowFinder::Walk() {
+void RowFinder::Walk(const HostServices& services) {
+    constexpr std::size_t stepsBetweenQuestions = 4096;
+    std::size_t steps = 0;
     frames_.push_back({});
     frames_.back().contents = model_.Plan().Below(model_.Top());
     while (!frames_.empty() && !model_.IsStopped() && entries_.size() < mostEntries) {
+        if (++steps % stepsBetweenQuestions == 0 && !(error_ = services.WhyStop()).empty()) return;
         Frame& frame = frames_.back();
         if (frame.nextRow < frame.rows.size()) {
             WalkRow(frame);
@@ -157,9 +178,8 @@ void RowFinder::WalkContent(Frame& frame) {
     }
     frame.filter = FilterFor(content);
     if (model_.IsStopped()) return;
-    frame.rows = model_.Plan().List(content);
+    frame.rows = model_.Plan().List(content, frame.filter->Kept(content.source));
     frame.nextRow = 0;
-    frame.filter->Narrow(content.source, frame.rows);
 }
 
 void RowFinder::WalkRow(Frame& frame) {

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -16,6 +17,7 @@
 
 namespace znhost {
 
+class HostServices;
 class View;
 
 /// What is searched for: the name of a view property, or of the built-in column, and how its value matches.
@@ -66,7 +68,9 @@ private:
     std::size_t NextToSelected(bool forward, const View& view) const;
     bool Prepare(const View& view);
     bool ConditionsFor(RowSource& source, std::vector<RowCondition>& conditions) const;
-    void Walk();
+    void Match(RowSource& source, std::vector<std::int64_t>& rows) const;
+    std::optional<TextFilter> AsFilter() const;
+    void Walk(const HostServices& services);
     void WalkRow(Frame& frame);
     void WalkContent(Frame& frame);
     std::uint32_t AddEntry(std::uint32_t above, std::uint32_t content, std::int64_t row);

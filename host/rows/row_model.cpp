@@ -16,6 +16,7 @@ namespace znhost {
 
 RowModel::RowModel(View& view)
     : view_(&view), log_(view.Log()), plan_(view), cells_(view, plan_), pending_(VIEW_ALL) {
+    plan_.SetStopped([this] { return stopped_ || !GoesOn(); });
     tree_.Root().content.folder = view.RootFolder().shared_from_this();
 }
 
@@ -23,7 +24,7 @@ RowModel::RowModel(View& view)
 
 void RowModel::OnViewChanged(unsigned changes) noexcept {
     pending_ |= changes;
-    if (changes & VIEW_ROWS) {
+    if (changes & (VIEW_ROWS | VIEW_FILTER)) {
         Tell(RowChange::AllFilled);
     } else if (changes & (VIEW_CELLS | VIEW_COLUMNS | VIEW_COLLECTED)) {
         Tell(RowChange::AllCells);
@@ -99,8 +100,9 @@ void RowModel::TakeOver() {
     const unsigned changes = std::exchange(pending_, 0U);
     if (changes & ~unsigned{VIEW_SELECTION | VIEW_COLLECTED}) ++revision_;
     if (changes & VIEW_COLUMNS) shown_.clear();
-    if (changes & (VIEW_ROWS | VIEW_CELLS)) ForgetCounts();
-    if (!(changes & VIEW_ROWS)) return;
+    if (changes & (VIEW_ROWS | VIEW_CELLS)) plan_.ForgetMatches();
+    if (changes & (VIEW_ROWS | VIEW_FILTER | VIEW_CELLS)) ForgetCounts();
+    if (!(changes & (VIEW_ROWS | VIEW_FILTER))) return;
     plan_.Forget();
     Refresh();
     if (kept_ && !stopped_) BringBackKept();
@@ -363,6 +365,17 @@ std::string ColumnOf(const znIBrowserDataReference& reference) {
 
 } // namespace
 
+/// What a container is called, without the number of its rows.
+std::string RowModel::CaptionOf(const RowContent& container) const {
+    if (container.kind == RowKind::Folder) return container.folder->Name();
+    if (container.kind == RowKind::Tree) return NameOf(log_, container.scope->tree);
+    znIBrowserDataSourceSimple* const source = container.source->GetSource();
+    const FolderList* const list = container.link.reference ? nullptr : container.folder->FindList(source);
+    std::string text = list && !list->caption.empty() ? list->caption : TextOf(source->GetCaption());
+    if (text.empty()) text = NameOf(log_, source);
+    return IsOneOfSeveral(container) ? text + " · " + ColumnOf(*container.link.reference) : text;
+}
+
 /// What a container shows of itself.
 RowLook RowModel::LookOf(const Row& row) {
     const RowContent& container = row.Content();
@@ -379,20 +392,12 @@ RowLook RowModel::LookOf(const Row& row) {
         look.text = "cannot be read: " + container.note;
         return look;
     }
+    look.text = CaptionOf(container);
     if (container.kind == RowKind::Folder) {
-        look.text = container.folder->Name();
         look.bold = settings.bold;
         look.italic = settings.italic;
-    } else if (container.kind == RowKind::Tree) {
-        look.text = NameOf(log_, container.scope->tree);
-    } else {
-        znIBrowserDataSourceSimple* const source = container.source->GetSource();
-        const FolderList* const list =
-            container.link.reference ? nullptr : container.folder->FindList(source);
-        look.text = list && !list->caption.empty() ? list->caption : TextOf(source->GetCaption());
-        look.source = NameOf(log_, source);
-        if (look.text.empty()) look.text = look.source;
-        if (IsOneOfSeveral(container)) look.text += " · " + ColumnOf(*container.link.reference);
+    } else if (container.kind != RowKind::Tree) {
+        look.source = NameOf(log_, container.source->GetSource());
     }
     if (!settings.countByNumber && !settings.countByImage) return look;
     const std::optional<std::int64_t> count = CountOf(row);

@@ -9,6 +9,7 @@
 #include "rows/row_plan.h"
 #include "rows/row_tree.h"
 
+#include <chrono>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -85,6 +86,19 @@ public:
     std::int64_t Count();
     /// How the rows from position `first` on look, at most `count` of them.
     std::vector<RowLook> Read(std::int64_t first, std::int64_t count);
+    /// Looks from position `first` on for a row whose text begins so, letter case aside, and no longer than
+    /// that.
+    struct FoundBeginning {
+        std::int64_t position = -1; ///< where it is
+        std::int64_t next = -1;     ///< where to go on looking; -1: there is no more
+    };
+    FoundBeginning FindBeginning(const std::string& beginning, std::int64_t first,
+                                 std::chrono::milliseconds time);
+    /// The way to a row by names, from the top. Behind a name stands "#2" when the row is the second one of
+    /// that name there, and "#1" when the name itself ends in such a number. Empty for an unknown index.
+    std::vector<std::string> PathOf(std::uint32_t index);
+    /// The row at the end of such a way; 0, and the place of the step that leads nowhere, when there is none.
+    std::uint32_t FindPath(const std::vector<std::string>& path, std::size_t& wrong);
     /// The same, row by row as long as `take` is true: for more rows than are to be held at once.
     void ReadEach(std::int64_t first, std::int64_t count, const std::function<bool(const RowLook&)>& take);
     /// How the rows directly below that one look (0: at the top), from the `first`; for a tree filled by
@@ -188,6 +202,16 @@ public:
         RowModel& model_;
         CallLog::Quiet quiet_;
     };
+    // Filtering takes a moment: what a filter will leave is found before, a little at a time.
+    /// Begins to look for what that filter will leave.
+    void BeginSearch(const TextFilter& filter);
+    /// Goes on with it. What was found so far is shown when the view has that filter already.
+    SearchProgress GoOnSearching(std::chrono::milliseconds time);
+    /// How many items the filter lets through because of what they are themselves, collapsed ones too.
+    std::int64_t CountMatches();
+    /// The index of the first selected row that is visible; 0 for none.
+    std::uint32_t FirstSelected();
+
     /// Whether the work in hand must be given up, because something that it may hold was deleted.
     bool IsStopped() const { return stopped_; }
     const RowPlan& Plan() const { return plan_; }
@@ -244,6 +268,11 @@ private:
     void LookAtItems(const RowBlock& block, const std::vector<std::size_t>& places,
                      const std::vector<Row>& rows, std::vector<RowLook>& looks);
     RowLook LookOf(const Row& container);
+    std::string CaptionOf(const RowContent& container) const;
+    std::vector<std::string> TextsOf(const std::vector<Row>& rows);
+    std::string StepTo(const Row& row);
+    Row FindStep(RowNode& node, const std::string& name, std::size_t number);
+    std::vector<std::int64_t> Named(const RowContent& block, const std::string& name) const;
     bool HasRows(const Row& row) const;
     bool IsSelected(const Row& row) const;
     bool IsCollected(const Row& row) const;

@@ -132,7 +132,7 @@ bool RowPlan::IsShown(RowSource* source) const { return view_.IsShown(source->Ge
 
 /// Whether containers without rows are hidden. A text filter always hides them: they would bury what it
 /// found.
-bool RowPlan::HidesEmpty(bool shows) const { return !shows || (!whole_ && !view_.Filter().pattern.empty()); }
+bool RowPlan::HidesEmpty(bool shows) const { return !shows || (!whole_ && view_.IsFiltered()); }
 
 /// Whether a container has its place: it has rows, or it is shown without, unless it would have some if none
 /// were hidden.
@@ -236,42 +236,164 @@ std::vector<RowLink> RowPlan::AllLinks() const {
 void RowPlan::Filter(RowScope& scope, const std::vector<RowSource*>& tops, const FreeFolder& folder,
                      const void* what) const {
     scope.display = Display();
-    const TextFilter& filter = view_.Filter();
-    if (whole_ || filter.pattern.empty()) return;
+    if (whole_ || !view_.IsFiltered()) return;
     std::shared_ptr<const RowFilter>& known = filters_[{&folder, what}];
     const ReadTrouble::Watch watch(Trouble());
     if (!known) {
-        TextMatcher::Options options;
-        options.matchCase = filter.matchCase;
-        options.matchWord = filter.matchWord;
-        options.glob = true;
-        const auto matcher = std::make_shared<TextMatcher>(filter.pattern, options);
-        RowCondition condition;
-        condition.accept = [matcher](std::string_view text) { return matcher->Matches(text); };
-        const auto conditions = [&condition](RowSource&, std::vector<RowCondition>& all) {
-            all.push_back(condition);
-            return true;
-        };
-        // No script is asked for the text of an item.
-        known = std::make_shared<RowFilter>(tops, scope.links, conditions, scope.display.get(),
-                                            [] { return false; });
+        const auto matches = [&](RowSource& source, std::vector<std::int64_t>& rows) { Match(source, rows); };
+        known = std::make_shared<RowFilter>(tops, scope.links, matches, scope.display.get(),
+                                            [this] { return IsStopped(); });
     }
     scope.filter = known;
-    if (watch.Seen()) filters_.erase({&folder, what}); // it does not know all that matches
+    if (watch.Seen() || IsStopped()) filters_.erase({&folder, what}); // it does not know all that matches
+}
+
+/// The rows that fulfil the filters of all columns, and hold the text.
+void RowPlan::Match(RowSource& source, std::vector<std::int64_t>& rows) const {
+    const TextFilter& filter = view_.Filter();
+    const std::optional<RowSet> fulfilling = Fulfilling(source);
+    if (filter.pattern.empty() && fulfilling) {
+        rows = fulfilling->ToVector();
+        return;
+    }
+    RowSet matches = Matches(source, filter);
+    if (fulfilling) matches.Narrow(*fulfilling);
+    rows = matches.ToVector();
+}
+
+const RowSet& RowPlan::Matches(RowSource& source, const TextFilter& filter) const {
+    return matches_.Of(source, filter, Asked(filter));
+}
+
+FilterMatches::Asked RowPlan::Asked(const TextFilter& filter) const {
+    return {[this] { return IsStopped(); },
+            [this, filter](RowSource& source) { return SearchedIn(source, filter); }};
+}
+
+/// What the filter of a column asks of the values of a property; null: of the items' texts.
+RowCondition RowPlan::ConditionFor(const ColumnFilter& filter, znIBrowserDataProperty* property) {
+    using Kind = ColumnFilter::Kind;
+    RowCondition condition;
+    condition.property = property;
+    condition.value = filter.value;
+    if (filter.kind == Kind::Null) condition.compare = RowCondition::Compare::Null;
+    if (filter.kind == Kind::Between) condition.compare = RowCondition::Compare::AtLeast;
+    if (filter.kind == Kind::Equals) condition.compare = RowCondition::Compare::Equal;
+    if (filter.kind != Kind::Contains) return condition;
+    const auto matcher = std::make_shared<TextMatcher>(filter.value, TextMatcher::Options());
+    condition.accept = [matcher](std::string_view text) { return matcher->Matches(text); };
+    return condition;
+}
+
+/// The rows with values that the filters of all columns let through; nothing when no column has one.
+std::optional<RowSet> RowPlan::Fulfilling(RowSource& source) const {
+    RowQuery query;
+    bool isSet = false;
+    bool hasAll = true;
+    for (const std::shared_ptr<Column>& column : view_.Columns()) {
+        const ColumnFilter& filter = column->Filter();
+        if (!filter.IsSet()) continue;
+        isSet = true;
+        const Style* const style = view_.RootFolder().ItemStyleIn(*column, source.GetSource());
+        ViewProperty* const property = PropertyOf(*column, style);
+        znIBrowserDataProperty* const data = property ? property->DataProperty(source.GetSource()) : nullptr;
+        hasAll = hasAll && (property ? data != nullptr : column->Kind() == ColumnKind::BuiltIn);
+        query.conditions.push_back(ConditionFor(filter, data));
+        if (filter.kind != ColumnFilter::Kind::Between) continue;
+        query.conditions.push_back(query.conditions.back());
+        query.conditions.back().compare = RowCondition::Compare::AtMost;
+        query.conditions.back().value = filter.to;
+    }
+    if (!isSet) return std::nullopt;
+    std::vector<std::int64_t> rows;
+    if (hasAll) source.List(query, rows);
+    RowSet set;
+    set.Add(std::move(rows));
+    return set;
+}
+
+/// What the filter looks at in the rows of a source.
+SearchedProperties RowPlan::SearchedIn(RowSource& source, const TextFilter& filter) const {
+    if (!filter.allColumns) return {nullptr};
+    SearchedProperties all;
+    for (FreeFolder* const folder : view_.RootFolder().WithBelow()) AddShownProperties(*folder, source, all);
+    return all;
+}
+
+/// What is ticked is no text to look for.
+void RowPlan::AddShownProperties(const FreeFolder& folder, RowSource& source, SearchedProperties& all) const {
+    for (const std::shared_ptr<Column>& column : view_.Columns()) {
+        if (!column->IsShown()) continue;
+        const Style* const style = folder.ItemStyleIn(*column, source.GetSource());
+        std::vector<ViewProperty*> shown{PropertyOf(*column, style)};
+        if (style) {
+            for (const std::shared_ptr<StyleElement>& element : style->Elements())
+                shown.push_back(view_.Properties().Find(element->PropertyName()));
+        }
+        for (ViewProperty* const property : shown) {
+            if (property ? property->Type() == ZNBROWSER_DATA_BOOL : column->Kind() != ColumnKind::BuiltIn)
+                continue;
+            znIBrowserDataProperty* const data =
+                property ? property->DataProperty(source.GetSource()) : nullptr;
+            if (property && !data) continue;
+            if (std::find(all.begin(), all.end(), data) == all.end()) all.push_back(data);
+        }
+    }
+}
+
+// ---- A search ahead ----
+
+void RowPlan::BeginSearch(const TextFilter& filter) {
+    std::vector<SearchTask> tasks;
+    for (znIBrowserDataSourceSimple* const simple : view_.ShowableSources()) {
+        RowSource* const source = GetRowSource(simple);
+        if (source && IsShown(source)) tasks.push_back({source, SearchedIn(*source, filter)});
+    }
+    matches_.Begin(filter, std::move(tasks));
+}
+
+SearchProgress RowPlan::GoOnSearching(std::chrono::milliseconds time) {
+    if (matches_.IsStale()) BeginSearch(TextFilter(matches_.Wanted()));
+    return matches_.GoOn(FilterMatches::Clock::now() + time, Asked(matches_.Wanted()));
+}
+
+std::int64_t RowPlan::CountMatches() const {
+    std::map<const RowSource*, std::size_t> counts;
+    for (const auto& [place, filter] : filters_) {
+        for (const auto& [source, count] : filter->CountMatches())
+            counts[source] = std::max(counts[source], count);
+    }
+    std::size_t sum = 0;
+    for (const auto& [source, count] : counts) sum += count;
+    return static_cast<std::int64_t>(sum);
 }
 
 // ---- Rows ----
 
 std::vector<std::int64_t> RowPlan::List(const RowContent& block) const { return List(block, OrderOf(block)); }
 
-std::vector<std::int64_t> RowPlan::List(const RowContent& block, const RowOrder& order) {
+std::vector<std::int64_t> RowPlan::ListFulfilling(const RowContent& block, RowCondition condition) {
     RowQuery query = QueryFor(block);
-    query.order = order;
+    query.conditions.push_back(std::move(condition));
     std::vector<std::int64_t> rows;
     block.source->List(query, rows);
-    if (block.scope->filter) {
-        block.scope->filter->Narrow(block.source, rows);
-    } else if (block.scope->display) {
+    return rows;
+}
+
+std::vector<std::int64_t> RowPlan::List(const RowContent& block, const RowSet& among) const {
+    return List(block, OrderOf(block), &among);
+}
+
+std::vector<std::int64_t> RowPlan::List(const RowContent& block, const RowOrder& order, const RowSet* among) {
+    const RowFilter* const filter = block.scope->filter.get();
+    RowQuery query = QueryFor(block);
+    query.order = order;
+    query.among = among || !filter ? among : &filter->Kept(block.source);
+    std::vector<std::int64_t> rows;
+    block.source->List(query, rows);
+    if (filter && among) {
+        std::erase_if(rows, [&](std::int64_t row) { return !filter->Keeps(block.source, row); });
+    } else if (!filter && block.scope->display) {
         block.scope->display->Narrow(block.source, rows);
     }
     return rows;
@@ -281,7 +403,7 @@ std::int64_t RowPlan::CountRows(const RowContent& block) {
     const RowScope& scope = *block.scope;
     const bool isHidden = scope.display && scope.display->Hides(block.source);
     if (isHidden && !scope.filter && !block.link.reference) return scope.display->Count(*block.source);
-    if (isHidden || scope.filter) return static_cast<std::int64_t>(List(block, {}).size());
+    if (isHidden || scope.filter) return static_cast<std::int64_t>(List(block, RowOrder()).size());
     return block.source->Count(QueryFor(block));
 }
 
@@ -360,6 +482,7 @@ RowOrder RowPlan::OrderOf(const RowContent& block) const {
     order.property = property ? property->DataProperty(source) : nullptr;
     order.sorted = order.property || column->Kind() == ColumnKind::BuiltIn;
     order.descending = !view_.SortsAscending();
+    order.natural = column->SortsNaturally();
     return order;
 }
 

@@ -2,6 +2,7 @@
 #ifndef ZN_HOST_ROW_PLAN_H
 #define ZN_HOST_ROW_PLAN_H
 
+#include "rows/filter_matches.h"
 #include "rows/row_display.h"
 #include "rows/row_filter.h"
 #include "rows/row_tree.h"
@@ -16,6 +17,7 @@
 namespace znhost {
 
 class Column;
+struct ColumnFilter;
 class ReadTrouble;
 class Style;
 class View;
@@ -45,6 +47,10 @@ public:
         filters_.clear();
         display_.reset();
     }
+    /// Rows or values changed: what the filter searched is out of date.
+    void ForgetMatches() { matches_.Forget(); }
+    /// Lets who computes values tell when to stop.
+    void SetStopped(std::function<bool()> stopped) { stopped_ = std::move(stopped); }
 
     /// What stands in a folder, tree or list, in order.
     std::vector<RowContent> Below(const RowContent& container) const;
@@ -52,6 +58,10 @@ public:
     std::vector<RowContent> Below(const RowContent& block, std::int64_t row) const;
     /// The rows of a block, in order.
     std::vector<std::int64_t> List(const RowContent& block) const;
+    /// Those that fulfil a condition, in the order of the source, hidden ones too.
+    static std::vector<std::int64_t> ListFulfilling(const RowContent& block, RowCondition condition);
+    /// Those of them that are in the set.
+    std::vector<std::int64_t> List(const RowContent& block, const RowSet& among) const;
 
     // Whether there is anything below, and how many rows directly below. What cannot be read may be there.
     bool HasRows(const RowContent& container) const;
@@ -65,6 +75,15 @@ public:
 
     /// Every link along which the view shows items below others, each once.
     std::vector<RowLink> AllLinks() const;
+    /// The rows of a source with that text, whatever is shown: `FilterMatches`.
+    const RowSet& Matches(RowSource& source, const TextFilter& filter) const;
+    /// Begins to look for what that filter would leave, and goes on with it: `FilterMatches`.
+    void BeginSearch(const TextFilter& filter);
+    SearchProgress GoOnSearching(std::chrono::milliseconds time);
+    bool IsSearching(const TextFilter& filter) const { return matches_.IsSearching(filter); }
+    /// How many items the filter found, those in collapsed rows too.
+    std::int64_t CountMatches() const;
+
     /// The view property that a column shows first when it draws with that style (null: none); null when it
     /// shows something else.
     ViewProperty* PropertyOf(const Column& column, const Style* style) const;
@@ -90,11 +109,21 @@ private:
     void Filter(RowScope& scope, const std::vector<RowSource*>& tops, const FreeFolder& folder,
                 const void* what) const;
     RowOrder OrderOf(const RowContent& block) const;
-    static std::vector<std::int64_t> List(const RowContent& block, const RowOrder& order);
+    static std::vector<std::int64_t> List(const RowContent& block, const RowOrder& order,
+                                          const RowSet* among = nullptr);
+    void Match(RowSource& source, std::vector<std::int64_t>& rows) const;
+    std::optional<RowSet> Fulfilling(RowSource& source) const;
+    static RowCondition ConditionFor(const ColumnFilter& filter, znIBrowserDataProperty* property);
+    FilterMatches::Asked Asked(const TextFilter& filter) const;
+    SearchedProperties SearchedIn(RowSource& source, const TextFilter& filter) const;
+    void AddShownProperties(const FreeFolder& folder, RowSource& source, SearchedProperties& all) const;
+    bool IsStopped() const { return stopped_ && stopped_(); }
     static std::int64_t CountRows(const RowContent& block);
 
     View& view_;
     bool whole_ = false; ///< as if nothing were hidden or filtered
+    std::function<bool()> stopped_;
+    mutable FilterMatches matches_;
     mutable std::shared_ptr<const RowDisplay> display_;
     /// By folder and by what stands in it.
     mutable std::map<std::pair<const FreeFolder*, const void*>, std::shared_ptr<const RowFilter>> filters_;

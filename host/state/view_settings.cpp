@@ -50,9 +50,12 @@ void RestoreColumnSorting(Restoring& restoring, const Settings& settings) {
     }
 }
 
+constexpr const char* naturally = "natural order";
+
 void KeepSortColumn(Keeping& keeping) {
     for (const auto& column : keeping.view.Columns()) {
         const ZNBROWSER_SORT_ORDER order = column->SortOrder();
+        if (column->SortsNaturally()) keeping.Add(column->Name(), naturally, OnOff(true));
         if (order != ZNBROWSER_UNSORTED) keeping.Add(column->Name(), "", OnOff(order == ZNBROWSER_ASCENDING));
     }
 }
@@ -60,9 +63,15 @@ void KeepSortColumn(Keeping& keeping) {
 void RestoreSortColumn(Restoring& restoring, const Settings& settings) {
     View& view = restoring.Shown();
     view.SortBy(nullptr, true);
+    for (const auto& column : view.Columns()) column->SetSortsNaturally(false);
     for (const Setting& setting : settings) {
         Column* const column = view.Columns().Find(setting.subject);
-        if (column) view.SortBy(column, IsOn(setting));
+        if (!column) continue;
+        if (setting.key == naturally) {
+            column->SetSortsNaturally(true);
+        } else {
+            view.SortBy(column, IsOn(setting));
+        }
     }
 }
 
@@ -145,10 +154,44 @@ void RestoreConnections(Restoring& restoring, const Settings& settings) {
 
 // ---- Filters ----
 
-void KeepFilter(Keeping& keeping) { keeping.Add("", "", keeping.view.Filter().pattern); }
+constexpr const char* allColumns = "all columns";
+constexpr const char* upTo = "to";
+
+/// The text filter, and behind it those of columns, each with its kind; what ends at a value has another
+/// line.
+void KeepFilter(Keeping& keeping) {
+    const TextFilter& text = keeping.view.Filter();
+    keeping.Add("", text.allColumns ? allColumns : "", text.pattern);
+    for (const auto& column : keeping.view.Columns()) {
+        const ColumnFilter& filter = column->Filter();
+        if (!filter.IsSet()) continue;
+        keeping.Add(column->Name(), WordsOf(filter)[0], filter.value);
+        if (filter.kind == ColumnFilter::Kind::Between) keeping.Add(column->Name(), upTo, filter.to);
+    }
+}
 
 void RestoreFilter(Restoring& restoring, const Settings& settings) {
-    for (const Setting& setting : settings) restoring.Shown().SetFilterString(setting.value.c_str());
+    View& view = restoring.Shown();
+    std::map<std::string, std::vector<std::string>> words; // by column
+    for (const Setting& setting : settings) {
+        if (setting.subject.empty()) {
+            view.SetFilterAllColumns(setting.key == allColumns);
+            view.SetFilterString(setting.value.c_str());
+        } else if (setting.key == upTo) {
+            words[setting.subject].push_back(setting.value);
+        } else {
+            words[setting.subject] = {setting.key, setting.value};
+            if (setting.value.empty() && setting.key == WordsOf({ColumnFilter::Kind::Null, {}, {}})[0])
+                words[setting.subject].pop_back();
+        }
+    }
+    for (const auto& column : view.Columns()) {
+        ColumnFilter filter;
+        ReadColumnFilter(words[column->Name()], filter);
+        column->SetFilter(filter);
+        words.erase(column->Name());
+    }
+    for (const auto& [column, filter] : words) restoring.Skip("column", column);
 }
 
 void KeepHiddenSources(Keeping& keeping) {

@@ -64,6 +64,8 @@ public:
     /// Brings sources and references up to date with the tables. @return false, with the reason, when the
     /// database cannot be read at present: they stay as they were.
     bool Refresh(std::string& error);
+    /// Another number as soon as rows may be others than before; always another while that cannot be known.
+    std::uint64_t Version();
     /// Makes the views and the other sources let go of tables, columns and references that the database lost:
     /// not while a transaction may still bring them back, and never in the middle of a question.
     void ForgetMissing();
@@ -139,6 +141,8 @@ private:
     ChangeLog changes_;
     Database::Stamp followed_; // when it was last looked whether others changed something
     Database::Stamp stamp_;    // of the tables when the sources were last brought up to date
+    Database::Stamp counted_;  // of the rows when the version was last asked for
+    std::uint64_t version_ = 0;
 
     // All that there ever was, and what there is now.
     std::unordered_map<std::string, std::shared_ptr<BaseSource>> knownBases_;

@@ -37,13 +37,17 @@ bool ComesBefore(const Value& a, const Value& b) {
 }
 
 /// What a value is sorted by.
-Value KeyOf(Value value) {
-    if (std::string* const text = std::get_if<std::string>(&value)) *text = Fold(*text);
+Value KeyOf(Value value, bool natural = false) {
+    if (std::string* const text = std::get_if<std::string>(&value))
+        *text = natural ? NaturalKey(Fold(*text)) : Fold(*text);
     return value;
 }
 
 /// Columns of a statement that list a field of each of them.
 constexpr int noPlace = -1;
+
+/// Up to so many rows are looked up one by one rather than found on the way through the table.
+constexpr std::size_t mostLookups = 20000;
 
 } // namespace
 
@@ -102,6 +106,7 @@ bool RowLister::Run(std::vector<std::int64_t>& rows) {
 bool RowLister::ReadChildren(std::vector<std::int64_t>& rows) {
     LinkReader reader(*query_.link);
     if (!reader.Children(query_.parent, rows)) return false;
+    std::erase_if(rows, [this](std::int64_t row) { return !IsAmong(row); });
     if (IsSorted()) keys_.resize(rows.size());
     return true;
 }
@@ -124,16 +129,44 @@ RowLister::PartReading RowLister::ReadingOf(const RowPart& part) const {
 bool RowLister::ReadPart(const RowPart& part, std::vector<std::int64_t>& rows) {
     const PartReading reading = ReadingOf(part);
     if (LookUp(part, reading, rows)) return true;
+    if (query_.among && query_.among->Size() <= mostLookups) return ReadAmong(part, reading, rows);
     Statement statement = source_.Control().Db().Prepare(part.Select(reading.columns, reading.condition) +
                                                          " ORDER BY " + part.table->key);
     int position = part.Bind(statement);
     for (const Value& value : reading.values) statement.Bind(position++, value);
-    while (statement.Next()) {
-        if (!TakesRow(statement, reading.places)) continue;
-        rows.push_back(source_.RowOf({part.slot, statement.Integer(0)}));
-        if (!IsSorted()) continue;
-        const Field& field = fields_.back();
-        keys_.push_back(field.computed ? Cell() : KeyOf(CellOf(field, statement, reading.places.back())));
+    while (statement.Next()) Take(part, statement, reading, rows);
+    std::string error;
+    return statement.Finish(error) || source_.FailToRead(error);
+}
+
+/// The row on which the statement stands, if it is one of those meant.
+void RowLister::Take(const RowPart& part, const Statement& statement, const PartReading& reading,
+                     std::vector<std::int64_t>& rows) {
+    const std::int64_t row = source_.RowOf({part.slot, statement.Integer(0)});
+    if (!IsAmong(row) || !TakesRow(statement, reading.places)) return;
+    rows.push_back(row);
+    if (!IsSorted()) return;
+    const Field& field = fields_.back();
+    keys_.push_back(field.computed ? Cell() : SortKey(CellOf(field, statement, reading.places.back())));
+}
+
+/// Reads each of a few rows by its key, in the order of the table.
+bool RowLister::ReadAmong(const RowPart& part, const PartReading& reading, std::vector<std::int64_t>& rows) {
+    std::vector<std::int64_t> keys;
+    query_.among->ForEach([&](std::int64_t row) {
+        const RowPlace place = source_.PlaceOf(row);
+        if (place.slot == part.slot) keys.push_back(place.row);
+    });
+    if (!std::is_sorted(keys.begin(), keys.end())) std::sort(keys.begin(), keys.end());
+    const std::string isRow = part.table->key + " = ?";
+    const std::string condition = reading.condition + (reading.condition.empty() ? "" : " AND ") + isRow;
+    Statement statement = source_.Control().Db().Prepare(part.Select(reading.columns, condition));
+    int position = part.Bind(statement);
+    for (const Value& value : reading.values) statement.Bind(position++, value);
+    for (const std::int64_t key : keys) {
+        statement.Bind(position, key);
+        if (statement.Next()) Take(part, statement, reading, rows);
+        statement.Rewind();
     }
     std::string error;
     return statement.Finish(error) || source_.FailToRead(error);
@@ -157,7 +190,10 @@ bool RowLister::LookUp(const RowPart& part, const PartReading& reading, std::vec
     }
     if (!std::is_sorted(found.begin(), found.end())) std::sort(found.begin(), found.end());
     found.erase(std::unique(found.begin(), found.end()), found.end());
-    for (const std::int64_t row : found) rows.push_back(source_.RowOf({part.slot, row}));
+    for (const std::int64_t key : found) {
+        const std::int64_t row = source_.RowOf({part.slot, key});
+        if (IsAmong(row)) rows.push_back(row);
+    }
     return true;
 }
 
@@ -205,13 +241,16 @@ bool RowLister::TakesRow(const Statement& statement, const std::vector<int>& pla
 }
 
 bool RowLister::Fulfils(const RowCondition& condition, const Field& field, const Cell& cell) {
+    if (condition.compare == RowCondition::Compare::Null) return IsNothing(cell);
     if (IsNothing(cell)) return false;
     const Cell wanted = CellOfText(field, condition.value);
     if (IsText(cell) != IsText(wanted)) return false;
     switch (condition.compare) {
     case RowCondition::Compare::Less: return ComesBefore(KeyOf(cell), KeyOf(wanted));
     case RowCondition::Compare::More: return ComesBefore(KeyOf(wanted), KeyOf(cell));
-    default: return IsText(cell) ? cell == wanted : RealOf(cell) == RealOf(wanted);
+    case RowCondition::Compare::AtLeast: return !ComesBefore(KeyOf(cell), KeyOf(wanted));
+    case RowCondition::Compare::AtMost: return !ComesBefore(KeyOf(wanted), KeyOf(cell));
+    default: return IsText(cell) ? KeyOf(cell) == KeyOf(wanted) : RealOf(cell) == RealOf(wanted);
     }
 }
 
@@ -250,13 +289,15 @@ void RowLister::Compute(std::vector<std::int64_t>& rows) {
         rows[kept] = rows[i];
         if (IsSorted()) {
             keys_[kept] =
-                isLeft(fields_.back()) ? KeyOf(ComputedCell(fields_.back(), rows[i])) : std::move(keys_[i]);
+                isLeft(fields_.back()) ? SortKey(ComputedCell(fields_.back(), rows[i])) : std::move(keys_[i]);
         }
         ++kept;
     }
     rows.resize(kept);
     if (IsSorted()) keys_.resize(kept);
 }
+
+RowLister::Cell RowLister::SortKey(Cell cell) const { return KeyOf(std::move(cell), query_.order.natural); }
 
 void RowLister::Sort(std::vector<std::int64_t>& rows) {
     if (!IsSorted()) return;

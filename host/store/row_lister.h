@@ -50,6 +50,10 @@ private:
 
     PartReading ReadingOf(const RowPart& part) const;
     bool ReadPart(const RowPart& part, std::vector<std::int64_t>& rows);
+    bool ReadAmong(const RowPart& part, const PartReading& reading, std::vector<std::int64_t>& rows);
+    void Take(const RowPart& part, const Statement& statement, const PartReading& reading,
+              std::vector<std::int64_t>& rows);
+    bool IsAmong(std::int64_t row) const { return !query_.among || query_.among->Has(row); }
     bool LookUp(const RowPart& part, const PartReading& reading, std::vector<std::int64_t>& rows);
     bool Find(const RowPart& part, const PartReading& reading, const WantedValues::Lookup& lookup,
               std::vector<std::int64_t>& found) const;
@@ -61,6 +65,7 @@ private:
     Cell ComputedCell(const Field& field, std::int64_t row) const;
     static Cell CellOfText(const Field& field, std::string_view text);
     static bool Fulfils(const RowCondition& condition, const Field& field, const Cell& cell);
+    Cell SortKey(Cell cell) const;
     bool IsSorted() const { return query_.order.sorted; }
 
     SimpleSource& source_;

@@ -88,6 +88,9 @@ public:
     // RowSource
     znIBrowserDataSourceSimple* GetSource() override { return this; }
     void List(const RowQuery& query, std::vector<std::int64_t>& rows) override;
+    void Scan(RowScan& scan, std::chrono::steady_clock::time_point until, std::vector<std::int64_t>& rows,
+              std::vector<std::int64_t>* others) override;
+    std::uint64_t Version() override;
     std::int64_t Count(const RowQuery& query) override;
     bool HasChildren(const RowLink& link, std::int64_t parent) override;
     void HaveChildren(const RowLink& link, const std::vector<std::int64_t>& parents,
@@ -134,6 +137,12 @@ protected:
     virtual DataProperty* FindColumnProperty(std::string_view) { return nullptr; }
 
 private:
+    class PartScan;
+    struct Found {
+        std::vector<std::int64_t>& rows;
+        std::vector<std::int64_t>* others;
+    };
+
     bool FailNotCustom() const;
     bool CheckNewProperty(const std::string& name) const;
     bool AddProperty(std::shared_ptr<DataProperty> property);

@@ -33,7 +33,11 @@ proc ::znbrowser::styleElement {n name} {
             set fill [colour [expr {[string match null* $name] ? "faint" : "text"}]]
             $w(tree) element configure $name -fill [fillOf $n $fill]
         }
-        rect {$w(tree) element configure $name -fill [colour button] -outline [colour buttonLine]}
+        rect {
+            set colours [expr {[string match found* $name] ? {found found} : {button buttonLine}}]
+            lassign [lmap colour $colours {colour $colour}] fill outline
+            $w(tree) element configure $name -fill $fill -outline $outline
+        }
     }
 }
 
@@ -61,9 +65,11 @@ proc ::znbrowser::styleFor {n inTree kinds} {
 # The elements of the tree widget that draw the element at that place of a cell.
 proc ::znbrowser::elementsFor {n kind place} {
     upvar #0 ::znbrowser::window$n w
-    # A button is a rectangle around a text.
-    set types [dict get {text text null text icon image disabled image check image button {rect text} image {}} $kind]
-    set names [lrange [list $kind$place $kind${place}t] 0 [llength $types]-1]
+    # A button is a rectangle around a text; in a text that was found a rectangle is behind the part that matched.
+    set types [dict get {text text null text icon image disabled image check image button {rect text} image {}
+        found {text rect text text}} $kind]
+    set suffixes [expr {$kind eq "found" ? {{} Mark Match Rest} : {{} t}}]
+    set names [lmap type $types suffix [lrange $suffixes 0 [llength $types]-1] {string cat $kind $place $suffix}]
     foreach name $names type $types {
         if {$name in $w(elements)} continue
         lappend w(elements) $name
@@ -71,7 +77,7 @@ proc ::znbrowser::elementsFor {n kind place} {
         if {$type eq "text"} {
             $w(tree) element configure $name -lines 1 -wrap none -font znBrowser00
         } elseif {$type eq "rect"} {
-            $w(tree) element configure $name -outlinewidth 1 -rx 3
+            $w(tree) element configure $name -outlinewidth 1 -rx [expr {$kind eq "button" ? 3 : 0}]
         }
         styleElement $n $name
     }
@@ -90,6 +96,10 @@ proc ::znbrowser::layoutStyle {n style parts} {
                 $w(tree) style layout $style $part -union ${part}t -ipadx 8 -ipady 1 -padx 4
             }
             {^button\d+t$} {$w(tree) style layout $style $part -expand ns -squeeze x}
+            {^found\d+$} {$w(tree) style layout $style $part -padx {4 0} -expand ns}
+            {^found\d+Mark$} {$w(tree) style layout $style $part -union [string map {Mark Match} $part]}
+            {^found\d+Match$} {$w(tree) style layout $style $part -expand ns}
+            {^found\d+Rest$} {$w(tree) style layout $style $part -padx {0 4} -expand ns -squeeze x}
             {^(text|null)} {$w(tree) style layout $style $part -padx 4 -expand ns -squeeze x}
             default {$w(tree) style layout $style $part -padx 3 -expand ns}
         }
@@ -181,6 +191,7 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
     set column $w(column,$number)
     set italic [dict get [lindex $w(columns) $number] italic]
     if {!$w(bare)} {set elements [lsearch -all -inline -not -exact -index 0 $elements null]}
+    set elements [lmap element $elements {markFound $n $element $inTree}]
     setStyle $n $slot $number [styleFor $n $inTree [lmap element $elements {lindex $element 0}]]
     if {$inTree} {$w(tree) item element configure $item $column indent -width [indentOf $depth]}
     set place 0
@@ -191,6 +202,14 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
                 $w(tree) item element configure $item $column text$place \
                     -text [fitNumber $n $number $inTree [oneLine $text]] \
                     -font [fontOf 0 $italic] -fill [textFill $n $colour]
+            }
+            found {
+                lassign [lindex $element 4] first last
+                set text [oneLine $text]
+                foreach {part from to} [list {} 0 $first-1 Match $first $last Rest $last+1 end] {
+                    $w(tree) item element configure $item $column found$place$part \
+                        -text [string range $text $from $to] -font [fontOf 0 $italic] -fill [textFill $n $colour]
+                }
             }
             null {
                 $w(tree) item element configure $item $column null$place -text NULL -font [fontOf 0 1]
@@ -206,6 +225,15 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
         }
         incr place
     }
+}
+
+# An element of a cell; a text in which the filter found something is of another kind, and knows where.
+proc ::znbrowser::markFound {n element inTree} {
+    lassign $element kind text colour name
+    if {$kind ne "text"} {return $element}
+    set place [foundIn $n $text $inTree]
+    if {$place eq "" || [lindex $place 1] > 999} {return $element}
+    return [list found $text $colour $name $place]
 }
 
 # What a text of a colour that a user named is drawn with; nothing, when Tk knows none of that name.
@@ -266,7 +294,8 @@ proc ::znbrowser::elementNamed {name tkIndex column place} {
     if {![string is integer $place]} {return $place}
     foreach cell [lindex [lindex $w(page) [slotOf $n $tkIndex]] 11] {
         if {[dict get [lindex $w(columns) [lindex $cell 0]] name] eq $column} {
-            return [lindex $cell [expr {$place + 1}] 0]$place
+            set kind [lindex [markFound $n [lindex $cell [expr {$place + 1}]] [dict get [lindex $w(columns) [lindex $cell 0]] tree]] 0]
+            return $kind[expr {$kind eq "found" ? "${place}Match" : $place}]
         }
     }
     return text1

@@ -59,19 +59,20 @@ proc ::znbrowser::configureColumn {n number} {
     $w(tree) column configure $w(column,$number) -text [oneLine [dict get $column caption]] \
         -width [set w(width,$number) [widthOf $n $column]] -arrow $arrow -arrowside right \
         -justify [dict get $column justify] -itemjustify [dict get $column justify] \
-        -font [fontOf 0 [dict get $column italic]] -button [dict get $column sorts]
+        -font [fontOf 0 [dict get $column italic]] -button [dict get $column sorts] \
+        -image [expr {[dict get $column filter] eq "" ? "" : "znbrowser::image::search"}]
 }
 
 # ---- What the mouse does to headers
 
-# A click on a header sorts by the column, and once more the other way round.
+# A click on a header sorts by the column, once more the other way round, and a third time not at all.
 proc ::znbrowser::sortBy {n treeColumn} {
     upvar #0 ::znbrowser::window$n w
     if {![info exists w(number,$treeColumn)]} return
     set column [lindex $w(columns) $w(number,$treeColumn)]
     if {![dict get $column sorts]} return
-    set order [expr {[dict get $column order] eq "ascending" ? "descending" : "ascending"}]
-    columnCommand $n [dict get $column name] view sort $order
+    sortInOrder $n [dict get $column name] \
+        [dict get {"" ascending ascending descending descending ""} [dict get $column order]]
 }
 
 # A header was dropped in front of another one, or behind the last.

@@ -16,6 +16,7 @@ namespace eval ::znbrowser {
         }
         "Window" {
             "Ctrl-F"            "goes to the search field; Return there finds the next row, Shift-Return the one before"
+            "Ctrl-Shift-F"      "searches names, or all columns shown"
             "Escape"            "ends the search; closes what is open"
             "Tab, Shift-Tab"    "go from control to control"
             "F4"                "shows or hides all values of the current row, and what it refers to"

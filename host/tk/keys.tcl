@@ -10,7 +10,7 @@ proc ::znbrowser::bindKeys {} {
     }
     foreach {key handler} {
         Right openOrEnter Left closeOrLeave plus openRow KP_Add openRow minus closeRow KP_Subtract closeRow
-        asterisk openBelow KP_Multiply openBelow Return toggleActive space selectActive
+        asterisk openBelow KP_Multiply openBelow Return toggleActive space typedBlank
         Control-space toggleSelected Control-a selectAll Control-A selectAll
         Control-c copySelected Control-C copySelected Escape clearSearch
         Menu menuAtActive Shift-F10 menuAtActive F4 toggleDetails F5 readAgain
@@ -21,6 +21,7 @@ proc ::znbrowser::bindKeys {} {
     }
     bind znBrowserTree <Key> {if {[::znbrowser::onTree typed %W %A %s]} break}
     bind znBrowserTree <Control-Key-f> {::znbrowser::onTree focusSearch %W; break}
+    foreach key {f F} {bind znBrowserTree <Control-Shift-Key-$key> {::znbrowser::onTree switchScope %W; break}}
     foreach sequence {<Tab> <Shift-Tab> <<PrevWindow>> <<NextWindow>>} {
         bind znBrowserTree $sequence {continue}
     }
@@ -177,25 +178,4 @@ proc ::znbrowser::selectAll {n} {
     flush $n
     if {[dict get $w(look) single]} return
     selectRows $n OnTkTreeRequestSelectionUpdate {*}[host indices $n 0 [dict get $w(look) rows]]
-}
-
-# ---- Typing to find
-
-# Characters typed one soon after the other are the beginning of the text to go to.
-proc ::znbrowser::typed {n character state} {
-    upvar #0 ::znbrowser::window$n w
-    if {$state & 12 || ![string is print -strict $character]} {return header}
-    if {[info exists w(timer,typed)]} {after cancel $w(timer,typed)}
-    set w(timer,typed) [after 1000 [list ::znbrowser::forgetTyped $n]]
-    append w(typed) $character
-    # The first character goes on from the next row; more of them may still mean the same one.
-    set from [expr {[activePosition $n] + ([string length $w(typed)] == 1)}]
-    set position [host find $n $from $w(typed)]
-    if {$position < 0} {set position [host find $n 0 $w(typed)]}
-    if {$position >= 0} {goTo $n select $position}
-}
-
-proc ::znbrowser::forgetTyped {n} {
-    upvar #0 ::znbrowser::window$n w
-    unset -nocomplain w(typed) w(timer,typed)
 }

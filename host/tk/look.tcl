@@ -5,6 +5,7 @@ namespace eval ::znbrowser {
         surface #f4f5f7  paper #ffffff  stripe #f5f8fb  text #1d2733  faint #5f6b78  line #d8dde3
         header #eef0f3   headerHot #e3e7ec  chosen #cde3fa  hover #edf4fc  drop #ffe9b8  focus #5a9ae6
         button #f2f4f7   buttonLine #b9c2cc  accent #1b67c4  disabled #a3acb6  problem #b3261e  tip #fffbe8
+        found #ffe38a
     }
 }
 
@@ -30,6 +31,12 @@ proc ::znbrowser::prepareLook {} {
     ttk::style configure Line.TFrame -background [colour line]
     ttk::style configure Status.TLabel -background [colour surface] -foreground [colour faint] \
         -font znBrowserSmall
+    foreach style {Status.Toolbutton Status.TMenubutton} {
+        ttk::style configure $style -font znBrowserSmall -padding {6 0} -background [colour surface] \
+            -foreground [colour faint] -relief flat -borderwidth 1 -bordercolor [colour surface]
+        ttk::style map $style -background [list selected [colour found] active [colour header]] \
+            -foreground [list selected [colour text]]
+    }
     ttk::style configure Message.TLabel -background [colour surface] -foreground [colour problem] \
         -font znBrowserSmall
     ttk::style configure Search.TEntry -padding [list [scaled 6] [scaled 4]] -fieldbackground [colour paper] \
@@ -146,9 +153,15 @@ proc ::znbrowser::drawStatus {n} {
     if {[dict exists $w(look) selected] && [dict get $w(look) selected]} {
         append text "   ·   [grouped [dict get $w(look) selected]] selected"
     }
-    if {[dict exists $w(look) filter] && [dict get $w(look) filter] ne ""} {append text "   ·   filtered"}
+    if {[info exists w(seeking)] && [dict get $w(seeking) looked]} {
+        append text "   ·   searching: [matchCount [dict get $w(seeking) found]] in [grouped [dict get $w(seeking) looked]] rows …"
+    } elseif {[filtered $n]} {
+        append text "   ·   [matchCount [host matches $n]]"
+    }
     $w(path).status.count configure -text $text
 }
+
+proc ::znbrowser::matchCount {matches} {return "[grouped $matches] [expr {$matches == 1 ? "match" : "matches"}]"}
 
 # A number with its thousands apart.
 proc ::znbrowser::grouped {number} {

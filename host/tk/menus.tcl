@@ -17,7 +17,11 @@ proc ::znbrowser::pressRight {n x y state rootX rootY} {
     flush $n
     set at [pointed $n $x $y]
     if {[dict get $at where] eq "header"} {
-        openChooser $n $rootX $rootY
+        if {[dict exists $at number]} {
+            popupAt [headerMenu $n [dict get $at number]] $rootX $rootY
+        } else {
+            openChooser $n $rootX $rootY
+        }
         return
     }
     if {![dict exists $at row]} {return [openMenuAside $n $rootX $rootY]}

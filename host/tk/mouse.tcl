@@ -19,8 +19,22 @@ proc ::znbrowser::bindMouse {} {
 proc ::znbrowser::onTree {handler tree args} {
     variable numberOf
     if {![info exists numberOf($tree)]} {return 1}
+    if {[host busy]} {return [waitForHost $numberOf($tree) $handler $tree {*}$args]}
     set done [$handler $numberOf($tree) {*}$args]
     return [expr {$done ne "header"}]
+}
+
+# What is done to rows while the host works for who types is more urgent than that: it is given up, done later, and this
+# is done first. What only moves the pointer is not done at all.
+proc ::znbrowser::waitForHost {n handler tree args} {
+    upvar #0 ::znbrowser::window$n w
+    if {$handler in {motion leave drag}} {return 1}
+    if {[info exists w(typing)] && $handler ne "resized"} {
+        host cancel
+        searchSoon $n 300
+    }
+    after 10 [list ::znbrowser::onTree $handler $tree {*}$args]
+    return 1
 }
 
 # What lies at a point: a dictionary of where (item, header or nothing) and, on a row, the slot, the row, the
@@ -29,6 +43,7 @@ proc ::znbrowser::pointed {n x y} {
     upvar #0 ::znbrowser::window$n w
     $w(tree) identify -array at $x $y
     set found [dict create where $at(where) kind "" place -1 element "" text ""]
+    if {$at(where) eq "header" && [info exists w(number,$at(column))]} {dict set found number $w(number,$at(column))}
     if {$at(where) ne "item" || ![info exists w(slot,$at(item))]} {return $found}
     set slot $w(slot,$at(item))
     dict set found slot $slot
@@ -41,7 +56,7 @@ proc ::znbrowser::pointed {n x y} {
     dict set found column [dict get [lindex $w(columns) $number] name]
     if {$at(element) in {expander icon}} {dict set found kind $at(element)}
     set cell [lsearch -exact -integer -inline -index 0 [lindex [dict get $found row] 11] $number]
-    if {[regexp {^(text|null|icon|disabled|check|button)(\d+)} $at(element) -> kind place]} {
+    if {[regexp {^(text|found|null|icon|disabled|check|button)(\d+)} $at(element) -> kind place]} {
         dict set found kind $kind
         dict set found place $place
     } else {

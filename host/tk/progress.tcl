@@ -12,14 +12,15 @@ proc ::znbrowser::showProgress {n milliseconds} {
     $panel.bar configure -value [expr {$milliseconds / 20 % 100}]
 }
 
-# Nothing else takes the mouse or the keyboard as long as the panel is there.
+# Nothing else takes the mouse or the keyboard as long as the panel is there. Escape cancels; no other key does: it
+# was meant for something else.
 proc ::znbrowser::makeProgress {n panel} {
     upvar #0 ::znbrowser::window$n w
     ttk::frame $panel -style Panel.TFrame -padding {18 14}
     ttk::label $panel.text -style Panel.TLabel -width 18
     ttk::progressbar $panel.bar -mode indeterminate -length 180 -style Browser.Horizontal.TProgressbar
-    ttk::button $panel.cancel -text "Cancel" -style Tool.TButton -command [list ::znbrowser::host cancel]
-    bind $panel.cancel <Escape> {%W invoke}
+    ttk::button $panel.cancel -text "Cancel" -style Tool.TButton -takefocus 0 -command [list ::znbrowser::host cancel]
+    bind $panel <Escape> [list $panel.cancel invoke]
     grid $panel.text -sticky w
     grid $panel.bar $panel.cancel -pady {8 0}
     grid $panel.cancel -padx {14 0}
@@ -27,7 +28,7 @@ proc ::znbrowser::makeProgress {n panel} {
     raise $panel
     set w(focus) [focus -displayof $panel]
     catch {grab $panel}
-    focus $panel.cancel
+    focus $panel
 }
 
 proc ::znbrowser::hideProgress {n milliseconds} {

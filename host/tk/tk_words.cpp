@@ -6,6 +6,7 @@
 #include "base/tcl_values.h"
 #include "base/text.h"
 #include "host/znBrowserDataItems.h"
+#include "host/znIBrowserDataCtrl.h"
 #include "host/znIBrowserDataSourceSimple.h"
 #include "model/popup_menu.h"
 #include "model/view.h"
@@ -113,6 +114,8 @@ Tcl_Obj* NewColumn(const View& view, const Column& column) {
     Put(dictionary, "italic", Tcl_NewBooleanObj(column.IsItalic()));
     Put(dictionary, "tree", Tcl_NewBooleanObj(column.Kind() == ColumnKind::BuiltIn));
     Put(dictionary, "sorts", Tcl_NewBooleanObj(column.MaySort()));
+    Put(dictionary, "filter", column.Filter().IsSet() ? NewList(WordsOf(column.Filter())) : Tcl_NewObj());
+    Put(dictionary, "natural", Tcl_NewBooleanObj(column.SortsNaturally()));
     Put(dictionary, "order", NewText(!sorts ? "" : view.SortsAscending() ? "ascending" : "descending"));
     Put(dictionary, "menu", NewText(column.Popup() ? column.Popup()->Name() : std::string()));
     return dictionary;
@@ -124,9 +127,14 @@ void PutView(Tcl_Obj* dictionary, const View& view) {
     Tcl_Obj* const operations = Tcl_NewListObj(0, nullptr);
     for (const auto& operation : view.Operations()) Append(operations, NewText(operation->Name()));
     Put(dictionary, "view", NewText(view.Name()));
+    Put(dictionary, "control", NewText(NameOf(view.Log(), view.DataControl())));
     Put(dictionary, "columns", columns);
     Put(dictionary, "operations", operations);
     Put(dictionary, "filter", NewText(view.Filter().pattern));
+    Put(dictionary, "matchcase", Tcl_NewBooleanObj(view.Filter().matchCase));
+    Put(dictionary, "matchword", Tcl_NewBooleanObj(view.Filter().matchWord));
+    Put(dictionary, "allcolumns", Tcl_NewBooleanObj(view.Filter().allColumns));
+    Put(dictionary, "filtered", Tcl_NewBooleanObj(view.IsFiltered()));
 }
 
 // ---- The words ----
@@ -173,23 +181,42 @@ Tcl_Obj* Look(const Question& question) {
     return dictionary;
 }
 
-/// Looks for a beginning of a text, letter case aside. It gives up after so many rows that a person waits.
+/// So long a key has to wait for an answer at most, drawing aside.
+constexpr auto slice = std::chrono::milliseconds(12);
+
+/// Looks for a beginning of a text, for a moment: the position, and where to go on; -1 for none.
 Tcl_Obj* FindBeginning(const Question& question) {
-    constexpr std::int64_t atOnce = 500;
-    constexpr std::int64_t most = 100000;
-    RowModel& rows = question.window.Rows();
-    const RowModel::Answering answering(rows);
-    std::int64_t position = question.numbers[0];
-    for (std::int64_t seen = 0; seen < most; seen += atOnce) {
-        const std::vector<RowLook> looks = rows.Read(position, atOnce);
-        const auto found = std::find_if(looks.begin(), looks.end(), [&](const RowLook& look) {
-            return BeginsWithFolded(look.text, question.text);
-        });
-        if (found != looks.end()) return Tcl_NewWideIntObj(position + (found - looks.begin()));
-        if (looks.empty()) break;
-        position += atOnce;
+    const auto found = question.window.Rows().FindBeginning(question.text, question.numbers[0], slice);
+    return ListOf({Tcl_NewWideIntObj(found.position), Tcl_NewWideIntObj(found.next)});
+}
+
+/// Begins to look for what the view's filter would leave with that text.
+Tcl_Obj* BeginSearch(const Question& question) {
+    if (const View* const view = question.window.ShownView()) {
+        TextFilter filter = view->Filter();
+        filter.pattern = question.text;
+        question.window.Rows().BeginSearch(filter);
     }
-    return Tcl_NewWideIntObj(-1);
+    return Tcl_NewObj();
+}
+
+/// Goes on with it for a moment: whether that was all, how many rows were looked at, and how many are found.
+Tcl_Obj* GoOnSearching(const Question& question) {
+    const SearchProgress progress = question.window.Rows().GoOnSearching(slice);
+    return ListOf({Tcl_NewBooleanObj(progress.done), Tcl_NewWideIntObj(progress.looked),
+                   Tcl_NewWideIntObj(progress.found)});
+}
+
+Tcl_Obj* Matches(const Question& question) {
+    return Tcl_NewWideIntObj(question.window.Rows().CountMatches());
+}
+
+Tcl_Obj* FirstSelected(const Question& question) {
+    return Tcl_NewWideIntObj(question.window.Rows().FirstSelected());
+}
+
+Tcl_Obj* PathOf(const Question& question) {
+    return NewList(question.window.Rows().PathOf(static_cast<std::uint32_t>(question.numbers[0])));
 }
 
 Tcl_Obj* AboutCollector(const Question& question) { return NewCollectorBar(question.window); }
@@ -200,11 +227,6 @@ Tcl_Obj* Preselect(const Question& question) {
     znBrowserDataItem item;
     window.Rows().GetItem(static_cast<std::uint32_t>(question.numbers[0]), item);
     if (window.ShownView()) window.Owner().VirtualCollector().Preselect(*window.ShownView(), item);
-    return Tcl_NewObj();
-}
-
-Tcl_Obj* Prune(const Question& question) {
-    question.window.Rows().CollapseButSelected();
     return Tcl_NewObj();
 }
 
@@ -253,15 +275,19 @@ constexpr TkWord tkWords[] = {
     {"collector", "NUMBER", 0, false, AboutCollector},
     {"count", "NUMBER", 0, false, Count},
     {"find", "NUMBER FIRST TEXT", 1, true, FindBeginning},
+    {"firstselected", "NUMBER", 0, false, FirstSelected},
     {"indices", "NUMBER FIRST COUNT", 2, false, Indices},
     {"item", "NUMBER INDEX", 1, false, Item},
     {"look", "NUMBER", 0, false, Look},
+    {"matches", "NUMBER", 0, false, Matches},
     {"page", "NUMBER FIRST COUNT", 2, false, Page},
+    {"path", "NUMBER INDEX", 1, false, PathOf},
     {"popup", "NUMBER", 0, false, Popup},
     {"position", "NUMBER INDEX", 1, false, Position},
     {"preselect", "NUMBER INDEX", 1, false, Preselect},
-    {"prune", "NUMBER", 0, false, Prune},
     {"refusal", "NUMBER TYPE TEXT", 1, true, Refusal},
+    {"search", "NUMBER TEXT", 0, true, BeginSearch},
+    {"searchmore", "NUMBER", 0, false, GoOnSearching},
     {"selected", "NUMBER", 0, false, Selected},
     {"trouble", "NUMBER", 0, false, Trouble},
 };
@@ -281,7 +307,13 @@ Tcl_Obj* LastError(TkWindows& windows, int) {
 }
 
 Tcl_Obj* Begin(TkWindows& windows, int window) {
-    windows.Work().Begin(window);
+    windows.Work().Begin(window, TkWork::Panel::Shown);
+    return Tcl_NewObj();
+}
+
+/// As `begin`, for what somebody started by typing, and goes on typing.
+Tcl_Obj* BeginQuietly(TkWindows& windows, int window) {
+    windows.Work().Begin(window, TkWork::Panel::None);
     return Tcl_NewObj();
 }
 
@@ -299,6 +331,8 @@ Tcl_Obj* Cancel(TkWindows& windows, int) {
 
 Tcl_Obj* IsBusy(TkWindows& windows, int) { return Tcl_NewBooleanObj(windows.Work().IsServing()); }
 
+Tcl_Obj* IsRecording(TkWindows& windows, int) { return Tcl_NewBooleanObj(windows.App().Recording().IsOn()); }
+
 Tcl_Obj* Changes(TkWindows& windows, int window) {
     Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
     for (const auto& [kind, index] : windows.TakeChanges(static_cast<unsigned>(window))) {
@@ -314,8 +348,9 @@ struct PlainWord {
 };
 
 constexpr PlainWord plainWords[] = {
-    {"begin", Begin}, {"busy", IsBusy},     {"cancel", Cancel}, {"changes", Changes},
-    {"end", End},     {"error", LastError}, {"time", SetTime},
+    {"begin", Begin},  {"busy", IsBusy},     {"cancel", Cancel},        {"changes", Changes},
+    {"end", End},      {"error", LastError}, {"quietly", BeginQuietly}, {"recording", IsRecording},
+    {"time", SetTime},
 };
 
 template <class Word, std::size_t count>
@@ -343,6 +378,17 @@ bool ReadArguments(Tcl_Interp* interp, const TkWord& word, int objc, Tcl_Obj* co
     return true;
 }
 
+/// "record LINE": what its user did in a window.
+int Record(TkWindows& open, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
+    std::string error;
+    if (objc != 3) {
+        Tcl_WrongNumArgs(interp, 2, objv, "LINE");
+        return TCL_ERROR;
+    }
+    if (!open.App().Recording().Add(Tcl_GetString(objv[2]), error)) return Fail(interp, error);
+    return TCL_OK;
+}
+
 int Answer(TkWindows& open, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
     int number = 0;
     if (objc < 2) {
@@ -350,6 +396,7 @@ int Answer(TkWindows& open, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[])
         return TCL_ERROR;
     }
     const std::string_view word = Tcl_GetString(objv[1]);
+    if (word == "record") return Record(open, interp, objc, objv);
     if (objc > 2 && Tcl_GetIntFromObj(interp, objv[2], &number) != TCL_OK) return TCL_ERROR;
     if (const PlainWord* const plain = FindWord(plainWords, word)) {
         Tcl_SetObjResult(interp, plain->answer(open, number));

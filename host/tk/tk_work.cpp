@@ -10,7 +10,9 @@ namespace znhost {
 namespace {
 
 constexpr auto patience = std::chrono::milliseconds(200);
-constexpr auto pause = std::chrono::milliseconds(100);
+constexpr auto pause = std::chrono::milliseconds(40);
+/// Without a panel, from the first moment on: a key must not wait longer.
+constexpr auto pauseOfTyping = std::chrono::milliseconds(25);
 
 int PutOffExit(ClientData work, Tcl_Interp*, int objc, Tcl_Obj* const objv[]) {
     static_cast<TkWork*>(work)->PutOff(objc, objv);
@@ -93,9 +95,10 @@ int TkWork::Leave(void* work, Tcl_Interp*, int code) {
     return code;
 }
 
-void TkWork::Begin(int window) {
+void TkWork::Begin(int window, Panel panel) {
     if (depth_++) return;
     window_ = window;
+    panel_ = panel;
     begun_ = served_ = Clock::now();
     until_ = Clock::time_point::max();
     cancelled_ = false;
@@ -103,19 +106,20 @@ void TkWork::Begin(int window) {
 
 bool TkWork::End() {
     if (depth_ == 0 || --depth_) return false;
-    if (shown_) Call("::znbrowser::hideProgress");
+    if (shown_ && panel_ == Panel::Shown) Call("::znbrowser::hideProgress");
     shown_ = false;
     return cancelled_;
 }
 
-TkWork::Rest::Rest(TkWork& work) : work_(work), depth_(work.depth_), window_(work.window_) {
+TkWork::Rest::Rest(TkWork& work)
+    : work_(work), depth_(work.depth_), window_(work.window_), panel_(work.panel_) {
     work_.depth_ = depth_ ? 1 : 0;
     work_.End();
 }
 
 TkWork::Rest::~Rest() {
     work_.depth_ = 0;
-    work_.Begin(window_);
+    work_.Begin(window_, panel_);
     work_.depth_ = depth_;
 }
 
@@ -125,7 +129,9 @@ bool TkWork::GoesOn() {
     if (!depth_ || serving_) return true;
     if (cancelled_) return false;
     const Clock::time_point now = Clock::now();
-    if (now - begun_ < patience || (shown_ && now - served_ < pause)) return true;
+    const bool waits = panel_ == Panel::Shown ? now - begun_ < patience || (shown_ && now - served_ < pause)
+                                              : now - served_ < pauseOfTyping;
+    if (waits) return true;
     Serve();
     return !cancelled_;
 }
@@ -136,7 +142,7 @@ void TkWork::Serve() {
     {
         const ReplacedCommand blocked(command_, AnswerBusy, nullptr);
         const ExitCommand waiting(interp_, *this);
-        Call("::znbrowser::showProgress");
+        if (panel_ == Panel::Shown) Call("::znbrowser::showProgress");
         // A bound, as an idle script may ask for itself again and again.
         for (int i = 0; i < 200 && Tcl_DoOneEvent(TCL_WINDOW_EVENTS | TCL_IDLE_EVENTS | TCL_DONT_WAIT); ++i) {
         }

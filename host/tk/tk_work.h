@@ -27,8 +27,12 @@ public:
     TkWork(const TkWork&) = delete;
     TkWork& operator=(const TkWork&) = delete;
 
-    /// What happens from now on is waited for by the user of that window. There must be an `End`.
-    void Begin(int window);
+    /// Whether a panel takes the keyboard while work takes long; without one somebody goes on typing, and
+    /// what is typed may cancel the work.
+    enum class Panel { Shown, None };
+    /// What happens from now on is waited for by the user of that window. There must be an `End`. Work in the
+    /// middle of other work has the panel of that.
+    void Begin(int window, Panel panel);
     /// So much time, from now on, for what need not be done to the end.
     void SetTime(int milliseconds) { until_ = Clock::now() + std::chrono::milliseconds(milliseconds); }
     /// @return whether it was cancelled
@@ -46,6 +50,7 @@ public:
         TkWork& work_;
         const int depth_;
         const int window_;
+        const Panel panel_;
     };
     /// Whether the display is served at this moment, while the work waits.
     bool IsServing() const { return serving_; }
@@ -69,6 +74,7 @@ private:
     Tcl_Obj* exit_ = nullptr; ///< the words of an `exit` that is waiting
     int depth_ = 0;
     int window_ = 0;
+    Panel panel_ = Panel::Shown;
     Clock::time_point begun_;
     Clock::time_point served_;
     Clock::time_point until_ = Clock::time_point::max();

@@ -133,6 +133,8 @@ proc ::znbrowser::build {n} {
     buildCollectorButton $n $w(path).bar
     buildWindows $n $w(path).bar
     buildSearch $n $w(path).bar
+    buildStates $n $w(path).status
+    buildRecorder $n $w(path).status
     ttk::label $w(path).status.count -style Status.TLabel -anchor w
     ttk::label $w(path).status.message -style Message.TLabel -anchor e
     ttk::label $w(path).status.help -style Status.TLabel -anchor w
@@ -149,6 +151,7 @@ proc ::znbrowser::build {n} {
     bind $w(path) <Destroy> [list ::znbrowser::destroyed $n %W]
     set top [winfo toplevel $w(path)]
     bind $top <Control-f> [list ::znbrowser::focusSearch $n]
+    foreach key {f F} {bind $top <Control-Shift-$key> [list ::znbrowser::switchScope $n]}
     takeWindowKeys $w(path)
     focus $w(tree)
 }
@@ -187,8 +190,11 @@ proc ::znbrowser::unpost {n} {
         after 100 [list ::znbrowser::unpost $n]
         return
     }
-    manager window current $w(name)
-    manager window post false
+    set name $w(name)
+    foreach words [list [list window current $name] {window post false}] {
+        manager {*}$words
+        record $n [list znbrowsermanager {*}$words]
+    }
     if {[isOpen $n] && $w(owns)} {wm deiconify $w(frame)} ;# it was refused
 }
 
@@ -266,9 +272,11 @@ proc ::znbrowser::columnCommand {n column args} {
 proc ::znbrowser::tell {n words} {
     host error
     host begin $n
+    set line [lineFor $n $words]
     set failed [catch {manager {*}$words} answer]
     if {[regexp {^\[Command\] .*?\n\t\[Error\] (.*)$} $answer -> answer]} {set failed 1}
     set refusal [host error]
+    if {!$failed} {record $n $line}
     if {!$failed || ($answer eq "Unknown error" && $refusal ne "")} {set answer $refusal}
     if {$answer eq "Unknown error"} {set answer "This cannot be done here"}
     finish $n $answer
@@ -336,6 +344,8 @@ proc ::znbrowser::draw {n changes} {
     drawPage $n
     if {![isOpen $n]} return
     drawStatus $n
+    showNoMatch $n
+    followRecording
     if {[dict get [host look $n] uncounted] && ![info exists w(timer,count)]} {
         set w(timer,count) [after 20 [list ::znbrowser::countMore $n]]
     }

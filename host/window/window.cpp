@@ -50,14 +50,34 @@ void Window::KeepExpanded() {
     }
 }
 
-// Rows that a text filter hides are collapsed. When it is gone, they are as they were.
+namespace {
+
+/// Those of the rows that are no items, nor lie in any.
+std::vector<KeptRow> ContainersOf(const std::vector<KeptRow>& rows) {
+    std::vector<KeptRow> containers;
+    std::vector<std::size_t> numbers{0}; // of each of `rows`; none for what is left out
+    constexpr auto none = static_cast<std::size_t>(-1);
+    for (KeptRow row : rows) {
+        row.above = numbers[row.above];
+        const bool stays = row.kind != RowKind::Item && row.above != none;
+        if (stays) containers.push_back(row);
+        numbers.push_back(stays ? containers.size() : none);
+    }
+    return containers;
+}
+
+} // namespace
+
+// Rows that a filter hides are collapsed. When it is gone, they are as they were; and when it lets others
+// through, the lists and folders are that have something to show again.
 void Window::OnViewChanged(unsigned changes) {
     const std::shared_ptr<Window> self = shared_from_this(); // listing the rows may run scripts
     const bool filtered = filters_;
-    filters_ = view_ && !view_->Filter().pattern.empty();
+    filters_ = view_ && view_->IsFiltered();
     if (filters_ && !filtered) KeepExpanded();
     rows_.OnViewChanged(changes);
     if (!filters_ && filtered) rows_.ExpandAlso(std::exchange(expanded_, {}));
+    if (filters_ && filtered && (changes & VIEW_FILTER)) rows_.ExpandAlso(ContainersOf(expanded_));
 }
 
 void Window::OnExpanded(FreeFolder& folder, znIBrowserDataSourceSimple* list, bool expanded, bool recursive) {

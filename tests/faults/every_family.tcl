@@ -235,7 +235,10 @@ set sections {
         {window create win} {view folder current v} {view list add note true} {window expandall} {app rows win}
         {app sql m {INSERT INTO unit VALUES (4, 1, 'd', 0), (5, 4, 'b', 1)}} {app rows win} {window expandall}
         {app sql m {DELETE FROM unit WHERE id = 2}} {app draw win} {view filter string current b} {app rows win}
-        {view filter string current {}} {app rows win} {view sort enabled} {view column sort byname title}
+        {app filter scope v shown} {view filter string current bu} {app rows win}
+        {app filter column v title contains b} {app filter column v title} {app rows win} {app filter column v title none}
+        {view filter string current {}} {app rows win} {app sort natural v title true} {app path win 2} {app row win f}
+        {app prune win} {window expandall} {view sort enabled} {view column sort byname title}
         {view sort descending} {app rows win} {window find property add title} {window find property current title}
         {window find property criterion current d} {window find property criterion type equalto} {window find perform}
         {view list group true} {app rows win} {view folder current f} {view tree current h} {view tree group true}

@@ -1,0 +1,133 @@
+// Searching all rows of a source, a slice at a time.
+#include "model/row_source.h"
+#include "store/data_ctrl.h"
+#include "store/data_property.h"
+#include "store/simple_source.h"
+
+#include <algorithm>
+
+namespace znhost {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// The clock is asked once for so many rows.
+constexpr std::int64_t rowsBetweenLooks = 128;
+
+/// What is read of a table for the search: its key, and a column for each property that it has.
+std::string ColumnsFor(const RowScan& scan, const Table& table, std::vector<std::size_t>& places) {
+    std::string columns;
+    for (std::size_t place = 0; place < scan.properties.size(); ++place) {
+        DataProperty* const property = static_cast<DataProperty*>(scan.properties[place]);
+        std::optional<std::size_t> column = property ? property->ColumnIn(table) : table.displayColumn;
+        if (property && !column) continue;
+        columns += ", " + (column ? Database::Quoted(table.columns[*column].name) : table.key);
+        places.push_back(place);
+    }
+    return columns;
+}
+
+bool Takes(const RowScan& scan, const Statement& statement, const std::vector<std::size_t>& places) {
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const int column = static_cast<int>(i) + 1;
+        if (!statement.IsNull(column) && scan.accept(places[i], statement.Text(column))) return true;
+    }
+    return false;
+}
+
+} // namespace
+
+/// The search through one table of the source.
+class SimpleSource::PartScan {
+public:
+    PartScan(SimpleSource& source, const RowPart& part, RowScan& scan, Found& found)
+        : source_(source), part_(part), scan_(scan), found_(found),
+          columns_(ColumnsFor(scan, *part.table, places_)) {}
+
+    /// @return false when there was no time for all of it
+    bool Run(Clock::time_point until) {
+        return scan_.among && scan_.among->Size() <= mostLookups ? RunAmong(until) : RunThrough(until);
+    }
+
+private:
+    /// Up to so many rows are looked up one by one.
+    static constexpr std::size_t mostLookups = 20000;
+
+    bool RunThrough(Clock::time_point until) {
+        const std::string& key = part_.table->key;
+        Statement statement = source_.control_.Db().Prepare(
+            part_.Select(columns_, scan_.inPart ? key + " > ?" : std::string()) + " ORDER BY " + key);
+        const int position = part_.Bind(statement);
+        if (scan_.inPart) statement.Bind(position, scan_.row);
+        for (std::int64_t count = 1; statement.Next(); ++count) {
+            Take(statement);
+            if (count % rowsBetweenLooks == 0 && Clock::now() >= until) return false;
+        }
+        return Finish(statement);
+    }
+
+    bool RunAmong(Clock::time_point until) {
+        std::vector<std::int64_t> keys;
+        scan_.among->ForEach([&](std::int64_t row) {
+            const RowPlace place = source_.PlaceOf(row);
+            if (place.slot == part_.slot && (!scan_.inPart || place.row > scan_.row))
+                keys.push_back(place.row);
+        });
+        if (!std::is_sorted(keys.begin(), keys.end())) std::sort(keys.begin(), keys.end());
+        Statement statement =
+            source_.control_.Db().Prepare(part_.Select(columns_, part_.table->key + " = ?"));
+        const int position = part_.Bind(statement);
+        std::int64_t count = 0;
+        for (const std::int64_t key : keys) {
+            statement.Bind(position, key);
+            if (statement.Next()) Take(statement);
+            statement.Rewind();
+            if (++count % rowsBetweenLooks == 0 && Clock::now() >= until) return false;
+        }
+        return Finish(statement);
+    }
+
+    void Take(const Statement& statement) {
+        scan_.row = statement.Integer(0);
+        scan_.inPart = true;
+        ++scan_.looked;
+        const std::int64_t row = source_.RowOf({part_.slot, scan_.row});
+        if (scan_.among && !scan_.among->Has(row)) return;
+        if (Takes(scan_, statement, places_)) {
+            found_.rows.push_back(row);
+        } else if (found_.others) {
+            found_.others->push_back(row);
+        }
+    }
+
+    bool Finish(const Statement& statement) {
+        std::string error;
+        if (!statement.Finish(error)) scan_.failed = !source_.FailToRead(error);
+        return true;
+    }
+
+    SimpleSource& source_;
+    const RowPart& part_;
+    RowScan& scan_;
+    Found& found_;
+    std::vector<std::size_t> places_;
+    const std::string columns_;
+};
+
+void SimpleSource::Scan(RowScan& scan, Clock::time_point until, std::vector<std::int64_t>& rows,
+                        std::vector<std::int64_t>* others) {
+    const std::shared_ptr<SimpleSource> self = shared_from_this();
+    const std::vector<RowPart> parts = Parts();
+    Found found{rows, others};
+    while (scan.part < parts.size()) {
+        if (!PartScan(*this, parts[scan.part], scan, found).Run(until)) return;
+        scan.inPart = false;
+        ++scan.part;
+    }
+    scan.done = true;
+}
+
+std::uint64_t SimpleSource::Version() { return control_.Version(); }
+
+} // namespace znhost
