@@ -1,6 +1,7 @@
 // What a window shows: the questions about its rows, and how it hears of changes.
 #include "rows/row_model.h"
 
+#include "base/change_count.h"
 #include "base/services.h"
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserDataSourceHierarchical.h"
@@ -22,7 +23,7 @@ RowModel::RowModel(View& view)
 
 void RowModel::OnViewChanged(unsigned changes) noexcept {
     pending_ |= changes;
-    if (changes & VIEW_ROWS) {
+    if (changes & (VIEW_ROWS | VIEW_ITEMS)) {
         Tell(RowChange::AllFilled);
     } else if (changes & (VIEW_CELLS | VIEW_COLUMNS | VIEW_COLLECTED)) {
         Tell(RowChange::AllCells);
@@ -98,10 +99,11 @@ void RowModel::TakeOver() {
     const unsigned changes = std::exchange(pending_, 0U);
     if (changes & ~unsigned{VIEW_SELECTION | VIEW_COLLECTED}) ++revision_;
     if (changes & VIEW_COLUMNS) shown_.clear();
-    if (changes & (VIEW_ROWS | VIEW_CELLS)) ForgetCounts();
-    if (!(changes & VIEW_ROWS)) return;
+    if (changes & (VIEW_ROWS | VIEW_CELLS | VIEW_ITEMS)) ForgetCounts();
+    if (!(changes & (VIEW_ROWS | VIEW_ITEMS))) return;
     plan_.Forget();
-    Refresh();
+    const std::uint64_t since = std::exchange(itemsSeen_, ChangeCount::Now());
+    if ((changes & VIEW_ROWS) || kept_ || !RefreshItems(since)) Refresh();
     if (kept_ && !stopped_) BringBackKept();
     if (stopped_) pending_ |= VIEW_ROWS;
 }

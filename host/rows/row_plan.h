@@ -2,6 +2,7 @@
 #ifndef ZN_HOST_ROW_PLAN_H
 #define ZN_HOST_ROW_PLAN_H
 
+#include "rows/row_ahead.h"
 #include "rows/row_display.h"
 #include "rows/row_filter.h"
 #include "rows/row_tree.h"
@@ -46,10 +47,32 @@ public:
         display_.reset();
     }
 
+    /// While one lives the children of many items are wanted, and read together. Of several the outermost counts.
+    class Ahead {
+    public:
+        /// @param descends  all that lies below is wanted
+        Ahead(RowPlan& plan, bool descends);
+        ~Ahead() { plan_.ahead_ = outer_; }
+        Ahead(const Ahead&) = delete;
+        Ahead& operator=(const Ahead&) = delete;
+
+        /// These items of the block will be asked about.
+        void Expect(const RowContent& block, const std::vector<std::int64_t>& rows) {
+            plan_.ahead_->Expect(block, rows);
+        }
+
+    private:
+        RowPlan& plan_;
+        RowAhead ahead_;
+        RowAhead* const outer_;
+    };
+
     /// What stands in a folder, tree or list, in order.
     std::vector<RowContent> Below(const RowContent& container) const;
     /// What stands below an item of that block.
     std::vector<RowContent> Below(const RowContent& block, std::int64_t row) const;
+    /// The order in which the rows of a block are shown.
+    RowOrder OrderOf(const RowContent& block) const;
     /// The rows of a block, in order.
     std::vector<std::int64_t> List(const RowContent& block) const;
 
@@ -71,6 +94,7 @@ public:
 
 private:
     bool HasRows(const RowContent& block, const RowLink& link, std::int64_t row) const;
+    bool HasRowsAlongAny(const RowContent& block, std::int64_t row) const;
     bool Stands(const RowContent& container, bool showsEmpty) const;
     bool Hides(const RowContent& container) const;
     std::shared_ptr<const RowDisplay> Display() const;
@@ -89,12 +113,16 @@ private:
     std::shared_ptr<RowScope> TreeScope(FreeFolder& folder) const;
     void Filter(RowScope& scope, const std::vector<RowSource*>& tops, const FreeFolder& folder,
                 const void* what) const;
-    RowOrder OrderOf(const RowContent& block) const;
+    std::optional<RowOrder> OrderBelow(const RowContent& block, const RowLink& link) const;
+    std::optional<std::vector<std::int64_t>> KnownBelow(const RowContent& block, const RowLink& link,
+                                                        std::int64_t parent) const;
+    static void Narrow(const RowContent& block, std::vector<std::int64_t>& rows);
     static std::vector<std::int64_t> List(const RowContent& block, const RowOrder& order);
     static std::int64_t CountRows(const RowContent& block);
 
     View& view_;
-    bool whole_ = false; ///< as if nothing were hidden or filtered
+    RowAhead* ahead_ = nullptr; ///< null: each is read when it is asked for
+    bool whole_ = false;        ///< as if nothing were hidden or filtered
     mutable std::shared_ptr<const RowDisplay> display_;
     /// By folder and by what stands in it.
     mutable std::map<std::pair<const FreeFolder*, const void*>, std::shared_ptr<const RowFilter>> filters_;

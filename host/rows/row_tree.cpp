@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <new>
 #include <numeric>
 #include <utility>
 
@@ -152,7 +153,7 @@ TreePart RowTree::MakeNode(RowContent content) {
     return part;
 }
 
-TreePart RowTree::MakeBlock(RowContent content, std::vector<std::int64_t> rows) {
+TreePart RowTree::MakeBlock(RowContent content, SharedRows rows) {
     TreePart part;
     part.block = std::make_unique<RowBlock>();
     part.block->content = std::move(content);
@@ -188,7 +189,7 @@ void RowTree::Attach(RowNode& node, std::uint32_t place) {
     block.place = place;
     if (!block.ranges.empty()) return;
     block.slotCount = static_cast<std::uint32_t>(block.rows.size());
-    if (!TakeIndices(block, 0, block.slotCount)) block.rows.clear();
+    if (!TakeIndices(block, 0, block.slotCount)) block.rows = {};
 }
 
 /// False, and nothing changed, when so many indices are not to be had.
@@ -251,8 +252,11 @@ void RowTree::Clear() noexcept {
     broken_ = false;
 }
 
-void RowTree::SetRows(RowBlock& block, std::vector<std::int64_t> rows) {
-    if (rows == block.rows) return;
+void RowTree::SetRows(RowBlock& block, SharedRows rows) {
+    if (rows.Get() == block.rows.Get()) {
+        block.rows = std::move(rows);
+        return;
+    }
     using Known = std::pair<std::int64_t, std::uint32_t>; // row, slot
     std::vector<Known> known(block.rows.size());
     for (std::size_t i = 0; i < known.size(); ++i) known[i] = {block.rows[i], block.SlotAt(i)};
@@ -279,6 +283,64 @@ void RowTree::SetRows(RowBlock& block, std::vector<std::int64_t> rows) {
     if (uncounted_) return;
     MakeSums(block);
     GrowOwner(block, block.Size() - size);
+}
+
+/// Gives each slot its position again, from that one on; the slots that stand nowhere are not touched.
+void RowTree::NumberFrom(RowBlock& block, std::size_t position) {
+    for (; position < block.slotAt.size(); ++position)
+        block.positionOf[block.slotAt[position]] = static_cast<std::uint32_t>(position);
+}
+
+/// Each row has a slot from now on that need not be its position.
+void RowTree::NumberSlots(RowBlock& block) {
+    if (!block.slotAt.empty()) return;
+    block.slotAt.resize(block.rows.size());
+    std::iota(block.slotAt.begin(), block.slotAt.end(), 0U);
+    block.positionOf = block.slotAt;
+}
+
+/// Runs a change that memory may run out for when it is half done.
+template <class Change>
+void RowTree::ChangeBlock(RowBlock& block, std::int64_t delta, Change&& change) {
+    try {
+        change();
+        GrowOwner(block, delta);
+    } catch (...) {
+        broken_ = true;
+        throw;
+    }
+}
+
+void RowTree::InsertRow(RowBlock& block, std::uint32_t position, std::int64_t row) {
+    ChangeBlock(block, 1, [&] {
+        const std::uint32_t slot = block.slotCount;
+        const bool behindAll = position == block.rows.size();
+        const bool slotIsPosition = behindAll && block.slotAt.empty() && slot == position;
+        if (!slotIsPosition) NumberSlots(block);
+        if (!TakeIndices(block, slot, 1)) throw std::bad_alloc();
+        ++block.slotCount;
+        std::vector<std::int64_t>& rows = block.rows.Own();
+        rows.insert(rows.begin() + position, row);
+        if (!slotIsPosition) {
+            block.slotAt.insert(block.slotAt.begin() + position, slot);
+            block.positionOf.resize(block.slotCount, RowBlock::gone);
+            NumberFrom(block, position);
+        }
+        behindAll && !block.sums.Empty() ? block.sums.Append(1) : MakeSums(block);
+    });
+}
+
+void RowTree::RemoveRow(RowBlock& block, std::uint32_t position) {
+    if (const Row row = ItemAt(block, position); row.node) Collapse(*row.node);
+    ChangeBlock(block, -1, [&] {
+        NumberSlots(block);
+        std::vector<std::int64_t>& rows = block.rows.Own();
+        rows.erase(rows.begin() + position);
+        block.positionOf[block.slotAt[position]] = RowBlock::gone;
+        block.slotAt.erase(block.slotAt.begin() + position);
+        NumberFrom(block, position);
+        MakeSums(block);
+    });
 }
 
 void RowTree::MakeSums(RowBlock& block) {

@@ -72,7 +72,7 @@ bool SimpleSource::WriteBoolean(znIBrowserDataProperty& property, std::int64_t r
         if (!ChangeRow(control_.Db(), statement, error)) return FailWith(error);
     }
     if (!transaction.Commit(error)) return FailWith(error);
-    control_.ItemsChanged();
+    control_.RowsChanged();
     return true;
 }
 
@@ -170,7 +170,7 @@ bool SimpleSource::MoveBelow(const RowLink& link, const std::vector<std::int64_t
         if (!mover.Move(row, error)) return FailWith(error);
     }
     if (!transaction.Commit(error)) return FailWith(error);
-    control_.ItemsChanged();
+    control_.RowsChanged();
     return true;
 }
 

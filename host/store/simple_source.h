@@ -88,6 +88,8 @@ public:
     // RowSource
     znIBrowserDataSourceSimple* GetSource() override { return this; }
     void List(const RowQuery& query, std::vector<std::int64_t>& rows) override;
+    bool ListBelow(const RowLink& link, const std::vector<std::int64_t>& parents, const RowOrder& order,
+                   RowGroups& groups) override;
     std::int64_t Count(const RowQuery& query) override;
     bool HasChildren(const RowLink& link, std::int64_t parent) override;
     void HaveChildren(const RowLink& link, const std::vector<std::int64_t>& parents,
@@ -97,6 +99,8 @@ public:
     void Children(const RowLink& link, const std::vector<std::int64_t>& parents,
                   std::vector<std::int64_t>& children) override;
     bool HasMoreThan(std::size_t count) override;
+    bool ChangedRows(std::uint64_t since, std::vector<std::int64_t>& rows) override;
+    bool SortRows(const RowOrder& order, std::vector<std::int64_t>& rows) override;
     RowMark Mark() override;
     void NewRows(const RowMark& since, std::vector<std::int64_t>& rows) override;
     RowCondition OneOf(znIBrowserDataProperty& property, const std::vector<znString>& values) override;

@@ -159,7 +159,7 @@ TEST(RowTree, TakesAChainOfAnyDepthApart) {
         const RowTree::ManyChanges many(tree, tree.Root());
         for (int depth = 0; depth < 200000; ++depth) {
             std::vector<TreePart> parts;
-            parts.push_back(RowTree::MakeBlock(Items(), {depth}));
+            parts.push_back(RowTree::MakeBlock(Items(), std::vector<std::int64_t>{depth}));
             tree.SetParts(*node, std::move(parts));
             node = &tree.NodeOf(RowTree::ItemAt(*node->parts[0].block, 0));
         }
