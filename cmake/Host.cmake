@@ -10,7 +10,8 @@ if(sources)
     string(REPLACE ";" "|" tk_script_words "${tk_scripts}")
     add_custom_command(
         OUTPUT "${tk_source}"
-        COMMAND ${CMAKE_COMMAND} "-DOUTPUT=${tk_source}" "-DSCRIPTS=${tk_script_words}"
+        COMMAND ${CMAKE_COMMAND} "-DOUTPUT=${tk_source}" -DHEADER=tk/tk_scripts.h -DTYPE=znhost::TkScript
+            -DFUNCTION=znhost::TkScripts "-DSCRIPTS=${tk_script_words}"
             -P "${PROJECT_SOURCE_DIR}/cmake/EmbedScripts.cmake"
         DEPENDS ${tk_scripts} "${PROJECT_SOURCE_DIR}/cmake/EmbedScripts.cmake"
         COMMENT "Embedding the scripts of the windows"

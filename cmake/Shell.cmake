@@ -2,7 +2,19 @@
 
 zn_find_sources(sources shell/*.cpp)
 if(sources AND TARGET znBrowserScripting AND TARGET znbrowserhost)
-    add_executable(znbrowsersh ${sources})
+    # The examples of the manual become part of the program.
+    zn_find_sources(word_scripts examples/words/*.tcl)
+    set(word_source "${PROJECT_BINARY_DIR}/word_scripts.cpp")
+    string(REPLACE ";" "|" word_script_words "${word_scripts}")
+    add_custom_command(
+        OUTPUT "${word_source}"
+        COMMAND ${CMAKE_COMMAND} "-DOUTPUT=${word_source}" -DHEADER=word_scripts.h -DTYPE=WordScript
+            -DFUNCTION=WordScripts "-DSCRIPTS=${word_script_words}"
+            -P "${PROJECT_SOURCE_DIR}/cmake/EmbedScripts.cmake"
+        DEPENDS ${word_scripts} "${PROJECT_SOURCE_DIR}/cmake/EmbedScripts.cmake"
+        COMMENT "Embedding the examples of the manual"
+        VERBATIM)
+    add_executable(znbrowsersh ${sources} "${word_source}")
     target_include_directories(znbrowsersh PRIVATE "${PROJECT_SOURCE_DIR}/shell")
     target_link_libraries(znbrowsersh PRIVATE
         znbrowserhost znBrowserScripting zn_tcl CLI11::CLI11 PkgConfig::EDIT)

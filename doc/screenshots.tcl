@@ -30,6 +30,12 @@ proc takePicture {size file} {
     zn window post false
 }
 
+proc wait {milliseconds} {
+    after $milliseconds {set waited 1}
+    vwait waited
+    update
+}
+
 source [file join $examples browser.tcl]
 foreach text {{Ball bearing} {Shim}} {zn OnTkTreeRequestSelect gearbox [rowOf gearbox $text]}
 takePicture 1080x640 [file join $images browser.png]
@@ -59,9 +65,22 @@ update
 set menu [znbrowser::popup gearbox]
 event generate $menu <Down>
 update
-after 900 {set shown 1}
-vwait shown
-update
+wait 900
 exec import -window root -crop 900x560+0+0 +repage -strip [file join $images popup_menu.png]
 tk::MenuUnpost $menu
 zn window post false
+
+# What is collected by hand: three bolts, isolated.
+zn window current gearbox
+zn window collapseall
+zn window post true
+zn collector show true
+zn OnTkTreeRequestDeselect gearbox $ring
+zn OnTkColListItemSelected gearbox part
+zn view property current code
+zn collector selection set byprop code HOU.REA-015 HOU.REA-017 HOU.BEL-003
+zn OnTkColOptionItemSelected gearbox isolateonly
+zn collector option perform
+zn window expandall
+zn collector pnlcolselector create "To be checked"
+takePicture 1240x420 [file join $images collector.png]

@@ -16,6 +16,7 @@ struct znBrowserTclCommand {
         arguments; ///< "NAME ?TEXT?": capitals stand for a kind, others for themselves, "?" for optional
     std::string summary;  ///< one sentence
     bool leadsOn = false; ///< whether more words may follow, which `GetCommands` lists
+    std::string answer;   ///< what it answers, in the same notation; empty where it answers nothing
 };
 
 /// A kind of argument: the word that stands for it in `znBrowserTclCommand::arguments`, and what it means.

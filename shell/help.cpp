@@ -2,11 +2,14 @@
 
 #include "app/embedded_host.h"
 #include "completion.h"
+#include "example_host.h"
+#include "mishaps.h"
 #include "znBrowserTclCommandTree.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -78,6 +81,27 @@ void Append(const std::vector<HelpLine>& lines, std::string& text) {
     }
 }
 
+/// What goes wrong with the word, and the lines of the example that use it.
+std::string ShownOf(const std::vector<std::string>& typed) {
+    const std::optional<KnownLine> known = Recognize("znbrowsermanager " + Joined(typed));
+    if (!known || !known->arguments.empty()) return "";
+    const Example& example = ExampleAbout(known->words);
+    std::vector<HelpLine> mishaps;
+    for (const Mishap& mishap : MishapsIn(example)) {
+        if (mishap.words == known->words) mishaps.push_back({"when " + mishap.when, mishap.answer});
+    }
+    std::vector<ExampleLine> lines;
+    for (ExampleLine& line : Answered(example)) {
+        if (line.words == known->words) lines.push_back(std::move(line));
+    }
+    std::string text;
+    if (!mishaps.empty()) text += '\n';
+    Append(mishaps, text);
+    if (!lines.empty()) text += "\n\n" + AsTyped(lines);
+    while (!text.empty() && text.back() == '\n') text.pop_back();
+    return text;
+}
+
 } // namespace
 
 std::string HelpOn(const std::vector<std::string>& words) {
@@ -91,16 +115,17 @@ std::string HelpOn(const std::vector<std::string>& words) {
         lines = LinesOfApp({words.begin() + 1, words.end()});
     } else {
         if (znBrowserTclCommandTree::GetCommand(words, command))
-            text = Joined(text, command.arguments) + "\n  " + command.summary;
+            text = Joined(text, command.arguments) + (command.answer.empty() ? "" : " -> " + command.answer) +
+                   "\n  " + command.summary;
         std::vector<znBrowserTclCommand> commands;
         znBrowserTclCommandTree::GetCommands(words, commands);
         lines = LinesOf(commands);
     }
     Append(lines, text);
     std::vector<HelpLine> all = lines;
-    all.push_back({command.arguments, {}});
+    all.push_back({command.arguments + ' ' + command.answer, {}});
     const std::vector<HelpLine> kinds = app ? std::vector<HelpLine>() : KindsIn(all);
     if (!kinds.empty()) text += '\n';
     Append(kinds, text);
-    return text;
+    return text + ShownOf(words);
 }

@@ -4,6 +4,7 @@
 #include "session.h"
 
 #include <cstdlib>
+#include <iostream>
 #include <unistd.h>
 
 namespace {
@@ -35,5 +36,9 @@ int main(int argc, char** argv) {
     if (const std::optional<ExitCode> done = ParseOptions(argc, argv, options)) return *done;
     if (!options.script && isatty(STDIN_FILENO)) ChooseLocaleOfPrompt();
     Tcl_FindExecutable(argv[0]);
+    if (options.page) {
+        std::cout << options.page();
+        return EXIT_DONE;
+    }
     Tcl_Exit(Run(options));
 }

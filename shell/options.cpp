@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <iostream>
 #include <string_view>
 
 namespace {
@@ -97,12 +96,9 @@ void TakeDatabases(Options& options) {
     }
 }
 
-void AddPage(CLI::App& app, const char* option, std::string (*page)(), const char* help) {
-    const auto print = [page] {
-        std::cout << page();
-        throw CLI::Success();
-    };
-    app.add_flag_callback(option, print, help);
+void AddPage(CLI::App& app, Options& options, const char* option, std::string (*page)(), const char* help) {
+    app.add_flag_callback(
+        option, [&options, page] { options.page = page; }, help);
 }
 
 } // namespace
@@ -125,8 +121,8 @@ std::optional<ExitCode> ParseOptions(int argc, const char* const* argv, Options&
     app.add_flag("--tk", options.tk,
                  "Open windows on the display; with nothing to run, a browser on each database")
         ->disable_flag_override();
-    AddPage(app, "--reference", Reference, "Print all words of the command, as Markdown, and end");
-    AddPage(app, "--manual", Manual, "Print the same as a manual page for man, and end");
+    AddPage(app, options, "--reference", Reference, "Print all words of the command, as Markdown, and end");
+    AddPage(app, options, "--manual", Manual, "Print the same as a manual page for man, and end");
     app.set_version_flag("--version", "znbrowsersh " ZN_BROWSER_VERSION);
     app.prefix_command(); // stop at the script: the options behind it are the script's own
     options.program = argv[0];

@@ -19,6 +19,7 @@ struct Options {
     std::string program; /// as it was called
     std::optional<std::string> script;  /// none: the prompt, or the script on standard input
     std::vector<std::string> arguments; /// what follows the script, for the script alone
+    std::string (*page)() = nullptr;    /// to be printed, and nothing else done
 };
 
 /// The ways in which the program ends by itself; `exit N` in a script gives any other.

@@ -48,6 +48,7 @@ struct AppWord {
     const char* words;
     /// The arguments as the help shows them: "NAME ?FILE?".
     const char* arguments;
+    const char* answers; ///< in the same notation; "" for nothing
     const char* help;
     std::size_t fewest;
     std::size_t most;

@@ -137,7 +137,7 @@ std::vector<std::string> EmbeddedHost::GetAppWords(const std::vector<std::string
 std::vector<EmbeddedHost::AppCommand> EmbeddedHost::GetAppCommands(const std::vector<std::string>& words) {
     std::vector<AppCommand> commands;
     for (const AppWord* const row : AppWordsBelow(words))
-        commands.push_back({row->words, row->arguments, row->help});
+        commands.push_back({row->words, row->arguments, row->answers, row->help});
     return commands;
 }
 

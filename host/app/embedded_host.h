@@ -46,6 +46,7 @@ public:
     struct AppCommand {
         std::string words;     ///< behind "app": "journal on"
         std::string arguments; ///< "NAME ?FILE?"
+        std::string answer;    ///< what it answers, in the same notation; empty where it answers nothing
         std::string summary;
     };
     /// The commands "app WORD ..." that begin with these words.

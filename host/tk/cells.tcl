@@ -3,8 +3,9 @@
 # What every style is made of. More elements follow as cells need them.
 proc ::znbrowser::prepareCells {n} {
     upvar #0 ::znbrowser::window$n w
-    foreach state {chosen odd drop hover current expanded expandable} {$w(tree) state define $state}
-    $w(tree) element create back rect -outline [list [colour focus] current] -outlinewidth 1 -open we
+    foreach state {chosen odd drop hover current expanded expandable pointed collected marks} {$w(tree) state define $state}
+    $w(tree) element create back rect -outline [list [colour accent] pointed [colour focus] current] -outlinewidth 1 -open we
+    $w(tree) element create mark text -text "●" -fill [colour accent] -font znBrowser00 -draw {yes collected no {}}
     $w(tree) element create indent rect -height 1
     $w(tree) element create expander image -width 16 -image \
         [list znbrowser::image::opened expanded znbrowser::image::closed expandable]
@@ -22,7 +23,7 @@ proc ::znbrowser::styleFor {n inTree kinds} {
     dict set w(styles) $key $style
     $w(tree) style create $style
     set parts {back}
-    if {$inTree} {lappend parts indent expander}
+    if {$inTree} {lappend parts mark indent expander}
     if {[lindex $kinds 0] eq "image"} {lappend parts icon}
     set place 0
     foreach kind $kinds {
@@ -59,6 +60,7 @@ proc ::znbrowser::layoutStyle {n style parts} {
     foreach part $parts {
         switch -regexp $part {
             {^back$} {$w(tree) style layout $style back -detach yes -iexpand xy}
+            {^mark$} {$w(tree) style layout $style mark -visible {yes marks no {}} -padx {4 0} -expand ns}
             {^indent$} {$w(tree) style layout $style indent -padx {4 0}}
             {^expander$} {$w(tree) style layout $style expander -padx {0 2} -expand ns}
             {^button\d+$} {
@@ -77,7 +79,7 @@ proc ::znbrowser::layoutStyle {n style parts} {
 proc ::znbrowser::drawRow {n slot row} {
     upvar #0 ::znbrowser::window$n w
     set odd [expr {($w(first) + $slot) % 2}]
-    set drawn [list $row $odd [expr {[lindex $row 0] == $w(active)}]]
+    set drawn [list $row $odd [expr {[lindex $row 0] == $w(active)}] $w(marks)]
     if {[info exists w(drawn,$slot)] && $w(drawn,$slot) eq $drawn} return
     if {![info exists w(item,$slot)]} {
         set w(item,$slot) [$w(tree) item create -parent root -visible yes]
@@ -108,7 +110,7 @@ proc ::znbrowser::drawState {n slot row odd} {
     set expandable [expr {!$expanded && [lindex $row 7]}]
     set current [expr {[lindex $row 0] == $w(active)}]
     foreach {state on} [list chosen [lindex $row 6] odd $odd expanded $expanded expandable $expandable \
-            current $current] {
+            current $current collected [lindex $row 12] marks $w(marks)] {
         lappend states [expr {$on ? $state : "!$state"}]
     }
     $w(tree) item state set $w(item,$slot) $states

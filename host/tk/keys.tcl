@@ -26,6 +26,34 @@ proc ::znbrowser::bindKeys {} {
     }
 }
 
+# Keys of the window as a whole, wherever the focus is.
+proc ::znbrowser::bindWindowKeys {} {
+    foreach {keys handler} {
+        {Control-Key-k Control-Key-K} toggleCollector
+        {Control-Key-z Control-Key-Z} undoStep {Control-Shift-Key-z Control-Shift-Key-Z} restoreStep
+    } {
+        foreach key $keys {bind znBrowserWindow <$key> [list ::znbrowser::atKey %W $handler]}
+    }
+}
+
+# The widget and those in it have these keys; they go before what the application does with a key.
+proc ::znbrowser::takeWindowKeys {widget} {
+    set tags [bindtags $widget]
+    if {"znBrowserWindow" ni $tags} {
+        bindtags $widget [linsert $tags [lsearch -exact $tags [winfo toplevel $widget]] znBrowserWindow]
+    }
+    foreach child [winfo children $widget] {takeWindowKeys $child}
+}
+
+# A key of the window in which a widget stands. In fields keys are for editing.
+proc ::znbrowser::atKey {widget handler} {
+    variable numberOf
+    if {[winfo class $widget] in {TEntry TSpinbox}} return
+    for {set path $widget} {$path ne ""} {set path [winfo parent $path]} {
+        if {[info exists numberOf($path)]} {return [$handler $numberOf($path)]}
+    }
+}
+
 # The position of the row with the focus; where there is none, of the first row on the screen.
 proc ::znbrowser::activePosition {n} {
     upvar #0 ::znbrowser::window$n w

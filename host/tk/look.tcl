@@ -32,6 +32,16 @@ proc ::znbrowser::prepareLook {} {
             -bordercolor [colour buttonLine] -lightcolor [colour paper] -darkcolor [colour paper]
         ttk::style map $style -background [list pressed [colour headerHot] active [colour header]]
     }
+    ttk::style configure Tool.Toolbutton -padding {8 3} -background [colour paper] -relief flat -width 0 \
+        -bordercolor [colour buttonLine] -lightcolor [colour paper] -darkcolor [colour paper]
+    ttk::style map Tool.Toolbutton -background [list selected [colour chosen] active [colour header]] \
+        -relief {selected sunken}
+    ttk::style configure Bar.TCheckbutton -background [colour surface] -focuscolor [colour accent]
+    ttk::style map Bar.TCheckbutton -background [list active [colour surface]]
+    ttk::style layout Link.TButton [ttk::style layout Toolbutton]
+    ttk::style configure Link.TButton -background [colour surface] -foreground [colour accent] -relief flat \
+        -padding {2 0} -borderwidth 0 -font znBrowserLink
+    ttk::style map Link.TButton -background [list active [colour header]]
     ttk::style configure Panel.TFrame -background [colour paper] -relief solid -borderwidth 1 \
         -bordercolor [colour buttonLine]
     ttk::style configure Panel.TLabel -background [colour paper]
@@ -56,6 +66,8 @@ proc ::znbrowser::prepareFonts {} {
     }
     catch {font create znBrowserSmall}
     font configure znBrowserSmall {*}$actual -size [expr {max(8, [dict get $actual -size] - 1)}]
+    catch {font create znBrowserLink}
+    font configure znBrowserLink {*}[font configure znBrowserSmall] -underline 1
 }
 
 proc ::znbrowser::fontOf {bold italic} {return znBrowser[expr {!!$bold}][expr {!!$italic}]}

@@ -66,10 +66,7 @@ proc ::znbrowser::press {n x y state args} {
     if {![dict exists $at row]} return
     set row [dict get $at row]
     set w(pressed) [dict create at $at x $x y $y state $state later 0]
-    if {![dict exists $at column]} {
-        pressRow $n $row $state
-        return
-    }
+    if {![dict exists $at column]} {dict set at column [firstColumn $n]} ;# behind the last one
     switch [dict get $at kind] {
         expander {toggle $n $row}
         check {
@@ -151,6 +148,7 @@ proc ::znbrowser::release {n x y args} {
 proc ::znbrowser::selectRows {n event args} {
     upvar #0 ::znbrowser::window$n w
     if {$args eq ""} return
+    if {[fromCollector $n click none] ne "none"} {reportScroll $n} ;# it may become a step
     event $n $event {*}$args
     if {[isOpen $n]} {event $n OnTkTreeSelectionChangeFinished}
 }
@@ -204,9 +202,10 @@ proc ::znbrowser::motion {n x y state rootX rootY} {
 proc ::znbrowser::hover {n slot} {
     upvar #0 ::znbrowser::window$n w
     if {[info exists w(hover)] && $w(hover) == $slot} return
-    if {[info exists w(hover)] && $w(hover) >= 0} {$w(tree) item state set $w(item,$w(hover)) !hover}
+    if {[info exists w(hover)] && $w(hover) >= 0} {$w(tree) item state set $w(item,$w(hover)) {!hover !pointed}}
     set w(hover) $slot
     if {$slot >= 0} {$w(tree) item state set $w(item,$slot) hover}
+    preselect $n
 }
 
 proc ::znbrowser::leave {n} {

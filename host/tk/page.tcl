@@ -136,6 +136,7 @@ proc ::znbrowser::drawPage {n} {
         incr slot
     }
     clearSlots $n $slot
+    preselect $n
     $w(tree) yview moveto 0 ;# the widget may have scrolled by itself, before it knew how many rows fit
     set rows [expr {double(max(1, [dict get $w(look) rows]))}]
     set bar [winfo parent $w(tree)].y

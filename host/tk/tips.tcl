@@ -46,6 +46,23 @@ proc ::znbrowser::hideTip {n} {
     destroy $w(path).tip
 }
 
+# ---- Buttons
+
+# The tip of a widget; what else it does with the pointer stays.
+proc ::znbrowser::giveTip {n widget text} {
+    set ::znbrowser::window${n}(tipOf,$widget) $text
+    bind $widget <Enter> [list ::znbrowser::pointAtWidget $n %W]
+    foreach event {<Leave> <ButtonPress> <Unmap>} {bind $widget $event [list ::znbrowser::hideTip $n]}
+}
+
+proc ::znbrowser::pointAtWidget {n widget} {
+    upvar #0 ::znbrowser::window$n w
+    hideTip $n
+    set w(tip) $w(tipOf,$widget)
+    set w(timer,tip) [after 500 [list ::znbrowser::showTip $n $w(tip) [expr {[winfo rootx $widget] - 8}] \
+        [expr {[winfo rooty $widget] + [winfo height $widget] - 12}]]]
+}
+
 # ---- Menus
 
 # Another entry of a menu is the active one: what it does stands in the status line, and soon beside it.

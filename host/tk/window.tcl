@@ -77,6 +77,7 @@ proc ::znbrowser::prepare {} {
     prepareImages
     bindMouse
     bindKeys
+    bindWindowKeys
 }
 
 # Opens window `n`, in the frame that it names when there is such a frame, else in a toplevel of its own.
@@ -123,10 +124,12 @@ proc ::znbrowser::build {n} {
     ttk::frame $w(path).status -style Browser.TFrame -padding {10 3 10 4}
     buildTree $n $w(path).body
     buildChooser $n $w(path).bar
+    buildCollectorButton $n $w(path).bar
     buildSearch $n $w(path).bar
     ttk::label $w(path).status.count -style Status.TLabel -anchor w
     ttk::label $w(path).status.message -style Message.TLabel -anchor e
     ttk::label $w(path).status.help -style Status.TLabel -anchor w
+    buildHidden $n $w(path).status
     pack $w(path).status.count -side left
     pack $w(path).status.help -side left -padx {16 0}
     pack $w(path).status.message -side right -fill x -expand 1 -padx {16 0}
@@ -139,6 +142,7 @@ proc ::znbrowser::build {n} {
     bind $w(path) <Destroy> [list ::znbrowser::destroyed $n %W]
     set top [winfo toplevel $w(path)]
     bind $top <Control-f> [list ::znbrowser::focusSearch $n]
+    takeWindowKeys $w(path)
     focus $w(tree)
 }
 
@@ -312,6 +316,9 @@ proc ::znbrowser::draw {n changes} {
         drawColumns $n
         followSearch $n
         measure $n
+    }
+    if {[dict exists $changes collector] || [dict exists $changes allCells] || [dict exists $changes allFilled]} {
+        drawCollector $n
     }
     keepPlace $n
     if {[dict exists $changes shown]} {reveal $n [dict get $changes shown]}

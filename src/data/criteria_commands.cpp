@@ -95,17 +95,18 @@ void Type(Call& call) { call.SetThenAnswer(5, &Manager::SetCriteriaDataType, &Ma
 
 constexpr CommandRow criteriaRows[] = {
     {Keyword::Code, "TEXT", "Sets the code of the criteria.", Code},
-    {Keyword::Create, "NAME", "Makes criteria, or finds those of that name, and makes them current.", Create},
-    {Keyword::Current, "?CRITERIA?", "Makes criteria of the data source current, or tells which are.",
-     Current},
+    {Keyword::Create, "NAME -> NAME", "Makes criteria, or finds those of that name, and makes them current.",
+     Create},
+    {Keyword::Current, "?CRITERIA? -> CRITERIA",
+     "Makes criteria of the data source current, or tells which are.", Current},
     // Without criteria there is nothing to have values, whatever the words.
     {Keyword::Data,
-     {"?TYPE? ?VALUE|TYPE? ...", Arguments::Check::ByHandler},
+     {"?TYPE? ?VALUE|TYPE? ... -> TEXT ...", Arguments::Check::ByHandler},
      "Sets the values of the criteria, each behind its type, or reads them.",
      Data},
     {Keyword::Delete, "", "Deletes the current criteria.", Delete},
-    {Keyword::Names, "", "Lists the criteria of the current simple data source.", Names},
-    {Keyword::Type, "?TYPE?", "Sets or reads the data type of the criteria.", Type},
+    {Keyword::Names, "-> CRITERIA ...", "Lists the criteria of the current simple data source.", Names},
+    {Keyword::Type, "?TYPE? -> TYPE", "Sets or reads the data type of the criteria.", Type},
 };
 
 } // namespace

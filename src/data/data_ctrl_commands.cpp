@@ -32,8 +32,8 @@ void Current(Call& call) {
 void Names(Call& call) { call.AnswerValue(&Manager::GetDataCtrlNames); }
 
 constexpr CommandRow dataCtrlRows[] = {
-    {Keyword::Current, "?DATACTRL?", "Makes a data control current, or tells which is.", Current},
-    {Keyword::Names, "", "Lists the data controls.", Names},
+    {Keyword::Current, "?DATACTRL? -> DATACTRL", "Makes a data control current, or tells which is.", Current},
+    {Keyword::Names, "-> DATACTRL ...", "Lists the data controls.", Names},
 };
 
 void ConnectToView(Call& call) {
@@ -52,8 +52,10 @@ void DisconnectFromView(Call& call) {
 }
 
 constexpr CommandRow viewDataCtrlRows[] = {
-    {Keyword::Connect, "", "Connects the current data control to the current view.", ConnectToView},
-    {Keyword::Disconnect, "", "Disconnects the current view from its data control.", DisconnectFromView},
+    {Keyword::Connect, "-> DATACTRL", "Connects the current data control to the current view.",
+     ConnectToView},
+    {Keyword::Disconnect, "-> DATACTRL", "Disconnects the current view from its data control.",
+     DisconnectFromView},
 };
 
 } // namespace

@@ -46,12 +46,13 @@ void Script(Call& call) {
 
 // The usage text leaves out the last two.
 constexpr CommandRow dataOperationRows[] = {
-    {Keyword::Current, "?DATAOPERATION?", "Makes a data operation current, or tells which is.", Current},
-    {Keyword::Names, "", "Lists the data operations of the current data control.", Names},
+    {Keyword::Current, "?DATAOPERATION? -> DATAOPERATION",
+     "Makes a data operation current, or tells which is.", Current},
+    {Keyword::Names, "-> DATAOPERATION ...", "Lists the data operations of the current data control.", Names},
     {Keyword::Perform, "", "Runs the current data operation.", Perform},
-    {Keyword::Create, "NAME", "Makes a data operation and makes it current.", Create},
+    {Keyword::Create, "NAME -> NAME", "Makes a data operation and makes it current.", Create},
     {Keyword::Script,
-     {"?ANY? ?SCRIPT?", Arguments::Check::ByHandler},
+     {"?ANY? ?SCRIPT? -> ?DATAOPERATION?", Arguments::Check::ByHandler},
      "Sets the script of the current data operation; alone, tells its name.",
      Script},
 };

@@ -88,11 +88,11 @@ void Names(Call& call) {
 constexpr CommandRow propertyRows[] = {
     // How many words are read, the kind and their number tell.
     {Keyword::Create,
-     {"NAME 0|1 ?SCRIPT|boolean|integer|double|string? ?INT? ?INT?", Arguments::Check::ByHandler},
+     {"NAME 0|1 ?SCRIPT|boolean|integer|double|string? ?INT? ?INT? -> NAME", Arguments::Check::ByHandler},
      "Makes a property: 0 and a script, or 1, a type, an attribute and a number.",
      Create},
-    {Keyword::Delete, "DATAPROPERTY", "Deletes a property of the data source.", Delete},
-    {Keyword::Names, "", "Lists the properties of the data source.", Names},
+    {Keyword::Delete, "DATAPROPERTY -> DATAPROPERTY", "Deletes a property of the data source.", Delete},
+    {Keyword::Names, "-> DATAPROPERTY ...", "Lists the properties of the data source.", Names},
 };
 
 } // namespace

@@ -20,7 +20,7 @@ using Messages = znBrowserTclMessages;
 void Names(Call& call) { call.AnswerValue(&Manager::GetDataReferencesNames); }
 
 constexpr CommandRow dataReferenceRows[] = {
-    {Keyword::Names, "", "Lists the data references of the current data control.", Names},
+    {Keyword::Names, "-> REFERENCE ...", "Lists the data references of the current data control.", Names},
 };
 
 template <bool (Manager::*change)(const znString&)>
@@ -31,12 +31,12 @@ void Change(Call& call) {
 void Connected(Call& call) { call.AnswerValue(&Manager::GetConnectedDataReferencesNames); }
 
 constexpr CommandRow viewDataReferenceRows[] = {
-    {Keyword::Connect, "REFERENCE", "Connects a data reference to the current view.",
+    {Keyword::Connect, "REFERENCE -> REFERENCE", "Connects a data reference to the current view.",
      Change<&Manager::ConnectDataReference>},
-    {Keyword::Connected, "", "Lists the data references of the current view.", Connected},
-    {Keyword::Disconnect, "REFERENCE", "Disconnects a data reference from the current view.",
+    {Keyword::Connected, "-> REFERENCE ...", "Lists the data references of the current view.", Connected},
+    {Keyword::Disconnect, "REFERENCE -> REFERENCE", "Disconnects a data reference from the current view.",
      Change<&Manager::DisconnectDataReference>},
-    {Keyword::Names, "", "Lists the data references of the current data control.", Names},
+    {Keyword::Names, "-> REFERENCE ...", "Lists the data references of the current data control.", Names},
 };
 
 } // namespace

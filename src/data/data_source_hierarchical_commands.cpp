@@ -72,20 +72,21 @@ void Property(Call& call) { call.Answer("Feature not supported in 9.0"); }
 
 // The usage text leaves out the last four.
 constexpr CommandRow hierarchicalRows[] = {
-    {Keyword::Connect, "parent|child ?names|DATASOURCE? ?TEXT?",
+    {Keyword::Connect, "parent|child ?names|DATASOURCE? ?TEXT? -> DATASOURCE ...",
      "Makes a simple data source the parent, or adds it as a child, or lists them.", Connect},
-    {Keyword::Connected, "", "Lists the hierarchical data sources that are connected.", Connected},
-    {Keyword::Current, "?HIERARCHICAL?", "Makes a hierarchical data source current, or tells which is.",
-     Current},
+    {Keyword::Connected, "-> HIERARCHICAL ...", "Lists the hierarchical data sources that are connected.",
+     Connected},
+    {Keyword::Current, "?HIERARCHICAL? -> HIERARCHICAL",
+     "Makes a hierarchical data source current, or tells which is.", Current},
     {Keyword::Disconnect, "DATASOURCE", "Removes a child from the current hierarchical data source.",
      Disconnect},
-    {Keyword::Names, "", "Lists the hierarchical data sources.", Names},
-    {Keyword::Create, "NAME BOOL BOOL ?TEXT? ?TEXT?",
+    {Keyword::Names, "-> HIERARCHICAL ...", "Lists the hierarchical data sources.", Names},
+    {Keyword::Create, "NAME BOOL BOOL ?TEXT? ?TEXT? -> NAME",
      "Makes a hierarchical data source and makes it current.", Create},
-    {Keyword::DataItem, "", "Lists what the current property shows for the items of the data source.",
-     DataItems},
-    {Keyword::Criteria, "", "Answers that criteria are not supported here.", Criteria},
-    {Keyword::Property, "", "Answers that properties are not supported here.", Property},
+    {Keyword::DataItem, "-> TEXT ...",
+     "Lists what the current property shows for the items of the data source.", DataItems},
+    {Keyword::Criteria, "-> TEXT", "Answers that criteria are not supported here.", Criteria},
+    {Keyword::Property, "-> TEXT", "Answers that properties are not supported here.", Property},
 };
 
 } // namespace

@@ -62,8 +62,8 @@ void ConnectCurrent(Call& call) {
 }
 
 constexpr CommandRow connectRows[] = {
-    {Keyword::Current, "DATASOURCE", "Chooses the base to which further settings of the data source refer.",
-     ConnectCurrent},
+    {Keyword::Current, "DATASOURCE -> DATASOURCE",
+     "Chooses the base to which further settings of the data source refer.", ConnectCurrent},
 };
 constexpr CommandLevel connectLevel(connectRows, Messages::DATASOURCE);
 
@@ -108,30 +108,33 @@ void Property(Call& call) {
 void ScriptNames(Call& call) { call.AnswerValue(&Manager::DataSourceSimpleCustomNames); }
 
 constexpr CommandRow scriptRows[] = {
-    {Keyword::Names, "", "Lists the custom data sources.", ScriptNames},
+    {Keyword::Names, "-> DATASOURCE ...", "Lists the custom data sources.", ScriptNames},
 };
 constexpr CommandLevel scriptLevel(scriptRows, Messages::DATASOURCE_SIMPLE);
 
 // The usage text lists an "operation", too; that word is unknown here.
 constexpr CommandRow simpleRows[] = {
-    {Keyword::Caption, "?TEXT?", "Sets or reads what people read as the name of the data source.", Caption,
-     nullptr, &Messages::DATASOURCE},
-    {Keyword::FilterCaption, "?TEXT?", "Sets or reads what people read for the data source among filters.",
-     FilterCaption, nullptr, &Messages::GENERAL},
-    {Keyword::Connect, "DATASOURCE", "Connects a base to the current custom data source.", Connect,
-     &connectLevel, &Messages::DATASOURCE},
-    {Keyword::Connected, "", "Lists the bases of the current custom data source.", Connected},
-    {Keyword::Create, "NAME ?TEXT? ?TEXT?", "Makes a custom data source; the texts: caption, description.",
-     Create},
+    {Keyword::Caption, "?TEXT? -> TEXT", "Sets or reads what people read as the name of the data source.",
+     Caption, nullptr, &Messages::DATASOURCE},
+    {Keyword::FilterCaption, "?TEXT? -> TEXT",
+     "Sets or reads what people read for the data source among filters.", FilterCaption, nullptr,
+     &Messages::GENERAL},
+    {Keyword::Connect, "DATASOURCE -> DATASOURCE", "Connects a base to the current custom data source.",
+     Connect, &connectLevel, &Messages::DATASOURCE},
+    {Keyword::Connected, "-> DATASOURCE ...", "Lists the bases of the current custom data source.",
+     Connected},
+    {Keyword::Create, "NAME ?TEXT? ?TEXT? -> NAME",
+     "Makes a custom data source; the texts: caption, description.", Create},
     {Keyword::Criteria, "What narrows the current custom data source.", &criteriaLevel},
-    {Keyword::Current, "?DATASOURCE?", "Makes a simple data source current, or tells which is.", Current,
-     nullptr, &Messages::DATASOURCE},
-    {Keyword::DataItem, "", "Lists what the current property shows for the items of the data source.",
-     DataItems},
-    {Keyword::Delete, "DATASOURCE", "Deletes a custom data source; tells which is current then.", Delete},
-    {Keyword::Disconnect, "DATASOURCE", "Disconnects a base from the current custom data source.",
-     Disconnect},
-    {Keyword::Names, "", "Lists the simple data sources.", Names},
+    {Keyword::Current, "?DATASOURCE? -> DATASOURCE", "Makes a simple data source current, or tells which is.",
+     Current, nullptr, &Messages::DATASOURCE},
+    {Keyword::DataItem, "-> TEXT ...",
+     "Lists what the current property shows for the items of the data source.", DataItems},
+    {Keyword::Delete, "DATASOURCE -> ?DATASOURCE?",
+     "Deletes a custom data source; tells which is current then.", Delete},
+    {Keyword::Disconnect, "DATASOURCE -> DATASOURCE",
+     "Disconnects a base from the current custom data source.", Disconnect},
+    {Keyword::Names, "-> DATASOURCE ...", "Lists the simple data sources.", Names},
     {Keyword::Property, "", "The values that the current data source has for each item.", Property,
      &dataPropertyLevel},
     {Keyword::Script, "The custom data sources.", &scriptLevel},

@@ -43,15 +43,16 @@ void Value(Call& call) { SetAndAnswer(call, &Manager::SetInputFieldValue, &Manag
 
 // The usage text lists the names alone.
 constexpr CommandRow userInputRows[] = {
-    {Keyword::Names, "", "Lists the input fields.", Names},
-    {Keyword::Create, "?NAME? ?TYPE?", "Makes an input field and makes it current; alone, tells which is.",
-     Create},
-    {Keyword::Current, "?FIELD?", "Makes an input field current, or tells which is.", Current},
-    {Keyword::DataType, "?TYPE?", "Sets or reads the data type of the current input field.", DataType},
-    {Keyword::Delete, "", "Deletes the current input field.", Delete},
+    {Keyword::Names, "-> FIELD ...", "Is always refused: the application knows its input fields.", Names},
+    {Keyword::Create, "?NAME? ?TYPE? -> ?FIELD?",
+     "Is refused: the application makes input fields; alone, tells which is current.", Create},
+    {Keyword::Current, "?FIELD? -> FIELD", "Makes an input field current, or tells which is.", Current},
+    {Keyword::DataType, "?TYPE? -> TYPE", "Sets or reads the data type of the current input field.",
+     DataType},
+    {Keyword::Delete, "", "Is always refused: the application deletes input fields.", Delete},
     {Keyword::Reset, "", "Sets the value of the current input field to the zero of its type.", Reset},
     {Keyword::Script, "", "Does nothing.", Script},
-    {Keyword::Value, "?VALUE?", "Sets or reads the value of the current input field.", Value},
+    {Keyword::Value, "?VALUE? -> VALUE", "Sets or reads the value of the current input field.", Value},
 };
 
 } // namespace

@@ -1,4 +1,4 @@
-// What may stand behind a command word: the notation of its arguments, read when the library is compiled.
+// What may stand behind a command word, and what it answers: a notation, read when the library is compiled.
 #ifndef ARGUMENTS_H
 #define ARGUMENTS_H
 
@@ -129,7 +129,10 @@ struct Argument {
 
 /// The arguments of a command, in the notation of its help: "NAME ?TEXT?". A word in capitals is a kind, any
 /// other stands for itself, "a|b" is one or the other, "?...?" may be left out, and " ..." behind the last
-/// says that it may be repeated. A notation that breaks these rules does not compile.
+/// says that it may be repeated. What the command answers stands behind "->", in the same notation: "->
+/// NAME",
+/// "-> NAME ..." for a list, "-> ?NAME?" where it may be empty; nothing stands there where it always is. A
+/// notation that breaks these rules does not compile.
 class Arguments {
 public:
     static constexpr std::size_t any = std::numeric_limits<int>::max() / 2;
@@ -143,6 +146,7 @@ public:
     template <std::size_t size>
     constexpr Arguments(const char (&notation)[size], Check check = Check::ByTable)
         : text_(notation, size - 1), check_(check) {
+        SplitAnswer();
         std::string_view rest = text_;
         while (!rest.empty()) {
             const Argument next = Take(rest);
@@ -155,6 +159,7 @@ public:
     }
 
     std::string_view Text() const { return text_; }
+    std::string_view Answer() const { return answer_; }
     /// How many words must follow, and how many are looked at.
     constexpr std::size_t Fewest() const { return fewest_; }
     constexpr std::size_t Most() const { return most_; }
@@ -184,6 +189,15 @@ public:
     }
 
 private:
+    constexpr void SplitAnswer() {
+        constexpr std::string_view arrow = "-> ";
+        const std::size_t at = text_.find(arrow);
+        if (at == text_.npos) return;
+        answer_ = text_.substr(at + arrow.size());
+        text_ = text_.substr(0, at == 0 ? 0 : at - 1);
+        for (std::string_view rest = answer_; !rest.empty();) Take(rest);
+    }
+
     static constexpr std::string_view TakeUntil(std::string_view& rest, char border) {
         const std::size_t end = rest.find(border);
         const std::string_view taken = rest.substr(0, end);
@@ -215,6 +229,7 @@ private:
     }
 
     std::string_view text_;
+    std::string_view answer_;
     std::size_t fewest_ = 0;
     std::size_t most_ = 0;
     Check check_;

@@ -33,7 +33,8 @@ Place Follow(const Words& words) {
 bool Describe(const CommandRow& row, znBrowserTclCommand& command) {
     const char* const spelling = znBrowserTclKeywords::GetSpelling(row.keyword);
     if (!spelling) return false; // "no", which no spelling reaches
-    command = {spelling, std::string(row.arguments.Text()), row.summary, row.level != nullptr};
+    command = {spelling, std::string(row.arguments.Text()), row.summary, row.level != nullptr,
+               std::string(row.arguments.Answer())};
     return true;
 }
 

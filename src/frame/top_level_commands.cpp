@@ -108,17 +108,18 @@ void CheckBoxCreate(Call& call) {
 constexpr const char* const* elementUsage = &Messages::VIEW_ELEMENT;
 
 constexpr CommandRow elementRows[] = {
-    {Keyword::Current, "?ELEMENT?", "Makes an element of the current style current, or tells which is.",
-     ElementCurrent, nullptr, elementUsage},
+    {Keyword::Current, "?ELEMENT? -> ELEMENT",
+     "Makes an element of the current style current, or tells which is.", ElementCurrent, nullptr,
+     elementUsage},
     {Keyword::Delete, "ELEMENT", "Deletes an element of the current style.", ElementDelete, nullptr,
      elementUsage},
-    {Keyword::Description, "?TEXT?", "Sets or reads the description of the current element.",
+    {Keyword::Description, "?TEXT? -> TEXT", "Sets or reads the description of the current element.",
      ElementDescription, nullptr, elementUsage},
-    {Keyword::Names, "", "Lists the elements of the current style.", ElementNames},
+    {Keyword::Names, "-> ELEMENT ...", "Lists the elements of the current style.", ElementNames},
 };
 constexpr CommandRow emptyRows[] = {
-    {Keyword::Show, "?BOOL?", "Sets or reads whether the current folder shows containers that are empty.",
-     EmptyShow},
+    {Keyword::Show, "?BOOL? -> BOOL",
+     "Sets or reads whether the current folder shows containers that are empty.", EmptyShow},
 };
 constexpr CommandRow noRows[] = {
     {Keyword::Filter, "", "Shows the items of every data source again.", NoFilter},

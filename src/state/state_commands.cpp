@@ -57,12 +57,12 @@ constexpr CommandRow entityRows[] = {
 constexpr CommandLevel entityLevel(entityRows, notEnough, Messages::GENERAL);
 
 constexpr CommandRow rows[] = {
-    {Keyword::Current, "?STATE?", "Makes a state current, or tells which is.", Current, nullptr,
+    {Keyword::Current, "?STATE? -> STATE", "Makes a state current, or tells which is.", Current, nullptr,
      &Messages::GENERAL},
-    {Keyword::Data, "", "Prints the configuration that the current state holds.", Data},
-    {Keyword::Names, "", "Lists the states of the current data control.", Names},
-    {Keyword::Save, "", "Saves the configuration of the current window in the current state.", Save},
-    {Keyword::Restore, "", "Brings the current window back to the configuration of the current state.",
+    {Keyword::Data, "-> TEXT", "Prints the configuration that the current state holds.", Data},
+    {Keyword::Names, "-> STATE ...", "Lists the states of the current data control.", Names},
+    {Keyword::Save, "-> TEXT", "Saves the configuration of the current window in the current state.", Save},
+    {Keyword::Restore, "-> TEXT", "Brings the current window back to the configuration of the current state.",
      Restore},
     {Keyword::Entity, "What the current state holds besides.", &entityLevel},
 };

@@ -104,8 +104,8 @@ void SortByName(Call& call) {
 }
 
 constexpr CommandRow sortRows[] = {
-    {Keyword::ByName, "?PROPERTY?", "Sets or reads by which property the default column is sorted.",
-     SortByName},
+    {Keyword::ByName, "?PROPERTY? -> ?PROPERTY?",
+     "Sets or reads by which property the default column is sorted.", SortByName},
 };
 constexpr CommandLevel sortLevel(sortRows, Messages::VIEW_COLUMN);
 
@@ -127,21 +127,25 @@ void PopupMenu(Call& call) {
 }
 
 constexpr CommandRow columnRows[] = {
-    {Keyword::Caption, "?TEXT?", "Sets or reads the caption of the current column.", Caption},
-    {Keyword::Current, "?COLUMN?", "Makes a column of the view current, or tells which is.", Current},
-    {Keyword::Create, "NAME ?textbox|checkbox|icon|button? ?MAP?",
-     "Makes a column; an icon column may be given the map of its pictures.", Create},
+    {Keyword::Caption, "?TEXT? -> TEXT", "Sets or reads the caption of the current column.", Caption},
+    {Keyword::Current, "?COLUMN? -> COLUMN", "Makes a column of the view current, or tells which is.",
+     Current},
+    {Keyword::Create, "NAME ?textbox|checkbox|icon|button? ?MAP? -> NAME",
+     "Makes a column, but none with checkbox; an icon column may be given the map of its pictures.", Create},
     {Keyword::Delete, "", "Deletes the current column.", Delete},
-    {Keyword::Italic, "?enabled|disabled?", "Sets or reads whether the column's texts are italic.", Italic},
+    {Keyword::Italic, "?enabled|disabled? -> BOOL", "Sets or reads whether the column's texts are italic.",
+     Italic},
     {Keyword::Justify, "left|center|right", "Sets on which side the column's texts stand.", Justify},
-    {Keyword::Width, "?INT?", "Sets the column's width in pixels, or asks the window for it.", Width},
-    {Keyword::Names, "", "Lists the columns of the view.", Names},
-    {Keyword::Show, "?BOOL?", "Shows or hides the column, or tells whether it is shown.", Show},
-    {Keyword::Sort, "?enabled|disabled?", "Sets or reads whether the column can be sorted.", Sort,
+    {Keyword::Width, "?INT? -> ?INT?", "Sets the column's width in pixels, or asks the window for it.",
+     Width},
+    {Keyword::Names, "-> COLUMN ...", "Lists the columns of the view.", Names},
+    {Keyword::Show, "?BOOL? -> ?BOOL?", "Shows or hides the column, or tells whether it is shown.", Show},
+    {Keyword::Sort, "?enabled|disabled? -> BOOL", "Sets or reads whether the column can be sorted.", Sort,
      &sortLevel},
     // Words that the usage text leaves out.
     {Keyword::Move, "INT", "Moves the column to a place, counted from 0.", Move},
-    {Keyword::PopupMenu, "?POPUPMENU?", "Sets or reads the popup menu of the column.", PopupMenu},
+    {Keyword::PopupMenu, "?POPUPMENU? -> ?POPUPMENU?", "Sets or reads the popup menu of the column.",
+     PopupMenu},
 };
 
 } // namespace

@@ -136,11 +136,11 @@ void Selected(Call& call) {
 
 constexpr CommandRow dataItemRows[] = {
     {Keyword::Hierarchical, "The items of the current hierarchical data source.", &selectLevel<hierarchical>},
-    {Keyword::Selected, "?all|recursive? ?recursive?",
+    {Keyword::Selected, "?all|recursive? ?recursive? -> TEXT ...",
      "Lists the selected items of the current data source, or of all of them.", Selected},
     {Keyword::Simple, "The items of the current simple data source.", &selectLevel<simple>},
     // The other words are those of the view helper.
-    {Keyword::Current, "", "Tells the current item.", AnswerByViewHelper},
+    {Keyword::Current, "-> ?TEXT?", "Tells the current item.", AnswerByViewHelper},
     {Keyword::Deselect, "", "Deselects the items of the helper's current data source.", AnswerByViewHelper,
      &helperSelectLevel},
     {Keyword::Select, "", "Selects the items of the helper's current data source.", AnswerByViewHelper,

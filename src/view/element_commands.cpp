@@ -48,17 +48,20 @@ void Delete(Call& call) { RunWithName(call, 4, &Manager::DeleteStyleElement, Mes
 void Names(Call& call) { call.AnswerValue(&Manager::GetElementNames); }
 
 constexpr CommandRow connectRows[] = {
-    {Keyword::Property, "?PROPERTY?", "Shows that view property, or the current one.", ConnectProperty},
-    {Keyword::Map, "?MAP?", "Shows what that GUI map, or the current one, gives for a value.", ConnectMap},
+    {Keyword::Property, "?PROPERTY? -> PROPERTY", "Shows that view property, or the current one.",
+     ConnectProperty},
+    {Keyword::Map, "?MAP? -> MAP", "Shows what that GUI map, or the current one, gives for a value.",
+     ConnectMap},
 };
 constexpr CommandLevel connectLevel(connectRows, Messages::VIEW_ELEMENT);
 
 constexpr CommandRow elementRows[] = {
     {Keyword::Connect, "What the current element shows.", &connectLevel},
-    {Keyword::Create, "NAME ?TEXT?", "Makes an element of the current style; the text describes it.", Create},
-    {Keyword::Current, "?ELEMENT?", "Makes an element current, or tells which is.", Current},
+    {Keyword::Create, "NAME ?TEXT? -> NAME", "Makes an element of the current style; the text describes it.",
+     Create},
+    {Keyword::Current, "?ELEMENT? -> ELEMENT", "Makes an element current, or tells which is.", Current},
     {Keyword::Delete, "ELEMENT", "Deletes an element of the current style.", Delete},
-    {Keyword::Names, "", "Lists the elements of the current style.", Names},
+    {Keyword::Names, "-> ELEMENT ...", "Lists the elements of the current style.", Names},
 };
 
 } // namespace

@@ -73,27 +73,28 @@ void CurrentString(Call& call) {
 }
 
 constexpr CommandRow optionRows[] = {
-    {Keyword::MatchCase, "?BOOL?", "Sets or reads whether the case of letters counts.", MatchCase},
-    {Keyword::MatchWord, "?BOOL?", "Sets or reads whether only whole words match.", MatchWord},
+    {Keyword::MatchCase, "?BOOL? -> BOOL", "Sets or reads whether the case of letters counts.", MatchCase},
+    {Keyword::MatchWord, "?BOOL? -> BOOL", "Sets or reads whether only whole words match.", MatchWord},
 };
 constexpr CommandLevel optionLevel(optionRows, Messages::VIEW_FILTER_OPTION);
 
 constexpr CommandRow typeRows[] = {
-    {Keyword::Current, "?DATASOURCE? ...", "Shows only these data sources, or lists those that are shown.",
-     CurrentTypes},
-    {Keyword::Update, "", "Rebuilds the list of filters, and lists the data sources that are shown.",
-     UpdateTypes},
+    {Keyword::Current, "?DATASOURCE? ... -> DATASOURCE ...",
+     "Shows only these data sources, or lists those that are shown.", CurrentTypes},
+    {Keyword::Update, "-> DATASOURCE ...",
+     "Rebuilds the list of filters, and lists the data sources that are shown.", UpdateTypes},
 };
 constexpr CommandLevel typeLevel(typeRows, Messages::VIEW_FILTER_DATAITEMTYPE);
 
 constexpr CommandRow stringRows[] = {
-    {Keyword::Current, "?PATTERN?", "Sets or reads the text that rows must hold to be shown.", CurrentString},
+    {Keyword::Current, "?PATTERN? -> ?PATTERN?", "Sets or reads the text that rows must hold to be shown.",
+     CurrentString},
 };
 constexpr CommandLevel stringLevel(stringRows, Messages::VIEW_FILTER_STRING);
 
 constexpr CommandRow filterRows[] = {
     {Keyword::DataItemType, "The data sources whose items are shown.", &typeLevel},
-    {Keyword::Group, "?BOOL?", "Sets or reads whether the list of filters is grouped.", Group},
+    {Keyword::Group, "?BOOL? -> BOOL", "Sets or reads whether the list of filters is grouped.", Group},
     {Keyword::Option, "How texts are compared with the filter.", &optionLevel},
     {Keyword::String, "The text by which rows are filtered.", &stringLevel},
 };

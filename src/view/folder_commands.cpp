@@ -119,9 +119,9 @@ void DropItem(Call& call) {
 }
 
 constexpr CommandRow treeRows[] = {
-    {Keyword::TopLevel, "?DATASOURCE? ?REFERENCE?",
+    {Keyword::TopLevel, "?DATASOURCE? ?REFERENCE? -> REFERENCE ...",
      "Sets the top items of the current folder's tree, or lists what finds them.", TreeToplevel},
-    {Keyword::ParentChild, "?DATASOURCE? ?DATASOURCE? ?REFERENCE?",
+    {Keyword::ParentChild, "?DATASOURCE? ?DATASOURCE? ?REFERENCE? -> REFERENCE ...",
      "Hangs items below those of the first data source, or lists what finds them.", TreeParentChild},
     {Keyword::Update, "DATASOURCE", "Reads the items of a data source again.", TreeUpdate},
 };
@@ -137,18 +137,18 @@ constexpr CommandRow dropItemRows[] = {
 constexpr CommandLevel dropItemLevel(dropItemRows, Messages::VIEW_FOLDER);
 
 constexpr CommandRow folderRows[] = {
-    {Keyword::Children, "", "The folders in the current folder; alone, their names.", Children,
+    {Keyword::Children, "-> FOLDER ...", "The folders in the current folder; alone, their names.", Children,
      &childrenLevel},
-    {Keyword::Create, "NAME", "Makes a folder in the current folder, and makes it current.", Create},
-    {Keyword::Current, "?FOLDER?", "Makes a folder current, or tells which is.", Current},
+    {Keyword::Create, "NAME -> NAME", "Makes a folder in the current folder, and makes it current.", Create},
+    {Keyword::Current, "?FOLDER? -> FOLDER", "Makes a folder current, or tells which is.", Current},
     {Keyword::Delete, "FOLDER ?recursive?", "Deletes a folder; with recursive, also those below it.", Delete},
-    {Keyword::Empty, "?BOOL? ?recursive?", "Sets or reads whether folders that show nothing are shown.",
-     Empty},
-    {Keyword::KeepChildrenFoldersInOrderAsCreated, "?BOOL?",
+    {Keyword::Empty, "?BOOL? ?recursive? -> BOOL",
+     "Sets or reads whether folders that show nothing are shown.", Empty},
+    {Keyword::KeepChildrenFoldersInOrderAsCreated, "?BOOL? -> BOOL",
      "Sets or reads whether the folders in it keep the order in which they were made.",
      KeepChildrenAsCreated},
-    {Keyword::Style, "?BOOL?", "Sets or reads whether the items in it are drawn with the folder's style.",
-     Style},
+    {Keyword::Style, "?BOOL? -> BOOL",
+     "Sets or reads whether the items in it are drawn with the folder's style.", Style},
     {Keyword::DropItem, "What becomes of the items dropped on the current folder.", &dropItemLevel},
     // Words that the usage text leaves out.
     {Keyword::Bold, "BOOL", "Sets whether the caption is bold.", Bold},
@@ -156,13 +156,15 @@ constexpr CommandRow folderRows[] = {
      Collapse},
     {Keyword::CreateExpanded, "DATASOURCE ?INT?",
      "Sets how many levels of a data source's items are expanded at first.", CreateExpanded},
-    {Keyword::DataItemType, "", "Lists the data sources in the current folder and below it.", DataItemType},
+    {Keyword::DataItemType, "-> DATASOURCE ...", "Lists the data sources in the current folder and below it.",
+     DataItemType},
     {Keyword::DataSource, "", "The data sources that the current folder shows.", AnswerByViewHelper,
      &helperFolderDataSourceLevel},
     {Keyword::Expand, "?BOOL?", "Expands the current folder; with true, also what is below it.", Expand},
     {Keyword::Italic, "BOOL", "Sets whether the caption is italic.", Italic},
-    {Keyword::Selected, "", "Lists the selected folders below the current one.", Selected},
-    {Keyword::Selection, "", "Lists the selected items in the current folder and below it.", Selection},
+    {Keyword::Selected, "-> FOLDER ...", "Lists the selected folders below the current one.", Selected},
+    {Keyword::Selection, "-> TEXT ...", "Lists the selected items in the current folder and below it.",
+     Selection},
     {Keyword::Tree, "The tree of the current folder, tied together by data references.", &treeLevel},
 };
 

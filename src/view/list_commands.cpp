@@ -62,15 +62,16 @@ void Expand(Call& call) { RunWithFlag(call, 4, &Manager::ExpandFreeFolderList, M
 void Collapse(Call& call) { RunWithFlag(call, 4, &Manager::CollapseFreeFolderList, Messages::VIEW_LIST); }
 
 constexpr CommandRow listRows[] = {
-    {Keyword::Create, "DATASOURCE ?BOOL?", "Shows a data source as a list in the current folder.", Create},
-    {Keyword::Current, "?LIST?", "Makes a list current, or tells which is.", Current},
+    {Keyword::Create, "DATASOURCE ?BOOL? -> DATASOURCE",
+     "Shows a data source as a list in the current folder.", Create},
+    {Keyword::Current, "?LIST? -> LIST", "Makes a list current, or tells which is.", Current},
     {Keyword::Group, "BOOL ?BOOL?", "Sets whether the items of the current list are grouped.", Group},
     {Keyword::Delete, "LIST", "Takes a list out of the current folder.", Delete},
-    {Keyword::Names, "?BOOL?", "Lists the lists in the current folder; with true, also those below it.",
-     Names},
+    {Keyword::Names, "?BOOL? -> LIST ...",
+     "Lists the lists in the current folder; with true, also those below it.", Names},
     {Keyword::Style, "BOOL", "Draws the current list with the current style, or with the column's.", Style},
     // Words that the usage text leaves out.
-    {Keyword::Add, "DATASOURCE ?BOOL?",
+    {Keyword::Add, "DATASOURCE ?BOOL? -> DATASOURCE",
      "Shows a data source as a list; the application decides whether it can be one.", Add},
     {Keyword::Caption, "TEXT", "Sets what stands above the current list.", Caption},
     {Keyword::Collapse, "?BOOL?", "Collapses the current list; with true, also what is below it.", Collapse},

@@ -26,10 +26,12 @@ void State(Call& call) {
 }
 
 constexpr CommandRow sortRows[] = {
-    {Keyword::Ascending, "", "Sorts the current column from small to large.", Direction},
-    {Keyword::Descending, "", "Sorts the current column from large to small.", Direction},
-    {Keyword::Disabled, "", "Switches the sorting of the current view off.", State},
-    {Keyword::Enabled, "", "Switches the sorting of the current view on.", State},
+    {Keyword::Ascending, "-> ascending|descending", "Sorts the current column from small to large.",
+     Direction},
+    {Keyword::Descending, "-> ascending|descending", "Sorts the current column from large to small.",
+     Direction},
+    {Keyword::Disabled, "-> BOOL", "Switches the sorting of the current view off.", State},
+    {Keyword::Enabled, "-> BOOL", "Switches the sorting of the current view on.", State},
 };
 
 } // namespace

@@ -41,13 +41,13 @@ void Names(Call& call) { call.AnswerValue(&Manager::GetStyleNames); }
 
 constexpr CommandRow styleRows[] = {
     {Keyword::Connect, "", "Gives the current folder the current style.", Connect},
-    {Keyword::Create, "NAME", "Makes a style of the current column, and makes it current.", Create},
-    {Keyword::Current, "?STYLE?", "Makes a style current, or tells which is.", Current},
-    {Keyword::Delete, "", "Deletes the current style, and tells its name.", Delete},
-    {Keyword::Names, "", "Lists the styles of the current column.", Names},
+    {Keyword::Create, "NAME -> NAME", "Makes a style of the current column, and makes it current.", Create},
+    {Keyword::Current, "?STYLE? -> STYLE", "Makes a style current, or tells which is.", Current},
+    {Keyword::Delete, "-> STYLE", "Deletes the current style, and tells its name.", Delete},
+    {Keyword::Names, "-> STYLE ...", "Lists the styles of the current column.", Names},
     // Missing in the usage text.
-    {Keyword::Folder, "?STYLE?", "Makes a style current, or tells which is; an older word for current.",
-     Current},
+    {Keyword::Folder, "?STYLE? -> STYLE",
+     "Makes a style current, or tells which is; an older word for current.", Current},
 };
 
 } // namespace

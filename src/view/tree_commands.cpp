@@ -49,16 +49,16 @@ void Show(Call& call) {
 }
 
 constexpr CommandRow treeRows[] = {
-    {Keyword::Create, "HIERARCHICAL", "Shows a hierarchical data source as the tree of the current folder.",
-     Create},
-    {Keyword::Current, "?HIERARCHICAL?", "Makes a hierarchical data source current, or tells which is.",
-     Current},
+    {Keyword::Create, "HIERARCHICAL -> HIERARCHICAL",
+     "Shows a hierarchical data source as the tree of the current folder.", Create},
+    {Keyword::Current, "?HIERARCHICAL? -> HIERARCHICAL",
+     "Makes a hierarchical data source current, or tells which is.", Current},
     {Keyword::Delete, "TREE", "Takes a tree out of the current folder.", Delete},
     {Keyword::Group, "BOOL ?BOOL?", "Sets whether children stand together by data source.", Group},
     {Keyword::Hide, "DATASOURCE", "Hides the children of one data source.", Hide},
-    {Keyword::Names, "", "Lists the trees of the current folder.", Names},
-    {Keyword::Show, "?DATASOURCE?", "Shows the children of one data source, or lists those that are shown.",
-     Show},
+    {Keyword::Names, "-> TREE ...", "Lists the trees of the current folder.", Names},
+    {Keyword::Show, "?DATASOURCE? -> DATASOURCE ...",
+     "Shows the children of one data source, or lists those that are shown.", Show},
 };
 
 } // namespace

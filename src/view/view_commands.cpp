@@ -99,7 +99,7 @@ void Sort(Call& call) {
 }
 
 constexpr CommandRow groupRows[] = {
-    {Keyword::Children, "?BOOL?", "Sets or reads whether the current folder groups its children.",
+    {Keyword::Children, "?BOOL? -> BOOL", "Sets or reads whether the current folder groups its children.",
      GroupChildren},
 };
 constexpr CommandLevel groupLevel(groupRows, Messages::VIEW_GROUP);
@@ -111,9 +111,9 @@ constexpr CommandLevel applyLevel(applyRows, Messages::VIEW);
 
 constexpr CommandRow viewRows[] = {
     {Keyword::Column, "The columns of the current view.", &viewColumnLevel},
-    {Keyword::Create, "NAME ?BOOL?", "Makes a view; with true, one that connects data sources itself.",
-     Create},
-    {Keyword::Current, "?VIEW?", "Makes a view current, or tells which is.", Current},
+    {Keyword::Create, "NAME ?BOOL? -> NAME",
+     "Makes a view; with true, one that connects data sources itself.", Create},
+    {Keyword::Current, "?VIEW? -> VIEW", "Makes a view current, or tells which is.", Current},
     {Keyword::DataSource, "The data sources of the current view.", &viewDataSourceLevel},
     {Keyword::Delete, "", "Deletes the current view.", Delete},
     {Keyword::Element, "The elements of the current style.", &viewElementLevel},
@@ -121,20 +121,21 @@ constexpr CommandRow viewRows[] = {
     {Keyword::Flush, "BOOL", "Lets changes reach the windows at once, or holds them back.", Flush},
     {Keyword::Folder, "The folders of the current view.", &viewFolderLevel},
     {Keyword::Group, "How the current folder groups what is in it.", &groupLevel},
-    {Keyword::Italic, "?enabled|disabled?", "Sets or reads whether the view's texts are italic.", Italic},
+    {Keyword::Italic, "?enabled|disabled? -> BOOL", "Sets or reads whether the view's texts are italic.",
+     Italic},
     {Keyword::List, "The lists of the current folder.", &viewListLevel},
-    {Keyword::Names, "", "Lists the views.", Names},
-    {Keyword::Namespace, "", "Tells the Tcl namespace of the application's scripts.", Namespace},
+    {Keyword::Names, "-> VIEW ...", "Lists the views.", Names},
+    {Keyword::Namespace, "-> TEXT", "Tells the Tcl namespace of the application's scripts.", Namespace},
     {Keyword::Operation, "What users can do with the items of the current view.", &viewOperationLevel},
     {Keyword::Property, "The values that the current view shows.", &viewPropertyLevel},
-    {Keyword::Sort, "", "Sorting of the current view; alone, the state and the direction.", Sort,
-     &viewSortLevel},
+    {Keyword::Sort, "-> BOOL ascending|descending",
+     "Sorting of the current view; alone, the state and the direction.", Sort, &viewSortLevel},
     {Keyword::Style, "The styles of the current column.", &viewStyleLevel},
     {Keyword::Tree, "The trees of the current folder.", &viewTreeLevel},
     // Words that the usage text leaves out.
     {Keyword::Apply, "Shows what was held back.", &applyLevel},
-    {Keyword::DataCtrl, "", "The data control of the current view; alone, its name.", AnswerViewDataCtrl,
-     &viewDataCtrlLevel},
+    {Keyword::DataCtrl, "-> DATACTRL", "The data control of the current view; alone, its name.",
+     AnswerViewDataCtrl, &viewDataCtrlLevel},
     {Keyword::DataItem, "The items of the current view.", &viewDataItemLevel},
     {Keyword::DataItemList, "The items of the current view; another word for dataitem.", &viewDataItemLevel},
     {Keyword::DataReference, "The data references of the current view.", &viewDataReferenceLevel},

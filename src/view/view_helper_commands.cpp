@@ -127,13 +127,15 @@ void Select(Call& call) {
 }
 
 constexpr CommandRow dataSourceRows[] = {
-    {Keyword::Connect, "DATASOURCE|HIERARCHICAL", "Connects a data source to the current view.", Connect},
-    {Keyword::Current, "?DATASOURCE|HIERARCHICAL?",
+    {Keyword::Connect, "DATASOURCE|HIERARCHICAL -> DATASOURCE|HIERARCHICAL",
+     "Connects a data source to the current view.", Connect},
+    {Keyword::Current, "?DATASOURCE|HIERARCHICAL? -> DATASOURCE|HIERARCHICAL",
      "Makes a data source of the view current, or tells which is.", Current},
-    {Keyword::Disconnect, "DATASOURCE|HIERARCHICAL", "Disconnects a data source from the current view.",
-     Disconnect},
-    {Keyword::Names, "", "Lists the data sources that are connected to the current view.", Names},
-    {Keyword::Selected, "?recursive?", "Lists the selected items of the current data source.",
+    {Keyword::Disconnect, "DATASOURCE|HIERARCHICAL -> DATASOURCE|HIERARCHICAL",
+     "Disconnects a data source from the current view.", Disconnect},
+    {Keyword::Names, "-> DATASOURCE|HIERARCHICAL ...",
+     "Lists the data sources that are connected to the current view.", Names},
+    {Keyword::Selected, "?recursive? -> TEXT ...", "Lists the selected items of the current data source.",
      SelectedOfSource},
 };
 constexpr CommandLevel dataSourceLevel(dataSourceRows, Messages::HELPER_DATASOURCE);
@@ -144,16 +146,16 @@ constexpr CommandRow selectRows[] = {
 };
 
 constexpr CommandRow dataItemRows[] = {
-    {Keyword::Current, "", "Tells the current item.", CurrentItem},
+    {Keyword::Current, "-> ?TEXT?", "Tells the current item.", CurrentItem},
     {Keyword::Deselect, "", "Deselects the items of the current data source.", Select, &helperSelectLevel},
     {Keyword::Select, "", "Selects the items of the current data source.", Select, &helperSelectLevel},
-    {Keyword::Selected, "?all|recursive? ?recursive?",
+    {Keyword::Selected, "?all|recursive? ?recursive? -> TEXT ...",
      "Lists the selected items of the current data source, or of all of them.", SelectedItems},
 };
 constexpr CommandLevel dataItemLevel(dataItemRows, Messages::HELPER_DATAITEM);
 
 constexpr CommandRow folderDataSourceRows[] = {
-    {Keyword::Current, "?DATASOURCE|HIERARCHICAL?",
+    {Keyword::Current, "?DATASOURCE|HIERARCHICAL? -> DATASOURCE|HIERARCHICAL",
      "Makes a data source of the current folder current in it, or tells which is.", FolderCurrent},
     {Keyword::Style, "BOOL", "Sets whether the current one's items are drawn with the folder's style.",
      FolderStyle},

@@ -53,12 +53,13 @@ void Names(Call& call) { call.Answer(call.manager.GetErrorText()); }
 constexpr CommandRow operationRows[] = {
     {Keyword::Connect, "", "Lets the current operation perform the current data operation, too.", Connect},
     {Keyword::Create, "NAME", "Makes an operation of the current view, and makes it current.", Create},
-    {Keyword::Current, "?VIEWOPERATION?", "Makes an operation current, or tells which is.", Current},
+    {Keyword::Current, "?VIEWOPERATION? -> VIEWOPERATION", "Makes an operation current, or tells which is.",
+     Current},
     {Keyword::Script, "SCRIPT", "Sets the script that the current operation runs.", Script},
     {Keyword::Perform, "", "Performs the current operation.", Perform},
     // Words that the usage text leaves out.
     {Keyword::Editable, "BOOL", "Sets whether users may change the current operation.", Editable},
-    {Keyword::Names, "", "Tells the error that is pending; it lists nothing.", Names},
+    {Keyword::Names, "-> ?TEXT?", "Tells the error that is pending; it lists nothing.", Names},
 };
 
 } // namespace

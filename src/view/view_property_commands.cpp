@@ -72,16 +72,17 @@ void Type(Call& call) {
 void Disconnect(Call& call) { RunWithName(call, 4, &Manager::DisconnectProperty, Messages::VIEW_PROPERTY); }
 
 constexpr CommandRow propertyRows[] = {
-    {Keyword::Connect, "DATAPROPERTY|DATASOURCE|script ?DATAPROPERTY|PROC?",
+    {Keyword::Connect,
+     "DATAPROPERTY|DATASOURCE|script ?DATAPROPERTY|PROC? -> DATASOURCE|script DATAPROPERTY|PROC",
      "Connects the current property to a data property, or to a procedure.", Connect},
-    {Keyword::Connected, "", "Lists what the current property is connected to.", Connected},
-    {Keyword::Create, "NAME", "Makes a property of the current view, and makes it current.", Create},
-    {Keyword::Current, "?PROPERTY?", "Makes a property current, or tells which is.", Current},
+    {Keyword::Connected, "-> TEXT ...", "Lists what the current property is connected to.", Connected},
+    {Keyword::Create, "NAME -> NAME", "Makes a property of the current view, and makes it current.", Create},
+    {Keyword::Current, "?PROPERTY? -> PROPERTY", "Makes a property current, or tells which is.", Current},
     {Keyword::Delete, "", "Deletes the current property.", Delete},
-    {Keyword::Names, "", "Lists the properties of the current view.", Names},
+    {Keyword::Names, "-> PROPERTY ...", "Lists the properties of the current view.", Names},
     {Keyword::Script, "SCRIPT SCRIPT ?TEXT?", "Sets the scripts that take a changed value and that give it.",
      Script},
-    {Keyword::Type, "?TYPE?", "Sets the type of the current property, and tells it.", Type},
+    {Keyword::Type, "?TYPE? -> TYPE", "Sets the type of the current property, and tells it.", Type},
     // Missing in the usage text.
     {Keyword::Disconnect, "DATASOURCE|script", "Takes a connection of the current property away.",
      Disconnect},

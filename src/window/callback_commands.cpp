@@ -50,21 +50,23 @@ void Current(Call& call) { call.SetThenAnswer(5, &Manager::SetCurrentEvent, &Man
 void Names(Call& call) { call.AnswerValue(&Manager::GetWindowPartEventNames); }
 
 constexpr CommandRow callbackRows[] = {
-    {Keyword::Create, "NAME TEXT", "Makes a callback; WINDOW_OPERATION: one that runs a window operation.",
-     CallbackCreate},
-    {Keyword::Current, "?CALLBACK?", "Makes a callback of the event current, or tells which is.",
+    {Keyword::Create, "NAME TEXT -> NAME",
+     "Makes a callback; WINDOW_OPERATION: one that runs a window operation.", CallbackCreate},
+    {Keyword::Current, "?CALLBACK? -> CALLBACK", "Makes a callback of the event current, or tells which is.",
      CallbackCurrent},
     {Keyword::Delete, "", "Does nothing.", CallbackDelete},
-    {Keyword::Names, "", "Lists the callbacks of the current event.", CallbackNames},
-    {Keyword::Operation, "?TEXT?", "Sets or reads the operation that the callback runs.", CallbackOperation},
-    {Keyword::Window, "?WINDOW?", "Sets or reads the window on which the callback acts.", CallbackWindow},
+    {Keyword::Names, "-> CALLBACK ...", "Lists the callbacks of the current event.", CallbackNames},
+    {Keyword::Operation, "?TEXT? -> TEXT", "Sets or reads the operation that the callback runs.",
+     CallbackOperation},
+    {Keyword::Window, "?WINDOW? -> ?WINDOW?", "Sets or reads the window on which the callback acts.",
+     CallbackWindow},
 };
 constexpr CommandLevel callbackLevel(callbackRows, znBrowserTclMessages::WINDOW_EVENT);
 
 constexpr CommandRow rows[] = {
     {Keyword::Callback, "The callbacks of the current event.", &callbackLevel},
-    {Keyword::Current, "?EVENT?", "Makes an event of the part current, or tells which is.", Current},
-    {Keyword::Names, "", "Lists the events of the current part.", Names},
+    {Keyword::Current, "?EVENT? -> EVENT", "Makes an event of the part current, or tells which is.", Current},
+    {Keyword::Names, "-> EVENT ...", "Lists the events of the current part.", Names},
 };
 
 } // namespace

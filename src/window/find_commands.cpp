@@ -58,24 +58,25 @@ void PropertyAdd(Call& call) {
 }
 
 constexpr CommandRow criterionRows[] = {
-    {Keyword::Current, "?CRITERION?", "Makes a criterion of the property current, or tells which is.",
+    {Keyword::Current, "?CRITERION? -> CRITERION",
+     "Makes a criterion of the property current, or tells which is.",
      Text<6, &Manager::SetCurrentFindRequestPropertyCriterion,
           &Manager::GetCurrentFindRequestPropertyCriterion>},
-    {Keyword::MatchCase, "?BOOL?", "Sets or reads whether letter case matters.",
+    {Keyword::MatchCase, "?BOOL? -> BOOL", "Sets or reads whether letter case matters.",
      Flag<&Manager::SetCurrentFindRequestPropertyCriterionMatchcase,
           &Manager::GetCurrentFindRequestPropertyCriterionMatchcase>},
-    {Keyword::MatchWord, "?BOOL?", "Sets or reads whether whole words must match.",
+    {Keyword::MatchWord, "?BOOL? -> BOOL", "Sets or reads whether whole words must match.",
      Flag<&Manager::SetCurrentFindRequestPropertyCriterionMatchword,
           &Manager::GetCurrentFindRequestPropertyCriterionMatchword>},
-    {Keyword::Names, "", "Lists the criteria of the current property.",
+    {Keyword::Names, "-> CRITERION ...", "Lists the criteria of the current property.",
      Value<&Manager::GetCurrentFindRequestPropertyCriteriaNames>},
-    {Keyword::Type, "?equalto?", "Sets or reads how values are compared.",
+    {Keyword::Type, "?equalto? -> ?equalto?", "Sets or reads how values are compared.",
      Text<6, &Manager::SetCurrentFindRequestPropertyCriterionType,
           &Manager::GetCurrentFindRequestPropertyCriterionType>},
-    {Keyword::UseRegExp, "?BOOL?", "Sets or reads whether the value is a regular expression.",
+    {Keyword::UseRegExp, "?BOOL? -> BOOL", "Sets or reads whether the value is a regular expression.",
      Flag<&Manager::SetCurrentFindRequestPropertyCriterionUseregexp,
           &Manager::GetCurrentFindRequestPropertyCriterionUseregexp>},
-    {Keyword::Value, "?TEXT?", "Sets or reads the text to search for.",
+    {Keyword::Value, "?TEXT? -> TEXT", "Sets or reads the text to search for.",
      Text<6, &Manager::SetCurrentFindRequestPropertyCriterionValue,
           &Manager::GetCurrentFindRequestPropertyCriterionValue>},
 };
@@ -85,20 +86,23 @@ constexpr CommandRow propertyRows[] = {
     {Keyword::Add, "PROPERTY", "Adds a property to the find request.", PropertyAdd},
     {Keyword::Criterion, "How values of the current property are matched.", &criterionLevel},
     {Keyword::Criteria, "How values are matched; another word for criterion.", &criterionLevel},
-    {Keyword::Current, "?FINDPROPERTY?", "Makes a property of the find request current, or tells which is.",
+    {Keyword::Current, "?FINDPROPERTY? -> FINDPROPERTY",
+     "Makes a property of the find request current, or tells which is.",
      Text<5, &Manager::SetCurrentFindRequestProperty, &Manager::GetCurrentFindRequestProperty>},
-    {Keyword::Names, "", "Lists the properties of the find request.",
+    {Keyword::Names, "-> FINDPROPERTY ...", "Lists the properties of the find request.",
      Value<&Manager::GetFindRequestPropertyNames>},
 };
 constexpr CommandLevel propertyLevel(propertyRows, znBrowserTclMessages::WINDOW_FIND);
 
 constexpr CommandRow rows[] = {
-    {Keyword::Current, "?FINDREQUEST?", "Makes a find request of the window current, or tells which is.",
+    {Keyword::Current, "?FINDREQUEST? -> FINDREQUEST",
+     "Makes a find request of the window current, or tells which is.",
      Text<4, &Manager::SetCurrentFindRequest, &Manager::GetCurrentFindRequest>},
-    {Keyword::Names, "", "Lists the find requests of the window.", Value<&Manager::GetFindRequestNames>},
+    {Keyword::Names, "-> FINDREQUEST ...", "Lists the find requests of the window.",
+     Value<&Manager::GetFindRequestNames>},
     {Keyword::Perform, "", "Searches as the current find request says.", Perform},
     {Keyword::Property, "The properties on which the find request searches.", &propertyLevel},
-    {Keyword::Type, "?all|next|previous?", "Sets or reads which matches are looked for.",
+    {Keyword::Type, "?all|next|previous? -> all|next|previous", "Sets or reads which matches are looked for.",
      Text<4, &Manager::SetCurrentFindRequestType, &Manager::GetCurrentFindRequestType>},
 };
 

@@ -119,17 +119,17 @@ constexpr CommandRow recordRows[] = {
     {Keyword::Create, "VALUE TEXT", "Adds a record: a key, and what is shown for it.", RecordCreate,
      &recordCreateLevel},
     {Keyword::Delete, "VALUE", "Removes the record of a key.", RecordDelete},
-    {Keyword::Names, "", "Lists the keys and what is shown for them.", RecordNames},
+    {Keyword::Names, "-> TEXT ...", "Lists the keys and what is shown for them.", RecordNames},
 };
 constexpr CommandLevel recordLevel(recordRows, znBrowserTclMessages::WINDOW_MAP_RECORD);
 
 constexpr CommandRow rows[] = {
-    {Keyword::Create, "NAME", "Makes a map and makes it current.", Create},
-    {Keyword::Current, "?MAP?", "Makes a map current, or tells which is.", Current},
+    {Keyword::Create, "NAME -> NAME", "Makes a map and makes it current.", Create},
+    {Keyword::Current, "?MAP? -> MAP", "Makes a map current, or tells which is.", Current},
     {Keyword::Delete, "", "Deletes the current map.", Delete},
-    {Keyword::Names, "", "Lists the maps.", Names},
+    {Keyword::Names, "-> MAP ...", "Lists the maps.", Names},
     {Keyword::Record, "What the current map shows for its keys.", &recordLevel},
-    {Keyword::Type, "?integer|double|unsigned|bool|string? ?icon|string|rgb|button?",
+    {Keyword::Type, "?integer|double|unsigned|bool|string? ?icon|string|rgb|button? -> TEXT",
      "Sets or reads of what type the keys are, and what is shown for them.", Type},
 };
 

@@ -16,7 +16,7 @@ void Names(Call& call) { call.AnswerValue(&Manager::GetWindowListenerNames); }
 constexpr CommandRow rows[] = {
     {Keyword::Connect, "NAME", "Adds a listener, which is told of the window's events.", Connect},
     {Keyword::Disconnect, "LISTENER", "Removes a listener of the window.", Disconnect},
-    {Keyword::Names, "", "Lists the listeners of the window.", Names},
+    {Keyword::Names, "-> LISTENER ...", "Lists the listeners of the window.", Names},
 };
 
 } // namespace

@@ -111,26 +111,27 @@ void Show(Call& call) {
 void OperationNames(Call& call) { call.AnswerValue(&Manager::GetWindowPartOperationNames); }
 
 constexpr CommandRow operationRows[] = {
-    {Keyword::Names, "", "Lists the operations of the current part.", OperationNames},
+    {Keyword::Names, "-> TEXT ...", "Lists the operations of the current part.", OperationNames},
 };
 constexpr CommandLevel operationLevel(operationRows, znBrowserTclMessages::WINDOW_OPERATION);
 
 constexpr CommandRow rows[] = {
-    {Keyword::Create, "NAME ?PART?", "Makes a part, in the main frame or in another part.", Create},
+    {Keyword::Create, "NAME ?PART? -> NAME", "Makes a part, in the main frame or in another part.", Create},
     {Keyword::CreateProc, "PROC ?TEXT?", "Sets the procedure that fills the part's frame, and its argument.",
      SetProc<&Manager::SetWindowPartCreateProc>},
-    {Keyword::Current, "?PART?", "Makes a part of the window current, or tells which is.", Current,
+    {Keyword::Current, "?PART? -> ?PART?", "Makes a part of the window current, or tells which is.", Current,
      &currentLevel},
-    {Keyword::Info, "", "Shows a table of the parts under the current part.", Info},
+    {Keyword::Info, "-> TEXT", "Shows a table of the parts under the current part.", Info},
     {Keyword::Delete, "", "Deletes the current part.", Delete},
-    {Keyword::Frame, "", "Tells the path of the part's frame.", Frame},
+    {Keyword::Frame, "-> FRAME", "Tells the path of the part's frame.", Frame},
     {Keyword::Move, "INT", "Moves the part to a position among its neighbours.", Move},
-    {Keyword::Names, "?BOOL?", "Lists the parts in the current part; with true, all parts below it.", Names},
+    {Keyword::Names, "?BOOL? -> PART ...",
+     "Lists the parts in the current part; with true, all parts below it.", Names},
     {Keyword::PackProc, "PROC ?TEXT?", "Sets the procedure that packs the part's frame, and its argument.",
      SetProc<&Manager::SetWindowPartPackProc>},
-    {Keyword::Parent, "?PART?", "Moves the current part into another, or tells in which it is.", Parent,
-     &parentLevel},
-    {Keyword::Show, "?BOOL?", "Shows or hides the part, or tells whether it is shown.", Show},
+    {Keyword::Parent, "?PART? -> ?PART?", "Moves the current part into another, or tells in which it is.",
+     Parent, &parentLevel},
+    {Keyword::Show, "?BOOL? -> BOOL", "Shows or hides the part, or tells whether it is shown.", Show},
     // These have usage texts of their own.
     {Keyword::Event, "The events of the current part.", &windowPartEventLevel},
     {Keyword::Operation, "What the current part can do.", &operationLevel},

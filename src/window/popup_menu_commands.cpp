@@ -84,15 +84,16 @@ void OnPost(Call& call) {
 
 constexpr CommandRow popupMenuRows[] = {
     {Keyword::Connect, "Shows the current menu where one is wanted.", &connectLevel},
-    {Keyword::Connected, "", "Lists where the current menu is shown: pairs of a kind and a name.", Connected},
-    {Keyword::Create, "NAME", "Makes a popup menu, and makes it current.", Create},
-    {Keyword::Current, "?POPUPMENU?", "Makes a menu and its first item current, or tells which menu is.",
-     Current},
+    {Keyword::Connected, "-> TEXT ...", "Lists where the current menu is shown: pairs of a kind and a name.",
+     Connected},
+    {Keyword::Create, "NAME -> NAME", "Makes a popup menu, and makes it current.", Create},
+    {Keyword::Current, "?POPUPMENU? -> POPUPMENU",
+     "Makes a menu and its first item current, or tells which menu is.", Current},
     {Keyword::Delete, "?POPUPMENU?", "Deletes a menu, the current one by default, with its items.", Delete},
     {Keyword::Disconnect, "Shows the current menu somewhere no more.", &disconnectLevel},
-    {Keyword::Names, "", "Lists the popup menus.", Names},
-    {Keyword::OnPost, "?none|PROC?", "Sets or reads what is called before the current menu is shown.",
-     OnPost},
+    {Keyword::Names, "-> POPUPMENU ...", "Lists the popup menus.", Names},
+    {Keyword::OnPost, "?none|PROC? -> ?PROC?",
+     "Sets or reads what is called before the current menu is shown.", OnPost},
 };
 
 } // namespace

@@ -95,7 +95,7 @@ void DropItemTopLevel(Call& call) { call.Answer(false); }
 
 constexpr CommandRow dropItemRows[] = {
     {Keyword::Name, "", "Answers nothing.", DropItemNothing},
-    {Keyword::TopLevel, "", "Answers false.", DropItemTopLevel},
+    {Keyword::TopLevel, "-> BOOL", "Answers false.", DropItemTopLevel},
     {Keyword::DataItemType, "", "Answers nothing.", DropItemNothing},
 };
 constexpr CommandLevel dropItemLevel(dropItemRows, Messages::WINDOW);
@@ -103,23 +103,26 @@ constexpr CommandLevel dropItemLevel(dropItemRows, Messages::WINDOW);
 constexpr CommandRow rows[] = {
     {Keyword::CollapseAll, "", "Collapses every row of the current window.", CollapseAll},
     {Keyword::CollapseSelected, "", "Collapses the selected rows of the current window.", CollapseSelected},
-    {Keyword::Create, "NAME", "Makes a window for the current view and makes it current.", Create},
-    {Keyword::Current, "?WINDOW?", "Makes a window and its view current, or tells which is.", Current},
+    {Keyword::Create, "NAME -> NAME", "Makes a window for the current view and makes it current.", Create},
+    {Keyword::Current, "?WINDOW? -> ?WINDOW?", "Makes a window and its view current, or tells which is.",
+     Current},
     {Keyword::Delete, "", "Deletes the current window.", Delete},
     {Keyword::ExpandAll, "", "Expands every row of the current window.", ExpandAll},
     {Keyword::ExpandSelected, "", "Expands the selected rows of the current window.", ExpandSelected},
     {Keyword::Find, "Searches in the current window.", &windowFindLevel},
-    {Keyword::Frame, "?FRAME?", "Sets or reads in which Tk frame the window is shown.", Frame},
+    {Keyword::Frame, "?FRAME? -> ?FRAME?", "Sets or reads in which Tk frame the window is shown.", Frame},
     {Keyword::Map, "The maps that show values as texts, pictures, colours or buttons.", &windowMapLevel},
-    {Keyword::Names, "", "Lists the windows.", Names},
+    {Keyword::Names, "-> WINDOW ...", "Lists the windows.", Names},
     {Keyword::Part, "The parts of the current window.", &windowPartLevel},
     // The usage text does not tell of these.
-    {Keyword::Background, "?COLOR? ?BOOL?", "Sets or reads the background colour of the window.", Background},
+    {Keyword::Background, "?COLOR? ?BOOL? -> ?COLOR?", "Sets or reads the background colour of the window.",
+     Background},
     {Keyword::DropItem, "What the current window accepts as drop items.", &dropItemLevel},
     {Keyword::Listener, "The listeners of the current window.", &windowListenerLevel},
-    {Keyword::Post, "?BOOL?", "Shows the window or takes it away, or tells whether it is shown.", Post},
-    {Keyword::Stripe, "?BOOL? ?all?", "Sets the stripes of the window or of all, or reads the window's.",
-     Stripe},
+    {Keyword::Post, "?BOOL? -> ?BOOL?", "Shows the window or takes it away, or tells whether it is shown.",
+     Post},
+    {Keyword::Stripe, "?BOOL? ?all? -> ?BOOL?",
+     "Sets the stripes of the window or of all, or reads the window's.", Stripe},
 };
 
 } // namespace

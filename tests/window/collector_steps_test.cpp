@@ -121,4 +121,18 @@ TEST(CollectorSteps, AnythingDoneIsTakenBackExactly) {
     }
 }
 
+TEST(CollectorSteps, WindowsScrollToTheFirstCollectedRowWhenTheyAreTold) {
+    for (const bool autofit : {false, true}) {
+        CollectorModel model;
+        model.Collector().SetAutofit(autofit);
+        model.Eval("zn collector selection set byprop number 17 18; zn collector showhide show\n"
+                   "zn collector showonly");
+        const int position = model.Window(true).ScrollPosition();
+        EXPECT_EQ(model.Window(true).Rows().Read(position, 1).at(0).text, autofit ? "p17" : "structure");
+        model.Collector().Undo(&model.View());
+        EXPECT_EQ(model.Window(true).ScrollPosition() > position, autofit)
+            << "the first action did nothing, but scroll; above the row more are shown again";
+    }
+}
+
 } // namespace

@@ -94,7 +94,7 @@ constexpr CommandLevel entitySelectorLevel(entitySelectorRows, Messages::COLLECT
 // Those that the usage text leaves out stand behind the others.
 constexpr CommandRow rows[] = {
     {Keyword::AddRemove, "The control that adds the selected items and removes them.", &addRemoveLevel},
-    {Keyword::AutoFit, "?BOOL?",
+    {Keyword::AutoFit, "?BOOL? -> BOOL",
      "Sets or reads whether windows scroll to the collected items after an action.", Autofit, nullptr,
      &Messages::COLLECTOR_AUTOFIT},
     {Keyword::DataSource, "What kind of item is collected.", &collectorDataSourceLevel},
@@ -104,7 +104,7 @@ constexpr CommandRow rows[] = {
     {Keyword::OptionSelector, "How clicks collect, and the control that chooses the action.",
      &collectorOptionSelectorLevel},
     {Keyword::PnlColSelector, "The named collections of the current view.", &collectorPnlColSelectorLevel},
-    {Keyword::Preselector, "", "Tells whether windows mark the item under the pointer.", Preselector,
+    {Keyword::Preselector, "-> on|off", "Tells whether windows mark the item under the pointer.", Preselector,
      &collectorPreselectorLevel},
     {Keyword::Selection, "What is collected in the current view.", &collectorSelectionLevel},
     {Keyword::Undo, "", "Takes back the last step of the current view.", Undo, &collectorUndoLevel},
@@ -117,8 +117,8 @@ constexpr CommandRow rows[] = {
     {Keyword::ShowHide, "Shows or hides the collected items.", &collectorShowHideLevel},
     {Keyword::AddToPnlCol, "?COLLECTION?",
      "Adds what is collected to a named collection, or the current one.", AddToPnlCol},
-    {Keyword::Show, "?BOOL?", "Sets or reads whether the current window has a collector bar.", Show, nullptr,
-     &Messages::COLLECTOR_SHOW},
+    {Keyword::Show, "?BOOL? -> BOOL", "Sets or reads whether the current window has a collector bar.", Show,
+     nullptr, &Messages::COLLECTOR_SHOW},
 };
 
 } // namespace

@@ -52,11 +52,11 @@ void EnableControl(Call& call) {
 
 /// The two words that every control in the collector bar of a window has.
 template <ZNBROWSER_COLLECTOR_CONTROL control, const char* const* usage>
-constexpr CommandRow showControlRow{Keyword::Show, "?BOOL?",
+constexpr CommandRow showControlRow{Keyword::Show, "?BOOL? -> BOOL",
                                     "Sets or reads whether the control stands in the window's collector bar.",
                                     ShowControl<control, usage>};
 template <ZNBROWSER_COLLECTOR_CONTROL control, const char* const* usage>
-constexpr CommandRow enableControlRow{Keyword::Enabled, "?BOOL?",
+constexpr CommandRow enableControlRow{Keyword::Enabled, "?BOOL? -> BOOL",
                                       "Sets or reads whether the control answers to the user.",
                                       EnableControl<control, usage>};
 

@@ -25,9 +25,9 @@ void Current(Call& call) {
 void Names(Call& call) { call.AnswerValue(&Manager::GetCollectorDataSourceSimpleNames); }
 
 constexpr CommandRow simpleRows[] = {
-    {Keyword::Current, "?KIND|none?",
+    {Keyword::Current, "?KIND|none? -> KIND|none",
      "Chooses the data source whose items are collected, or tells which it is.", Current},
-    {Keyword::Names, "", "Lists the data sources whose items can be collected.", Names},
+    {Keyword::Names, "-> KIND ...", "Lists the data sources whose items can be collected.", Names},
 };
 constexpr CommandLevel simpleLevel(simpleRows, Messages::COLLECTOR_DATASOURCE);
 

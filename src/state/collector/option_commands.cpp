@@ -36,11 +36,11 @@ void Names(Call& call) { call.AnswerValue(&Manager::GetCollectorOptionNames); }
 void Perform(Call& call) { call.AnswerOutcome(call.manager.PerformCollectorOption(call.Text(4))); }
 
 constexpr CommandRow rows[] = {
-    {Keyword::Create, "NAME PROC", "Makes an action of a Tcl procedure.", Create},
-    {Keyword::Current, "?OPTION?", "Chooses an action, which is not performed, or tells which one is chosen.",
-     Current},
+    {Keyword::Create, "NAME PROC -> NAME", "Makes an action of a Tcl procedure.", Create},
+    {Keyword::Current, "?OPTION? -> OPTION",
+     "Chooses an action, which is not performed, or tells which one is chosen.", Current},
     {Keyword::Delete, "OPTION", "Deletes an action that a script made.", Delete},
-    {Keyword::Names, "", "Lists the actions.", Names},
+    {Keyword::Names, "-> OPTION ...", "Lists the actions.", Names},
     {Keyword::Perform, "?OPTION?", "Performs an action, or the one that is chosen.", Perform},
 };
 

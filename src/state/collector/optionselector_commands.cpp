@@ -61,9 +61,10 @@ void Names(Call& call) {
 }
 
 constexpr CommandRow rows[] = {
-    {Keyword::Current, "?none|select|toggle?", "Sets or reads how clicks in a window collect.", Current},
+    {Keyword::Current, "?none|select|toggle? -> none|select|toggle",
+     "Sets or reads how clicks in a window collect.", Current},
     enableControlRow<ZNBROWSER_COLLECTOR_OPTIONSELECTOR, &Messages::COLLECTOR_OPTIONSELECTOR>,
-    {Keyword::Names, "", "Lists the ways in which clicks can collect.", Names},
+    {Keyword::Names, "-> none|select|toggle ...", "Lists the ways in which clicks can collect.", Names},
     showControlRow<ZNBROWSER_COLLECTOR_OPTIONSELECTOR, &Messages::COLLECTOR_OPTIONSELECTOR>,
 };
 

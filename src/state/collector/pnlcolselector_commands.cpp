@@ -32,12 +32,12 @@ void Delete(Call& call) { call.AnswerOutcome(call.manager.DeleteCollectorPanelCo
 void Names(Call& call) { call.AnswerValue(&Manager::GetCollectorPanelCollectionNames); }
 
 constexpr CommandRow rows[] = {
-    {Keyword::Create, "NAME", "Keeps what is collected under a name, and makes it current.", Create},
-    {Keyword::Current, "?COLLECTION?",
+    {Keyword::Create, "NAME -> NAME", "Keeps what is collected under a name, and makes it current.", Create},
+    {Keyword::Current, "?COLLECTION? -> COLLECTION",
      "Collects what a named collection holds, or tells which one is current.", Current},
     {Keyword::Delete, "COLLECTION", "Deletes a named collection; what is collected stays so.", Delete},
     enableControlRow<ZNBROWSER_COLLECTOR_PNLCOLSELECTOR, &Messages::COLLECTOR_PNLCOLSELECTOR>,
-    {Keyword::Names, "", "Lists the named collections.", Names},
+    {Keyword::Names, "-> COLLECTION ...", "Lists the named collections.", Names},
     showControlRow<ZNBROWSER_COLLECTOR_PNLCOLSELECTOR, &Messages::COLLECTOR_PNLCOLSELECTOR>,
 };
 

@@ -29,11 +29,11 @@ void Switch(Call& call) {
 }
 
 constexpr CommandRow rows[] = {
-    {Keyword::DataItem, "?PROPERTY?", "Tells what a property, or the current one, shows for the marked item.",
-     DataItem},
+    {Keyword::DataItem, "?PROPERTY? -> ?TEXT?",
+     "Tells what a property, or the current one, shows for the marked item.", DataItem},
     enableControlRow<ZNBROWSER_COLLECTOR_PRESELECTOR, &Messages::COLLECTOR_PRESELECTOR>,
-    {Keyword::Off, "", "Lets windows mark no item under the pointer.", Switch<false>},
-    {Keyword::On, "", "Lets windows mark the item under the pointer.", Switch<true>},
+    {Keyword::Off, "-> on|off", "Lets windows mark no item under the pointer.", Switch<false>},
+    {Keyword::On, "-> on|off", "Lets windows mark the item under the pointer.", Switch<true>},
     showControlRow<ZNBROWSER_COLLECTOR_PRESELECTOR, &Messages::COLLECTOR_PRESELECTOR>,
 };
 

@@ -28,9 +28,9 @@ void Restore(Call& call) { call.Run(&Manager::RestoreCollectorStep); }
 
 constexpr CommandRow rows[] = {
     {Keyword::Clear, "", "Forgets the steps; what they did stays.", Clear},
-    {Keyword::Count, "", "Tells how many steps can be taken back.", Count},
+    {Keyword::Count, "-> INT", "Tells how many steps can be taken back.", Count},
     enableControlRow<ZNBROWSER_COLLECTOR_UNDO, &Messages::COLLECTOR_UNDO>,
-    {Keyword::Names, "", "Lists what the steps did, the last one last.", Names},
+    {Keyword::Names, "-> TEXT ...", "Lists what the steps did, the last one last.", Names},
     {Keyword::Restore, "", "Does again the step that was taken back last.", Restore},
     showControlRow<ZNBROWSER_COLLECTOR_UNDO, &Messages::COLLECTOR_UNDO>,
 };

@@ -1,0 +1,24 @@
+znbrowsermanager app datactrl create shop
+znbrowsermanager app datactrl names
+znbrowsermanager app sql bicycle {SELECT name FROM part WHERE grams < ?} 500
+znbrowsermanager app glance bicycle {SELECT count(*) FROM part}
+znbrowsermanager app rows main
+znbrowsermanager window expandall
+znbrowsermanager app rows main 2 1
+znbrowsermanager app draw main
+znbrowsermanager app popup main
+# What the host was asked, and a call that is refused.
+znbrowsermanager app journal on
+znbrowsermanager view names
+znbrowsermanager app journal
+znbrowsermanager app journal clear
+znbrowsermanager app journal off
+znbrowsermanager app refuse znIBrowser::CreateView "no more views"
+znbrowsermanager app refuse
+znbrowsermanager view create another
+znbrowsermanager app inputfield create bicycle limit integer
+znbrowsermanager app inputfield delete bicycle limit
+znbrowsermanager app state create bicycle morning
+znbrowsermanager app state entities bicycle morning
+znbrowsermanager app state delete bicycle morning
+znbrowsermanager app help

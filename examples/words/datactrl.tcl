@@ -1,0 +1,2 @@
+znbrowsermanager datactrl names
+znbrowsermanager datactrl current bicycle

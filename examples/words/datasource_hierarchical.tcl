@@ -1,0 +1,13 @@
+znbrowsermanager datasource hierarchical create inside true true
+znbrowsermanager datasource hierarchical names
+znbrowsermanager datasource hierarchical current inside
+znbrowsermanager datasource hierarchical connect parent part all
+znbrowsermanager datasource hierarchical connect parent names
+znbrowsermanager datasource hierarchical connect child part part.above
+znbrowsermanager datasource hierarchical connect child note note.part
+znbrowsermanager datasource hierarchical connect child names
+znbrowsermanager datasource hierarchical dataitem
+znbrowsermanager datasource hierarchical disconnect note
+znbrowsermanager datasource hierarchical connected
+znbrowsermanager datasource hierarchical criteria
+znbrowsermanager datasource hierarchical property

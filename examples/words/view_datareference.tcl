@@ -1,0 +1,4 @@
+znbrowsermanager view datareference names
+znbrowsermanager view datareference connect part.above
+znbrowsermanager view datareference connected
+znbrowsermanager view datareference disconnect part.above

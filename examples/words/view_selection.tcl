@@ -1,0 +1,3 @@
+znbrowsermanager view selection single
+znbrowsermanager view selection multiple
+znbrowsermanager view selection clear

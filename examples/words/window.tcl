@@ -1,0 +1,25 @@
+znbrowsermanager window names
+znbrowsermanager window current main
+znbrowsermanager window current
+znbrowsermanager window expandall
+znbrowsermanager app draw main
+znbrowsermanager OnTkTreeRequestSelect main 2
+znbrowsermanager window collapseselected
+znbrowsermanager window expandselected
+znbrowsermanager window collapseall
+znbrowsermanager window post true
+znbrowsermanager window post
+znbrowsermanager window frame .place
+znbrowsermanager window background grey90
+znbrowsermanager window background
+znbrowsermanager window stripe true
+znbrowsermanager window stripe
+znbrowsermanager window listener connect told
+znbrowsermanager window listener names
+znbrowsermanager window listener disconnect told
+znbrowsermanager window dropitem name
+znbrowsermanager window dropitem toplevel
+znbrowsermanager window dropitem dataitemtype
+znbrowsermanager window create second
+znbrowsermanager window delete
+znbrowsermanager window names
