@@ -115,6 +115,8 @@ void ChangeRow(benchmark::State& state, const char* statement) {
     for (std::size_t i = 0; i < rows.size(); ++i) rows[i] = static_cast<std::int64_t>(i) + 1;
     items.Shown().Selected().Select(items.Block().source->GetSource(), std::move(rows));
     items.Rows().Count();
+    items.Sql(statement); // from now on it is known what changes
+    items.Rows().Count();
     for (auto _ : state) {
         state.SetIterationTime(SecondsOf([&] {
             items.Sql(statement);

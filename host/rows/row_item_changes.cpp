@@ -33,10 +33,10 @@ struct RowModel::ChangedItems {
         const Changed& changed = Of(source);
         return !changed.known || !changed.rows.empty();
     }
-    /// Whether others may lie below the items of the block now.
-    bool MayHaveMoved(const RowContent& block) {
-        return std::any_of(block.scope->links.begin(), block.scope->links.end(), [&](const RowLink& link) {
-            return link.parent == block.source && (MayHaveChanged(link.parent) || MayHaveChanged(link.child));
+    /// Whether others may lie below some items now: of that source, or of any when that is null.
+    bool MayHaveMoved(const RowScope& scope, const RowSource* source) {
+        return std::any_of(scope.links.begin(), scope.links.end(), [&](const RowLink& link) {
+            return (!source || link.parent == source) && (MayHaveChanged(link.parent) || MayHaveChanged(link.child));
         });
     }
 
@@ -60,7 +60,7 @@ bool RowModel::RefreshItems(std::uint64_t since) {
             if (part.node && part.node->expanded) open.push_back(part.node.get());
             if (!part.block || part.block->children.empty()) continue;
             changed.expandedItems += part.block->children.size();
-            if (!changed.MayHaveMoved(part.block->content)) continue;
+            if (!changed.MayHaveMoved(*part.block->content.scope, nullptr)) continue;
             if (changed.expandedItems > mostExpanded) return false;
             OpenExpanded(*part.block, ahead, open);
         }
@@ -74,7 +74,10 @@ bool RowModel::RefreshNode(RowNode& node, ChangedItems& changed) {
     if (isList && !node.content.IsNote() && node.parts.size() == 1 && node.parts.front().block)
         return TakeChanges(node, changed);
     const bool isTree = !isItem && node.content.kind == RowKind::Tree;
-    if (!isTree || changed.MayHaveChanged(node.content.scope->top)) RefreshNode(node);
+    const bool mayDiffer = isItem   ? changed.MayHaveMoved(*node.block->content.scope, node.block->content.source)
+                           : isTree ? changed.MayHaveChanged(node.content.scope->top)
+                                    : true;
+    if (mayDiffer) RefreshNode(node);
     return true;
 }
 

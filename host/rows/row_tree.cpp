@@ -252,20 +252,58 @@ void RowTree::Clear() noexcept {
     broken_ = false;
 }
 
+namespace {
+
+/// The slots of a block by their rows: where the row numbers lie close together in a list of all between the lowest
+/// and the highest one, else in a sorted list.
+class SlotsByRow {
+public:
+    explicit SlotsByRow(const RowBlock& block) {
+        if (block.rows.empty()) return;
+        const auto [lowest, highest] = std::minmax_element(block.rows.begin(), block.rows.end());
+        lowest_ = *lowest;
+        const std::uint64_t distance = Distance(*highest);
+        const bool isDense = distance / farApart <= block.rows.size();
+        if (isDense) dense_.resize(distance + 1, RowBlock::gone);
+        if (!isDense) sparse_.reserve(block.rows.size());
+        for (std::size_t i = 0; i < block.rows.size(); ++i) {
+            if (isDense) dense_[Distance(block.rows[i])] = block.SlotAt(i);
+            if (!isDense) sparse_.emplace_back(block.rows[i], block.SlotAt(i));
+        }
+        std::sort(sparse_.begin(), sparse_.end());
+    }
+    /// `RowBlock::gone` when the row is not among them.
+    std::uint32_t Of(std::int64_t row) const {
+        if (!dense_.empty()) return Distance(row) < dense_.size() ? dense_[Distance(row)] : RowBlock::gone;
+        const auto known = std::lower_bound(sparse_.begin(), sparse_.end(), std::pair(row, std::uint32_t{0}));
+        return known != sparse_.end() && known->first == row ? known->second : RowBlock::gone;
+    }
+
+private:
+    static constexpr std::uint64_t farApart = 4;
+
+    std::uint64_t Distance(std::int64_t row) const {
+        return static_cast<std::uint64_t>(row) - static_cast<std::uint64_t>(lowest_);
+    }
+
+    std::int64_t lowest_ = 0;
+    std::vector<std::uint32_t> dense_;
+    std::vector<std::pair<std::int64_t, std::uint32_t>> sparse_;
+};
+
+} // namespace
+
 void RowTree::SetRows(RowBlock& block, SharedRows rows) {
     if (rows.Get() == block.rows.Get()) {
         block.rows = std::move(rows);
         return;
     }
-    using Known = std::pair<std::int64_t, std::uint32_t>; // row, slot
-    std::vector<Known> known(block.rows.size());
-    for (std::size_t i = 0; i < known.size(); ++i) known[i] = {block.rows[i], block.SlotAt(i)};
-    std::sort(known.begin(), known.end());
+    const SlotsByRow known(block);
     std::vector<std::uint32_t> slotAt(rows.size());
     std::uint32_t slots = block.slotCount;
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        const auto old = std::lower_bound(known.begin(), known.end(), Known{rows[i], 0});
-        slotAt[i] = old != known.end() && old->first == rows[i] ? old->second : slots++;
+        const std::uint32_t old = known.Of(rows[i]);
+        slotAt[i] = old != RowBlock::gone ? old : slots++;
     }
     if (slots > block.slotCount && !TakeIndices(block, block.slotCount, slots - block.slotCount)) return;
     block.slotCount = slots;
