@@ -17,6 +17,7 @@ znbrowsermanager app refuse znIBrowser::CreateView "no more views"
 znbrowsermanager app refuse
 znbrowsermanager view create another
 znbrowsermanager app inputfield create bicycle limit integer
+znbrowsermanager app inputfield choices bicycle limit {300 500}
 znbrowsermanager app inputfield delete bicycle limit
 znbrowsermanager app state create bicycle morning
 znbrowsermanager app state entities bicycle morning

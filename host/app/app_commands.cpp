@@ -166,6 +166,8 @@ constexpr AppWord appWords[] = {
     {"glance", "DATACTRL STATEMENT ?VALUE ...?", "VALUE ...",
      "runs one SQL statement, but no longer than a tenth of a second", 2, anyNumber, Glance},
     {"help", "", "TEXT", "lists these words", 0, 0, Help},
+    {"inputfield choices", "DATACTRL NAME ?VALUES?", "VALUE ...",
+     "sets or reads what users choose from; an empty list lets them type", 2, 3, AppInputFieldChoices},
     {"inputfield create", "DATACTRL NAME TYPE", "NAME",
      "adds a user input field: bool, unsigned, integer, double or string", 3, 3, AppCreateInputField},
     {"inputfield delete", "DATACTRL NAME", "", "deletes a user input field", 2, 2, AppDeleteInputField},

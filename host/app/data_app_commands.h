@@ -10,6 +10,9 @@ class AppCall;
 int AppCreateInputField(AppCall& call);
 /// DATACTRL NAME
 int AppDeleteInputField(AppCall& call);
+/// DATACTRL NAME ?VALUES?: sets what users choose from, each a value of the field's type; none: any value
+/// again. Answers it.
+int AppInputFieldChoices(AppCall& call);
 
 } // namespace znhost
 

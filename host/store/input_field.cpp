@@ -78,7 +78,9 @@ ZNBROWSER_DATA_TYPE InputField::GetDataType() const {
 
 void InputField::SetDataType(ZNBROWSER_DATA_TYPE type) {
     if (Refused("znIBrowserInputField::SetDataType", type)) return;
-    if (type != type_) value_ = ZeroOf(type);
+    if (type == type_) return;
+    value_ = ZeroOf(type);
+    choices_.clear();
     type_ = type;
 }
 

@@ -7,7 +7,9 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <variant>
+#include <vector>
 
 namespace znhost {
 
@@ -23,6 +25,9 @@ public:
     static std::optional<ZNBROWSER_DATA_TYPE> TypeOfWord(const std::string& word);
 
     std::string Text() const override;
+    const std::vector<std::string>& Choices() const override { return choices_; }
+    /// They hold until the field has another type. Texts of values of its type, as `Text` writes them.
+    void SetChoices(std::vector<std::string> choices) { choices_ = std::move(choices); }
 
     const char* GetName() const override;
     ZNBROWSER_DATA_TYPE GetDataType() const override;
@@ -51,6 +56,7 @@ private:
     const std::string name_;
     ZNBROWSER_DATA_TYPE type_;
     Content value_;
+    std::vector<std::string> choices_;
 };
 
 } // namespace znhost

@@ -1,13 +1,13 @@
 # The dialog that asks for the values of input fields.
 #
-# What is known of dialog 2 stands in the array ::znbrowser::input2: value,N and type,N of each field, counted from 0,
-# the window's number, and `done`: what became of it. Names of fields are somebody else's: they are labels only.
+# What is known of dialog 2 stands in the array ::znbrowser::input2: value,N, type,N and choices,N of each field, counted
+# from 0, the window's number, and `done`: what became of it. Names of fields are somebody else's: they are labels only.
 
 namespace eval ::znbrowser {
     variable inputs 0 ;# how many dialogs there have been
 }
 
-# Asks the user of a window; `args` are a name, a type and a value for each field. Answers "ok" and the values; or
+# Asks the user of a window; `args` are a name, a type, a value and the choices for each field. Answers "ok" and the values; or
 # nothing, when the user does not want it or the window went.
 proc ::znbrowser::askInput {n title args} {
     variable inputs
@@ -17,7 +17,7 @@ proc ::znbrowser::askInput {n title args} {
     unpostMenu $n
     array set input [list window $n count 0 done ""]
     set dialog [makeDialog $n $d $title]
-    foreach {name type value} $args {addField $d $dialog $name $type $value}
+    foreach {name type value choices} $args {addField $d $dialog $name $type $value $choices}
     showDialog $n $d $dialog
     vwait ::znbrowser::input${d}(done)
     set answer $input(done)
@@ -56,16 +56,21 @@ proc ::znbrowser::makeDialog {n d title} {
 }
 
 # A field: its name, what takes its value, and below that why the value is refused.
-proc ::znbrowser::addField {d dialog name type value} {
+proc ::znbrowser::addField {d dialog name type value choices} {
     upvar #0 ::znbrowser::input$d input
     set place $input(count)
     incr input(count)
     set input(type,$place) $type
     set input(value,$place) $value
+    set input(choices,$place) $choices
     set variable ::znbrowser::input${d}(value,$place)
     set fields $dialog.fields
     ttk::label $fields.name$place -text [oneLine $name]
-    switch [fieldKind $type] {
+    switch [kindOf $d $place] {
+        list {
+            if {$value ni $choices} {set input(value,$place) [lindex $choices 0]}
+            ttk::combobox $fields.value$place -style Browser.TCombobox -textvariable $variable -values $choices -state readonly
+        }
         bool {
             set input(value,$place) [string is true -strict $value]
             ttk::checkbutton $fields.value$place -variable $variable -onvalue 1 -offvalue 0
@@ -86,9 +91,11 @@ proc ::znbrowser::addField {d dialog name type value} {
     grid remove $fields.why$place
 }
 
-# How a value of a type is asked for; types have the numbers of ZNBROWSER_DATA_TYPE.
-proc ::znbrowser::fieldKind {type} {
-    switch $type {
+# How a value is asked for; types have the numbers of ZNBROWSER_DATA_TYPE.
+proc ::znbrowser::kindOf {d place} {
+    upvar #0 ::znbrowser::input$d input
+    if {$input(choices,$place) ne ""} {return list}
+    switch $input(type,$place) {
         1 {return bool}
         2 - 3 - 4 {return number}
     }
@@ -128,7 +135,7 @@ proc ::znbrowser::takeInput {d} {
     set refused {}
     for {set place 0} {$place < $input(count)} {incr place} {
         set value $input(value,$place)
-        if {[fieldKind $input(type,$place)] eq "bool"} {set value [lindex {false true} $value]}
+        if {[kindOf $d $place] eq "bool"} {set value [lindex {false true} $value]}
         lappend values $value
         if {![showRefusal $d $place $value]} {lappend refused $place}
     }

@@ -27,6 +27,9 @@ proc ::znbrowser::prepareLook {} {
         -bordercolor [colour buttonLine] -lightcolor [colour paper] -darkcolor [colour paper]
     ttk::style map Search.TEntry -bordercolor [list focus [colour accent]] \
         -lightcolor [list focus [colour accent]] -darkcolor [list focus [colour accent]]
+    ttk::style configure Browser.TCombobox -selectbackground [colour paper] -selectforeground [colour text]
+    ttk::style map Browser.TCombobox -fieldbackground [list readonly [colour paper]] \
+        -bordercolor [list focus [colour accent]]
     foreach style {Tool.TButton Tool.TMenubutton} {
         ttk::style configure $style -padding {8 3} -background [colour paper] -relief flat -width 0 \
             -bordercolor [colour buttonLine] -lightcolor [colour paper] -darkcolor [colour paper]

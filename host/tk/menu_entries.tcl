@@ -14,14 +14,18 @@ namespace eval ::znbrowser {
     variable copiedRows 200000 ;# more are not copied at once
 }
 
-# An empty menu in place of the one that was there.
+# The window's menu, empty. It is kept when it closes: a new one would cost as much as its entries.
 proc ::znbrowser::newMenu {n menu} {
     upvar #0 ::znbrowser::window$n w
-    destroy $menu
+    if {[winfo exists $menu]} {
+        $menu delete 0 end
+        destroy {*}[winfo children $menu]
+    } else {
+        makeMenu $menu
+    }
     array unset w entries,*
     array unset w helps,*
     array unset w ticked,*
-    makeMenu $menu
     prepareEntries $n $menu
     return $menu
 }

@@ -272,6 +272,7 @@ bool TkWindows::AskInput(Window& window, const std::string& title, InputValues& 
         words.push_back(value.field);
         words.push_back(std::to_string(value.type));
         words.push_back(value.text);
+        words.push_back(ListText(value.choices));
     }
     const TkWork::Rest rest(work_);
     Tcl_Obj* const answer = NewText(Run(words));

@@ -5,6 +5,7 @@
 #include "host/znIBrowserDataCtrl.h"
 #include "model/readable_field.h"
 
+#include <algorithm>
 #include <limits>
 #include <tcl.h>
 
@@ -79,6 +80,14 @@ std::string WhyNoValue(ZNBROWSER_DATA_TYPE type, const std::string& text) {
     }
 }
 
+std::string WhyNoValue(const InputValue& value) {
+    const std::string reason = WhyNoValue(value.type, value.text);
+    if (!reason.empty() || value.choices.empty()) return reason;
+    const bool isChoice =
+        std::find(value.choices.begin(), value.choices.end(), value.text) != value.choices.end();
+    return isChoice ? "" : "it must be one of the list";
+}
+
 znIBrowserInputField* FindField(CallLog& log, znIBrowserDataCtrl* control, const std::string& name) {
     const CallLog::Quiet quiet(log);
     return control ? control->FindInputField(name.c_str()) : nullptr;
@@ -86,7 +95,8 @@ znIBrowserInputField* FindField(CallLog& log, znIBrowserDataCtrl* control, const
 
 InputValue ReadField(CallLog& log, znIBrowserInputField& field) {
     const CallLog::Quiet quiet(log);
-    return {TextOf(field.GetName()), field.GetDataType(), static_cast<ReadableField&>(field).Text()};
+    const auto& readable = static_cast<ReadableField&>(field);
+    return {TextOf(field.GetName()), field.GetDataType(), readable.Text(), readable.Choices()};
 }
 
 bool WriteField(CallLog& log, znIBrowserInputField& field, const InputValue& value) {

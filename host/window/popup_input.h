@@ -19,11 +19,14 @@ struct InputValue {
     std::string field;
     ZNBROWSER_DATA_TYPE type = ZNBROWSER_DATA_UNDEFINED;
     std::string text;
+    std::vector<std::string> choices; ///< what it must be one of; empty for any value of its type
 };
 using InputValues = std::vector<InputValue>;
 
 /// Why a text is no value of that type: "" when it is one. Numbers and booleans are read as Tcl does.
 std::string WhyNoValue(ZNBROWSER_DATA_TYPE type, const std::string& text);
+/// The same for a value that may have to be one of several.
+std::string WhyNoValue(const InputValue& value);
 
 /// The field of that name; null when there is none. The call is not recorded.
 znIBrowserInputField* FindField(CallLog& log, znIBrowserDataCtrl* control, const std::string& name);

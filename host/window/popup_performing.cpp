@@ -186,7 +186,7 @@ bool Performing::TakeInput() {
     calledOff_ = !AskUser(values) || IsGone();
     if (calledOff_) return true;
     for (const InputValue& value : values) {
-        const std::string reason = WhyNoValue(value.type, value.text);
+        const std::string reason = WhyNoValue(value);
         if (!reason.empty())
             return Fail("got \"" + value.text + "\" for the input field \"" + value.field + "\": " + reason);
         calledOff_ = calledOff_ || !find(value.field);

@@ -31,15 +31,13 @@ public:
     /// not open.
     virtual void Close(Window& window) = 0;
     /// The popup menu that is open in the window is not to be used any more.
-    virtual void ClosePopup(Window& /*window*/) {}
+    virtual void ClosePopup(Window& window) = 0;
     /// Asks the user of a posted window for values, and waits. Everything may have been deleted when he
-    /// answers. The values shown first are those given, and texts that `WhyNoValue` has a reason against are
+    /// answers. The values shown first are those given, and values that `WhyNoValue` has a reason against are
     /// not taken.
     /// @param title  what the values are for
     /// @return false when the user does not want it
-    virtual bool AskInput(Window& /*window*/, const std::string& /*title*/, InputValues& /*values*/) {
-        return true;
-    }
+    virtual bool AskInput(Window& window, const std::string& title, InputValues& values) = 0;
     /// How many windows stand on the screen.
     virtual std::size_t OpenWindows() const = 0;
 

@@ -39,7 +39,8 @@ public:
              "zn datasource hierarchical connect child assembly assembly.parent\n"
              "zn datasource hierarchical connect child part part.owner\n"
              "zn view create v false; zn view datactrl connect; zn view folder current v\n"
-             "zn view property create number; zn view property type integer; zn view property connect part id\n"
+             "zn view property create number; zn view property type integer; zn view property connect part "
+             "id\n"
              "foreach {folder kind what} {structure tree tree parts list part stamps list stamp} {\n"
              "  zn view folder current v; zn view folder create $folder; zn view $kind create $what}\n"
              "zn window create W1; zn window create W2");
