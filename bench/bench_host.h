@@ -60,10 +60,10 @@ double SecondsOf(Work&& work) {
     return now() - start;
 }
 
-/// Runs `work`, which tells the seconds it took, once for each iteration, but for small sizes as often as makes
-/// their elements as many as the largest size has: so what else the machine does meanwhile lengthens all
-/// measurements alike. The time per element, of the shortest run, is the counter "ns_per_element"; how it grows
-/// from size to size is told where the results are read.
+/// Runs `work`, which tells the seconds it took, once for each iteration, but for small sizes as often as
+/// makes their elements as many as the largest size has: so what else the machine does meanwhile lengthens
+/// all measurements alike. The time per element, of the shortest run, is the counter "ns_per_element"; how it
+/// grows from size to size is told where the results are read.
 template <class Work>
 void MeasureElements(benchmark::State& state, std::int64_t most, Work&& work) {
     const std::int64_t elements = state.range(0);

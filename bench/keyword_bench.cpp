@@ -1,5 +1,5 @@
-// Keyword lookup, by the words that scripts use and by words that are no keywords, beside a perfect hash of the
-// same words: what a lookup must take.
+// Keyword lookup, by the words that scripts use and by words that are no keywords, beside a perfect hash of
+// the same words: what a lookup must take.
 #include "znBrowserTclKeywords.h"
 
 #include "frame/keyword_table.h"

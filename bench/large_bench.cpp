@@ -1,5 +1,5 @@
-// What windows cost where there is much of something: ten million rows, hundreds of columns, long texts, a thousand
-// windows; and what a change of one row costs among many.
+// What windows cost where there is much of something: ten million rows, hundreds of columns, long texts, a
+// thousand windows; and what a change of one row costs among many.
 #include "bench/bench_host.h"
 #include "bench/bench_items.h"
 
@@ -25,15 +25,20 @@ class Listed : public BenchHost {
 public:
     Listed(const std::string& table, const std::string& fill, const std::string& columns) {
         Eval("zn app datactrl create model; zn datactrl current model\n"
-             "zn app sql model {" + table + "}; zn app sql model {" + fill + "}\n"
+             "zn app sql model {" +
+             table + "}; zn app sql model {" + fill +
+             "}\n"
              "zn view create v false; zn view datactrl connect; zn view folder current v\n"
-             "foreach {property type} {" + columns + "} {\n"
+             "foreach {property type} {" +
+             columns +
+             "} {\n"
              "  zn view property create $property; zn view property type $type\n"
              "  zn view property connect item $property; zn view column create $property}\n"
              "zn view folder current v; zn view list create item; zn window create w");
     }
     static std::string Numbers(std::int64_t count) {
-        return "with recursive n(i) as (select 1 union all select i + 1 from n where i < " + std::to_string(count) + ") ";
+        return "with recursive n(i) as (select 1 union all select i + 1 from n where i < " +
+               std::to_string(count) + ") ";
     }
     RowModel& Rows() { return Host().App().Model().Windows().All().First()->Rows(); }
     View& Shown() { return *Host().App().Model().Views().First(); }
@@ -60,7 +65,8 @@ public:
 private:
     explicit Numbered(std::int64_t count)
         : Listed("create table item (id integer primary key, number integer)",
-                 "insert into item " + Numbers(count) + "select i, i * 7919 % " + std::to_string(count) + " from n",
+                 "insert into item " + Numbers(count) + "select i, i * 7919 % " + std::to_string(count) +
+                     " from n",
                  "id integer number integer") {
         if (count <= 1000000) Eval("zn app sql model {create index by_number on item (number)}");
         Expand();
@@ -126,7 +132,9 @@ void ChangeRow(benchmark::State& state, const char* statement) {
     items.Shown().Selected().Clear();
 }
 
-void UpdateRow(benchmark::State& state) { ChangeRow(state, "update item set weight = weight + 1 where id = 5000"); }
+void UpdateRow(benchmark::State& state) {
+    ChangeRow(state, "update item set weight = weight + 1 where id = 5000");
+}
 /// A new one at the end, the one before it goes.
 void ReplaceRow(benchmark::State& state) {
     ChangeRow(state, "update item set id = id + 1 where id = (select max(id) from item)");
@@ -142,9 +150,10 @@ void WidePage(benchmark::State& state) {
             columns += ", c" + std::to_string(i) + " text";
             values += ", 'text ' || i";
         }
-        listed = std::make_unique<Listed>("create table item (id integer primary key, name text" + columns + ")",
-                                          "insert into item " + Listed::Numbers(10000) + "select i, 'item ' || i" + values + " from n",
-                                          "c0 string c1 string c2 string");
+        listed = std::make_unique<Listed>(
+            "create table item (id integer primary key, name text" + columns + ")",
+            "insert into item " + Listed::Numbers(10000) + "select i, 'item ' || i" + values + " from n",
+            "c0 string c1 string c2 string");
         listed->Expand();
     }
     std::mt19937 random(1);
@@ -158,7 +167,8 @@ void LongPage(benchmark::State& state) {
     std::unique_ptr<Listed>& listed = all[state.range(0)];
     if (!listed) {
         listed = std::make_unique<Listed>("create table item (id integer primary key, name text, body text)",
-                                          "insert into item " + Listed::Numbers(100) + "select i, 'item ' || i, printf('%." +
+                                          "insert into item " + Listed::Numbers(100) +
+                                              "select i, 'item ' || i, printf('%." +
                                               std::to_string(state.range(0)) + "c', 'x') from n",
                                           "body string");
         listed->Expand();
@@ -179,7 +189,8 @@ void Windows(benchmark::State& state) {
             if (rows.Count() != 1000001) std::abort();
         }
         state.counters["MiB"] = UsedMebibytes() - before;
-        items.Eval("foreach name [zn window names] {if {$name ne {w}} {zn window current $name; zn window delete}}");
+        items.Eval(
+            "foreach name [zn window names] {if {$name ne {w}} {zn window current $name; zn window delete}}");
     }
 }
 
@@ -195,17 +206,36 @@ void AppDraw(benchmark::State& state) { AllRows(state, "draw"); }
 
 constexpr std::int64_t million = 1000000;
 
-BENCHMARK(OpenList)->Arg(million)->Arg(10 * million)->Iterations(1)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(OpenList)
+    ->Arg(million)
+    ->Arg(10 * million)
+    ->Iterations(1)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(PageOfList)->Arg(10000)->Arg(million)->Arg(10 * million)->Unit(benchmark::kMicrosecond);
 BENCHMARK(PageAtEnd)->Arg(10 * million)->Unit(benchmark::kMicrosecond);
-BENCHMARK(SortByKey)->Arg(million)->Arg(10 * million)->Iterations(2)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(SortByKey)
+    ->Arg(million)
+    ->Arg(10 * million)
+    ->Iterations(2)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(SortByIndex)->Arg(million)->Iterations(2)->UseManualTime()->Unit(benchmark::kMillisecond);
-BENCHMARK(UpdateRow)->Arg(10000)->Arg(100000)->Arg(million)->Iterations(20)->UseManualTime()->Unit(benchmark::kMicrosecond);
-BENCHMARK(ReplaceRow)->Arg(10000)->Arg(100000)->Arg(million)->Iterations(20)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(UpdateRow)->Arg(10000)->Arg(100000)->Arg(million)->Iterations(20)->UseManualTime()->Unit(
+    benchmark::kMicrosecond);
+BENCHMARK(ReplaceRow)
+    ->Arg(10000)
+    ->Arg(100000)
+    ->Arg(million)
+    ->Iterations(20)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
 BENCHMARK(WidePage)->Arg(3)->Arg(300)->Unit(benchmark::kMicrosecond);
 BENCHMARK(LongPage)->Arg(10)->Arg(1 << 20)->Unit(benchmark::kMicrosecond);
 BENCHMARK(Windows)->Arg(1)->Arg(1000)->Iterations(1)->Unit(benchmark::kMillisecond);
-BENCHMARK(AppRows)->Arg(1000)->Arg(10000)->Arg(100000)->Iterations(1)->UseManualTime()->Unit(benchmark::kMillisecond);
-BENCHMARK(AppDraw)->Arg(1000)->Arg(10000)->Arg(100000)->Iterations(1)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(AppRows)->Arg(1000)->Arg(10000)->Arg(100000)->Iterations(1)->UseManualTime()->Unit(
+    benchmark::kMillisecond);
+BENCHMARK(AppDraw)->Arg(1000)->Arg(10000)->Arg(100000)->Iterations(1)->UseManualTime()->Unit(
+    benchmark::kMillisecond);
 
 } // namespace

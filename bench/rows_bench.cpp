@@ -44,8 +44,8 @@ void PageByKey(benchmark::State& state) {
     const std::string fill = Items::tables[0] + (";" + Items::ItemsSql(count));
     if (sqlite3_open(":memory:", &database) != SQLITE_OK ||
         sqlite3_exec(database, fill.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK ||
-        sqlite3_prepare_v2(database, "SELECT name, name, weight, shown FROM item WHERE id = ?", -1, &statement,
-                           nullptr) != SQLITE_OK)
+        sqlite3_prepare_v2(database, "SELECT name, name, weight, shown FROM item WHERE id = ?", -1,
+                           &statement, nullptr) != SQLITE_OK)
         std::abort();
     std::mt19937 random(1);
     std::uniform_int_distribution<std::int64_t> place(1, state.range(0) - 50);
@@ -99,9 +99,8 @@ void SelectRows(benchmark::State& state) {
     for (std::int64_t i = 0; i < state.range(0); ++i)
         indices += " " + std::to_string(first + i * 7919 % 1000000);
     items.Eval("set event [list znbrowsermanager OnTkTreeRequestSelectionUpdate w" + indices + "]");
-    zn_bench::MeasureElements(state, 100000, [&items] {
-        return zn_bench::SecondsOf([&items] { items.Eval("{*}$event"); });
-    });
+    zn_bench::MeasureElements(
+        state, 100000, [&items] { return zn_bench::SecondsOf([&items] { items.Eval("{*}$event"); }); });
     items.Eval("zn view selection clear");
 }
 

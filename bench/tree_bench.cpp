@@ -1,5 +1,5 @@
-// What trees cost: expanding and collapsing all of them, and restoring what was expanded. The elements are the
-// containers.
+// What trees cost: expanding and collapsing all of them, and restoring what was expanded. The elements are
+// the containers.
 #include "bench/bench_host.h"
 #include "window/window_list.h"
 
@@ -14,7 +14,8 @@ using zn_bench::BenchHost;
 using zn_bench::MeasureElements;
 using zn_bench::SecondsOf;
 
-/// A window on parts, each of the first half with two others below it, and on as many items with one part each.
+/// A window on parts, each of the first half with two others below it, and on as many items with one part
+/// each.
 class Trees : public BenchHost {
 public:
     static Trees& Of(std::int64_t containers) {
@@ -38,14 +39,16 @@ private:
              "  {create table part (id integer primary key, part_id integer references part, name text)}\n"
              "  {create table item (id integer primary key, name text)}\n"
              "  {create table detail (id integer primary key, item_id integer references item, name text)}\n"
-             "  {insert into part with recursive n(i) as (select 1 union all select i + 1 from n where i <= 2 * " +
+             "  {insert into part with recursive n(i) as (select 1 union all select i + 1 from n where i <= "
+             "2 * " +
              half +
              ")\n   select i, nullif(i / 2, 0), 'part ' || i from n}\n"
              "  {insert into item select id, 'item ' || id from part where id <= " +
              half +
              "}\n"
              "  {insert into detail select id, id, 'detail' from item}\n"
-             "  {create index part_by_part on part (part_id)} {create index detail_by_item on detail (item_id)}\n"
+             "  {create index part_by_part on part (part_id)} {create index detail_by_item on detail "
+             "(item_id)}\n"
              "} {zn app sql model $statement}\n"
              "zn view create v false; zn view datactrl connect; zn view folder current v\n"
              "zn datasource hierarchical create parts true false\n"
@@ -126,7 +129,8 @@ void RefreshExpanded(benchmark::State& state) {
 }
 
 void Sizes(benchmark::internal::Benchmark* benchmark) {
-    benchmark->Arg(10000)->Arg(100000)->Arg(1000000)->Iterations(1)->UseManualTime()->Unit(benchmark::kMillisecond);
+    benchmark->Arg(10000)->Arg(100000)->Arg(1000000)->Iterations(1)->UseManualTime()->Unit(
+        benchmark::kMillisecond);
 }
 
 BENCHMARK(ExpandAll)->Apply(Sizes);

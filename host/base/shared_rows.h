@@ -47,9 +47,9 @@ public:
     SharedRows Share(SharedRows::Rows&& rows) {
         SharedRows shared(std::move(rows));
         if (shared.size() < longEnough) return shared;
-        lists_.erase(std::remove_if(lists_.begin(), lists_.end(),
-                                    [](const auto& list) { return list.expired(); }),
-                     lists_.end());
+        lists_.erase(
+            std::remove_if(lists_.begin(), lists_.end(), [](const auto& list) { return list.expired(); }),
+            lists_.end());
         for (const std::weak_ptr<SharedRows::Rows>& list : lists_) {
             const std::shared_ptr<SharedRows::Rows> known = list.lock();
             if (*known != *shared.rows_) continue;

@@ -80,7 +80,8 @@ void ItemSets::Forget(Source* source, const RowSet& rows) {
     if (Of(source)) Combine(source, [&rows](RowSet& own) { own.Remove(rows); });
 }
 
-std::vector<RowSet::Row> MissingOf(znIBrowserDataSourceSimple* source, const RowSet& rows, std::uint64_t since) {
+std::vector<RowSet::Row> MissingOf(znIBrowserDataSourceSimple* source, const RowSet& rows,
+                                   std::uint64_t since) {
     RowSource& items = *GetRowSource(source);
     std::vector<RowSet::Row> changed;
     if (since == 0 || !items.ChangedRows(since, changed)) return items.Missing(rows.ToVector());

@@ -52,8 +52,10 @@ private:
     Sets sets_;
 };
 
-/// Those of a source's rows that do not exist any more. All did at that moment of `ChangeCount`; 0: perhaps not.
-std::vector<RowSet::Row> MissingOf(znIBrowserDataSourceSimple* source, const RowSet& rows, std::uint64_t since);
+/// Those of a source's rows that do not exist any more. All did at that moment of `ChangeCount`; 0: perhaps
+/// not.
+std::vector<RowSet::Row> MissingOf(znIBrowserDataSourceSimple* source, const RowSet& rows,
+                                   std::uint64_t since);
 
 } // namespace znhost
 

@@ -103,9 +103,9 @@ public:
 
     /// Replaces what `rows` holds by the rows of `query`, in order: one pass, nothing else is kept.
     virtual void List(const RowQuery& query, std::vector<std::int64_t>& rows) = 0;
-    /// The same for many items at once: replaces what `groups` holds by the children of each of `parents` along
-    /// the link, in that order, by a statement for thousands of them. The order's property is a stored one.
-    /// False when the database failed.
+    /// The same for many items at once: replaces what `groups` holds by the children of each of `parents`
+    /// along the link, in that order, by a statement for thousands of them. The order's property is a stored
+    /// one. False when the database failed.
     virtual bool ListBelow(const RowLink& link, const std::vector<std::int64_t>& parents,
                            const RowOrder& order, RowGroups& groups) = 0;
     /// How many rows `List` would give.
@@ -127,11 +127,11 @@ public:
     /// Whether the source has more rows than that; no more are looked at.
     virtual bool HasMoreThan(std::size_t count) = 0;
 
-    /// Replaces what `rows` holds by the rows that came, went or changed since that moment of `ChangeCount`, a
-    /// few of them. False when it is not known which those are.
+    /// Replaces what `rows` holds by the rows that came, went or changed since that moment of `ChangeCount`,
+    /// a few of them. False when it is not known which those are.
     virtual bool ChangedRows(std::uint64_t since, std::vector<std::int64_t>& rows) = 0;
-    /// Puts some rows of the source into that order, by stored values. False when the source's own order is not
-    /// that of the row numbers, or the database failed.
+    /// Puts some rows of the source into that order, by stored values. False when the source's own order is
+    /// not that of the row numbers, or the database failed.
     virtual bool SortRows(const RowOrder& order, std::vector<std::int64_t>& rows) = 0;
     /// How far the rows are numbered now.
     virtual RowMark Mark() = 0;

@@ -225,7 +225,8 @@ private:
     int telling_ = 0;
     unsigned heldBack_ = 0;
     bool mayMissItems_ = false; ///< Selected and collected items may not exist any more.
-    std::uint64_t itemsSeen_ = 0; ///< When they were last looked at, as `ChangeCount` tells; 0: any may be missing.
+    std::uint64_t itemsSeen_ =
+        0; ///< When they were last looked at, as `ChangeCount` tells; 0: any may be missing.
     RowLists rowLists_;
 };
 

@@ -17,7 +17,8 @@ enum ViewChange : unsigned {
     VIEW_CELLS = 4,      ///< What cells show: properties, connections, styles, fonts.
     VIEW_SELECTION = 8,  ///< What is selected.
     VIEW_COLLECTED = 16, ///< What is collected.
-    VIEW_ITEMS = 32,     ///< Some items: the data sources know which, they are all else that came, went or changed.
+    VIEW_ITEMS =
+        32, ///< Some items: the data sources know which, they are all else that came, went or changed.
     VIEW_ALL = 63
 };
 

@@ -1,6 +1,6 @@
 // The selection of a view, its sorting and its filters.
-#include "base/services.h"
 #include "base/change_count.h"
+#include "base/services.h"
 #include "host/znBrowserDataItems.h"
 #include "model/browser.h"
 #include "model/data_sources.h"
@@ -26,8 +26,10 @@ void View::ForgetMissingItems() {
     mayMissItems_ = false; // first: a change of the selection is told at once
     const std::uint64_t since = std::exchange(itemsSeen_, ChangeCount::Now());
     try {
-        selection_.Forget([since](auto* source, const RowSet& rows) { return MissingOf(source, rows, since); });
-        if (collector_.LookAgain(browser_.Services().Trouble(), since)) heldBack_ |= VIEW_ROWS | VIEW_COLLECTED;
+        selection_.Forget(
+            [since](auto* source, const RowSet& rows) { return MissingOf(source, rows, since); });
+        if (collector_.LookAgain(browser_.Services().Trouble(), since))
+            heldBack_ |= VIEW_ROWS | VIEW_COLLECTED;
     } catch (...) {
         mayMissItems_ = true;
         itemsSeen_ = 0;

@@ -17,13 +17,13 @@
 
 namespace znhost {
 
-/// The children of many items, which are wanted one after the other: they are read by a statement for thousands of
-/// them, together with those of items that will be asked about next. As long as one lives the data are taken not to
-/// change.
+/// The children of many items, which are wanted one after the other: they are read by a statement for
+/// thousands of them, together with those of items that will be asked about next. As long as one lives the
+/// data are taken not to change.
 class RowAhead {
 public:
-    /// The order in which children along a link are shown below a block; nothing when it takes more than a look at
-    /// the database.
+    /// The order in which children along a link are shown below a block; nothing when it takes more than a
+    /// look at the database.
     using OrderBelow = std::function<std::optional<RowOrder>(const RowContent& block, const RowLink& link)>;
 
     /// @param descends  what has been read will be asked about, too: all that lies below is wanted
@@ -31,8 +31,8 @@ public:
 
     /// These items of the block will be asked about.
     void Expect(const RowContent& block, const std::vector<std::int64_t>& rows);
-    /// The children of an item of the block along a link of its scope. Nothing when they cannot be read in this
-    /// way.
+    /// The children of an item of the block along a link of its scope. Nothing when they cannot be read in
+    /// this way.
     std::optional<std::span<const std::int64_t>> Below(const RowContent& block, const RowLink& link,
                                                        std::int64_t parent);
 

@@ -51,7 +51,8 @@ bool RowModel::ListBelow(RowNode& node, std::vector<Listed>& all) {
     for (RowContent& content :
          node.block ? plan_.Below(row.Content(), row.Number()) : plan_.Below(node.content)) {
         Listed listed{std::move(content), {}, {}};
-        if (listed.content.kind == RowKind::Item) listed.rows = view_->Lists().Share(plan_.List(listed.content));
+        if (listed.content.kind == RowKind::Item)
+            listed.rows = view_->Lists().Share(plan_.List(listed.content));
         if (stopped_) return false;
         if (listed.content.kind == RowKind::Item && whole.Seen()) listed.problem = whole.Text();
         all.push_back(std::move(listed));

@@ -36,7 +36,8 @@ struct RowModel::ChangedItems {
     /// Whether others may lie below some items now: of that source, or of any when that is null.
     bool MayHaveMoved(const RowScope& scope, const RowSource* source) {
         return std::any_of(scope.links.begin(), scope.links.end(), [&](const RowLink& link) {
-            return (!source || link.parent == source) && (MayHaveChanged(link.parent) || MayHaveChanged(link.child));
+            return (!source || link.parent == source) &&
+                   (MayHaveChanged(link.parent) || MayHaveChanged(link.child));
         });
     }
 
@@ -48,7 +49,8 @@ struct RowModel::ChangedItems {
 /// False when all that is expanded must be listed anew. What has been done by then does no harm.
 bool RowModel::RefreshItems(std::uint64_t since) {
     RowNode& root = tree_.Root();
-    if (!root.expanded || !view_->Filter().pattern.empty() || !view_->Collector().Display().ShowsAll()) return false;
+    if (!root.expanded || !view_->Filter().pattern.empty() || !view_->Collector().Display().ShowsAll())
+        return false;
     ChangedItems changed(since);
     RowPlan::Ahead ahead(plan_, false);
     std::vector<RowNode*> open{&root};
@@ -74,7 +76,8 @@ bool RowModel::RefreshNode(RowNode& node, ChangedItems& changed) {
     if (isList && !node.content.IsNote() && node.parts.size() == 1 && node.parts.front().block)
         return TakeChanges(node, changed);
     const bool isTree = !isItem && node.content.kind == RowKind::Tree;
-    const bool mayDiffer = isItem   ? changed.MayHaveMoved(*node.block->content.scope, node.block->content.source)
+    const bool mayDiffer = isItem
+                               ? changed.MayHaveMoved(*node.block->content.scope, node.block->content.source)
                            : isTree ? changed.MayHaveChanged(node.content.scope->top)
                                     : true;
     if (mayDiffer) RefreshNode(node);
@@ -122,9 +125,10 @@ bool RowModel::TakeChange(RowBlock& block, const RowOrder& order, std::int64_t r
         tree_.RemoveRow(block, place);
         return true;
     }
-    const auto behind = order.sorted ? std::partition_point(rows.begin(), rows.end(), [&](std::int64_t other) {
-        return comesBefore(other, row);
-    }) : known;
+    const auto behind =
+        order.sorted ? std::partition_point(rows.begin(), rows.end(),
+                                            [&](std::int64_t other) { return comesBefore(other, row); })
+                     : known;
     if (failed) return false;
     tree_.InsertRow(block, static_cast<std::uint32_t>(behind - rows.begin()), row);
     return true;

@@ -263,9 +263,8 @@ void RowPlan::Filter(RowScope& scope, const std::vector<RowSource*>& tops, const
 // ---- Rows ----
 
 RowPlan::Ahead::Ahead(RowPlan& plan, bool descends)
-    : plan_(plan),
-      ahead_(descends, [&plan](const RowContent& block,
-                               const RowLink& link) { return plan.OrderBelow(block, link); }),
+    : plan_(plan), ahead_(descends, [&plan](const RowContent& block,
+                                            const RowLink& link) { return plan.OrderBelow(block, link); }),
       outer_(plan.ahead_) {
     if (!outer_) plan.ahead_ = &ahead_;
 }

@@ -47,7 +47,8 @@ public:
         display_.reset();
     }
 
-    /// While one lives the children of many items are wanted, and read together. Of several the outermost counts.
+    /// While one lives the children of many items are wanted, and read together. Of several the outermost
+    /// counts.
     class Ahead {
     public:
         /// @param descends  all that lies below is wanted

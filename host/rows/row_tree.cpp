@@ -254,8 +254,8 @@ void RowTree::Clear() noexcept {
 
 namespace {
 
-/// The slots of a block by their rows: where the row numbers lie close together in a list of all between the lowest
-/// and the highest one, else in a sorted list.
+/// The slots of a block by their rows: where the row numbers lie close together in a list of all between the
+/// lowest and the highest one, else in a sorted list.
 class SlotsByRow {
 public:
     explicit SlotsByRow(const RowBlock& block) {

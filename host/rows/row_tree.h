@@ -158,8 +158,8 @@ public:
     void Collapse(RowNode& node) noexcept;
     /// Replaces the rows of a block: those that stay keep their Tk indices and what lies below them.
     void SetRows(RowBlock& block, SharedRows rows);
-    /// Puts one row more at that position of a block. Of a long block the numbers behind it are moved, no more.
-    /// Not while changes are not counted.
+    /// Puts one row more at that position of a block. Of a long block the numbers behind it are moved, no
+    /// more. Not while changes are not counted.
     void InsertRow(RowBlock& block, std::uint32_t position, std::int64_t row);
     /// Takes one of several rows out of a block.
     void RemoveRow(RowBlock& block, std::uint32_t position);

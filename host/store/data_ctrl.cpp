@@ -60,7 +60,8 @@ void DataCtrl::ItemsChanged() {
 void DataCtrl::RowsChanged() {
     Database::Stamp now;
     std::string ignored;
-    const bool known = database_->ReadStamp(now, ignored) && now.SameTables(told_) && now.foreign == told_.foreign;
+    const bool known =
+        database_->ReadStamp(now, ignored) && now.SameTables(told_) && now.foreign == told_.foreign;
     told_ = now;
     if (!known) return ItemsChanged();
     indexes_.Clear();

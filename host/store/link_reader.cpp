@@ -57,8 +57,7 @@ std::string PairsSql(const LinkJoint& joint) {
 bool IsRowNumber(const LinkJoint& joint, LinkEnd end) {
     const Table& table = *joint.part[end].table;
     const std::vector<std::string>& columns = joint.columns[end];
-    return table.rowidColumn && columns.size() == 1 &&
-           table.FindColumn(columns.front()) == table.rowidColumn;
+    return table.rowidColumn && columns.size() == 1 && table.FindColumn(columns.front()) == table.rowidColumn;
 }
 
 /// The rows below those given, each by its place among them; in the order of the places.
@@ -175,8 +174,8 @@ std::string LinkReader::RelatedSql(const LinkJoint& joint, LinkEnd end) const {
     const std::vector<std::string>& columns = joint.columns[otherEnd];
     const std::string value =
         "(SELECT " + Columns(columns) + " FROM " + from.From() + " WHERE " + from.table->key + " = ?)";
-    return to.Select({}, Operand(joint.columns[end]) + " = " + (IsRowNumber(joint, otherEnd) ? "?" : value)) + " ORDER BY " +
-           to.table->key;
+    return to.Select({}, Operand(joint.columns[end]) + " = " + (IsRowNumber(joint, otherEnd) ? "?" : value)) +
+           " ORDER BY " + to.table->key;
 }
 
 bool LinkReader::RelatedBySql(LinkEnd end, std::int64_t other, Rows& rows, bool firstOnly) {
@@ -280,7 +279,8 @@ bool LinkReader::Children(const Rows& parents, RowGroups& groups) {
         groups.rows.push_back(row.second);
         groups.ends[row.first] = groups.rows.size();
     }
-    for (std::size_t i = 1; i < parents.size(); ++i) groups.ends[i] = std::max(groups.ends[i], groups.ends[i - 1]);
+    for (std::size_t i = 1; i < parents.size(); ++i)
+        groups.ends[i] = std::max(groups.ends[i], groups.ends[i - 1]);
     return true;
 }
 

@@ -17,8 +17,8 @@ constexpr std::size_t mostEntries = 256;
 } // namespace
 
 RowJournal::RowJournal(sqlite3* connection) : connection_(connection), forgotten_(ChangeCount::Now()) {
-    const auto note = [](void* self, sqlite3*, int, const char* database, const char* table, sqlite3_int64 before,
-                         sqlite3_int64 after) {
+    const auto note = [](void* self, sqlite3*, int, const char* database, const char* table,
+                         sqlite3_int64 before, sqlite3_int64 after) {
         RowJournal& journal = *static_cast<RowJournal*>(self);
         journal.Note(database, table, before);
         if (after != before) journal.Note(database, table, after);

@@ -13,8 +13,8 @@ struct sqlite3;
 
 namespace znhost {
 
-/// The rows that were changed of late through a connection, each with the number of its change. When there are too
-/// many, or others changed something, that is forgotten: what changed is not known then.
+/// The rows that were changed of late through a connection, each with the number of its change. When there
+/// are too many, or others changed something, that is forgotten: what changed is not known then.
 class RowJournal {
 public:
     explicit RowJournal(sqlite3* connection);
@@ -24,7 +24,8 @@ public:
 
     /// Forgets: anything may have changed.
     void Forget() noexcept;
-    /// Appends the rows of the table that came, went or changed since that change. False when that is not known.
+    /// Appends the rows of the table that came, went or changed since that change. False when that is not
+    /// known.
     bool Read(std::uint64_t since, std::string_view table, std::vector<std::int64_t>& rows) const;
     /// Whether nothing changed since.
     bool IsQuiet(std::uint64_t since) const;

@@ -154,29 +154,29 @@ bool RowLister::IsWhole(const RowPart& part) const {
     return fields_.empty() && part.condition.empty() && !part.table->copied;
 }
 
-/// Where the rows of a whole table are numbered without a gap they need not be looked at. @return false, and `rows`
-/// is as it was, when they are not, or the database failed
+/// Where the rows of a whole table are numbered without a gap they need not be looked at. @return false, and
+/// `rows` is as it was, when they are not, or the database failed
 bool RowLister::CountUp(const RowPart& part, std::vector<std::int64_t>& rows) {
     const auto ask = [&part](const std::string& what) {
         return "(SELECT " + what + " FROM " + part.From() + ")";
     };
     const std::string& key = part.table->key;
     // Each by itself: so the database counts without looking at rows.
-    Statement statement = source_.Control().Db().Prepare("SELECT " + ask("COUNT(*)") + ", " +
-                                                         ask("MIN(" + key + ")") + ", " +
-                                                         ask("MAX(" + key + ")"));
+    Statement statement = source_.Control().Db().Prepare(
+        "SELECT " + ask("COUNT(*)") + ", " + ask("MIN(" + key + ")") + ", " + ask("MAX(" + key + ")"));
     if (!statement.Next()) return false;
     const std::int64_t count = statement.Integer(0);
     const std::int64_t first = statement.Integer(1);
-    const auto distance = static_cast<std::uint64_t>(statement.Integer(2)) - static_cast<std::uint64_t>(first);
+    const auto distance =
+        static_cast<std::uint64_t>(statement.Integer(2)) - static_cast<std::uint64_t>(first);
     if (count < 1 || distance != static_cast<std::uint64_t>(count) - 1) return false;
     rows.reserve(rows.size() + static_cast<std::size_t>(count));
     for (std::int64_t i = 0; i < count; ++i) rows.push_back(source_.RowOf({part.slot, first + i}));
     return true;
 }
 
-/// Sorted rows are read by an index of their column, where there is one: it holds all that is needed, and often has
-/// them in order. Others are read as they stand.
+/// Sorted rows are read by an index of their column, where there is one: it holds all that is needed, and
+/// often has them in order. Others are read as they stand.
 std::string RowLister::OrderFor(const RowPart& part, const PartReading& reading) {
     const std::string own = " ORDER BY " + part.table->key;
     if (!IsSorted() || !byNumber_ || fields_.size() != 1 || reading.places.back() == noPlace) return own;
@@ -340,7 +340,8 @@ bool RowLister::ReadKeys(const std::vector<std::int64_t>& rows) {
         }
         Statement statement = source_.Control().Db().Prepare(
             "SELECT given.key, c.value FROM json_each(?) AS given CROSS JOIN (SELECT " + part.table->key +
-            " AS item" + reading.columns + " AS value FROM " + part.From() + ") AS c ON c.item = given.value");
+            " AS item" + reading.columns + " AS value FROM " + part.From() +
+            ") AS c ON c.item = given.value");
         statement.Bind(1, given + "]");
         while (statement.Next())
             values[static_cast<std::size_t>(statement.Integer(0))] = CellOf(fields_.back(), statement, 1);

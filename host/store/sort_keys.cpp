@@ -87,14 +87,14 @@ int SortKeys::Compare(const Key& a, const Key& b) const {
     return a.kind == Integer ? CompareNumbers(integer(a), real(b)) : -CompareNumbers(integer(b), real(a));
 }
 
-/// What an index gave is in order already: then it is in the opposite one now, rows of equal keys as they were.
+/// What an index gave is in order already: then it is in the opposite one now, rows of equal keys as they
+/// were.
 void SortKeys::Reverse(std::vector<Entry>& entries) const {
     if (Compare(entries.front().key, entries.back().key) >= 0) return;
     std::reverse(entries.begin(), entries.end());
     for (auto first = entries.begin(); first != entries.end();) {
-        const auto last = std::find_if(first, entries.end(), [&](const Entry& entry) {
-            return Compare(entry.key, first->key) != 0;
-        });
+        const auto last = std::find_if(
+            first, entries.end(), [&](const Entry& entry) { return Compare(entry.key, first->key) != 0; });
         std::reverse(first, last);
         first = last;
     }
@@ -105,7 +105,8 @@ void SortKeys::Sort(std::vector<std::int64_t>& rows, std::size_t begin, std::siz
     if (end - begin < 2) return;
     std::vector<Entry> entries;
     entries.reserve(end - begin);
-    for (std::size_t place = begin; place < end; ++place) entries.push_back({keys_[place], place, rows[place]});
+    for (std::size_t place = begin; place < end; ++place)
+        entries.push_back({keys_[place], place, rows[place]});
     const auto comesBefore = [&](const Entry& a, const Entry& b) {
         const int order = descending ? Compare(b.key, a.key) : Compare(a.key, b.key);
         if (order != 0) return order < 0;

@@ -12,8 +12,8 @@
 
 namespace znhost {
 
-/// A value for each of many rows, in 24 bytes and its text beside them. Nothing comes before numbers, numbers before
-/// texts; numbers are ordered as numbers, texts without regard to letter case.
+/// A value for each of many rows, in 24 bytes and its text beside them. Nothing comes before numbers, numbers
+/// before texts; numbers are ordered as numbers, texts without regard to letter case.
 class SortKeys {
 public:
     std::size_t Size() const { return keys_.size(); }
@@ -26,8 +26,8 @@ public:
     void Move(std::size_t place, std::size_t kept) { keys_[kept] = keys_[place]; }
     void Resize(std::size_t size) { keys_.resize(size); }
 
-    /// Puts the rows between those places into the order of their keys. Rows of equal keys are ordered by their
-    /// numbers, or stay as they are when that is not `byNumber`; also when the order descends.
+    /// Puts the rows between those places into the order of their keys. Rows of equal keys are ordered by
+    /// their numbers, or stay as they are when that is not `byNumber`; also when the order descends.
     void Sort(std::vector<std::int64_t>& rows, std::size_t begin, std::size_t end, bool descending,
               bool byNumber) const;
 
@@ -35,8 +35,8 @@ private:
     enum Kind : std::uint32_t { Nothing, Integer, Real, Text };
 
     struct Key {
-        std::uint64_t head = 0; ///< a number; of a text the first eight bytes, the first one on top
-        std::size_t rest = 0;   ///< where in `texts_` the rest of a text begins
+        std::uint64_t head = 0;   ///< a number; of a text the first eight bytes, the first one on top
+        std::size_t rest = 0;     ///< where in `texts_` the rest of a text begins
         std::uint32_t length = 0; ///< of the rest
         Kind kind = Nothing;
     };

@@ -56,7 +56,8 @@ TEST_F(RowReadingTest, WhatLiesBelowManyRowsIsWhatLiesBelowEach) {
     ExpectGroups(Link("assembly", "assembly", "assembly.parent"), {"id"});
     ExpectGroups(Link("assembly", "part", "part.assembly"), {"mass", "ok", "name"});
     ExpectGroups(Link("part", "assembly", "part.assembly"), {"id"});
-    Sql("CREATE INDEX by_assembly ON part (assembly, name)"); // whose rows are not in the order of their numbers
+    Sql("CREATE INDEX by_assembly ON part (assembly, name)"); // whose rows are not in the order of their
+                                                              // numbers
     ExpectGroups(Link("assembly", "part", "part.assembly"), {"mass", "ok", "name"});
     Sql("CREATE INDEX bearings ON bearing (parent)");
     SimpleSource& both = Custom("both", {"assembly", "bearing"});
@@ -65,8 +66,10 @@ TEST_F(RowReadingTest, WhatLiesBelowManyRowsIsWhatLiesBelowEach) {
 }
 
 TEST_F(RowReadingTest, KeysOfTextsAndOfSeveralColumnsLeadBelowManyRows) {
-    Sql("CREATE TABLE place (code TEXT COLLATE NOCASE, floor, name TEXT, UNIQUE (code, floor), UNIQUE (code))");
-    Sql("CREATE TABLE thing (name TEXT, code REFERENCES place (code), floor, FOREIGN KEY (code, floor) REFERENCES "
+    Sql("CREATE TABLE place (code TEXT COLLATE NOCASE, floor, name TEXT, UNIQUE (code, floor), UNIQUE "
+        "(code))");
+    Sql("CREATE TABLE thing (name TEXT, code REFERENCES place (code), floor, FOREIGN KEY (code, floor) "
+        "REFERENCES "
         "place (code, floor))");
     Sql("CREATE INDEX things ON thing (code, floor)");
     Sql("INSERT INTO place VALUES ('a', 1, 'x'), ('B', 2, 'y'), (NULL, 3, 'z'), ('7', '7', 's')");
@@ -78,20 +81,25 @@ TEST_F(RowReadingTest, KeysOfTextsAndOfSeveralColumnsLeadBelowManyRows) {
 
 /// Values of all kinds, with equals among them.
 std::string RandomValue(std::mt19937& random) {
-    const auto below = [&random](int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random); };
+    const auto below = [&random](int limit) {
+        return std::uniform_int_distribution<int>(0, limit - 1)(random);
+    };
     switch (below(6)) {
     case 0: return "NULL";
     case 1: return std::to_string(below(5));
     case 2: return std::to_string(below(5)) + ".5";
     case 3: return "'" + std::string(1, static_cast<char>('a' + below(3))) + "'";
-    case 4: return "'" + std::string(1, static_cast<char>('A' + below(3))) + "bcdefghijk" + std::to_string(below(3)) + "'";
+    case 4:
+        return "'" + std::string(1, static_cast<char>('A' + below(3))) + "bcdefghijk" +
+               std::to_string(below(3)) + "'";
     default: return below(2) ? "'Ä'" : "x'6162'";
     }
 }
 
 // The same rows stand in two tables, one with an index on each column.
 TEST_F(RowReadingTest, AnIndexGivesTheOrderThatSortingGives) {
-    const std::string columns = " (id INTEGER PRIMARY KEY, anything, whole INTEGER, real REAL, text TEXT, plain TEXT)";
+    const std::string columns =
+        " (id INTEGER PRIMARY KEY, anything, whole INTEGER, real REAL, text TEXT, plain TEXT)";
     Sql("CREATE TABLE bare" + columns);
     std::mt19937 random(7);
     for (int i = 0; i < 300; ++i) {
@@ -118,12 +126,14 @@ TEST_F(RowReadingTest, AnIndexGivesTheOrderThatSortingGives) {
 }
 
 TEST_F(RowReadingTest, RowsNumberedWithoutAGapAreAllThere) {
-    for (const char* const change : {"DELETE FROM part WHERE id = 13", "DELETE FROM part WHERE id = 11",
-                                     "INSERT INTO part (id) VALUES (-3), (9223372036854775807)", "DELETE FROM part"}) {
+    for (const char* const change :
+         {"DELETE FROM part WHERE id = 13", "DELETE FROM part WHERE id = 11",
+          "INSERT INTO part (id) VALUES (-3), (9223372036854775807)", "DELETE FROM part"}) {
         Sql(change);
         std::string rows;
         std::vector<std::vector<std::string>> read;
-        EXPECT_TRUE(Control().RunSql("SELECT group_concat(id, ' ') FROM (SELECT id FROM part ORDER BY id)", {}, read, error));
+        EXPECT_TRUE(Control().RunSql("SELECT group_concat(id, ' ') FROM (SELECT id FROM part ORDER BY id)",
+                                     {}, read, error));
         EXPECT_EQ(List(Source("part")), read[0][0]) << change;
     }
 }
@@ -132,8 +142,9 @@ TEST(SortKeysTest, LargeIntegersAndRealsAreComparedExactly) {
     constexpr std::int64_t large = 9007199254740993; // has no equal among the reals
     SortKeys keys;
     std::vector<std::int64_t> rows;
-    for (const Value& value : {Value("b"), Value(large), Value(1e19), Value(-1e300), Value(large - 1), Value(),
-                               Value(9007199254740992.0), Value("A"), Value(2.5), Value(std::int64_t{2})}) {
+    for (const Value& value :
+         {Value("b"), Value(large), Value(1e19), Value(-1e300), Value(large - 1), Value(),
+          Value(9007199254740992.0), Value("A"), Value(2.5), Value(std::int64_t{2})}) {
         rows.push_back(static_cast<std::int64_t>(rows.size()));
         keys.Add(value);
     }
@@ -163,7 +174,8 @@ TEST_F(JournalTest, ChangedRowsAreKnownOrKnownToBeUnknown) {
     EXPECT_EQ(Changed("DELETE FROM part WHERE id > 12"), "13 20");
     EXPECT_EQ(Changed("DELETE FROM part"), "10 12");
     EXPECT_EQ(Changed("INSERT INTO part (id) VALUES (1), (2)"), "1 2");
-    EXPECT_EQ(Changed("WITH n (i) AS (SELECT 5 UNION ALL SELECT i + 1 FROM n LIMIT 1000) INSERT INTO part (id) SELECT i FROM n"),
+    EXPECT_EQ(Changed("WITH n (i) AS (SELECT 5 UNION ALL SELECT i + 1 FROM n LIMIT 1000) INSERT INTO part "
+                      "(id) SELECT i FROM n"),
               "?");
     EXPECT_EQ(Changed("UPDATE part SET ok = 1 WHERE id = 2"), "2");
     Sql("BEGIN");
