@@ -343,9 +343,8 @@ void RowModel::Refresh() {
     const RowTree::ManyChanges many(tree_, root);
     RowPlan::Ahead ahead(plan_, false);
     std::vector<RowNode*> open{&root};
-    while (!open.empty() && !stopped_) {
-        RowNode& node = *open.back();
-        open.pop_back();
+    for (std::size_t next = 0; next < open.size() && !stopped_; ++next) { // level by level, each read at once
+        RowNode& node = *open[next];
         RefreshNode(node);
         for (const TreePart& part : node.parts) {
             if (part.node && part.node->expanded) open.push_back(part.node.get());

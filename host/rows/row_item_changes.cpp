@@ -54,9 +54,8 @@ bool RowModel::RefreshItems(std::uint64_t since) {
     ChangedItems changed(since);
     RowPlan::Ahead ahead(plan_, false);
     std::vector<RowNode*> open{&root};
-    while (!open.empty() && !stopped_) {
-        RowNode& node = *open.back();
-        open.pop_back();
+    for (std::size_t next = 0; next < open.size() && !stopped_; ++next) {
+        RowNode& node = *open[next];
         if (!RefreshNode(node, changed)) return false;
         for (const TreePart& part : node.parts) {
             if (part.node && part.node->expanded) open.push_back(part.node.get());

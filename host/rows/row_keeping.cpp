@@ -131,8 +131,9 @@ std::vector<std::size_t> RowModel::ExpandExactly(const std::vector<KeptRow>& row
     RowNode& root = tree_.Root();
     nodes.assign(rows.size() + 1, nullptr);
     nodes[0] = &root;
-    const RowTree::ManyChanges many(tree_, root);
-    RowPlan::Ahead ahead(plan_, false);
+    constexpr std::size_t many = 1000; // of which most lie below each other
+    const RowTree::ManyChanges changes(tree_, root);
+    RowPlan::Ahead ahead(plan_, rows.size() >= many);
     OpenRows open{{&root, 0}};
     while (!open.empty() && !stopped_) {
         const auto [node, number] = open.back();
