@@ -1,8 +1,8 @@
-// What the benchmarks of commands share: an interpreter with the embedded host, and a clock that tells how
-// the time grows with the number of elements.
+// What the benchmarks of commands share: an interpreter with the embedded host, and clocks.
 #ifndef BENCH_HOST_H
 #define BENCH_HOST_H
 
+#include "app/application.h"
 #include "app/embedded_host.h"
 
 #include <benchmark/benchmark.h>
@@ -13,7 +13,6 @@
 #include <cstdlib>
 #include <ctime>
 #include <limits>
-#include <map>
 #include <memory>
 #include <string>
 
@@ -33,6 +32,7 @@ public:
     BenchHost& operator=(const BenchHost&) = delete;
 
     Tcl_Interp* Interp() const { return interp_; }
+    znhost::EmbeddedHost& Host() const { return *host_; }
     bool Try(const std::string& script) { return Tcl_Eval(interp_, script.c_str()) == TCL_OK; }
     std::string Eval(const std::string& script) {
         if (!Try(script)) {
@@ -60,35 +60,23 @@ double SecondsOf(Work&& work) {
     return now() - start;
 }
 
-/// Reports the time per element, from the shortest measurement of each size, as the counter "ns_per_element",
-/// and as "growth" how much more that is than with the smallest number of elements, which has to be measured
-/// first. Small sizes are run as often as makes their elements as many as the largest has: so what else the
-/// machine does meanwhile lengthens all measurements alike.
-class Growth {
-public:
-    explicit Growth(std::int64_t most) : most_(most) {}
-
-    /// @param run  does the work once, with as many elements as the argument of the benchmark, and tells the
-    ///             seconds it took
-    template <class Run>
-    void Measure(benchmark::State& state, Run&& run) {
-        const std::int64_t elements = state.range(0);
-        const std::int64_t repeats = std::max<std::int64_t>(1, most_ / elements);
-        double& best = best_.try_emplace(elements, std::numeric_limits<double>::max()).first->second;
-        for (auto _ : state) {
-            double seconds = 0;
-            for (std::int64_t i = 0; i < repeats; ++i) seconds += run();
-            state.SetIterationTime(seconds);
-            best = std::min(best, seconds / static_cast<double>(repeats * elements));
-        }
-        state.counters["ns_per_element"] = best * 1e9;
-        state.counters["growth"] = best / best_.begin()->second;
+/// Runs `work`, which tells the seconds it took, once for each iteration, but for small sizes as often as
+/// makes their elements as many as the largest size has: so what else the machine does meanwhile lengthens
+/// all measurements alike. The time per element, of the shortest run, is the counter "ns_per_element"; how it
+/// grows from size to size is told where the results are read.
+template <class Work>
+void MeasureElements(benchmark::State& state, std::int64_t most, Work&& work) {
+    const std::int64_t elements = state.range(0);
+    const std::int64_t repeats = std::max<std::int64_t>(1, most / elements);
+    double best = std::numeric_limits<double>::max();
+    for (auto _ : state) {
+        double seconds = 0;
+        for (std::int64_t i = 0; i < repeats; ++i) seconds += work();
+        state.SetIterationTime(seconds);
+        best = std::min(best, seconds / static_cast<double>(repeats * elements));
     }
-
-private:
-    const std::int64_t most_;
-    std::map<std::int64_t, double> best_; // seconds per element, by the number of elements
-};
+    state.counters["ns_per_element"] = best * 1e9;
+}
 
 } // namespace zn_bench
 

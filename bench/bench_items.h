@@ -28,6 +28,7 @@ public:
         return *items;
     }
 
+    void Sql(const std::string& statement) { Eval("zn app sql model {" + statement + "}"); }
     void Eval(const std::string& script) {
         if (Tcl_Eval(interp_, script.c_str()) != TCL_OK) std::abort();
     }
@@ -44,20 +45,23 @@ public:
         if (!Rows().Expand(ListIndex())) std::abort();
     }
 
+    static constexpr const char* tables[] = {
+        "create table item (id integer primary key, name text, weight real, shown boolean)",
+        "create table child (id integer primary key, item_id integer references item, name text)"};
+    static std::string ItemsSql(const std::string& count) {
+        return "insert into item with recursive n(i) as (select 1 union all select i + 1 from n where i < " +
+               count + ") select i, 'item ' || (i * 7919 % " + count + "), i * 0.5, i % 2 from n";
+    }
+
 private:
     explicit Items(std::int64_t count) : interp_(Tcl_CreateInterp()), host_(interp_) {
         const std::string number = std::to_string(count);
-        Eval("interp alias {} zn {} znbrowsermanager; zn app datactrl create model\n"
-             "foreach statement {\n"
-             "  {create table item (id integer primary key, name text, weight real, shown boolean)}\n"
-             "  {create table child (id integer primary key, item_id integer references item, name text)}\n"
-             "  {insert into item with recursive n(i) as (select 1 union all select i + 1 from n where i < " +
-             number + ")\n   select i, 'item ' || (i * 7919 % " + number +
-             "), i * 0.5, i % 2 from n}\n"
-             "  {insert into child (item_id, name) select id, 'child' from item where id % 10 = 0}\n"
-             "  {create index child_by_item on child (item_id)}\n"
-             "} {zn app sql model $statement}\n"
-             "zn datactrl current model; zn view create v false; zn view datactrl connect\n"
+        Eval("interp alias {} zn {} znbrowsermanager; zn app datactrl create model");
+        for (const char* const table : tables) Sql(table);
+        Sql(ItemsSql(number));
+        Sql("insert into child (item_id, name) select id, 'child' from item where id % 10 = 0");
+        Sql("create index child_by_item on child (item_id)");
+        Eval("zn datactrl current model; zn view create v false; zn view datactrl connect\n"
              "foreach {property type} {name string weight double shown bool} {\n"
              "  zn view property create $property; zn view property type $type\n"
              "  zn view property connect item $property; zn view column create $property}\n"

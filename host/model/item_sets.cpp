@@ -1,5 +1,7 @@
 #include "model/item_sets.h"
 
+#include "model/row_source.h"
+
 #include "host/znBrowserDataItems.h"
 
 #include <utility>
@@ -76,6 +78,15 @@ void ItemSets::Forget(const Source* source) noexcept { sets_.erase(const_cast<So
 
 void ItemSets::Forget(Source* source, const RowSet& rows) {
     if (Of(source)) Combine(source, [&rows](RowSet& own) { own.Remove(rows); });
+}
+
+std::vector<RowSet::Row> MissingOf(znIBrowserDataSourceSimple* source, const RowSet& rows,
+                                   std::uint64_t since) {
+    RowSource& items = *GetRowSource(source);
+    std::vector<RowSet::Row> changed;
+    if (since == 0 || !items.ChangedRows(since, changed)) return items.Missing(rows.ToVector());
+    std::erase_if(changed, [&rows](RowSet::Row row) { return !rows.Has(row); });
+    return changed.empty() ? changed : items.Missing(changed);
 }
 
 } // namespace znhost

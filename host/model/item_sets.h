@@ -5,7 +5,9 @@
 #include "base/row_set.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <map>
+#include <vector>
 
 struct znBrowserDataItems;
 class znIBrowserDataSourceSimple;
@@ -49,6 +51,11 @@ private:
 
     Sets sets_;
 };
+
+/// Those of a source's rows that do not exist any more. All did at that moment of `ChangeCount`; 0: perhaps
+/// not.
+std::vector<RowSet::Row> MissingOf(znIBrowserDataSourceSimple* source, const RowSet& rows,
+                                   std::uint64_t since);
 
 } // namespace znhost
 

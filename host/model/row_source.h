@@ -108,6 +108,12 @@ struct RowScan {
     std::int64_t looked = 0; ///< how many rows have been looked at
 };
 
+/// Rows in groups: those of the first group, those of the second, and so on.
+struct RowGroups {
+    std::vector<std::int64_t> rows;
+    std::vector<std::size_t> ends; ///< by group: the place behind its last row
+};
+
 /// How far the rows of a source are numbered at some moment: rows that come later are known by it.
 struct RowMark {
     std::vector<std::int64_t> greatest; ///< by table; the lowest number of all for a table without rows
@@ -131,6 +137,11 @@ public:
                       std::vector<std::int64_t>& found, std::vector<std::int64_t>* others) = 0;
     /// Another number as soon as rows of the database may be others than before.
     virtual std::uint64_t Version() = 0;
+    /// The same for many items at once: replaces what `groups` holds by the children of each of `parents`
+    /// along the link, in that order, by a statement for thousands of them. The order's property is a stored
+    /// one. False when the database failed.
+    virtual bool ListBelow(const RowLink& link, const std::vector<std::int64_t>& parents,
+                           const RowOrder& order, RowGroups& groups) = 0;
     /// How many rows `List` would give.
     virtual std::int64_t Count(const RowQuery& query) = 0;
     /// Whether the item `parent` of the link's parent source has a child along `link`. Answered from an
@@ -150,6 +161,12 @@ public:
     /// Whether the source has more rows than that; no more are looked at.
     virtual bool HasMoreThan(std::size_t count) = 0;
 
+    /// Replaces what `rows` holds by the rows that came, went or changed since that moment of `ChangeCount`,
+    /// a few of them. False when it is not known which those are.
+    virtual bool ChangedRows(std::uint64_t since, std::vector<std::int64_t>& rows) = 0;
+    /// Puts some rows of the source into that order, by stored values. False when the source's own order is
+    /// not that of the row numbers, or the database failed.
+    virtual bool SortRows(const RowOrder& order, std::vector<std::int64_t>& rows) = 0;
     /// How far the rows are numbered now.
     virtual RowMark Mark() = 0;
     /// Replaces what `rows` holds by the rows that have come since: those numbered beyond the mark.

@@ -120,12 +120,13 @@ bool Selection::Clear(const Source* source) {
     return Announce(had);
 }
 
-bool Selection::Forget(const std::function<std::vector<Row>(Source*, const std::vector<Row>&)>& missing) {
+bool Selection::Forget(const std::function<std::vector<Row>(Source*, const RowSet&)>& missing) {
     return AnnounceWhatDid([&] {
         bool changed = false;
         for (Part& part : parts_) {
-            const std::vector<Row> rows = part.rows.ToVector();
-            if (!rows.empty()) changed = part.rows.Remove(missing(part.source, rows)) || changed;
+            if (part.rows.IsEmpty()) continue;
+            const std::vector<Row> gone = missing(part.source, part.rows);
+            if (!gone.empty()) changed = part.rows.Remove(gone) || changed;
         }
         return changed;
     });

@@ -44,7 +44,7 @@ public:
     bool Clear(const Source* source);
     /// Deselects what does not exist any more: `missing(source, rows)` gives those of a source's selected
     /// rows that do not.
-    bool Forget(const std::function<std::vector<Row>(Source*, const std::vector<Row>&)>& missing);
+    bool Forget(const std::function<std::vector<Row>(Source*, const RowSet&)>& missing);
 
     bool IsSelected(const Source* source, Row row) const;
     bool IsSelected(const znBrowserDataItem& item) const;

@@ -65,7 +65,8 @@ void View::DropRemovedObservers() { RemoveAll(observers_, static_cast<ViewObserv
 
 void View::NoteItems(unsigned changes) noexcept {
     heldBack_ |= changes;
-    if (changes & VIEW_ROWS) mayMissItems_ = true;
+    if (changes & (VIEW_ROWS | VIEW_ITEMS)) mayMissItems_ = true;
+    if (changes & VIEW_ROWS) itemsSeen_ = 0;
 }
 
 void View::Changed(unsigned changes) {
@@ -76,7 +77,7 @@ void View::Changed(unsigned changes) {
 
 void View::Flush() {
     const unsigned changes = std::exchange(heldBack_, 0U);
-    if (!changes) return;
+    if (!changes || observers_.empty()) return;
     TellObservers([changes](ViewObserver& observer) { observer.OnViewChanged(changes); });
 }
 

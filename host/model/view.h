@@ -4,6 +4,7 @@
 
 #include "base/host_call.h"
 #include "base/named_list.h"
+#include "base/shared_rows.h"
 #include "host/znIBrowserView.h"
 #include "model/column.h"
 #include "model/free_folder.h"
@@ -106,6 +107,8 @@ public:
     /// Tells the observers, now or, while changes are held back, with the next `Flush`; with them what could
     /// not be told before because memory ran out. `changes` are bits of `ViewChange`; 0: nothing new.
     void Changed(unsigned changes);
+    /// The long lists that its windows show.
+    RowLists& Lists() { return rowLists_; }
     /// Notes that the items of the data control changed, to be told with the next `Changed` or `Flush`.
     void NoteItems(unsigned changes) noexcept;
     /// Tells what was held back.
@@ -220,6 +223,9 @@ private:
     int telling_ = 0;
     unsigned heldBack_ = 0;
     bool mayMissItems_ = false; ///< Selected and collected items may not exist any more.
+    std::uint64_t itemsSeen_ =
+        0; ///< When they were last looked at, as `ChangeCount` tells; 0: any may be missing.
+    RowLists rowLists_;
 };
 
 } // namespace znhost

@@ -132,7 +132,7 @@ void ViewCollector::ForgetRows(ItemSets::Source* source, const RowSet& rows) {
     if (preselected_.source == source && rows.Has(preselected_.row)) preselected_ = {};
 }
 
-bool ViewCollector::ForgetMissing() {
+bool ViewCollector::ForgetMissing(std::uint64_t since) {
     std::map<ItemSets::Source*, RowSet> known;
     const auto add = [&known](const ItemSets& items) {
         for (const auto& [source, rows] : items.All()) known[source].Add(rows);
@@ -153,7 +153,7 @@ bool ViewCollector::ForgetMissing() {
     bool changed = false;
     for (const auto& [source, rows] : known) {
         RowSet missing;
-        missing.Add(GetRowSource(source)->Missing(rows.ToVector()));
+        missing.Add(MissingOf(source, rows, since));
         if (missing.IsEmpty()) continue;
         ForgetRows(source, missing);
         changed = true;
@@ -189,9 +189,9 @@ bool ViewCollector::AddNewRows(const ReadTrouble& trouble) {
     return changed;
 }
 
-bool ViewCollector::LookAgain(const ReadTrouble& trouble) {
+bool ViewCollector::LookAgain(const ReadTrouble& trouble, std::uint64_t since) {
     ++looks_;
-    const bool forgot = ForgetMissing();
+    const bool forgot = ForgetMissing(since);
     return AddNewRows(trouble) || forgot;
 }
 

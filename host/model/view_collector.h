@@ -84,11 +84,11 @@ public:
     void ForgetWindow(const ViewObserver* window) noexcept;
     /// Lets go of items that have vanished, and takes note of those that are new, in one look at each source.
     /// What cannot be read stays as it is. Answers whether something changed that windows show.
-    bool LookAgain(const ReadTrouble& trouble);
+    bool LookAgain(const ReadTrouble& trouble, std::uint64_t since);
 
 private:
     void ForgetRows(ItemSets::Source* source, const RowSet& rows);
-    bool ForgetMissing();
+    bool ForgetMissing(std::uint64_t since);
     bool AddNewRows(const ReadTrouble& trouble);
 
     CollectorState now_;

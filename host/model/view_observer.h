@@ -18,7 +18,9 @@ enum ViewChange : unsigned {
     VIEW_SELECTION = 8,  ///< What is selected.
     VIEW_COLLECTED = 16, ///< What is collected.
     VIEW_FILTER = 32,    ///< Which of the rows the filter lets through.
-    VIEW_ALL = 63
+    VIEW_ITEMS =
+        64, ///< Some items: the data sources know which, they are all else that came, went or changed.
+    VIEW_ALL = 127
 };
 
 /// Whoever shows a view. Changes come in batches, so an observer takes note and looks at the view when it

@@ -1,4 +1,5 @@
 // The selection of a view, its sorting and its filters.
+#include "base/change_count.h"
 #include "base/services.h"
 #include "host/znBrowserDataItems.h"
 #include "model/browser.h"
@@ -25,11 +26,15 @@ void View::ClearAllSelection() {
 /// Lets go of the items that do not exist any more: a new item may take their row numbers.
 void View::ForgetMissingItems() {
     mayMissItems_ = false; // first: a change of the selection is told at once
+    const std::uint64_t since = std::exchange(itemsSeen_, ChangeCount::Now());
     try {
-        selection_.Forget([](auto* source, const auto& rows) { return GetRowSource(source)->Missing(rows); });
-        if (collector_.LookAgain(browser_.Services().Trouble())) heldBack_ |= VIEW_ROWS | VIEW_COLLECTED;
+        selection_.Forget(
+            [since](auto* source, const RowSet& rows) { return MissingOf(source, rows, since); });
+        if (collector_.LookAgain(browser_.Services().Trouble(), since))
+            heldBack_ |= VIEW_ROWS | VIEW_COLLECTED;
     } catch (...) {
         mayMissItems_ = true;
+        itemsSeen_ = 0;
         throw;
     }
 }

@@ -26,7 +26,7 @@ const RowContent& ContentOf(const TreePart& part) {
 /// What is to stand in a container: another container, or a block with its rows.
 struct RowModel::Listed {
     RowContent content;
-    std::vector<std::int64_t> rows;
+    SharedRows rows;
     std::string problem; ///< why the rows could not be read; "" when they could
 
     TreePart MakePart() && {
@@ -70,7 +70,8 @@ bool RowModel::ListBelow(RowNode& node, std::vector<Listed>& all) {
     const ReadTrouble::Watch whole(Services().Trouble()); // the filter is made with what stands below
     for (RowContent& content : node.block ? plan_.Below(row.Content(), row.Number()) : ContentsOf(node)) {
         Listed listed{std::move(content), {}, {}};
-        if (listed.content.kind == RowKind::Item) listed.rows = plan_.List(listed.content);
+        if (listed.content.kind == RowKind::Item)
+            listed.rows = view_->Lists().Share(plan_.List(listed.content));
         if (stopped_) return false;
         if (listed.content.kind == RowKind::Item && whole.Seen()) listed.problem = whole.Text();
         all.push_back(std::move(listed));
@@ -102,6 +103,7 @@ bool RowModel::Fill(RowNode& node) {
 /// Fills a container, and below it whatever is to be expanded as soon as it is there.
 void RowModel::FillAndExpand(RowNode& top) {
     const RowTree::ManyChanges many(tree_, top);
+    const RowPlan::Ahead ahead(plan_, false);
     std::vector<std::pair<RowNode*, int>> open{{&top, 0}};
     while (!open.empty() && !stopped_ && GoesOn()) {
         const auto [node, depth] = open.back();
@@ -181,6 +183,7 @@ struct RowModel::Descent {
 void RowModel::ExpandBelow(RowNode& top) {
     Descent descent(top);
     const RowTree::ManyChanges many(tree_, top);
+    const RowPlan::Ahead ahead(plan_, true);
     while (!descent.open.empty() && !stopped_ && GoesOn()) {
         const Descent::Step step = descent.open.back();
         descent.open.pop_back();
@@ -335,7 +338,7 @@ bool RowModel::Reveal(const std::vector<RowStep>& path) {
             node = part->node.get();
             continue;
         }
-        const std::vector<std::int64_t>& rows = part->block->rows;
+        const SharedRows& rows = part->block->rows;
         const auto found = std::find(rows.begin(), rows.end(), step.row);
         if (found == rows.end()) return false;
         const Row row = RowTree::ItemAt(*part->block, static_cast<std::uint32_t>(found - rows.begin()));
@@ -358,19 +361,27 @@ void RowModel::Refresh() {
         return;
     }
     const RowTree::ManyChanges many(tree_, root);
+    RowPlan::Ahead ahead(plan_, false);
     std::vector<RowNode*> open{&root};
-    while (!open.empty() && !stopped_) {
-        RowNode& node = *open.back();
-        open.pop_back();
+    for (std::size_t next = 0; next < open.size() && !stopped_; ++next) { // level by level, each read at once
+        RowNode& node = *open[next];
         RefreshNode(node);
         for (const TreePart& part : node.parts) {
             if (part.node && part.node->expanded) open.push_back(part.node.get());
-            if (!part.block) continue;
-            for (const auto& child : part.block->children) {
-                if (child.second->expanded) open.push_back(child.second.get());
-            }
+            if (part.block) OpenExpanded(*part.block, ahead, open);
         }
     }
+}
+
+/// The expanded items of the block; what lies below them is going to be asked for.
+void RowModel::OpenExpanded(const RowBlock& block, RowPlan::Ahead& ahead, std::vector<RowNode*>& open) {
+    std::vector<std::int64_t> expanded;
+    for (const auto& child : block.children) {
+        if (!child.second->expanded) continue;
+        open.push_back(child.second.get());
+        expanded.push_back(RowTree::RowOf(*child.second).Number());
+    }
+    if (!expanded.empty()) ahead.Expect(block.content, expanded);
 }
 
 /// What was there before stays, but with the present links and filter, and the present rows.

@@ -77,11 +77,11 @@ bool RowModel::ExpandWanted(RowNode& node, const Row& row) {
 
 /// Expands the wanted ones of the rows directly below, and collapses the others.
 /// @param open  receives the wanted ones and their places in the list.
-void RowModel::ExpandExactly(RowNode& node, WantedRows& wanted, OpenRows& open) {
+void RowModel::ExpandExactly(RowNode& node, WantedRows& wanted, OpenRows& open, RowPlan::Ahead& ahead) {
     for (const TreePart& part : node.parts) {
         if (stopped_) return;
         if (part.block) {
-            ExpandExactly(*part.block, wanted, open);
+            ExpandExactly(*part.block, wanted, open, ahead);
             continue;
         }
         RowNode& below = *part.node;
@@ -95,7 +95,7 @@ void RowModel::ExpandExactly(RowNode& node, WantedRows& wanted, OpenRows& open) 
     }
 }
 
-void RowModel::ExpandExactly(RowBlock& block, WantedRows& wanted, OpenRows& open) {
+void RowModel::ExpandExactly(RowBlock& block, WantedRows& wanted, OpenRows& open, RowPlan::Ahead& ahead) {
     WantedRows::Items none;
     const auto known = wanted.items.find(NameOf(log_, block.content));
     WantedRows::Items& items = known == wanted.items.end() ? none : known->second;
@@ -104,6 +104,9 @@ void RowModel::ExpandExactly(RowBlock& block, WantedRows& wanted, OpenRows& open
         if (!items.count(RowTree::RowOf(*child.second).Number())) unwanted.push_back(child.second.get());
     }
     for (RowNode* const node : unwanted) tree_.Collapse(*node);
+    std::vector<std::int64_t> expected;
+    for (const auto& item : items) expected.push_back(item.first);
+    if (!expected.empty()) ahead.Expect(block.content, expected);
     for (std::uint32_t i = 0; i < block.rows.size() && !items.empty() && !stopped_; ++i) {
         const auto item = items.find(block.rows[i]);
         if (item == items.end()) continue;
@@ -128,7 +131,9 @@ std::vector<std::size_t> RowModel::ExpandExactly(const std::vector<KeptRow>& row
     RowNode& root = tree_.Root();
     nodes.assign(rows.size() + 1, nullptr);
     nodes[0] = &root;
-    const RowTree::ManyChanges many(tree_, root);
+    constexpr std::size_t many = 1000; // of which most lie below each other
+    const RowTree::ManyChanges changes(tree_, root);
+    RowPlan::Ahead ahead(plan_, rows.size() >= many);
     OpenRows open{{&root, 0}};
     while (!open.empty() && !stopped_) {
         const auto [node, number] = open.back();
@@ -136,7 +141,7 @@ std::vector<std::size_t> RowModel::ExpandExactly(const std::vector<KeptRow>& row
         WantedRows wanted;
         for (const std::size_t place : below[number]) wanted.Add(rows[place], place);
         OpenRows found;
-        ExpandExactly(*node, wanted, found);
+        ExpandExactly(*node, wanted, found, ahead);
         for (const auto& [expanded, place] : found) {
             open.emplace_back(expanded, place + 1);
             nodes[place + 1] = expanded;

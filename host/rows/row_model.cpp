@@ -1,6 +1,7 @@
 // What a window shows: the questions about its rows, and how it hears of changes.
 #include "rows/row_model.h"
 
+#include "base/change_count.h"
 #include "base/services.h"
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserDataReference.h"
@@ -24,7 +25,7 @@ RowModel::RowModel(View& view)
 
 void RowModel::OnViewChanged(unsigned changes) noexcept {
     pending_ |= changes;
-    if (changes & (VIEW_ROWS | VIEW_FILTER)) {
+    if (changes & (VIEW_ROWS | VIEW_FILTER | VIEW_ITEMS)) {
         Tell(RowChange::AllFilled);
     } else if (changes & (VIEW_CELLS | VIEW_COLUMNS | VIEW_COLLECTED)) {
         Tell(RowChange::AllCells);
@@ -100,11 +101,12 @@ void RowModel::TakeOver() {
     const unsigned changes = std::exchange(pending_, 0U);
     if (changes & ~unsigned{VIEW_SELECTION | VIEW_COLLECTED}) ++revision_;
     if (changes & VIEW_COLUMNS) shown_.clear();
-    if (changes & (VIEW_ROWS | VIEW_CELLS)) plan_.ForgetMatches();
-    if (changes & (VIEW_ROWS | VIEW_FILTER | VIEW_CELLS)) ForgetCounts();
-    if (!(changes & (VIEW_ROWS | VIEW_FILTER))) return;
+    if (changes & (VIEW_ROWS | VIEW_CELLS | VIEW_ITEMS)) plan_.ForgetMatches();
+    if (changes & (VIEW_ROWS | VIEW_FILTER | VIEW_CELLS | VIEW_ITEMS)) ForgetCounts();
+    if (!(changes & (VIEW_ROWS | VIEW_FILTER | VIEW_ITEMS))) return;
     plan_.Forget();
-    Refresh();
+    const std::uint64_t since = std::exchange(itemsSeen_, ChangeCount::Now());
+    if ((changes & (VIEW_ROWS | VIEW_FILTER)) || kept_ || !RefreshItems(since)) Refresh();
     if (kept_ && !stopped_) BringBackKept();
     if (stopped_) pending_ |= VIEW_ROWS;
 }

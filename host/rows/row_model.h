@@ -291,12 +291,18 @@ private:
     void ExpandBelow(RowNode& top);
     void OpenBelow(const TreePart& part, Descent& descent);
     void Refresh();
+    static void OpenExpanded(const RowBlock& block, RowPlan::Ahead& ahead, std::vector<RowNode*>& open);
     void RefreshNode(RowNode& node);
+    struct ChangedItems;
+    bool RefreshItems(std::uint64_t since);
+    bool RefreshNode(RowNode& node, ChangedItems& changed);
+    bool TakeChanges(RowNode& list, ChangedItems& changed);
+    bool TakeChange(RowBlock& block, const RowOrder& order, std::int64_t row);
     void Update(const TreePart& part, Listed&& now);
     struct WantedRows;
     using OpenRows = std::vector<std::pair<RowNode*, std::size_t>>;
-    void ExpandExactly(RowNode& node, WantedRows& wanted, OpenRows& open);
-    void ExpandExactly(RowBlock& block, WantedRows& wanted, OpenRows& open);
+    void ExpandExactly(RowNode& node, WantedRows& wanted, OpenRows& open, RowPlan::Ahead& ahead);
+    void ExpandExactly(RowBlock& block, WantedRows& wanted, OpenRows& open, RowPlan::Ahead& ahead);
     bool ExpandWanted(RowNode& node, const Row& row);
     std::vector<std::size_t> ExpandExactly(const std::vector<KeptRow>& rows, std::vector<RowNode*>& found);
     void BringBackKept();
@@ -313,6 +319,7 @@ private:
     RowCells cells_;
     RowTree tree_;
     unsigned pending_;
+    std::uint64_t itemsSeen_ = 0; ///< when the rows were last brought up to date, as `ChangeCount` tells
     int answering_ = 0;
     bool stopped_ = false;
     bool single_ = false;

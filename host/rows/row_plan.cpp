@@ -370,7 +370,33 @@ std::int64_t RowPlan::CountMatches() const {
 
 // ---- Rows ----
 
-std::vector<std::int64_t> RowPlan::List(const RowContent& block) const { return List(block, OrderOf(block)); }
+RowPlan::Ahead::Ahead(RowPlan& plan, bool descends)
+    : plan_(plan), ahead_(descends, [&plan](const RowContent& block,
+                                            const RowLink& link) { return plan.OrderBelow(block, link); }),
+      outer_(plan.ahead_) {
+    if (!outer_) plan.ahead_ = &ahead_;
+}
+
+/// The rows below an item, when they are read ahead, without those that are not shown.
+std::optional<std::vector<std::int64_t>> RowPlan::KnownBelow(const RowContent& block, const RowLink& link,
+                                                             std::int64_t parent) const {
+    const auto known = ahead_ ? ahead_->Below(block, link, parent) : std::nullopt;
+    if (!known) return std::nullopt;
+    std::vector<std::int64_t> rows(known->begin(), known->end());
+    RowContent below = block;
+    below.source = link.child;
+    Narrow(below, rows);
+    return rows;
+}
+
+std::vector<std::int64_t> RowPlan::List(const RowContent& block) const {
+    if (ahead_ && block.link.reference && !block.top) {
+        RowContent above = block;
+        above.source = block.link.parent;
+        if (const auto known = KnownBelow(above, block.link, block.parent)) return *known;
+    }
+    return List(block, OrderOf(block));
+}
 
 std::vector<std::int64_t> RowPlan::ListFulfilling(const RowContent& block, RowCondition condition) {
     RowQuery query = QueryFor(block);
@@ -391,12 +417,16 @@ std::vector<std::int64_t> RowPlan::List(const RowContent& block, const RowOrder&
     query.among = among || !filter ? among : &filter->Kept(block.source);
     std::vector<std::int64_t> rows;
     block.source->List(query, rows);
-    if (filter && among) {
+    if (among || !filter) Narrow(block, rows);
+    return rows;
+}
+
+void RowPlan::Narrow(const RowContent& block, std::vector<std::int64_t>& rows) {
+    if (const RowFilter* const filter = block.scope->filter.get()) {
         std::erase_if(rows, [&](std::int64_t row) { return !filter->Keeps(block.source, row); });
-    } else if (!filter && block.scope->display) {
+    } else if (block.scope->display) {
         block.scope->display->Narrow(block.source, rows);
     }
-    return rows;
 }
 
 std::int64_t RowPlan::CountRows(const RowContent& block) {
@@ -421,9 +451,18 @@ bool RowPlan::HasRows(const RowContent& container) const {
 bool RowPlan::HasRows(const RowContent& block, const RowLink& link, std::int64_t row) const {
     const RowFilter* const filter = block.scope->filter.get();
     if (filter) return filter->KeepsBelow(link, row);
+    if (const auto known = ahead_ ? ahead_->Below(block, link, row) : std::nullopt) {
+        return !known->empty() && (!block.scope->display || !KnownBelow(block, link, row)->empty());
+    }
     if (block.scope->display) return block.scope->display->HaveChildren(link, {row})[0];
     const ReadTrouble::Watch watch(Trouble());
     return link.child->HasChildren(link, row) || watch.Seen();
+}
+
+bool RowPlan::HasRowsAlongAny(const RowContent& block, std::int64_t row) const {
+    return std::any_of(block.scope->links.begin(), block.scope->links.end(), [&](const RowLink& link) {
+        return link.parent == block.source && HasRows(block, link, row);
+    });
 }
 
 const ReadTrouble& RowPlan::Trouble() const { return view_.Owner().Services().Trouble(); }
@@ -431,6 +470,11 @@ const ReadTrouble& RowPlan::Trouble() const { return view_.Owner().Services().Tr
 std::vector<bool> RowPlan::HaveRows(const RowContent& block, const std::vector<std::int64_t>& rows) const {
     std::vector<bool> have(rows.size(), false);
     const RowFilter* const filter = block.scope->filter.get();
+    if (ahead_ && !filter) {
+        ahead_->Expect(block, rows);
+        for (std::size_t i = 0; i < rows.size(); ++i) have[i] = HasRowsAlongAny(block, rows[i]);
+        return have;
+    }
     const RowDisplay* const display = block.scope->display.get();
     for (const RowLink& link : block.scope->links) {
         if (link.parent != block.source) continue;
@@ -483,6 +527,15 @@ RowOrder RowPlan::OrderOf(const RowContent& block) const {
     order.sorted = order.property || column->Kind() == ColumnKind::BuiltIn;
     order.descending = !view_.SortsAscending();
     order.natural = column->SortsNaturally();
+    return order;
+}
+
+/// What is asked for in this way must not run scripts.
+std::optional<RowOrder> RowPlan::OrderBelow(const RowContent& block, const RowLink& link) const {
+    RowContent below = block;
+    below.source = link.child;
+    const RowOrder order = OrderOf(below);
+    if (order.sorted && !link.child->IsStored(order.property)) return std::nullopt;
     return order;
 }
 

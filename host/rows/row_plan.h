@@ -3,6 +3,7 @@
 #define ZN_HOST_ROW_PLAN_H
 
 #include "rows/filter_matches.h"
+#include "rows/row_ahead.h"
 #include "rows/row_display.h"
 #include "rows/row_filter.h"
 #include "rows/row_tree.h"
@@ -52,10 +53,33 @@ public:
     /// Lets who computes values tell when to stop.
     void SetStopped(std::function<bool()> stopped) { stopped_ = std::move(stopped); }
 
+    /// While one lives the children of many items are wanted, and read together. Of several the outermost
+    /// counts.
+    class Ahead {
+    public:
+        /// @param descends  all that lies below is wanted
+        Ahead(RowPlan& plan, bool descends);
+        ~Ahead() { plan_.ahead_ = outer_; }
+        Ahead(const Ahead&) = delete;
+        Ahead& operator=(const Ahead&) = delete;
+
+        /// These items of the block will be asked about.
+        void Expect(const RowContent& block, const std::vector<std::int64_t>& rows) {
+            plan_.ahead_->Expect(block, rows);
+        }
+
+    private:
+        RowPlan& plan_;
+        RowAhead ahead_;
+        RowAhead* const outer_;
+    };
+
     /// What stands in a folder, tree or list, in order.
     std::vector<RowContent> Below(const RowContent& container) const;
     /// What stands below an item of that block.
     std::vector<RowContent> Below(const RowContent& block, std::int64_t row) const;
+    /// The order in which the rows of a block are shown.
+    RowOrder OrderOf(const RowContent& block) const;
     /// The rows of a block, in order.
     std::vector<std::int64_t> List(const RowContent& block) const;
     /// Those that fulfil a condition, in the order of the source, hidden ones too.
@@ -90,6 +114,7 @@ public:
 
 private:
     bool HasRows(const RowContent& block, const RowLink& link, std::int64_t row) const;
+    bool HasRowsAlongAny(const RowContent& block, std::int64_t row) const;
     bool Stands(const RowContent& container, bool showsEmpty) const;
     bool Hides(const RowContent& container) const;
     std::shared_ptr<const RowDisplay> Display() const;
@@ -108,9 +133,6 @@ private:
     std::shared_ptr<RowScope> TreeScope(FreeFolder& folder) const;
     void Filter(RowScope& scope, const std::vector<RowSource*>& tops, const FreeFolder& folder,
                 const void* what) const;
-    RowOrder OrderOf(const RowContent& block) const;
-    static std::vector<std::int64_t> List(const RowContent& block, const RowOrder& order,
-                                          const RowSet* among = nullptr);
     void Match(RowSource& source, std::vector<std::int64_t>& rows) const;
     std::optional<RowSet> Fulfilling(RowSource& source) const;
     static RowCondition ConditionFor(const ColumnFilter& filter, znIBrowserDataProperty* property);
@@ -118,10 +140,17 @@ private:
     SearchedProperties SearchedIn(RowSource& source, const TextFilter& filter) const;
     void AddShownProperties(const FreeFolder& folder, RowSource& source, SearchedProperties& all) const;
     bool IsStopped() const { return stopped_ && stopped_(); }
+    std::optional<RowOrder> OrderBelow(const RowContent& block, const RowLink& link) const;
+    std::optional<std::vector<std::int64_t>> KnownBelow(const RowContent& block, const RowLink& link,
+                                                        std::int64_t parent) const;
+    static void Narrow(const RowContent& block, std::vector<std::int64_t>& rows);
+    static std::vector<std::int64_t> List(const RowContent& block, const RowOrder& order,
+                                          const RowSet* among = nullptr);
     static std::int64_t CountRows(const RowContent& block);
 
     View& view_;
-    bool whole_ = false; ///< as if nothing were hidden or filtered
+    RowAhead* ahead_ = nullptr; ///< null: each is read when it is asked for
+    bool whole_ = false;        ///< as if nothing were hidden or filtered
     std::function<bool()> stopped_;
     mutable FilterMatches matches_;
     mutable std::shared_ptr<const RowDisplay> display_;

@@ -28,6 +28,11 @@ void RowSums::Clear() {
     tree_.shrink_to_fit();
 }
 
+void RowSums::Append(std::int64_t size) {
+    const std::size_t i = tree_.size() + 1;
+    tree_.push_back(Before(i - 1) - Before(i - LowestBit(i)) + size);
+}
+
 void RowSums::Add(std::size_t place, std::int64_t delta) {
     for (std::size_t i = place + 1; i <= tree_.size(); i += LowestBit(i)) tree_[i - 1] += delta;
 }

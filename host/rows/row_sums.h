@@ -19,6 +19,8 @@ public:
     void Clear();
     bool Empty() const { return tree_.empty(); }
 
+    /// One thing more, behind the others.
+    void Append(std::int64_t size);
     void Add(std::size_t place, std::int64_t delta);
     /// The sum of all sizes before `place`.
     std::int64_t Before(std::size_t place) const;

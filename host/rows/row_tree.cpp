@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <new>
 #include <numeric>
 #include <utility>
 
@@ -152,7 +153,7 @@ TreePart RowTree::MakeNode(RowContent content) {
     return part;
 }
 
-TreePart RowTree::MakeBlock(RowContent content, std::vector<std::int64_t> rows) {
+TreePart RowTree::MakeBlock(RowContent content, SharedRows rows) {
     TreePart part;
     part.block = std::make_unique<RowBlock>();
     part.block->content = std::move(content);
@@ -188,7 +189,7 @@ void RowTree::Attach(RowNode& node, std::uint32_t place) {
     block.place = place;
     if (!block.ranges.empty()) return;
     block.slotCount = static_cast<std::uint32_t>(block.rows.size());
-    if (!TakeIndices(block, 0, block.slotCount)) block.rows.clear();
+    if (!TakeIndices(block, 0, block.slotCount)) block.rows = {};
 }
 
 /// False, and nothing changed, when so many indices are not to be had.
@@ -251,17 +252,58 @@ void RowTree::Clear() noexcept {
     broken_ = false;
 }
 
-void RowTree::SetRows(RowBlock& block, std::vector<std::int64_t> rows) {
-    if (rows == block.rows) return;
-    using Known = std::pair<std::int64_t, std::uint32_t>; // row, slot
-    std::vector<Known> known(block.rows.size());
-    for (std::size_t i = 0; i < known.size(); ++i) known[i] = {block.rows[i], block.SlotAt(i)};
-    std::sort(known.begin(), known.end());
+namespace {
+
+/// The slots of a block by their rows: where the row numbers lie close together in a list of all between the
+/// lowest and the highest one, else in a sorted list.
+class SlotsByRow {
+public:
+    explicit SlotsByRow(const RowBlock& block) {
+        if (block.rows.empty()) return;
+        const auto [lowest, highest] = std::minmax_element(block.rows.begin(), block.rows.end());
+        lowest_ = *lowest;
+        const std::uint64_t distance = Distance(*highest);
+        const bool isDense = distance / farApart <= block.rows.size();
+        if (isDense) dense_.resize(distance + 1, RowBlock::gone);
+        if (!isDense) sparse_.reserve(block.rows.size());
+        for (std::size_t i = 0; i < block.rows.size(); ++i) {
+            if (isDense) dense_[Distance(block.rows[i])] = block.SlotAt(i);
+            if (!isDense) sparse_.emplace_back(block.rows[i], block.SlotAt(i));
+        }
+        std::sort(sparse_.begin(), sparse_.end());
+    }
+    /// `RowBlock::gone` when the row is not among them.
+    std::uint32_t Of(std::int64_t row) const {
+        if (!dense_.empty()) return Distance(row) < dense_.size() ? dense_[Distance(row)] : RowBlock::gone;
+        const auto known = std::lower_bound(sparse_.begin(), sparse_.end(), std::pair(row, std::uint32_t{0}));
+        return known != sparse_.end() && known->first == row ? known->second : RowBlock::gone;
+    }
+
+private:
+    static constexpr std::uint64_t farApart = 4;
+
+    std::uint64_t Distance(std::int64_t row) const {
+        return static_cast<std::uint64_t>(row) - static_cast<std::uint64_t>(lowest_);
+    }
+
+    std::int64_t lowest_ = 0;
+    std::vector<std::uint32_t> dense_;
+    std::vector<std::pair<std::int64_t, std::uint32_t>> sparse_;
+};
+
+} // namespace
+
+void RowTree::SetRows(RowBlock& block, SharedRows rows) {
+    if (rows.Get() == block.rows.Get()) {
+        block.rows = std::move(rows);
+        return;
+    }
+    const SlotsByRow known(block);
     std::vector<std::uint32_t> slotAt(rows.size());
     std::uint32_t slots = block.slotCount;
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        const auto old = std::lower_bound(known.begin(), known.end(), Known{rows[i], 0});
-        slotAt[i] = old != known.end() && old->first == rows[i] ? old->second : slots++;
+        const std::uint32_t old = known.Of(rows[i]);
+        slotAt[i] = old != RowBlock::gone ? old : slots++;
     }
     if (slots > block.slotCount && !TakeIndices(block, block.slotCount, slots - block.slotCount)) return;
     block.slotCount = slots;
@@ -279,6 +321,64 @@ void RowTree::SetRows(RowBlock& block, std::vector<std::int64_t> rows) {
     if (uncounted_) return;
     MakeSums(block);
     GrowOwner(block, block.Size() - size);
+}
+
+/// Gives each slot its position again, from that one on; the slots that stand nowhere are not touched.
+void RowTree::NumberFrom(RowBlock& block, std::size_t position) {
+    for (; position < block.slotAt.size(); ++position)
+        block.positionOf[block.slotAt[position]] = static_cast<std::uint32_t>(position);
+}
+
+/// Each row has a slot from now on that need not be its position.
+void RowTree::NumberSlots(RowBlock& block) {
+    if (!block.slotAt.empty()) return;
+    block.slotAt.resize(block.rows.size());
+    std::iota(block.slotAt.begin(), block.slotAt.end(), 0U);
+    block.positionOf = block.slotAt;
+}
+
+/// Runs a change that memory may run out for when it is half done.
+template <class Change>
+void RowTree::ChangeBlock(RowBlock& block, std::int64_t delta, Change&& change) {
+    try {
+        change();
+        GrowOwner(block, delta);
+    } catch (...) {
+        broken_ = true;
+        throw;
+    }
+}
+
+void RowTree::InsertRow(RowBlock& block, std::uint32_t position, std::int64_t row) {
+    ChangeBlock(block, 1, [&] {
+        const std::uint32_t slot = block.slotCount;
+        const bool behindAll = position == block.rows.size();
+        const bool slotIsPosition = behindAll && block.slotAt.empty() && slot == position;
+        if (!slotIsPosition) NumberSlots(block);
+        if (!TakeIndices(block, slot, 1)) throw std::bad_alloc();
+        ++block.slotCount;
+        std::vector<std::int64_t>& rows = block.rows.Own();
+        rows.insert(rows.begin() + position, row);
+        if (!slotIsPosition) {
+            block.slotAt.insert(block.slotAt.begin() + position, slot);
+            block.positionOf.resize(block.slotCount, RowBlock::gone);
+            NumberFrom(block, position);
+        }
+        behindAll && !block.sums.Empty() ? block.sums.Append(1) : MakeSums(block);
+    });
+}
+
+void RowTree::RemoveRow(RowBlock& block, std::uint32_t position) {
+    if (const Row row = ItemAt(block, position); row.node) Collapse(*row.node);
+    ChangeBlock(block, -1, [&] {
+        NumberSlots(block);
+        std::vector<std::int64_t>& rows = block.rows.Own();
+        rows.erase(rows.begin() + position);
+        block.positionOf[block.slotAt[position]] = RowBlock::gone;
+        block.slotAt.erase(block.slotAt.begin() + position);
+        NumberFrom(block, position);
+        MakeSums(block);
+    });
 }
 
 void RowTree::MakeSums(RowBlock& block) {

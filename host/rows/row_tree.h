@@ -2,6 +2,7 @@
 #ifndef ZN_HOST_ROW_TREE_H
 #define ZN_HOST_ROW_TREE_H
 
+#include "base/shared_rows.h"
 #include "model/row_source.h"
 #include "rows/row_sums.h"
 #include "rows/tk_indices.h"
@@ -88,7 +89,7 @@ struct RowBlock {
     RowContent content;
     RowNode* owner = nullptr;
     std::uint32_t place = 0; ///< its place among the owner's parts
-    std::vector<std::int64_t> rows;
+    SharedRows rows;
     std::vector<Range> ranges; ///< the Tk indices of the slots
     std::uint32_t slotCount = 0;
     // Empty while the slot of each row is its position.
@@ -149,14 +150,19 @@ public:
     RowNode& NodeOf(const Row& item);
 
     static TreePart MakeNode(RowContent content);
-    static TreePart MakeBlock(RowContent content, std::vector<std::int64_t> rows);
+    static TreePart MakeBlock(RowContent content, SharedRows rows);
     /// Replaces what the container holds and marks it expanded. Parts taken out of it before may be among
     /// `parts`; blocks without rows are left out.
     void SetParts(RowNode& node, std::vector<TreePart> parts);
     /// Collapses: nothing is left below. An item's node is gone then.
     void Collapse(RowNode& node) noexcept;
     /// Replaces the rows of a block: those that stay keep their Tk indices and what lies below them.
-    void SetRows(RowBlock& block, std::vector<std::int64_t> rows);
+    void SetRows(RowBlock& block, SharedRows rows);
+    /// Puts one row more at that position of a block. Of a long block the numbers behind it are moved, no
+    /// more. Not while changes are not counted.
+    void InsertRow(RowBlock& block, std::uint32_t position, std::int64_t row);
+    /// Takes one of several rows out of a block.
+    void RemoveRow(RowBlock& block, std::uint32_t position);
 
     /// While one lives, changes at or below a container are not counted; that is done once, at the end.
     /// Positions are of no use meanwhile. Of several, one inside the other, the outermost counts. An
@@ -195,6 +201,10 @@ private:
     void ReleaseParts(RowNode& node) noexcept { Release(std::exchange(node.parts, {})); }
     bool TakeIndices(RowBlock& block, std::uint32_t firstSlot, std::uint32_t count);
     static void MakeSums(RowBlock& block);
+    static void NumberSlots(RowBlock& block);
+    static void NumberFrom(RowBlock& block, std::size_t position);
+    template <class Change>
+    void ChangeBlock(RowBlock& block, std::int64_t delta, Change&& change);
     static std::int64_t MakeSums(RowNode& node);
     void Count(RowNode& top);
     static void Grow(RowNode* node, std::int64_t delta);

@@ -19,7 +19,7 @@ std::shared_ptr<DataCtrl> DataCtrl::Open(Browser& model, const std::string& name
 
 DataCtrl::DataCtrl(Browser& model, std::string name, std::unique_ptr<Database> database)
     : HostObject(model.Log()), model_(model), name_(std::move(name)), database_(std::move(database)),
-      schema_(*database_), copies_(*database_) {
+      schema_(*database_), copies_(*database_), journal_(database_->Handle()) {
     database_->SetWhyStop([this] { return Services().WhyStop(); });
 }
 
@@ -39,7 +39,7 @@ bool DataCtrl::RunSql(const std::string& statement, const std::vector<std::strin
     try {
         const bool done = database_->Run(statement, bound, rows, error);
         ForgetMissing();
-        if (!known || !database_->ReadStamp(after, ignored) || !after.SameRows(before)) ItemsChanged();
+        if (!known || !database_->ReadStamp(after, ignored) || !after.SameRows(before)) RowsChanged();
         return done;
     } catch (...) { // memory ran out, perhaps after the rows were changed
         NoteItemsChanged();
@@ -48,11 +48,13 @@ bool DataCtrl::RunSql(const std::string& statement, const std::vector<std::strin
 }
 
 void DataCtrl::NoteItemsChanged() noexcept {
+    journal_.Forget();
     indexes_.Clear();
     Model().NoteDataChange(*this, VIEW_ROWS | VIEW_CELLS);
 }
 
 void DataCtrl::ItemsChanged() {
+    journal_.Forget();
     indexes_.Clear();
     Model().DataChanged(*this, VIEW_ROWS | VIEW_CELLS);
 }
@@ -61,7 +63,9 @@ void DataCtrl::ItemsChanged() {
 
 bool DataCtrl::SetMayChange(bool may, std::string& error) {
     if (may == MayChange()) return true;
-    if (!database_->Reopen(may ? Database::Access::Change : Database::Access::Read, error)) return false;
+    const bool done = database_->Reopen(may ? Database::Access::Change : Database::Access::Read, error);
+    journal_.Follow(database_->Handle());
+    if (!done) return false;
     if (!may) changes_.Clear();
     ForgetMissing();
     ItemsChanged();
@@ -76,13 +80,27 @@ bool DataCtrl::UndoChange(std::string& error) {
 
 bool DataCtrl::FollowOthers(bool& changed, std::string& error) {
     Database::Stamp now;
-    if (!database_->FollowFile(error) || !database_->ReadStamp(now, error)) return false;
+    const bool done = database_->FollowFile(error);
+    journal_.Follow(database_->Handle());
+    if (!done || !database_->ReadStamp(now, error)) return false;
     changed = followed_.schema >= 0 && (now.foreign != followed_.foreign || !now.SameTables(followed_));
     followed_ = now;
     if (!changed) return true;
     ForgetMissing();
     ItemsChanged();
     return true;
+}
+
+/// The journal knows nothing of what other connections changed, and of what was undone.
+void DataCtrl::RowsChanged() {
+    Database::Stamp now;
+    std::string ignored;
+    const bool known =
+        database_->ReadStamp(now, ignored) && now.SameTables(told_) && now.foreign == told_.foreign;
+    told_ = now;
+    if (!known) return ItemsChanged();
+    indexes_.Clear();
+    Model().DataChanged(*this, VIEW_ITEMS);
 }
 
 // ---- What the tables give

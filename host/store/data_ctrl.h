@@ -14,6 +14,7 @@
 #include "store/input_field.h"
 #include "store/link_index.h"
 #include "store/row_copies.h"
+#include "store/row_journal.h"
 
 #include <memory>
 #include <string>
@@ -54,6 +55,7 @@ public:
     void Report(const char* what, const std::string& error);
     RowCopies& Copies() { return copies_; }
     LinkIndexes& Indexes() { return indexes_; }
+    const RowJournal& Journal() const { return journal_; }
     /// Where its states are kept; null: nowhere.
     void SetStates(std::shared_ptr<znIBrowserStateContainer> states) { states_ = std::move(states); }
     znIBrowserStateContainer* States() const { return states_.get(); }
@@ -69,8 +71,10 @@ public:
     /// Makes the views and the other sources let go of tables, columns and references that the database lost:
     /// not while a transaction may still bring them back, and never in the middle of a question.
     void ForgetMissing();
-    /// Tells the views that items came, went or changed.
+    /// Tells the views that items came, went or changed: whichever.
     void ItemsChanged();
+    /// Tells them that rows of the database were changed, which are looked up in the journal.
+    void RowsChanged();
     /// Notes it, to be told later: before what may run out of memory when it is half done.
     void NoteItemsChanged() noexcept;
     /// Whether a view shows the source or another source is made of it.
@@ -138,7 +142,9 @@ private:
     const std::unique_ptr<Database> database_;
     Schema schema_;
     RowCopies copies_;
+    RowJournal journal_;
     ChangeLog changes_;
+    Database::Stamp told_;     // when rows were last said to have changed
     Database::Stamp followed_; // when it was last looked whether others changed something
     Database::Stamp stamp_;    // of the tables when the sources were last brought up to date
     Database::Stamp counted_;  // of the rows when the version was last asked for

@@ -37,14 +37,38 @@ std::string PairSide(const LinkJoint& joint, LinkEnd end) {
     return "(" + joint.part[end].Select(" AS item" + columns) + ")";
 }
 
-std::string PairsSql(const LinkJoint& joint) {
-    std::string sql = "SELECT p.item, c.item FROM " + PairSide(joint, LINK_PARENT) + " AS p JOIN " +
-                      PairSide(joint, LINK_CHILD) + " AS c ON ";
+/// The columns of both ends, under their plain names, have equal values.
+std::string PairCondition(const LinkJoint& joint, const char* left, const char* right) {
+    std::string sql;
     for (std::size_t i = 0; i < joint.columns[LINK_CHILD].size(); ++i) {
         const std::string column = ".c" + std::to_string(i);
-        sql.append(i == 0 ? "p" : " AND p").append(column).append(" = c").append(column);
+        sql.append(i == 0 ? "" : " AND ").append(left).append(column);
+        sql.append(" = ").append(right).append(column);
     }
     return sql;
+}
+
+std::string PairsSql(const LinkJoint& joint) {
+    return "SELECT p.item, c.item FROM " + PairSide(joint, LINK_PARENT) + " AS p JOIN " +
+           PairSide(joint, LINK_CHILD) + " AS c ON " + PairCondition(joint, "p", "c");
+}
+
+/// Where the row number itself is what the other end refers to, the row need not be looked at.
+bool IsRowNumber(const LinkJoint& joint, LinkEnd end) {
+    const Table& table = *joint.part[end].table;
+    const std::vector<std::string>& columns = joint.columns[end];
+    return table.rowidColumn && columns.size() == 1 && table.FindColumn(columns.front()) == table.rowidColumn;
+}
+
+/// The rows below those given, each by its place among them; in the order of the places.
+std::string BelowSql(const LinkJoint& joint) {
+    const std::string from = "SELECT given.key, c.item FROM json_each(?) AS given CROSS JOIN ";
+    const std::string to = PairSide(joint, LINK_CHILD) + " AS c ON ";
+    if (IsRowNumber(joint, LINK_PARENT)) return from + to + "c.c0 = given.value";
+    LinkJoint parents = joint;
+    parents.part[LINK_PARENT].condition.clear();
+    return from + PairSide(parents, LINK_PARENT) + " AS p ON p.item = given.value CROSS JOIN " + to +
+           PairCondition(joint, "c", "p");
 }
 
 /// Which end of the reference the tables are; none when they are not linked by it.
@@ -142,19 +166,16 @@ bool LinkReader::RelatedByIndex(LinkEnd end, std::int64_t other, Rows& rows) {
     return true;
 }
 
-/// The rows at that end that are linked to the row `?` at the other end. Where the row number itself is what
-/// they refer to, the row need not be looked at.
+/// The rows at that end that are linked to the row `?` at the other end.
 std::string LinkReader::RelatedSql(const LinkJoint& joint, LinkEnd end) const {
     const LinkEnd otherEnd = Opposite(end);
     const RowPart& from = joint.part[otherEnd];
     const RowPart& to = joint.part[end];
     const std::vector<std::string>& columns = joint.columns[otherEnd];
-    const bool isRowNumber = from.table->rowidColumn && columns.size() == 1 &&
-                             from.table->FindColumn(columns.front()) == from.table->rowidColumn;
     const std::string value =
         "(SELECT " + Columns(columns) + " FROM " + from.From() + " WHERE " + from.table->key + " = ?)";
-    return to.Select({}, Operand(joint.columns[end]) + " = " + (isRowNumber ? "?" : value)) + " ORDER BY " +
-           to.table->key;
+    return to.Select({}, Operand(joint.columns[end]) + " = " + (IsRowNumber(joint, otherEnd) ? "?" : value)) +
+           " ORDER BY " + to.table->key;
 }
 
 bool LinkReader::RelatedBySql(LinkEnd end, std::int64_t other, Rows& rows, bool firstOnly) {
@@ -207,6 +228,59 @@ bool LinkReader::HaveChildren(const Rows& parents, std::vector<bool>& have) {
         std::string error;
         if (!statement.Finish(error)) return source_[LINK_CHILD]->FailToRead(error);
     }
+    return true;
+}
+
+/// Appends what lies below those of the rows that are in the joint's table.
+bool LinkReader::ReadBelow(const LinkJoint& joint, const Rows& parents, std::vector<Placed>& found) {
+    std::vector<std::size_t> places;
+    std::string given;
+    for (std::size_t i = 0; i < parents.size(); ++i) {
+        const RowPlace place = source_[LINK_PARENT]->PlaceOf(parents[i]);
+        if (place.slot != joint.part[LINK_PARENT].slot) continue;
+        places.push_back(i);
+        given += (given.empty() ? "[" : ",") + std::to_string(place.row);
+    }
+    if (places.empty()) return true;
+    const RowPart& children = joint.part[LINK_CHILD];
+    const std::size_t before = found.size();
+    Statement statement = source_[LINK_CHILD]->Control().Db().Prepare(BelowSql(joint));
+    statement.Bind(1, given + "]");
+    children.Bind(statement, 2);
+    while (statement.Next()) {
+        found.emplace_back(places[static_cast<std::size_t>(statement.Integer(0))],
+                           source_[LINK_CHILD]->RowOf({children.slot, statement.Integer(1)}));
+    }
+    // An index may have the rows of one value in an order of its own.
+    const auto first = found.begin() + static_cast<std::ptrdiff_t>(before);
+    if (!std::is_sorted(first, found.end())) std::sort(first, found.end());
+    std::string error;
+    return statement.Finish(error) || source_[LINK_CHILD]->FailToRead(error);
+}
+
+bool LinkReader::Children(const Rows& parents, RowGroups& groups) {
+    groups.rows.clear();
+    groups.ends.assign(parents.size(), 0);
+    if (NeedsIndex(LINK_CHILD)) {
+        for (std::size_t i = 0; i < parents.size(); ++i) {
+            if (!RelatedByIndex(LINK_CHILD, parents[i], groups.rows)) return false;
+            groups.ends[i] = groups.rows.size();
+        }
+        return true;
+    }
+    std::vector<Placed> found;
+    for (const LinkJoint& joint : joints_) {
+        if (!ReadBelow(joint, parents, found)) return false;
+    }
+    const auto isBefore = [](const Placed& a, const Placed& b) { return a.first < b.first; };
+    if (joints_.size() > 1) std::stable_sort(found.begin(), found.end(), isBefore);
+    groups.rows.reserve(found.size());
+    for (const Placed& row : found) {
+        groups.rows.push_back(row.second);
+        groups.ends[row.first] = groups.rows.size();
+    }
+    for (std::size_t i = 1; i < parents.size(); ++i)
+        groups.ends[i] = std::max(groups.ends[i], groups.ends[i - 1]);
     return true;
 }
 

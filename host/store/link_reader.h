@@ -33,6 +33,8 @@ public:
 
     /// The rows below one row, in the order of the source.
     bool Children(std::int64_t parent, Rows& rows) { return Related(LINK_CHILD, parent, rows, false); }
+    /// The same for many rows at once: a group for each.
+    bool Children(const Rows& parents, RowGroups& groups);
     bool HasChildren(std::int64_t parent);
     /// An answer for each: `HasChildren`, with one statement for all.
     bool HaveChildren(const Rows& parents, std::vector<bool>& have);
@@ -50,6 +52,9 @@ private:
     bool RelatedBySql(LinkEnd end, std::int64_t other, Rows& rows, bool firstOnly);
     std::string RelatedSql(const LinkJoint& joint, LinkEnd end) const;
     bool NeedsIndex(LinkEnd end) const;
+    /// A row below another, by the place of that among those asked for.
+    using Placed = std::pair<std::size_t, std::int64_t>;
+    bool ReadBelow(const LinkJoint& joint, const Rows& parents, std::vector<Placed>& found);
     /// Calls `visit(parent, child)` for each pair of linked rows.
     template <class Visit>
     bool ForEachPair(Visit&& visit);

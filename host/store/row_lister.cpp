@@ -8,7 +8,6 @@
 #include "store/link_reader.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace znhost {
 
@@ -37,9 +36,8 @@ bool ComesBefore(const Value& a, const Value& b) {
 }
 
 /// What a value is sorted by.
-Value KeyOf(Value value, bool natural = false) {
-    if (std::string* const text = std::get_if<std::string>(&value))
-        *text = natural ? NaturalKey(Fold(*text)) : Fold(*text);
+Value KeyOf(Value value) {
+    if (std::string* const text = std::get_if<std::string>(&value)) *text = Fold(*text);
     return value;
 }
 
@@ -75,7 +73,8 @@ std::optional<std::size_t> RowLister::Field::ColumnIn(const Table& table) const 
     return table.displayColumn ? *table.displayColumn : table.columns.size();
 }
 
-RowLister::RowLister(SimpleSource& source, const RowQuery& query) : source_(source), query_(query) {
+RowLister::RowLister(SimpleSource& source, const RowQuery& query)
+    : source_(source), query_(query), keys_(query.order.natural) {
     for (const RowCondition& condition : query.conditions) fields_.emplace_back(condition.property);
     if (IsSorted()) fields_.emplace_back(query.order.property);
     const CallLog::Quiet quiet(source.Log());
@@ -92,22 +91,33 @@ bool RowLister::Run(std::vector<std::int64_t>& rows) {
         byRow_ = true;
         read = ReadChildren(rows);
     } else {
-        for (const RowPart& part : source_.Parts()) read = ReadPart(part, rows) && read;
+        const std::vector<RowPart> parts = source_.Parts();
+        byKey_ = IsSortedByKey(parts);
+        if (byKey_) fields_.pop_back();
+        byNumber_ = parts.size() == 1 && dynamic_cast<BaseSource*>(&source_) != nullptr;
+        for (const RowPart& part : parts) read = ReadPart(part, rows) && read;
     }
     if (!read) {
         rows.clear();
         return false;
     }
     Compute(rows);
-    Sort(rows);
+    if (IsSorted()) Sort(rows, 0, rows.size());
+    if (byKey_ && query_.order.descending) std::reverse(rows.begin(), rows.end());
     return true;
+}
+
+/// Whether the rows are to be sorted by what is their number.
+bool RowLister::IsSortedByKey(const std::vector<RowPart>& parts) const {
+    if (!query_.order.sorted || parts.size() != 1 || !dynamic_cast<BaseSource*>(&source_)) return false;
+    const Table& table = *parts.front().table;
+    return fields_.back().number && table.rowidColumn && fields_.back().ColumnIn(table) == table.rowidColumn;
 }
 
 bool RowLister::ReadChildren(std::vector<std::int64_t>& rows) {
     LinkReader reader(*query_.link);
     if (!reader.Children(query_.parent, rows)) return false;
     std::erase_if(rows, [this](std::int64_t row) { return !IsAmong(row); });
-    if (IsSorted()) keys_.resize(rows.size());
     return true;
 }
 
@@ -130,8 +140,9 @@ bool RowLister::ReadPart(const RowPart& part, std::vector<std::int64_t>& rows) {
     const PartReading reading = ReadingOf(part);
     if (LookUp(part, reading, rows)) return true;
     if (query_.among && query_.among->Size() <= mostLookups) return ReadAmong(part, reading, rows);
+    if (IsWhole(part) && reading.condition.empty() && CountUp(part, rows)) return true;
     Statement statement = source_.Control().Db().Prepare(part.Select(reading.columns, reading.condition) +
-                                                         " ORDER BY " + part.table->key);
+                                                         OrderFor(part, reading));
     int position = part.Bind(statement);
     for (const Value& value : reading.values) statement.Bind(position++, value);
     while (statement.Next()) Take(part, statement, reading, rows);
@@ -145,9 +156,7 @@ void RowLister::Take(const RowPart& part, const Statement& statement, const Part
     const std::int64_t row = source_.RowOf({part.slot, statement.Integer(0)});
     if (!IsAmong(row) || !TakesRow(statement, reading.places)) return;
     rows.push_back(row);
-    if (!IsSorted()) return;
-    const Field& field = fields_.back();
-    keys_.push_back(field.computed ? Cell() : SortKey(CellOf(field, statement, reading.places.back())));
+    if (IsSorted()) AddKey(fields_.back(), statement, reading.places.back());
 }
 
 /// Reads each of a few rows by its key, in the order of the table.
@@ -170,6 +179,51 @@ bool RowLister::ReadAmong(const RowPart& part, const PartReading& reading, std::
     }
     std::string error;
     return statement.Finish(error) || source_.FailToRead(error);
+}
+
+/// Whether all rows of the table are wanted, and nothing of them but their numbers.
+bool RowLister::IsWhole(const RowPart& part) const {
+    return fields_.empty() && !query_.among && part.condition.empty() && !part.table->copied;
+}
+
+/// Where the rows of a whole table are numbered without a gap they need not be looked at. @return false, and
+/// `rows` is as it was, when they are not, or the database failed
+bool RowLister::CountUp(const RowPart& part, std::vector<std::int64_t>& rows) {
+    const auto ask = [&part](const std::string& what) {
+        return "(SELECT " + what + " FROM " + part.From() + ")";
+    };
+    const std::string& key = part.table->key;
+    // Each by itself: so the database counts without looking at rows.
+    Statement statement = source_.Control().Db().Prepare(
+        "SELECT " + ask("COUNT(*)") + ", " + ask("MIN(" + key + ")") + ", " + ask("MAX(" + key + ")"));
+    if (!statement.Next()) return false;
+    const std::int64_t count = statement.Integer(0);
+    const std::int64_t first = statement.Integer(1);
+    const auto distance =
+        static_cast<std::uint64_t>(statement.Integer(2)) - static_cast<std::uint64_t>(first);
+    if (count < 1 || distance != static_cast<std::uint64_t>(count) - 1) return false;
+    rows.reserve(rows.size() + static_cast<std::size_t>(count));
+    for (std::int64_t i = 0; i < count; ++i) rows.push_back(source_.RowOf({part.slot, first + i}));
+    return true;
+}
+
+/// Sorted rows are read by an index of their column, where there is one: it holds all that is needed, and
+/// often has them in order. Others are read as they stand.
+std::string RowLister::OrderFor(const RowPart& part, const PartReading& reading) {
+    const std::string own = " ORDER BY " + part.table->key;
+    if (!IsSorted() || !byNumber_ || fields_.size() != 1 || reading.places.back() == noPlace) return own;
+    const auto column = fields_.back().ColumnIn(*part.table);
+    if (*column == part.table->columns.size() || !part.table->columns[*column].indexed) return own;
+    const std::string order = " ORDER BY " + Database::Quoted(part.table->columns[*column].name);
+    Statement plan = source_.Control().Db().Prepare("EXPLAIN QUERY PLAN " +
+                                                    part.Select(reading.columns, reading.condition) + order);
+    bool byIndex = false;
+    while (plan.Next()) {
+        const std::string_view step = plan.Text(3);
+        if (step.find("TEMP B-TREE") != step.npos) return own;
+        byIndex = byIndex || step.find("COVERING INDEX") != step.npos;
+    }
+    return byIndex ? order : own;
 }
 
 /// Reads the part by an index, if one of the conditions can be answered so. @return false, and `rows` is as
@@ -218,6 +272,13 @@ RowLister::Cell RowLister::CellOf(const Field& field, const Statement& statement
     if (place == noPlace || statement.IsNull(place)) return {};
     if (field.number) return statement.Get(place);
     return std::string(statement.Text(place));
+}
+
+/// The key of the row on which the statement stands. Texts are not copied.
+void RowLister::AddKey(const Field& field, const Statement& statement, int place) {
+    if (place == noPlace || statement.IsNull(place)) return keys_.AddNothing();
+    if (!field.number) return keys_.AddText(statement.Text(place));
+    keys_.Add(statement.Get(place));
 }
 
 RowLister::Cell RowLister::CellOfText(const Field& field, std::string_view text) {
@@ -274,6 +335,7 @@ RowLister::Cell RowLister::ComputedCell(const Field& field, std::int64_t row) co
 void RowLister::Compute(std::vector<std::int64_t>& rows) {
     const auto isLeft = [this](const Field& field) { return byRow_ || field.computed; };
     if (std::none_of(fields_.begin(), fields_.end(), isLeft)) return;
+    SortKeys computed(query_.order.natural);
     std::size_t kept = 0;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         bool takes = true;
@@ -288,29 +350,67 @@ void RowLister::Compute(std::vector<std::int64_t>& rows) {
         if (!takes) continue;
         rows[kept] = rows[i];
         if (IsSorted()) {
-            keys_[kept] =
-                isLeft(fields_.back()) ? SortKey(ComputedCell(fields_.back(), rows[i])) : std::move(keys_[i]);
+            if (isLeft(fields_.back())) {
+                computed.Add(ComputedCell(fields_.back(), rows[i]));
+            } else {
+                keys_.Move(i, kept);
+            }
         }
         ++kept;
     }
     rows.resize(kept);
-    if (IsSorted()) keys_.resize(kept);
+    if (!IsSorted()) return;
+    keys_.Resize(kept);
+    if (isLeft(fields_.back())) keys_ = std::move(computed);
 }
 
-RowLister::Cell RowLister::SortKey(Cell cell) const { return KeyOf(std::move(cell), query_.order.natural); }
+/// The keys of rows that were found otherwise, each in a column.
+bool RowLister::ReadKeys(const std::vector<std::int64_t>& rows) {
+    std::vector<Value> values(rows.size());
+    for (const RowPart& part : source_.Parts()) {
+        const PartReading reading = ReadingOf(part);
+        if (reading.places.back() == noPlace) continue;
+        std::string given = "[";
+        for (const std::int64_t row : rows) {
+            const RowPlace place = source_.PlaceOf(row);
+            if (given.size() > 1) given += ',';
+            given += place.slot == part.slot ? std::to_string(place.row) : "null";
+        }
+        Statement statement = source_.Control().Db().Prepare(
+            "SELECT given.key, c.value FROM json_each(?) AS given CROSS JOIN (SELECT " + part.table->key +
+            " AS item" + reading.columns + " AS value FROM " + part.From() +
+            ") AS c ON c.item = given.value");
+        statement.Bind(1, given + "]");
+        while (statement.Next())
+            values[static_cast<std::size_t>(statement.Integer(0))] = CellOf(fields_.back(), statement, 1);
+        std::string error;
+        if (!statement.Finish(error)) return source_.FailToRead(error);
+    }
+    for (const Value& value : values) keys_.Add(value);
+    return true;
+}
 
-void RowLister::Sort(std::vector<std::int64_t>& rows) {
-    if (!IsSorted()) return;
-    std::vector<std::size_t> order(rows.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    const bool descending = query_.order.descending;
-    std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
-        return descending ? ComesBefore(keys_[b], keys_[a]) : ComesBefore(keys_[a], keys_[b]);
-    });
-    std::vector<std::int64_t> sorted;
-    sorted.reserve(rows.size());
-    for (const std::size_t place : order) sorted.push_back(rows[place]);
-    rows = std::move(sorted);
+bool RowLister::RunBelow(const std::vector<std::int64_t>& parents, RowGroups& groups) {
+    if (!LinkReader(*query_.link).Children(parents, groups)) return false;
+    if (!IsSorted()) return true;
+    if (!ReadKeys(groups.rows)) return false;
+    byNumber_ = false; // in each group they are as the source has them
+    std::size_t begin = 0;
+    for (const std::size_t end : groups.ends) {
+        Sort(groups.rows, begin, end);
+        begin = end;
+    }
+    return true;
+}
+
+bool RowLister::SortRows(std::vector<std::int64_t>& rows) {
+    if (!ReadKeys(rows)) return false;
+    Sort(rows, 0, rows.size());
+    return true;
+}
+
+void RowLister::Sort(std::vector<std::int64_t>& rows, std::size_t begin, std::size_t end) const {
+    keys_.Sort(rows, begin, end, query_.order.descending, byNumber_);
 }
 
 } // namespace znhost

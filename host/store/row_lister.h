@@ -4,6 +4,7 @@
 
 #include "model/row_source.h"
 #include "store/row_part.h"
+#include "store/sort_keys.h"
 #include "store/wanted_values.h"
 
 #include <optional>
@@ -22,6 +23,10 @@ public:
 
     /// @return false, with the reason noted in the source, when the database failed
     bool Run(std::vector<std::int64_t>& rows);
+    /// The same for the query's link, without conditions, below each of `parents`.
+    bool RunBelow(const std::vector<std::int64_t>& parents, RowGroups& groups);
+    /// Puts rows into the query's order, by stored values.
+    bool SortRows(std::vector<std::int64_t>& rows);
 
 private:
     /// A value that the query needs of each row.
@@ -60,19 +65,26 @@ private:
     bool ReadChildren(std::vector<std::int64_t>& rows);
     bool TakesRow(const Statement& statement, const std::vector<int>& places) const;
     void Compute(std::vector<std::int64_t>& rows);
-    void Sort(std::vector<std::int64_t>& rows);
+    void Sort(std::vector<std::int64_t>& rows, std::size_t begin, std::size_t end) const;
+    bool ReadKeys(const std::vector<std::int64_t>& rows);
+    void AddKey(const Field& field, const Statement& statement, int place);
+    bool IsWhole(const RowPart& part) const;
+    bool CountUp(const RowPart& part, std::vector<std::int64_t>& rows);
+    std::string OrderFor(const RowPart& part, const PartReading& reading);
     Cell CellOf(const Field& field, const Statement& statement, int place) const;
     Cell ComputedCell(const Field& field, std::int64_t row) const;
     static Cell CellOfText(const Field& field, std::string_view text);
     static bool Fulfils(const RowCondition& condition, const Field& field, const Cell& cell);
-    Cell SortKey(Cell cell) const;
-    bool IsSorted() const { return query_.order.sorted; }
+    bool IsSorted() const { return query_.order.sorted && !byKey_; }
+    bool IsSortedByKey(const std::vector<RowPart>& parts) const;
 
     SimpleSource& source_;
     const RowQuery& query_;
     std::vector<Field> fields_; // of the conditions, then of the order
-    std::vector<Cell> keys_;    // by which the rows are sorted, row by row
+    SortKeys keys_;             // of the rows, as long as they are read together with them
     bool byRow_ = false;        // all fields are still to be read, row by row
+    bool byKey_ = false;        // the order is that of the row numbers
+    bool byNumber_ = true;      // the order of the source itself is that of the row numbers
 };
 
 } // namespace znhost

@@ -100,7 +100,7 @@ bool SimpleSource::WriteBoolean(znIBrowserDataProperty& property, std::int64_t r
     control_.Changes().Add(
         {part->table->name + ": " + part->table->columns[*column].name + " = " + (value ? "1" : "0"),
          {{update + " AND " + name + " IS ?", std::move(undo)}}});
-    control_.ItemsChanged();
+    control_.RowsChanged();
     return true;
 }
 
@@ -214,7 +214,7 @@ bool SimpleSource::MoveBelow(const RowLink& link, const std::vector<std::int64_t
     }
     if (!transaction.Commit(error)) return FailWith(error);
     control_.Changes().Add({name_ + ": " + std::to_string(rows.size()) + " moved", std::move(mover.Undo())});
-    control_.ItemsChanged();
+    control_.RowsChanged();
     return true;
 }
 

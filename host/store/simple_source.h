@@ -91,6 +91,8 @@ public:
     void Scan(RowScan& scan, std::chrono::steady_clock::time_point until, std::vector<std::int64_t>& rows,
               std::vector<std::int64_t>* others) override;
     std::uint64_t Version() override;
+    bool ListBelow(const RowLink& link, const std::vector<std::int64_t>& parents, const RowOrder& order,
+                   RowGroups& groups) override;
     std::int64_t Count(const RowQuery& query) override;
     bool HasChildren(const RowLink& link, std::int64_t parent) override;
     void HaveChildren(const RowLink& link, const std::vector<std::int64_t>& parents,
@@ -100,6 +102,8 @@ public:
     void Children(const RowLink& link, const std::vector<std::int64_t>& parents,
                   std::vector<std::int64_t>& children) override;
     bool HasMoreThan(std::size_t count) override;
+    bool ChangedRows(std::uint64_t since, std::vector<std::int64_t>& rows) override;
+    bool SortRows(const RowOrder& order, std::vector<std::int64_t>& rows) override;
     RowMark Mark() override;
     void NewRows(const RowMark& since, std::vector<std::int64_t>& rows) override;
     RowCondition OneOf(znIBrowserDataProperty& property, const std::vector<znString>& values) override;

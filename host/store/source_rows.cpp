@@ -19,6 +19,29 @@ void SimpleSource::List(const RowQuery& query, std::vector<std::int64_t>& rows) 
     RowLister(*this, query).Run(rows);
 }
 
+bool SimpleSource::ListBelow(const RowLink& link, const std::vector<std::int64_t>& parents,
+                             const RowOrder& order, RowGroups& groups) {
+    RowQuery query;
+    query.link = &link;
+    query.order = order;
+    return RowLister(*this, query).RunBelow(parents, groups);
+}
+
+bool SimpleSource::ChangedRows(std::uint64_t since, std::vector<std::int64_t>& rows) {
+    rows.clear();
+    const RowJournal& journal = control_.Journal();
+    if (journal.IsQuiet(since)) return true;
+    // Rows of others may be decided upon by what stands in any table.
+    const BaseSource* const base = dynamic_cast<const BaseSource*>(this);
+    return base && base->Table() && !base->Table()->copied && journal.Read(since, base->Table()->name, rows);
+}
+
+bool SimpleSource::SortRows(const RowOrder& order, std::vector<std::int64_t>& rows) {
+    RowQuery query;
+    query.order = order;
+    return dynamic_cast<BaseSource*>(this) && RowLister(*this, query).SortRows(rows);
+}
+
 std::int64_t SimpleSource::Count(const RowQuery& query) {
     if (query.link || !query.conditions.empty()) {
         RowQuery unsorted = query;

@@ -60,7 +60,7 @@ protected:
     std::vector<std::int64_t> Rows() {
         std::vector<std::int64_t> rows;
         for (std::int64_t row = 0; row < 12; ++row) {
-            if (Below(2)) rows.push_back(row);
+            if (Below(2)) rows.push_back(row * (GetParam() % 2 ? 1000 : 1)); // far apart, or close together
         }
         std::shuffle(rows.begin(), rows.end(), random_);
         return rows;
@@ -89,7 +89,15 @@ protected:
     void ChangeRows(RowBlock& block) {
         std::map<std::int64_t, std::uint32_t> before;
         for (std::uint32_t i = 0; i < block.rows.size(); ++i) before[block.rows[i]] = block.IndexAt(i);
-        tree_.SetRows(block, Rows());
+        const std::size_t way = Below(4);
+        const auto place = static_cast<std::uint32_t>(Below(block.rows.size()));
+        if (way == 0 && block.rows.size() > 1) {
+            tree_.RemoveRow(block, place);
+        } else if (way == 1 && !before.count(77)) {
+            tree_.InsertRow(block, Below(2) ? place : static_cast<std::uint32_t>(block.rows.size()), 77);
+        } else {
+            tree_.SetRows(block, Rows());
+        }
         for (std::uint32_t i = 0; i < block.rows.size(); ++i) {
             const auto known = before.find(block.rows[i]);
             if (known == before.end()) continue;
@@ -159,7 +167,7 @@ TEST(RowTree, TakesAChainOfAnyDepthApart) {
         const RowTree::ManyChanges many(tree, tree.Root());
         for (int depth = 0; depth < 200000; ++depth) {
             std::vector<TreePart> parts;
-            parts.push_back(RowTree::MakeBlock(Items(), {depth}));
+            parts.push_back(RowTree::MakeBlock(Items(), std::vector<std::int64_t>{depth}));
             tree.SetParts(*node, std::move(parts));
             node = &tree.NodeOf(RowTree::ItemAt(*node->parts[0].block, 0));
         }

@@ -1,0 +1,51 @@
+// Which rows of a database changed.
+#ifndef ZN_HOST_ROW_JOURNAL_H
+#define ZN_HOST_ROW_JOURNAL_H
+
+#include "base/change_count.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct sqlite3;
+
+namespace znhost {
+
+/// The rows that were changed of late through a connection, each with the number of its change. When there
+/// are too many, or others changed something, that is forgotten: what changed is not known then.
+class RowJournal {
+public:
+    explicit RowJournal(sqlite3* connection);
+    ~RowJournal();
+    RowJournal(const RowJournal&) = delete;
+    RowJournal& operator=(const RowJournal&) = delete;
+
+    /// Looks at that connection from now on; the one before is closed, or the same.
+    void Follow(sqlite3* connection);
+
+    /// Forgets: anything may have changed.
+    void Forget() noexcept;
+    /// Appends the rows of the table that came, went or changed since that change. False when that is not
+    /// known.
+    bool Read(std::uint64_t since, std::string_view table, std::vector<std::int64_t>& rows) const;
+    /// Whether nothing changed since.
+    bool IsQuiet(std::uint64_t since) const;
+
+private:
+    struct Entry {
+        std::uint64_t number;
+        std::string table;
+        std::int64_t row;
+    };
+    void Note(std::string_view database, const char* table, std::int64_t row) noexcept;
+
+    sqlite3* connection_ = nullptr;
+    std::vector<Entry> entries_;
+    std::uint64_t forgotten_ = 0; ///< what happened up to this change is not known
+};
+
+} // namespace znhost
+
+#endif
