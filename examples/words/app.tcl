@@ -7,6 +7,7 @@ znbrowsermanager window expandall
 znbrowsermanager app rows main 2 1
 znbrowsermanager app draw main
 znbrowsermanager app popup main
+znbrowsermanager app export main selected csv
 # What the host was asked, and a call that is refused.
 znbrowsermanager app journal on
 znbrowsermanager view names

@@ -2,6 +2,7 @@
 #include "app/app_commands.h"
 
 #include "app/data_app_commands.h"
+#include "app/export_app_commands.h"
 #include "app/popup_app_commands.h"
 #include "app/row_app_commands.h"
 #include "app/state_app_commands.h"
@@ -163,6 +164,8 @@ constexpr AppWord appWords[] = {
      "adds a data control on the database FILE, or on one in memory", 1, 2, CreateDataCtrl},
     {"datactrl names", "", "DATACTRL ...", "lists the data controls", 0, 0, DataCtrlNames},
     {"draw", "WINDOW", "TEXT", "draws what a window shows, as a table", 1, 1, AnswerDraw},
+    {"export", "WINDOW all|selected|INDEX csv|tsv|cells ?FILE?", "TEXT",
+     "writes rows as text, or into FILE and answers how many; cells: without captions", 3, 4, AppExport},
     {"glance", "DATACTRL STATEMENT ?VALUE ...?", "VALUE ...",
      "runs one SQL statement, but no longer than a tenth of a second", 2, anyNumber, Glance},
     {"help", "", "TEXT", "lists these words", 0, 0, Help},
