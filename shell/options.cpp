@@ -121,6 +121,8 @@ std::optional<ExitCode> ParseOptions(int argc, const char* const* argv, Options&
     app.add_flag("--tk", options.tk,
                  "Open windows on the display; with nothing to run, a browser on each database")
         ->disable_flag_override();
+    app.add_flag("--dark", options.dark, "Light text on dark in the windows on the display")
+        ->disable_flag_override();
     AddPage(app, options, "--reference", Reference, "Print all words of the command, as Markdown, and end");
     AddPage(app, options, "--manual", Manual, "Print the same as a manual page for man, and end");
     app.set_version_flag("--version", "znbrowsersh " ZN_BROWSER_VERSION);

@@ -57,6 +57,10 @@ bool Session::Start(const Options& options) {
     }
     if (!AddDatabases(options.databases)) return false;
     if (options.tk) FindDisplay();
+    if (options.dark && windows_ == Windows::OnDisplay) {
+        const bool dark = Tcl_Eval(interp_, "::znbrowser::theme dark") == TCL_OK;
+        if (!dark) PrintLine(TCL_STDERR, Tcl_GetObjResult(interp_));
+    }
     return true;
 }
 

@@ -4,14 +4,34 @@
 proc ::znbrowser::prepareCells {n} {
     upvar #0 ::znbrowser::window$n w
     foreach state {chosen odd drop hover current expanded expandable pointed collected marks} {$w(tree) state define $state}
-    $w(tree) element create back rect -outline [list [colour accent] pointed [colour focus] current] -outlinewidth 1 -open we
-    $w(tree) element create mark text -text "●" -fill [colour accent] -font znBrowser00 -draw {yes collected no {}}
+    $w(tree) element create back rect -outlinewidth 1 -open we
+    $w(tree) element create mark text -text "●" -font znBrowser00 -draw {yes collected no {}}
     $w(tree) element create indent rect -height 1
-    $w(tree) element create expander image -width 16 -image \
+    $w(tree) element create expander image -image \
         [list znbrowser::image::opened expanded znbrowser::image::closed expandable]
     $w(tree) element create icon image
     set w(elements) {}
     set w(styles) {}
+    styleTree $n
+}
+
+# Colours and sizes, of the theme and the zoom.
+proc ::znbrowser::styleTree {n} {
+    upvar #0 ::znbrowser::window$n w
+    $w(tree) configure -background [colour paper] -headerforeground [colour text] -itemheight [rowHeight] \
+        -yscrollincrement [rowHeight] -highlightbackground [colour line] -highlightcolor [colour accent]
+    $w(tree) element configure back -outline [list [colour accent] pointed [colour focus] current]
+    $w(tree) element configure mark -fill [colour accent]
+    $w(tree) element configure expander -width [scaled 16]
+    foreach name $w(elements) {styleElement $n $name}
+}
+
+proc ::znbrowser::styleElement {n name} {
+    upvar #0 ::znbrowser::window$n w
+    switch [$w(tree) element type $name] {
+        text {$w(tree) element configure $name -fill [fillOf $n [colour text]]}
+        rect {$w(tree) element configure $name -fill [colour button] -outline [colour buttonLine]}
+    }
 }
 
 # The style for elements of these kinds; in the column of the tree with what shows the depth of the row.
@@ -46,11 +66,11 @@ proc ::znbrowser::elementsFor {n kind place} {
         lappend w(elements) $name
         $w(tree) element create $name $type
         if {$type eq "text"} {
-            $w(tree) element configure $name -lines 1 -wrap none -fill [colour text] -font znBrowser00
+            $w(tree) element configure $name -lines 1 -wrap none -font znBrowser00
         } elseif {$type eq "rect"} {
-            $w(tree) element configure $name -fill [colour button] -outline [colour buttonLine] \
-                -outlinewidth 1 -rx 3
+            $w(tree) element configure $name -outlinewidth 1 -rx 3
         }
+        styleElement $n $name
     }
     return $names
 }
@@ -61,7 +81,7 @@ proc ::znbrowser::layoutStyle {n style parts} {
         switch -regexp $part {
             {^back$} {$w(tree) style layout $style back -detach yes -iexpand xy}
             {^mark$} {$w(tree) style layout $style mark -visible {yes marks no {}} -padx {4 0} -expand ns}
-            {^indent$} {$w(tree) style layout $style indent -padx {4 0}}
+            {^indent$} {$w(tree) style layout $style indent -padx [list [scaled 4] 0]}
             {^expander$} {$w(tree) style layout $style expander -padx {0 2} -expand ns}
             {^button\d+$} {
                 $w(tree) style layout $style $part -union ${part}t -ipadx 8 -ipady 1 -padx 4
@@ -147,7 +167,7 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
         switch $kind {
             text {
                 $w(tree) item element configure $item $column text$place -text [oneLine $text] \
-                    -font [fontOf 0 $italic] -fill [colourOr $colour ""]
+                    -font [fontOf 0 $italic] -fill [textFill $n $colour]
             }
             button {
                 $w(tree) item element configure $item $column button${place}t -text [oneLine $text]
@@ -162,6 +182,24 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
     }
 }
 
+# What a text of a colour that a user named is drawn with; nothing, when Tk knows none of that name.
+proc ::znbrowser::textFill {n colour} {
+    set colour [colourOr $colour ""]
+    return [expr {$colour eq "" ? "" : [fillOf $n $colour]}]
+}
+
+# The colour, or where it could not be read on a row in that state one like it. What a script chose is right for a light
+# row, whatever it is.
+proc ::znbrowser::fillOf {n colour} {
+    upvar #0 ::znbrowser::window$n w
+    variable theme
+    if {$theme eq "light"} {return [list $colour]}
+    set fill {}
+    foreach state {chosen drop hover} {lappend fill [legibleOn $colour [colour $state]] $state}
+    if {[dict get $w(look) stripes]} {lappend fill [legibleOn $colour [colour stripe]] odd}
+    return [lappend fill [legibleOn $colour $w(paper)] {}]
+}
+
 proc ::znbrowser::setStyle {n slot number style} {
     upvar #0 ::znbrowser::window$n w
     if {[info exists w(style,$slot,$number)] && $w(style,$slot,$number) eq $style} return
@@ -169,7 +207,7 @@ proc ::znbrowser::setStyle {n slot number style} {
     $w(tree) item style set $w(item,$slot) $w(column,$number) $style
 }
 
-proc ::znbrowser::indentOf {depth} {return [expr {min($depth, 60) * 18}]}
+proc ::znbrowser::indentOf {depth} {return [expr {min($depth, 60) * [scaled 18]}]}
 
 # A text as one line; more of it than any screen has room for is not looked at.
 proc ::znbrowser::oneLine {text} {

@@ -40,7 +40,7 @@ proc ::znbrowser::makeColumns {n shown} {
     foreach key [array names w number,*] {unset w($key)}
     foreach number $shown {
         set w(column,$number) [$w(tree) column create -borderwidth 1 -textpadx {5 5} -textpady 5 \
-            -minwidth 24 -arrowpadx {4 6} -arrowpady {2 0} \
+            -minwidth [scaled 24] -arrowpadx {4 6} -arrowpady {2 0} \
             -arrowimage {znbrowser::image::up up znbrowser::image::down down} \
             -background [list [colour headerHot] active [colour line] pressed [colour header] {}]]
         set w(number,$w(column,$number)) $number
@@ -56,7 +56,7 @@ proc ::znbrowser::configureColumn {n number} {
     set column [lindex $w(columns) $number]
     set arrow [dict get {{} none ascending up descending down} [dict get $column order]]
     $w(tree) column configure $w(column,$number) -text [oneLine [dict get $column caption]] \
-        -width [expr {max(24, [dict get $column width])}] -arrow $arrow -arrowside right \
+        -width [scaled [expr {max(24, [dict get $column width])}]] -arrow $arrow -arrowside right \
         -justify [dict get $column justify] -itemjustify [dict get $column justify] \
         -font [fontOf 0 [dict get $column italic]] -button [dict get $column sorts]
 }
@@ -92,8 +92,8 @@ proc ::znbrowser::columnsResized {n} {
         set width [$w(tree) column cget $w(column,$number) -width]
         if {$width eq ""} {set width [$w(tree) column width $w(column,$number)]}
         set column [lindex $w(columns) $number]
-        if {$width == max(24, [dict get $column width])} continue
-        columnCommand $n [dict get $column name] view column width $width
+        if {$width == [scaled [expr {max(24, [dict get $column width])}]]} continue
+        columnCommand $n [dict get $column name] view column width [unscaled $width]
         if {![isOpen $n]} return
     }
 }

@@ -127,8 +127,24 @@ namespace eval ::znbrowser {
 
 proc ::znbrowser::prepareImages {} {
     variable imageData
+    foreach name [array names imageData] {image create photo znbrowser::image::$name}
+    drawImages
+}
+
+# Draws them as large and as light as they are to be; whoever shows them shows that.
+proc ::znbrowser::drawImages {} {
+    variable imageData
+    variable scale
+    variable theme
+    variable files
     foreach name [array names imageData] {
-        image create photo znbrowser::image::$name -format png -data $imageData($name)
+        set png [binary decode base64 $imageData($name)]
+        if {$scale != 1 || $theme eq "dark"} {set png [pictureOf $png $scale [expr {$theme eq "dark"}]]}
+        znbrowser::image::$name configure -format png -data $png
+    }
+    foreach file [array names files] {
+        if {![string match znbrowser::* $files($file)]} {image delete $files($file)}
+        unset files($file)
     }
 }
 
@@ -150,17 +166,24 @@ proc ::znbrowser::fileImage {file disabled} {
     set image [imageNamed $file]
     if {$image eq "" && [catch {image create photo -file $file} image]} {
         set image znbrowser::image::missing
-    } elseif {[image height $image] > [rowHeight]} {
-        set image [smaller $image]
+    } elseif {![string match znbrowser::* $image]} {
+        set image [fitted $image]
     }
     return [set files($file,$disabled) [expr {$disabled ? [faded $image] : $image}]]
 }
 
-# A copy that fits into a row.
-proc ::znbrowser::smaller {image} {
-    set small [image create photo]
-    $small copy $image -subsample [expr {int(ceil([image height $image] / double([rowHeight] - 2)))}]
-    return $small
+# An image that fits into a row: smaller where it must be, larger where all is.
+proc ::znbrowser::fitted {image} {
+    variable scale
+    set height [image height $image]
+    set room [expr {[rowHeight] - 2}]
+    set zoom [expr {max(1, min(int($scale), $room / max(1, $height)))}]
+    set less [expr {$height > $room + 2 ? int(ceil($height / double($room))) : 1}]
+    if {$zoom == 1 && $less == 1} {return $image}
+    set copy [image create photo]
+    $copy copy $image -zoom $zoom -subsample $less
+    image delete $image
+    return $copy
 }
 
 # A copy in grey.

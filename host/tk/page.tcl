@@ -6,9 +6,9 @@ proc ::znbrowser::buildTree {n frame} {
     upvar #0 ::znbrowser::window$n w
     set w(tree) $frame.tree
     treectrl $w(tree) -showroot no -showbuttons no -showlines no -itemheight [rowHeight] -borderwidth 0 \
-        -highlightthickness 0 -background [colour paper] -font znBrowser00 -yscrollincrement [rowHeight] \
+        -highlightthickness 1 -font znBrowser00 -yscrollincrement [rowHeight] \
         -xscrollincrement 20 -columnresizemode realtime -usetheme no -takefocus 1 -showheader yes \
-        -headerfont znBrowser00 -headerforeground [colour text] -width 100 -height 100
+        -headerfont znBrowser00 -width 100 -height 100
     ttk::scrollbar $frame.y -orient vertical -command [list ::znbrowser::yview $n]
     ttk::scrollbar $frame.x -orient horizontal -command [list $w(tree) xview]
     $w(tree) configure -xscrollcommand [list ::znbrowser::xscrolled $frame.x]

@@ -73,6 +73,7 @@ proc ::znbrowser::boxOf {name tkIndex {column ""} {element ""}} {
 
 # Once, as soon as Tk is there.
 proc ::znbrowser::prepare {} {
+    catch {useTheme [option get . znbrowserTheme ZnbrowserTheme]}
     prepareLook
     prepareImages
     bindMouse
@@ -86,7 +87,7 @@ proc ::znbrowser::open {n name frame} {
     variable numberOf
     upvar #0 ::znbrowser::window$n w
     array set w [list name $name first 0 full 1 page {} columns {} shown {} active -1 anchor -1 \
-        pending {} reported -1 trouble {} menu 0 menus 0 look [host look $n]]
+        pending {} reported -1 trouble {} menu 0 menus 0 look [host look $n] paper [colour paper]]
     set w(owns) [expr {$frame eq "" || ![winfo exists $frame]}]
     if {$w(owns)} {set frame [makeToplevel $n $name $frame]}
     set w(frame) $frame
@@ -107,7 +108,7 @@ proc ::znbrowser::makeToplevel {n name frame} {
         toplevel $frame -background [colour surface]
     }
     wm title $frame $name
-    wm geometry $frame 960x620
+    wm geometry $frame [scaled 960]x[scaled 620]
     wm minsize $frame 360 200
     wm protocol $frame WM_DELETE_WINDOW [list ::znbrowser::unpost $n]
     return $frame
@@ -125,6 +126,7 @@ proc ::znbrowser::build {n} {
     buildTree $n $w(path).body
     buildChooser $n $w(path).bar
     buildCollectorButton $n $w(path).bar
+    buildWindows $n $w(path).bar
     buildSearch $n $w(path).bar
     ttk::label $w(path).status.count -style Status.TLabel -anchor w
     ttk::label $w(path).status.message -style Message.TLabel -anchor e
@@ -176,11 +178,13 @@ proc ::znbrowser::unpost {n} {
     if {![info exists w(name)]} return
     if {[host busy]} {
         if {[winfo exists $w(path).progress]} {host cancel} ;# nobody waits for it any longer
+        if {$w(owns) && [stands $w(frame)]} {wm withdraw $w(frame)} ;# it is gone at once, as far as anybody sees
         after 100 [list ::znbrowser::unpost $n]
         return
     }
     manager window current $w(name)
     manager window post false
+    if {[isOpen $n] && $w(owns)} {wm deiconify $w(frame)} ;# it was refused
 }
 
 # Somebody destroyed the frame in which the window stood.
