@@ -84,6 +84,7 @@ int Fail(const AppCall& call, const std::string& reason) {
 }
 
 int ExportToFile(AppCall& call, Window& window, const ExportedRows& rows, ExportFormat format) {
+    if (!call.App().MayWriteFiles()) return Fail(call, "no files are written here");
     std::string native, error;
     if (!NativeFileName(call.Text(3), native, error)) return Fail(call, error);
     errno = 0;
