@@ -22,6 +22,7 @@ znbrowsermanager app prune main
 znbrowsermanager app record on
 znbrowsermanager app record
 znbrowsermanager app record off
+znbrowsermanager app export main selected csv
 # An item, what it refers to, what refers to it, and the way to another one.
 znbrowsermanager app item main 2 100
 znbrowsermanager app references main 2
