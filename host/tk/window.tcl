@@ -278,6 +278,7 @@ proc ::znbrowser::tell {n words} {
     set refusal [host error]
     if {!$failed} {record $n $line}
     if {!$failed || ($answer eq "Unknown error" && $refusal ne "")} {set answer $refusal}
+    if {$answer eq "Unknown error"} {set answer "This cannot be done here"}
     finish $n $answer
     return [expr {!$failed && [isOpen $n]}]
 }
