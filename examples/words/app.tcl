@@ -7,22 +7,6 @@ znbrowsermanager window expandall
 znbrowsermanager app rows main 2 1
 znbrowsermanager app draw main
 znbrowsermanager app popup main
-# The same row on another day, and all from one to another.
-znbrowsermanager app path main 3
-znbrowsermanager app row main {part wheel}
-znbrowsermanager app row main {part wheel} {part rim}
-# Only rows with such a name; the text of a filter may stand in any column shown.
-znbrowsermanager app filter column parts Name contains e
-znbrowsermanager app draw main
-znbrowsermanager app filter column parts Name none
-znbrowsermanager app filter scope parts shown
-znbrowsermanager app sort natural parts Name true
-znbrowsermanager app prune main
-# What is done in windows from now on.
-znbrowsermanager app record on
-znbrowsermanager app record
-znbrowsermanager app record off
-znbrowsermanager app export main selected csv
 # An item, what it refers to, what refers to it, and the way to another one.
 znbrowsermanager app item main 2 100
 znbrowsermanager app references main 2
@@ -41,6 +25,21 @@ znbrowsermanager app datactrl changes bicycle
 znbrowsermanager app datactrl undo bicycle
 znbrowsermanager app datactrl follow bicycle
 znbrowsermanager app datactrl refresh bicycle
+# The same row on another day, and all from one to another.
+znbrowsermanager app path main 3
+znbrowsermanager app row main {part wheel}
+znbrowsermanager app row main {part wheel} {part rim}
+# Only rows with such a name; the text of a filter may stand in any column shown.
+znbrowsermanager app filter column parts Name contains e
+znbrowsermanager app draw main
+znbrowsermanager app filter column parts Name none
+znbrowsermanager app filter scope parts shown
+znbrowsermanager app sort natural parts Name true
+znbrowsermanager app prune main
+# What is done in windows from now on.
+znbrowsermanager app record on
+znbrowsermanager app record
+znbrowsermanager app record off
 # What the host was asked, and a call that is refused.
 znbrowsermanager app journal on
 znbrowsermanager view names

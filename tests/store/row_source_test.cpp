@@ -82,7 +82,8 @@ TEST_F(RowSourceTest, ConditionsCompareNumbersAsNumbersAndNothingWithNothing) {
     EXPECT_EQ(Where(Compare::Equal, "mass", "2.00"), "11");
     EXPECT_EQ(Where(Compare::Less, "mass", "10"), "10 11");
     EXPECT_EQ(Where(Compare::More, "mass", "2"), "13");
-    EXPECT_EQ(Where(Compare::Equal, "name", "cover"), "");
+    EXPECT_EQ(Where(Compare::Equal, "name", "cover"), "11"); // letter case aside
+    EXPECT_EQ(Where(Compare::Equal, "name", "cove"), "");
     EXPECT_EQ(Where(Compare::Accept, "ok", "1"), "10 13");
     EXPECT_EQ(Where(Compare::Accept, nullptr, "ball"), "12");
 }
