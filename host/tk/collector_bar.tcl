@@ -126,7 +126,8 @@ proc ::znbrowser::drawCollector {n} {
 
 proc ::znbrowser::fromCollector {n key {other ""}} {
     upvar #0 ::znbrowser::window$n w
-    return [expr {[dict exists $w(collector) $key] ? [dict get $w(collector) $key] : $other}]
+    if {[dict exists $w(collector) $key]} {return [dict get $w(collector) $key]}
+    return $other
 }
 
 proc ::znbrowser::fillCollector {n bar} {
@@ -144,12 +145,14 @@ proc ::znbrowser::fillCollector {n bar} {
         }
     }
     set kind [fromCollector $n kind]
+    if {$kind eq ""} {set kind all}
     set current [fromCollector $n current]
-    foreach {tool text} [list entityselector_kind "Kind: [expr {$kind eq "" ? "all" : [shortened $kind]}]" \
+    if {$current eq ""} {set current Collections}
+    foreach {tool text} [list entityselector_kind "Kind: [shortened $kind]" \
         selection_count "[grouped [fromCollector $n collected 0]] collected" \
         optionselector_perform [shortened [optionText [fromCollector $n option]]] \
         optionselector_clicks "Clicks: [fromCollector $n click]" \
-        pnlcolselector_named [expr {$current eq "" ? "Collections" : [shortened $current]}]] {
+        pnlcolselector_named [shortened $current]] {
         $bar.$tool configure -text $text
     }
     set w(pick,autofit) [fromCollector $n autofit]
@@ -172,12 +175,14 @@ proc ::znbrowser::drawHidden {n} {
 
 proc ::znbrowser::shortened {text} {
     set text [oneLine $text]
-    return [expr {[string length $text] > 24 ? "[string range $text 0 22]…" : $text}]
+    if {[string length $text] > 24} {return "[string range $text 0 22]…"}
+    return $text
 }
 
 proc ::znbrowser::optionText {name} {
     variable collectorTexts
-    return [expr {[dict exists $collectorTexts $name] ? [dict get $collectorTexts $name] : $name}]
+    if {[dict exists $collectorTexts $name]} {return [dict get $collectorTexts $name]}
+    return $name
 }
 
 # ---- The menus
@@ -198,9 +203,10 @@ proc ::znbrowser::addChoices {n menu name current pairs words} {
 proc ::znbrowser::fillKinds {n menu} {
     $menu delete 0 end
     set kind [fromCollector $n kind]
+    if {$kind eq ""} {set kind none}
     set pairs {none "All kinds"}
     foreach name [fromCollector $n kinds] {lappend pairs $name $name}
-    addChoices $n $menu kind [expr {$kind eq "" ? "none" : $kind}] $pairs \
+    addChoices $n $menu kind $kind $pairs \
         [list ::znbrowser::event $n OnTkColListItemSelected]
 }
 
@@ -294,7 +300,7 @@ proc ::znbrowser::keepCollected {n} {
     upvar #0 ::znbrowser::window$n w
     if {![isOpen $n]} return
     for {set number 1} {"Collection $number" in [fromCollector $n named]} {incr number} {}
-    lassign [askInput $n "Keep what is collected" Name 5 "Collection $number"] done name
+    lassign [askInput $n "Keep what is collected" Name 5 "Collection $number" {}] done name
     if {$done eq "ok" && [isOpen $n]} {collect $n pnlcolselector create $name}
 }
 

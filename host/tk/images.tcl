@@ -31,6 +31,26 @@ namespace eval ::znbrowser {
             07NxndSbLdNplbszgb6qfERhunjiksq5q2MoWqg3WrdU2YwQoct/JsAi/OjOBGeBZ05RwjB6P3blxsG5sEyXs3RSGEYEQRen
             RkbJBgG/AdKE8Oi0ShkjAAAAAElFTkSuQmCC
         }
+        view {
+            iVBORw0KGgoAAAANSUhEUgAAABAAAAAQCAYAAAAf8/9hAAACFUlEQVQ4y92ST2sTURTFz31vMpnGWEcnYJPWJKK21pIYXZQWtLa4
+            EKFCuinBiIhrt65DCyL4EQQXLtpCV6F0J+LCfyiIlIBC2xTbxECtNs2YmMlk3nsuoouKX0DP8sD9wbnnAP+86E8jm8uDiCCENIjI
+            BIErqWpE1ACg5mfTfwf8OuSeJ4YUMKVrfJSIYgpKI6JKy/XeA1jSOHullHLmZ6c6gGwuDykViBAWUt05GNBvDUStiKYxFMtVuG2B
+            470mDhg6Vre+2V9rzSUCHiwsvClksyPgQxenQYxSjOjh6bh14+bVRPfJviN49m4Tu3YTbU/CbrgYOxfFtQun/I7rJbd3G5cHz0TK
+            usZXeXI8k9A4ezyWio7enjxL8bCJ5ZdrKBS/gFEnodsWqDddXBk5geHBCAxdszYq1YmW67UYgMOMqKfHCiIY0KGUguN6+/9LHYgQ
+            ErqPIxwKQvdxUwH9PDVxvdT25OZ6uTpc/e6Yx452w9A1FIo78DwBEIERYfx8DP1RC0/ebmDx6Ue7ajv3OaN7PHEpo0Jm4EOt3nr9
+            qbLXWyjuxLr8Pm4G/ag1WmBEGIhZCJkBLL9Yk89XSiuNH+5dn8YfKcCh3xV2mqBDQspJzigT7NKTQipLSMUNne/Vm+31tifyjGhx
+            a7tWiodNzM2k9w8pm8vDExKckSGkijCiPiL4hFQVxuizjzNbSIW5mTT+I/0E7z7d+etIs50AAAAASUVORK5CYII=
+        }
+        note {
+            iVBORw0KGgoAAAANSUhEUgAAABAAAAAQCAYAAAAf8/9hAAACHElEQVQ4y4WTz05TURCHvznn9t6W0gKllZZyKZeKRRqjLtzIwo0b
+            MWFhNP5ZqIkmkqau3Lv3BXyEvoAPYFwpCzWSuHBh0ChWIojRBGjh3nFRayBQPcls5pzz+30zmRF6nEYNgCIwCLwFuPH44DvT63N7
+            G4DbwEMg2cvI9LqIeVSNNXccx86rMreH6t8CjRqIYFW5N1LMBcH0eFxE6qpk/0vQdQhDzsYTsetTMxMcqwYMZFKzGnFN9SDFYSX0
+            iVAv+CPZ5ZVNXrxsUigVrBMzC0DQk6CrHEVcSPYnLgaVcV69+crTZ8sM57Nk80NVVe4ai+yl2EegyrAx3B8/WkymMykERYzixWOU
+            p0u4nnMz3OHUAYJGDVRBI66mh1KzE1NjyF9V0AhGilnyY7kxhTrgdin2EkzYmCxMVnynrz+BKhgjWGtAwDqW8nSJRNK7FEWc6xrb
+            Rg2sg4S7PMgVMldmTk9hHIMRYXAgTnkyw2ghjYiQ6IuztdmKb6z9yIjwBGgbgN02J13PuVU+XsL1XFBo74S8XmryfPETP3+1EBHE
+            CEHFpz+dPB9FzHdKUFyglvdzfsE/AtJB1wjW17f4trZJeyfEmE5XBoZSBBXfs1bqqhQdhDkRLkdhxLul96jqn5YI1cClNWr5vtJk
+            40vzb7613cJYc0ajsO4AJ4DFlY+r0ecPq/uHRACBjeb+vABiEATfAR4BiHTi0HnvuXLIb/7/nLXvDAfoAAAAAElFTkSuQmCC
+        }
         count_none {
             iVBORw0KGgoAAAANSUhEUgAAABAAAAAQCAYAAAAf8/9hAAABZklEQVQ4y33TMUtXYRTH8c+9/k0C30GEa0OTDUESZg0WDUFD
             i7Y0GE5uvZDcxGqwllDEhigzAnfBMHIShKAX0KLl9drQOfZ0+duBBx6ee37f+5zfOU8FC6/WdGIAFY5xgl6cN2XSzNQ9VUdc
@@ -127,8 +147,24 @@ namespace eval ::znbrowser {
 
 proc ::znbrowser::prepareImages {} {
     variable imageData
+    foreach name [array names imageData] {image create photo znbrowser::image::$name}
+    drawImages
+}
+
+# Draws them as large and as light as they are to be; whoever shows them shows that.
+proc ::znbrowser::drawImages {} {
+    variable imageData
+    variable scale
+    variable theme
+    variable files
     foreach name [array names imageData] {
-        image create photo znbrowser::image::$name -format png -data $imageData($name)
+        set png [binary decode base64 $imageData($name)]
+        if {$scale != 1 || $theme eq "dark"} {set png [pictureOf $png $scale [expr {$theme eq "dark"}]]}
+        znbrowser::image::$name configure -format png -data $png
+    }
+    foreach file [array names files] {
+        if {![string match znbrowser::* $files($file)]} {image delete $files($file)}
+        unset files($file)
     }
 }
 
@@ -150,17 +186,24 @@ proc ::znbrowser::fileImage {file disabled} {
     set image [imageNamed $file]
     if {$image eq "" && [catch {image create photo -file $file} image]} {
         set image znbrowser::image::missing
-    } elseif {[image height $image] > [rowHeight]} {
-        set image [smaller $image]
+    } elseif {![string match znbrowser::* $image]} {
+        set image [fitted $image]
     }
     return [set files($file,$disabled) [expr {$disabled ? [faded $image] : $image}]]
 }
 
-# A copy that fits into a row.
-proc ::znbrowser::smaller {image} {
-    set small [image create photo]
-    $small copy $image -subsample [expr {int(ceil([image height $image] / double([rowHeight] - 2)))}]
-    return $small
+# An image that fits into a row: smaller where it must be, larger where all is.
+proc ::znbrowser::fitted {image} {
+    variable scale
+    set height [image height $image]
+    set room [expr {[rowHeight] - 2}]
+    set zoom [expr {max(1, min(int($scale), $room / max(1, $height)))}]
+    set less [expr {$height > $room + 2 ? int(ceil($height / double($room))) : 1}]
+    if {$zoom == 1 && $less == 1} {return $image}
+    set copy [image create photo]
+    $copy copy $image -zoom $zoom -subsample $less
+    image delete $image
+    return $copy
 }
 
 # A copy in grey.

@@ -18,6 +18,8 @@ proc ::znbrowser::askInput {n title args} {
     array set input [list window $n count 0 done ""]
     set dialog [makeDialog $n $d $title]
     foreach {name type value choices} $args {addField $d $dialog $name $type $value $choices}
+    takeFieldKeys $dialog.fields
+    styleBelow $dialog
     showDialog $n $d $dialog
     vwait ::znbrowser::input${d}(done)
     set answer $input(done)
@@ -112,6 +114,17 @@ proc ::znbrowser::spin {d place step} {
 }
 
 proc ::znbrowser::showDialog {n d dialog} {
+    placeDialog $n $dialog
+    catch {grab $dialog} ;# where that is impossible the other windows can be used meanwhile
+    set first $dialog.fields.value0
+    if {[winfo exists $first]} {
+        focus $first
+        catch {$first selection range 0 end}
+    }
+}
+
+# Shows it in the middle of the window.
+proc ::znbrowser::placeDialog {n dialog} {
     upvar #0 ::znbrowser::window$n w
     update idletasks
     set x [expr {[winfo rootx $w(path)] + max(0, ([winfo width $w(path)] - [winfo reqwidth $dialog]) / 2)}]
@@ -119,12 +132,6 @@ proc ::znbrowser::showDialog {n d dialog} {
     wm geometry $dialog +$x+$y
     wm deiconify $dialog
     raise $dialog
-    catch {grab $dialog} ;# where that is impossible the other windows can be used meanwhile
-    set first $dialog.fields.value0
-    if {[winfo exists $first]} {
-        focus $first
-        catch {$first selection range 0 end}
-    }
 }
 
 # OK: every value must be one of its field. The first that is not gets the focus.

@@ -13,7 +13,7 @@ proc ::znbrowser::bindKeys {} {
         asterisk openBelow KP_Multiply openBelow Return toggleActive space selectActive
         Control-space toggleSelected Control-a selectAll Control-A selectAll
         Control-c copySelected Control-C copySelected Escape clearSearch
-        Menu menuAtActive Shift-F10 menuAtActive
+        Menu menuAtActive Shift-F10 menuAtActive F4 toggleDetails F5 readAgain
     } {
         set modifiers [lrange [split $key -] 0 end-1]
         bind znBrowserTree <[join [concat $modifiers Key [lindex [split $key -] end]] -]> \
@@ -26,32 +26,50 @@ proc ::znbrowser::bindKeys {} {
     }
 }
 
-# Keys of the window as a whole, wherever the focus is.
+# Keys of the window as a whole, wherever the focus is; those in the second table in fields, too.
 proc ::znbrowser::bindWindowKeys {} {
-    foreach {keys handler} {
-        {Control-Key-k Control-Key-K} toggleCollector
-        {Control-Key-z Control-Key-Z} undoStep {Control-Shift-Key-z Control-Shift-Key-Z} restoreStep
+    foreach {keys handler inFields} {
+        {Control-Key-k Control-Key-K} toggleCollector 0
+        {Control-Key-z Control-Key-Z} undoStep 0 {Control-Shift-Key-z Control-Shift-Key-Z} restoreStep 0
+        {Control-Key-plus Control-Key-equal Control-Key-KP_Add Control-ButtonPress-4} zoomIn 1
+        {Control-Key-minus Control-Key-KP_Subtract Control-ButtonPress-5} zoomOut 1
+        {Control-Key-0 Control-Key-KP_0} zoomBack 1 Key-F1 showKeys 1
     } {
-        foreach key $keys {bind znBrowserWindow <$key> [list ::znbrowser::atKey %W $handler]}
+        foreach key $keys {bind znBrowserWindow <$key> "if {\[::znbrowser::atKey %W $handler $inFields\]} break"}
     }
+    foreach key {a A} {bind znBrowserField <Control-Key-$key> {%W selection range 0 end; %W icursor end; break}}
 }
 
-# The widget and those in it have these keys; they go before what the application does with a key.
+# The widget and those in it have these keys; they go before what else is done with a key.
 proc ::znbrowser::takeWindowKeys {widget} {
     set tags [bindtags $widget]
+    if {[winfo class $widget] eq "TButton"} {$widget configure -takefocus ttk::takefocus}
     if {"znBrowserWindow" ni $tags} {
-        bindtags $widget [linsert $tags [lsearch -exact $tags [winfo toplevel $widget]] znBrowserWindow]
+        set own [expr {[isField $widget] ? {znBrowserWindow znBrowserField} : {znBrowserWindow}}]
+        bindtags $widget [linsert $tags 1 {*}$own]
     }
     foreach child [winfo children $widget] {takeWindowKeys $child}
 }
 
-# A key of the window in which a widget stands. In fields keys are for editing.
-proc ::znbrowser::atKey {widget handler} {
-    variable numberOf
-    if {[winfo class $widget] in {TEntry TSpinbox}} return
-    for {set path $widget} {$path ne ""} {set path [winfo parent $path]} {
-        if {[info exists numberOf($path)]} {return [$handler $numberOf($path)]}
+# Fields of dialogs have keys of their own only.
+proc ::znbrowser::takeFieldKeys {widget} {
+    foreach child [winfo children $widget] {
+        if {[isField $child]} {bindtags $child [linsert [bindtags $child] 1 znBrowserField]}
     }
+}
+
+proc ::znbrowser::isField {widget} {expr {[winfo class $widget] in {TEntry TSpinbox TCombobox}}}
+
+# A key of the window in which a widget stands. Answers whether it was for the window.
+proc ::znbrowser::atKey {widget handler inFields} {
+    variable numberOf
+    if {!$inFields && [isField $widget]} {return 0}
+    for {set path $widget} {$path ne ""} {set path [winfo parent $path]} {
+        if {![info exists numberOf($path)]} continue
+        $handler $numberOf($path)
+        return 1
+    }
+    return 0
 }
 
 # The position of the row with the focus; where there is none, of the first row on the screen.

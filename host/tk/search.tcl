@@ -4,7 +4,7 @@ proc ::znbrowser::buildSearch {n bar} {
     upvar #0 ::znbrowser::window$n w
     set w(search) ""
     set w(searchField) $bar.search
-    ttk::label $bar.glass -image znbrowser::image::search -background [colour surface]
+    ttk::label $bar.glass -image znbrowser::image::search
     ttk::entry $bar.search -style Search.TEntry -width 34 -textvariable ::znbrowser::window${n}(search)
     ttk::button $bar.clear -text "Clear" -style Tool.TButton -takefocus 0 \
         -command [list ::znbrowser::clearSearch $n]

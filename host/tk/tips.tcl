@@ -15,13 +15,17 @@ proc ::znbrowser::cutText {n x y} {
     $w(tree) identify -array at $x $y
     if {$at(where) ne "item" || ![string match text* $at(element)]} {return ""}
     set text [$w(tree) item element cget $at(item) $at(column) $at(element) -text]
+    set whole [dict get [pointed $n $x $y] text]
+    if {$whole ne "" && $text ne [oneLine $whole] && [string is double -strict $whole]} {return $whole}
     set font [$w(tree) item element cget $at(item) $at(column) $at(element) -font]
     if {$font eq ""} {set font znBrowser00}
     lassign [$w(tree) item bbox $at(item) $at(column) $at(element)] x1 y1 x2 y2
-    if {[font measure $font $text] <= $x2 - $x1 + 1} {return ""}
-    return $text
+    set whole [dict get [pointed $n $x $y] text] ;# with its line breaks
+    if {[oneLine $whole] ne $text} {set whole $text}
+    if {[font measure $font $text] > $x2 - $x1 + 1 || [string first \n $whole] >= 0} {return $whole}
 }
 
+# Below the place, or above it where the screen ends; of a long text the beginning.
 proc ::znbrowser::showTip {n text rootX rootY} {
     upvar #0 ::znbrowser::window$n w
     unset -nocomplain w(timer,tip)
@@ -29,14 +33,25 @@ proc ::znbrowser::showTip {n text rootX rootY} {
     toplevel $tip -background [colour line]
     wm withdraw $tip
     wm overrideredirect $tip 1
-    label $tip.text -text $text -background [colour tip] -foreground [colour text] -font znBrowser00 \
-        -justify left -wraplength 600 -padx 6 -pady 3
+    label $tip.text -text [beginningOf $text] -background [colour tip] -foreground [colour text] -font znBrowser00 \
+        -justify left -wraplength [expr {min([scaled 600], [winfo screenwidth $tip] - 20)}] -padx 6 -pady 3
     pack $tip.text -padx 1 -pady 1
     update idletasks
     set x [expr {max(0, min($rootX + 12, [winfo screenwidth $tip] - [winfo reqwidth $tip]))}]
-    wm geometry $tip +$x+[expr {$rootY + 18}]
+    set y [expr {$rootY + 18}]
+    if {$y + [winfo reqheight $tip] > [winfo screenheight $tip]} {
+        set y [expr {max(0, $rootY - [winfo reqheight $tip] - 6)}]
+    }
+    wm geometry $tip +$x+$y
     wm deiconify $tip
     raise $tip
+}
+
+# So much of a text as a tip has room for.
+proc ::znbrowser::beginningOf {text} {
+    set lines [split [string range $text 0 1000] \n]
+    if {[string length $text] <= 1000 && [llength $lines] <= 20} {return $text}
+    return "[string trimright [join [lrange $lines 0 19] \n]] …"
 }
 
 proc ::znbrowser::hideTip {n} {
