@@ -19,7 +19,7 @@ std::shared_ptr<DataCtrl> DataCtrl::Open(Browser& model, const std::string& name
 
 DataCtrl::DataCtrl(Browser& model, std::string name, std::unique_ptr<Database> database)
     : HostObject(model.Log()), model_(model), name_(std::move(name)), database_(std::move(database)),
-      schema_(*database_), copies_(*database_), journal_(database_->Handle()) {
+      schema_(*database_), copies_(*database_), journal_(*database_) {
     database_->SetWhyStop([this] { return Services().WhyStop(); });
 }
 
@@ -59,13 +59,23 @@ void DataCtrl::ItemsChanged() {
     Model().DataChanged(*this, VIEW_ROWS | VIEW_CELLS);
 }
 
+/// The journal knows nothing of what other connections changed, and of what was undone.
+void DataCtrl::RowsChanged() {
+    Database::Stamp now;
+    std::string ignored;
+    const bool known =
+        database_->ReadStamp(now, ignored) && now.SameTables(told_) && now.foreign == told_.foreign;
+    told_ = now;
+    if (!known) return ItemsChanged();
+    indexes_.Clear();
+    Model().DataChanged(*this, VIEW_ITEMS);
+}
+
 // ---- Changes
 
 bool DataCtrl::SetMayChange(bool may, std::string& error) {
     if (may == MayChange()) return true;
-    const bool done = database_->Reopen(may ? Database::Access::Change : Database::Access::Read, error);
-    journal_.Follow(database_->Handle());
-    if (!done) return false;
+    if (!database_->Reopen(may ? Database::Access::Change : Database::Access::Read, error)) return false;
     if (!may) changes_.Clear();
     ForgetMissing();
     ItemsChanged();
@@ -80,27 +90,13 @@ bool DataCtrl::UndoChange(std::string& error) {
 
 bool DataCtrl::FollowOthers(bool& changed, std::string& error) {
     Database::Stamp now;
-    const bool done = database_->FollowFile(error);
-    journal_.Follow(database_->Handle());
-    if (!done || !database_->ReadStamp(now, error)) return false;
+    if (!database_->FollowFile(error) || !database_->ReadStamp(now, error)) return false;
     changed = followed_.schema >= 0 && (now.foreign != followed_.foreign || !now.SameTables(followed_));
     followed_ = now;
     if (!changed) return true;
     ForgetMissing();
     ItemsChanged();
     return true;
-}
-
-/// The journal knows nothing of what other connections changed, and of what was undone.
-void DataCtrl::RowsChanged() {
-    Database::Stamp now;
-    std::string ignored;
-    const bool known =
-        database_->ReadStamp(now, ignored) && now.SameTables(told_) && now.foreign == told_.foreign;
-    told_ = now;
-    if (!known) return ItemsChanged();
-    indexes_.Clear();
-    Model().DataChanged(*this, VIEW_ITEMS);
 }
 
 // ---- What the tables give
@@ -125,14 +121,6 @@ bool DataCtrl::Refresh(std::string& error) {
     TakeOverTables();
     stamp_ = now;
     return true;
-}
-
-std::uint64_t DataCtrl::Version() {
-    Database::Stamp now;
-    std::string ignored;
-    if (database_->ReadStamp(now, ignored) && now.SameRows(counted_)) return version_;
-    counted_ = now;
-    return ++version_;
 }
 
 /// When memory runs out it is done again, from what there was before.

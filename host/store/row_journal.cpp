@@ -1,5 +1,7 @@
 #include "store/row_journal.h"
 
+#include "store/database.h"
+
 #include <algorithm>
 #include <new>
 
@@ -16,29 +18,31 @@ constexpr std::size_t mostEntries = 256;
 
 } // namespace
 
-RowJournal::RowJournal(sqlite3* connection) { Follow(connection); }
+RowJournal::RowJournal(Database& database) : database_(database), forgotten_(ChangeCount::Now()) { Watch(); }
 
-void RowJournal::Follow(sqlite3* connection) {
-    if (connection == connection_) return;
-    connection_ = connection;
-    Forget();
+RowJournal::~RowJournal() {
+    sqlite3_preupdate_hook(database_.Handle(), nullptr, nullptr);
+    sqlite3_rollback_hook(database_.Handle(), nullptr, nullptr);
+}
+
+void RowJournal::Watch() noexcept {
     const auto note = [](void* self, sqlite3*, int, const char* database, const char* table,
                          sqlite3_int64 before, sqlite3_int64 after) {
         RowJournal& journal = *static_cast<RowJournal*>(self);
         journal.Note(database, table, before);
         if (after != before) journal.Note(database, table, after);
     };
-    sqlite3_preupdate_hook(connection, note, this);
-    const auto forget = [](void* self) { static_cast<RowJournal*>(self)->Forget(); };
-    sqlite3_rollback_hook(connection, forget, this);
-}
-
-RowJournal::~RowJournal() {
-    sqlite3_preupdate_hook(connection_, nullptr, nullptr);
-    sqlite3_rollback_hook(connection_, nullptr, nullptr);
+    sqlite3_preupdate_hook(database_.Handle(), note, this);
+    const auto lose = [](void* self) { static_cast<RowJournal*>(self)->Lose(); };
+    sqlite3_rollback_hook(database_.Handle(), lose, this);
 }
 
 void RowJournal::Forget() noexcept {
+    Watch();
+    Lose();
+}
+
+void RowJournal::Lose() noexcept {
     entries_.clear();
     forgotten_ = ChangeCount::Now();
 }
@@ -46,7 +50,7 @@ void RowJournal::Forget() noexcept {
 /// The host's own copies lie in the temporary database.
 void RowJournal::Note(std::string_view database, const char* table, std::int64_t row) noexcept {
     if (database == "temp") return;
-    if (entries_.size() == mostEntries) Forget();
+    if (entries_.size() == mostEntries) Lose();
     if (forgotten_ == ChangeCount::Last()) { // nobody has looked since
         forgotten_ = ChangeCount::Now();
         return;
@@ -54,7 +58,7 @@ void RowJournal::Note(std::string_view database, const char* table, std::int64_t
     try {
         entries_.push_back({ChangeCount::Now(), table, row});
     } catch (const std::bad_alloc&) {
-        Forget();
+        Lose();
     }
 }
 

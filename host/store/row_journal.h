@@ -9,23 +9,20 @@
 #include <string_view>
 #include <vector>
 
-struct sqlite3;
-
 namespace znhost {
+
+class Database;
 
 /// The rows that were changed of late through a connection, each with the number of its change. When there
 /// are too many, or others changed something, that is forgotten: what changed is not known then.
 class RowJournal {
 public:
-    explicit RowJournal(sqlite3* connection);
+    explicit RowJournal(Database& database);
     ~RowJournal();
     RowJournal(const RowJournal&) = delete;
     RowJournal& operator=(const RowJournal&) = delete;
 
-    /// Looks at that connection from now on; the one before is closed, or the same.
-    void Follow(sqlite3* connection);
-
-    /// Forgets: anything may have changed.
+    /// Forgets: anything may have changed. From now on the connection that the database has at present is watched.
     void Forget() noexcept;
     /// Appends the rows of the table that came, went or changed since that change. False when that is not
     /// known.
@@ -41,9 +38,12 @@ private:
     };
     void Note(std::string_view database, const char* table, std::int64_t row) noexcept;
 
-    sqlite3* connection_ = nullptr;
+    void Watch() noexcept;
+    void Lose() noexcept;
+
+    Database& database_;
     std::vector<Entry> entries_;
-    std::uint64_t forgotten_ = 0; ///< what happened up to this change is not known
+    std::uint64_t forgotten_; ///< what happened up to this change is not known
 };
 
 } // namespace znhost
