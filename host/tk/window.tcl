@@ -128,6 +128,7 @@ proc ::znbrowser::build {n} {
     buildCollectorButton $n $w(path).bar
     buildWindows $n $w(path).bar
     buildSearch $n $w(path).bar
+    buildTools $n $w(path).bar
     ttk::label $w(path).status.count -style Status.TLabel -anchor w
     ttk::label $w(path).status.message -style Message.TLabel -anchor e
     ttk::label $w(path).status.help -style Status.TLabel -anchor w
