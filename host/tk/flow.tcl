@@ -9,7 +9,9 @@ proc ::znbrowser::flowIn {n frame pairs} {
     foreach widget [place slaves $frame] {
         if {$widget ni $widgets} {place forget $widget}
     }
-    foreach widget [linsert $widgets 0 $frame] {bind $widget <Configure> [list ::znbrowser::flowSoon $n $frame]}
+    foreach widget [linsert $widgets 0 $frame] {
+        bind $widget <Configure> [string map {% %%} [list ::znbrowser::flowSoon $n $frame]] ;# a user named the window's
+    }
     flowSoon $n $frame
 }
 
@@ -57,7 +59,7 @@ proc ::znbrowser::placeLine {frame line top} {
 proc ::znbrowser::buildTools {n bar} {
     ttk::frame $bar.tools -style Browser.TFrame
     lower $bar.tools
-    bind $bar <Configure> [list ::znbrowser::layoutBar $n $bar]
+    bind $bar <Configure> [list ::znbrowser::layoutBar $n %W]
     layoutBar $n $bar
 }
 
