@@ -19,31 +19,34 @@ proc rowOf {window text} {
     error "no row \"$text\" in the window $window"
 }
 
-# Takes a picture of the current window at that size, once all of it is drawn.
-proc takePicture {size file} {
-    set top [winfo toplevel [zn window frame]]
-    wm geometry $top $size+0+0
-    raise $top
-    update
-    update idletasks
-    exec import -window [winfo id $top] -strip $file
-    zn window post false
-}
-
+# Until what follows by itself has been drawn.
 proc wait {milliseconds} {
     after $milliseconds {set waited 1}
     vwait waited
     update
 }
 
+# Takes a picture of the current window at that size, once all of it is drawn.
+proc takePicture {size file} {
+    set top [winfo toplevel [zn window frame]]
+    wm geometry $top $size+0+0
+    raise $top
+    wait 500
+    exec import -window [winfo id $top] -strip $file
+    zn window post false
+}
+
 source [file join $examples browser.tcl]
 foreach text {{Ball bearing} {Shim}} {zn OnTkTreeRequestSelect gearbox [rowOf gearbox $text]}
 takePicture 1080x640 [file join $images browser.png]
 
-zn app datactrl create shop [file join $examples models shop.db]
+zn app datactrl open shop [file join $examples models shop.db]
 znbrowser::any::browse shop
 foreach text {Bicycles "City bicycles" Ciclofficina 2024-103 "order line"} {zn OnTkTreeRequestExpand shop [rowOf shop $text]}
-zn OnTkTreeRequestSelect shop [rowOf shop 2024-103]
+wait 500
+znbrowser::goTo [znbrowser::number shop] select [znbrowser::host position [znbrowser::number shop] [rowOf shop 2024-103]]
+znbrowser::toggleDetails [znbrowser::number shop]
+zn window current shop
 takePicture 1240x640 [file join $images any_database.png]
 
 # A menu stands on the screen by itself: the picture is cut out of that.

@@ -20,7 +20,8 @@ begins as an SQLite database is opened as one: as with --db, named after the fil
 
 With --tk the windows that a script posts stand on the display, and the program stays
 until the last one is closed. When there is nothing to run, it opens a browser on each
-database. Without a display it says so and draws the rows of the windows as text.
+database, which is only read, unless --write says that it may be changed. Without a
+display it says so and draws the rows of the windows as text.
 
 Exit codes: 0 done, 1 the script failed, or it or a database cannot be opened, 2 bad
 usage; "exit N" in a script gives N.)";
@@ -120,6 +121,8 @@ std::optional<ExitCode> ParseOptions(int argc, const char* const* argv, Options&
         ->disable_flag_override();
     app.add_flag("--tk", options.tk,
                  "Open windows on the display; with nothing to run, a browser on each database")
+        ->disable_flag_override();
+    app.add_flag("--write", options.write, "Let a browser that is opened on a database change it")
         ->disable_flag_override();
     app.add_flag("--dark", options.dark, "Light text on dark in the windows on the display")
         ->disable_flag_override();

@@ -15,6 +15,7 @@ struct DatabaseOption {
 struct Options {
     std::vector<DatabaseOption> databases;
     bool strict = false;
+    bool write = false;  /// a browser on a database may change it
     bool tk = false;     /// windows stand on the display, or are drawn as text where there is none
     bool dark = false;   /// the windows are dark
     std::string program; /// as it was called

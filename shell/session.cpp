@@ -55,6 +55,7 @@ bool Session::Start(const Options& options) {
         PrintLine(TCL_STDERR, std::string("znbrowsersh: the host registered no command ") + COMMAND);
         return false;
     }
+    readsOnly_ = options.tk && !options.script && !options.write;
     if (!AddDatabases(options.databases)) return false;
     if (options.tk) FindDisplay();
     if (options.dark && windows_ == Windows::OnDisplay) {
@@ -90,12 +91,25 @@ bool Session::AddDatabases(const std::vector<DatabaseOption>& databases) {
         std::string file;
         std::string error;
         const std::string name = FromNative(database.name);
-        if (!znhost::FileOfNative(database.file, file, error) || !host_->CreateDataCtrl(name, file, error)) {
+        if (!znhost::FileOfNative(database.file, file, error) ||
+            !host_->CreateDataCtrl(name, file, error, readsOnly_)) {
             PrintLine(TCL_STDERR,
                       "znbrowsersh: --db " + FromNative(database.name + "=" + database.file) + ": " + error);
             return false;
         }
         browsed_.push_back(name);
+    }
+    return true;
+}
+
+/// For a script, which writes what it says.
+bool Session::AllowChanges() {
+    if (!readsOnly_) return true;
+    std::string error;
+    for (const std::string& name : browsed_) {
+        if (host_->AllowChanges(name, error)) continue;
+        PrintLine(TCL_STDERR, "znbrowsersh: " + name + ": " + error);
+        return false;
     }
     return true;
 }
@@ -142,6 +156,9 @@ ExitCode Session::RunStandardInput() {
         Tcl_DecrRefCount(script);
         if (!OpenBrowsers()) return EXIT_FAILED;
         return Finish(TCL_OK);
+    } else if (!AllowChanges()) {
+        Tcl_DecrRefCount(script);
+        return EXIT_FAILED;
     } else {
         const Interrupts::Running running(*interrupts_);
         code = Tcl_EvalObjEx(interp_, script, TCL_EVAL_DIRECT | TCL_EVAL_GLOBAL);

@@ -51,6 +51,7 @@ public:
 
 private:
     bool AddDatabases(const std::vector<DatabaseOption>& databases);
+    bool AllowChanges();
     void SetArguments(const Options& options);
     void FindDisplay();
     bool Browse(const std::string& control);
@@ -66,6 +67,7 @@ private:
 
     Tcl_Interp* interp_;
     Windows windows_ = Windows::Hidden;
+    bool readsOnly_ = false;           ///< the databases are for a browser: only a script changes them
     std::vector<std::string> browsed_; ///< the data controls of the command line
     std::unique_ptr<znhost::EmbeddedHost> host_;
     std::unique_ptr<Interrupts> interrupts_;

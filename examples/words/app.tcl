@@ -7,6 +7,24 @@ znbrowsermanager window expandall
 znbrowsermanager app rows main 2 1
 znbrowsermanager app draw main
 znbrowsermanager app popup main
+# An item, what it refers to, what refers to it, and the way to another one.
+znbrowsermanager app item main 2 100
+znbrowsermanager app references main 2
+znbrowsermanager app referring main 2
+znbrowsermanager app reveal main part 3
+znbrowsermanager app flat main
+# Another database file, which is only read; and one that may be changed.
+znbrowsermanager app datactrl open old nosuch.db
+znbrowsermanager app datactrl write bicycle
+znbrowsermanager view property create spare
+znbrowsermanager view property type bool
+znbrowsermanager view property connect part spare
+znbrowsermanager view column create spare
+znbrowsermanager OnTkTreeCheckBoxClick main spare "" 3 false
+znbrowsermanager app datactrl changes bicycle
+znbrowsermanager app datactrl undo bicycle
+znbrowsermanager app datactrl follow bicycle
+znbrowsermanager app datactrl refresh bicycle
 # What the host was asked, and a call that is refused.
 znbrowsermanager app journal on
 znbrowsermanager view names

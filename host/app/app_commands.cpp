@@ -2,6 +2,8 @@
 #include "app/app_commands.h"
 
 #include "app/data_app_commands.h"
+#include "app/database_app_commands.h"
+#include "app/item_app_commands.h"
 #include "app/popup_app_commands.h"
 #include "app/row_app_commands.h"
 #include "app/state_app_commands.h"
@@ -159,10 +161,26 @@ int Journal(AppCall& call) {
 }
 
 constexpr AppWord appWords[] = {
+    {"datactrl changes", "DATACTRL", "TEXT ...",
+     "lists what people have changed in windows and can undo, the first change first", 1, 1, AppChanges},
     {"datactrl create", "NAME ?FILE?", "NAME",
      "adds a data control on the database FILE, or on one in memory", 1, 2, CreateDataCtrl},
+    {"datactrl follow", "DATACTRL", "BOOL",
+     "looks whether others have changed the database, and lets windows show it then", 1, 1, AppFollow},
     {"datactrl names", "", "DATACTRL ...", "lists the data controls", 0, 0, DataCtrlNames},
+    {"datactrl open", "NAME FILE", "NAME",
+     "adds a data control on the database FILE, which is only read: nothing is written to it or beside it", 2,
+     2, AppOpenToRead},
+    {"datactrl refresh", "DATACTRL", "BOOL",
+     "lets windows read the database anew; tells whether others have changed it", 1, 1, AppRefresh},
+    {"datactrl undo", "DATACTRL", "", "undoes the last change that people have made in windows", 1, 1,
+     AppUndo},
+    {"datactrl write", "DATACTRL ?BOOL?", "BOOL", "tells whether the database may be changed, or sets it", 1,
+     2, AppWrite},
     {"draw", "WINDOW", "TEXT", "draws what a window shows, as a table", 1, 1, AnswerDraw},
+    {"flat", "WINDOW ?BOOL?", "BOOL",
+     "tells whether the items of the lists at the top stand there without a row for each list, or sets it", 1,
+     2, AnswerFlat},
     {"glance", "DATACTRL STATEMENT ?VALUE ...?", "VALUE ...",
      "runs one SQL statement, but no longer than a tenth of a second", 2, anyNumber, Glance},
     {"help", "", "TEXT", "lists these words", 0, 0, Help},
@@ -171,6 +189,9 @@ constexpr AppWord appWords[] = {
     {"inputfield create", "DATACTRL NAME TYPE", "NAME",
      "adds a user input field: bool, unsigned, integer, double or string", 3, 3, AppCreateInputField},
     {"inputfield delete", "DATACTRL NAME", "", "deletes a user input field", 2, 2, AppDeleteInputField},
+    {"item", "WINDOW INDEX ?BYTES?", "ITEM",
+     "tells all about an item, and for each column a dictionary; of a value no more than so many bytes", 2, 3,
+     AnswerItem},
     {"journal", "", "CALL ...", "lists the host calls recorded", 0, 0, Journal},
     {"journal clear", "", "", "empties the record of host calls", 0, 0, JournalClear},
     {"journal off", "", "", "stops recording host calls", 0, 0, JournalOff},
@@ -178,8 +199,15 @@ constexpr AppWord appWords[] = {
     {"popup", "WINDOW ?COLUMN INDEX ...?", "ENTRY ...",
      "lists what a right click on these rows shows, or on the selected ones: a dictionary for each entry", 1,
      anyNumber, AnswerPopup},
+    {"references", "WINDOW INDEX", "ITEM ...",
+     "lists the items that an item refers to, a dictionary for each", 2, 2, AnswerReferences},
+    {"referring", "WINDOW INDEX ?REFERENCE ?MOST??", "ENTRY ...",
+     "counts the items that refer to an item, by reference; or lists those of one reference", 2, 4,
+     AnswerReferring},
     {"refuse", "?OPERATION? ?TEXT?", "OPERATION ...",
      "lets the next call of OPERATION fail with TEXT; or lists what waits", 0, 2, Refuse},
+    {"reveal", "WINDOW DATASOURCE ROW", "BOOL",
+     "opens what lies above an item and scrolls to it; tells whether the window has it", 3, 3, AnswerReveal},
     {"rows", "WINDOW ?FIRST COUNT?", "ROW ...", "lists what a window shows, a dictionary for each row", 1, 3,
      AnswerRows},
     {"sql", "DATACTRL STATEMENT ?VALUE ...?", "VALUE ...",

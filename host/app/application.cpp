@@ -10,7 +10,8 @@ Application::Application(Tcl_Interp* interp, CallLog& log) : HostServices(interp
 
 Application::~Application() = default;
 
-bool Application::AddDataCtrl(const std::string& name, const std::string& file, std::string& error) {
+bool Application::AddDataCtrl(const std::string& name, const std::string& file, std::string& error,
+                              bool readOnly) {
     if (name.empty()) {
         error = "a data control needs a name";
         return false;
@@ -19,7 +20,8 @@ bool Application::AddDataCtrl(const std::string& name, const std::string& file, 
         error = "a data control \"" + name + "\" already exists";
         return false;
     }
-    std::shared_ptr<DataCtrl> control = DataCtrl::Open(browser_, name, file, error);
+    std::shared_ptr<DataCtrl> control = DataCtrl::Open(
+        browser_, name, file, readOnly ? Database::Access::Read : Database::Access::Change, error);
     if (!control) return false;
     control->SetStates(MakeStates(*control));
     dataControls_.Add(std::move(control));

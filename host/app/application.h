@@ -21,9 +21,11 @@ public:
 
     BrowserStates& Model() { return browser_; }
     NamedList<DataCtrl>& DataControls() { return dataControls_; }
-    /// Adds a data control on a database file, made when missing, or on one in memory when `file` is "".
+    /// Adds a data control on a database file, made when missing unless it is only to be read, or on one in
+    /// memory when `file` is "".
     /// @return false, with the reason in `error`, and without a data control.
-    bool AddDataCtrl(const std::string& name, const std::string& file, std::string& error);
+    bool AddDataCtrl(const std::string& name, const std::string& file, std::string& error,
+                     bool readOnly = false);
 
     znIBrowserDataCtrl* FindDataCtrl(const char* name) override;
     void GetDataCtrls(std::vector<znIBrowserDataCtrl*>& controls) override;

@@ -6,6 +6,7 @@
 #include "host/znIBrowserDataCtrl.h"
 #include "model/data_sources.h"
 #include "store/data_ctrl.h"
+#include "store/database_file.h"
 #include "window/row_drawing.h"
 #include "window/window_display.h"
 #include "window/window_list.h"
@@ -111,8 +112,17 @@ Application& EmbeddedHost::App() { return parts_->application; }
 
 CallLog& EmbeddedHost::Calls() { return parts_->log; }
 
-bool EmbeddedHost::CreateDataCtrl(const std::string& name, const std::string& file, std::string& error) {
-    return App().AddDataCtrl(name, file, error);
+bool EmbeddedHost::CreateDataCtrl(const std::string& name, const std::string& file, std::string& error,
+                                  bool readOnly) {
+    std::string native;
+    std::string ignored;
+    const bool isThere = !file.empty() && FindDatabaseFile(file, native, ignored) && FileExists(native);
+    return App().AddDataCtrl(name, file, error, readOnly && isThere);
+}
+
+bool EmbeddedHost::AllowChanges(const std::string& name, std::string& error) {
+    DataCtrl* const control = App().DataControls().Find(name);
+    return control && control->SetMayChange(true, error);
 }
 
 void EmbeddedHost::Interrupt() noexcept { parts_->application.Interrupt(); }

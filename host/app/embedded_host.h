@@ -35,7 +35,11 @@ public:
 
     /// Adds a data control on the database `file`, which is made when missing; on one in memory when `file`
     /// is "". @return false, with the reason in `error`, and without a data control.
-    bool CreateDataCtrl(const std::string& name, const std::string& file, std::string& error);
+    /// @param readOnly  a file that is there is not changed, before `AllowChanges`
+    bool CreateDataCtrl(const std::string& name, const std::string& file, std::string& error,
+                        bool readOnly = false);
+    /// @return false, with the reason in `error`, when the database cannot be opened for that
+    bool AllowChanges(const std::string& name, std::string& error);
     /// The names of what scripts name most: views, windows, data controls, their data sources, and the
     /// columns, properties and folders of views; sorted, each once.
     std::vector<std::string> GetObjectNames() const;

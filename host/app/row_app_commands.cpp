@@ -47,6 +47,7 @@ Tcl_Obj* NewRow(RowModel& rows, const RowLook& look, std::size_t& bytes) {
     Put(row, "parent", Tcl_NewWideIntObj(look.parent));
     Put(row, "depth", Tcl_NewWideIntObj(look.depth));
     Put(row, "kind", NewText(KindName(look.kind)));
+    Put(row, "source", NewText(look.source));
     Put(row, "text", NewText(look.text));
     Put(row, "cells", cells);
     Put(row, "expanded", Tcl_NewBooleanObj(look.expanded));
@@ -81,6 +82,17 @@ int AnswerRows(AppCall& call) {
     return call.Fail("the rows are too large: the limit is " + std::to_string(mostBytes) +
                          " bytes, ask for fewer with FIRST and COUNT",
                      "ROWS", call.Text(0));
+}
+
+int AnswerFlat(AppCall& call) {
+    const std::shared_ptr<Window> window = WindowOf(call);
+    int flat = 0;
+    if (!window) return TCL_ERROR;
+    if (call.Count() > 1) {
+        if (Tcl_GetBooleanFromObj(call.App().Interp(), call.Word(1), &flat) != TCL_OK) return TCL_ERROR;
+        window->Rows().SetFlat(flat != 0);
+    }
+    return call.Answer(window->Rows().IsFlat() ? "true" : "false");
 }
 
 int AnswerDraw(AppCall& call) {

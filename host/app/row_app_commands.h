@@ -21,6 +21,8 @@ const char* KindName(RowKind kind);
 int AnswerRows(AppCall& call);
 /// "draw WINDOW": the rows as a table.
 int AnswerDraw(AppCall& call);
+/// WINDOW ?BOOL?: whether the items of lists stand at the top
+int AnswerFlat(AppCall& call);
 
 } // namespace znhost
 

@@ -94,6 +94,8 @@ struct RowMark {
 class RowSource {
 public:
     virtual znIBrowserDataSourceSimple* GetSource() = 0;
+    /// Whether the rows are those that a view of the database computes.
+    virtual bool IsOfView() { return false; }
 
     /// Replaces what `rows` holds by the rows of `query`, in order: one pass, nothing else is kept.
     virtual void List(const RowQuery& query, std::vector<std::int64_t>& rows) = 0;
@@ -130,7 +132,8 @@ public:
     /// cannot be read. One pass over `rows`, by the index of the table.
     virtual std::vector<std::int64_t> Missing(const std::vector<std::int64_t>& rows) = 0;
     /// The item's text: what the built-in column "Name" shows of it (the display column of the table: its
-    /// "name" column, else its first text column, else its row number). False when there is no such row.
+    /// "name" column, else its first text column; where that is empty, and else, its row number). False when
+    /// there is no such row.
     virtual bool GetText(std::int64_t row, std::string& text) = 0;
     /// Whether the values of the property stand in the database; else something computes them, and may do
     /// anything meanwhile. The item's text (null) does.

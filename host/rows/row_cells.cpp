@@ -135,8 +135,11 @@ bool RowCells::ReadText(const Element& element, const Item& item, std::string& t
 /// False when there is nothing to see.
 bool RowCells::ReadElement(const Element& element, const Item& item, CellElement& out) {
     std::string text;
-    if (!ReadText(element, item, text)) return false;
     out.name = element.name;
+    if (!ReadText(element, item, text)) {
+        out.kind = CellElement::Null; // there is a value that could be shown, and it is NULL
+        return element.stored != computed && !element.map;
+    }
     const ZNBROWSER_DATA_TYPE type = element.property->Type();
     const GuiMapRecord* const record = element.map ? element.map->Find(ReadValue(text, type)) : nullptr;
     const GuiMapShows shows = element.map ? element.map->Shows() : GuiMapShows::Nothing;

@@ -21,11 +21,12 @@ class StyleElement;
 
 /// One drawn element of a cell.
 struct CellElement {
-    enum Kind { Text, Icon, DisabledIcon, CheckBox, Button };
+    enum Kind { Text, Icon, DisabledIcon, CheckBox, Button, Null };
 
     Kind kind = Text;
-    std::string name;   ///< of the style's element; "" where the column has no style
-    std::string text;   ///< what is written; of an icon: its file; of a check box: "true" or "false"
+    std::string name; ///< of the style's element; "" where the column has no style
+    std::string
+        text; ///< what is written; of an icon: its file; of a check box: "true" or "false"; of NULL: nothing
     std::string colour; ///< "" for the usual one
 };
 

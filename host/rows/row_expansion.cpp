@@ -42,14 +42,33 @@ bool RowModel::GoesOn() const {
     return view_->Owner().Services().WhyStop().empty();
 }
 
+void RowModel::SetFlat(bool flat) {
+    if (flat_ == flat) return;
+    flat_ = flat;
+    OnViewChanged(VIEW_ROWS);
+}
+
+std::vector<RowContent> RowModel::ContentsOf(const RowNode& node) const {
+    std::vector<RowContent> contents = plan_.Below(node.content);
+    if (!flat_ || node.parent || node.block) return contents;
+    std::vector<RowContent> items;
+    for (RowContent& content : contents) {
+        if (content.kind != RowKind::List) {
+            items.push_back(std::move(content));
+            continue;
+        }
+        for (RowContent& block : plan_.Below(content)) items.push_back(std::move(block));
+    }
+    return items;
+}
+
 /// Lists what stands in a container. Scripts give the values by which rows are sorted, so the tree is left as
 /// it is meanwhile. False when the work must be given up.
 bool RowModel::ListBelow(RowNode& node, std::vector<Listed>& all) {
     if (!node.block && node.content.IsNote()) return true;
     const Row row = RowTree::RowOf(node);
     const ReadTrouble::Watch whole(Services().Trouble()); // the filter is made with what stands below
-    for (RowContent& content :
-         node.block ? plan_.Below(row.Content(), row.Number()) : plan_.Below(node.content)) {
+    for (RowContent& content : node.block ? plan_.Below(row.Content(), row.Number()) : ContentsOf(node)) {
         Listed listed{std::move(content), {}, {}};
         if (listed.content.kind == RowKind::Item) listed.rows = plan_.List(listed.content);
         if (stopped_) return false;
@@ -305,6 +324,7 @@ bool RowModel::Reveal(const std::vector<RowStep>& path) {
     if (!change) return false;
     RowNode* node = &tree_.Root();
     for (const RowStep& step : path) {
+        if (flat_ && node == &tree_.Root() && step.content.kind == RowKind::List) continue;
         if (!node->expanded && !(ExpandRow(RowTree::RowOf(*node)))) return false;
         const auto part =
             std::find_if(node->parts.begin(), node->parts.end(), [&step](const TreePart& candidate) {

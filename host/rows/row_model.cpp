@@ -3,6 +3,7 @@
 
 #include "base/services.h"
 #include "host/znBrowserDataItems.h"
+#include "host/znIBrowserDataReference.h"
 #include "host/znIBrowserDataSourceHierarchical.h"
 #include "host/znIBrowserDataSourceSimple.h"
 #include "model/browser.h"
@@ -321,8 +322,10 @@ void RowModel::LookAtItems(const RowBlock& block, const std::vector<std::size_t>
     const std::vector<bool> have = plan_.HaveRows(block.content, numbers);
     std::vector<ItemCells> items = cells_.Read(block.content, numbers, [this] { return stopped_; });
     const bool failed = NoteTrouble(watch);
+    const std::string source = items.empty() ? "" : NameOf(log_, block.content.source->GetSource());
     for (std::size_t i = 0; i < items.size(); ++i) {
         RowLook& look = looks[places[i]];
+        look.source = source;
         if (failed) {
             const auto shown = shown_.find(look.index);
             if (shown == shown_.end()) {
@@ -340,6 +343,26 @@ void RowModel::LookAtItems(const RowBlock& block, const std::vector<std::size_t>
     }
 }
 
+namespace {
+
+/// Whether other rows of the same source lie below the same item, along another reference.
+bool IsOneOfSeveral(const RowContent& group) {
+    if (!group.link.reference) return false;
+    const std::vector<RowLink>& links = group.scope->links;
+    return std::any_of(links.begin(), links.end(), [&group](const RowLink& link) {
+        return link.parent == group.link.parent && link.child == group.link.child &&
+               link.reference != group.link.reference;
+    });
+}
+
+/// The column by which a reference "table.column" is made.
+std::string ColumnOf(const znIBrowserDataReference& reference) {
+    const std::string name = TextOf(reference.GetName());
+    return name.substr(name.rfind('.') + 1);
+}
+
+} // namespace
+
 /// What a container shows of itself.
 RowLook RowModel::LookOf(const Row& row) {
     const RowContent& container = row.Content();
@@ -348,9 +371,10 @@ RowLook RowModel::LookOf(const Row& row) {
     look.kind = container.kind;
     look.icon = container.kind == RowKind::Folder ? "folder"
                 : container.kind == RowKind::Tree ? "tree"
+                : container.source->IsOfView()    ? "view"
                                                   : "list";
     if (container.IsNote()) {
-        look.icon.clear();
+        look.icon = "note";
         look.italic = true;
         look.text = "cannot be read: " + container.note;
         return look;
@@ -366,7 +390,9 @@ RowLook RowModel::LookOf(const Row& row) {
         const FolderList* const list =
             container.link.reference ? nullptr : container.folder->FindList(source);
         look.text = list && !list->caption.empty() ? list->caption : TextOf(source->GetCaption());
-        if (look.text.empty()) look.text = NameOf(log_, source);
+        look.source = NameOf(log_, source);
+        if (look.text.empty()) look.text = look.source;
+        if (IsOneOfSeveral(container)) look.text += " · " + ColumnOf(*container.link.reference);
     }
     if (!settings.countByNumber && !settings.countByImage) return look;
     const std::optional<std::int64_t> count = CountOf(row);
@@ -422,9 +448,16 @@ std::optional<std::int64_t> RowModel::CountOf(const Row& row) {
     return count;
 }
 
-/// "(12)", or where rows are hidden "(7 of 12)".
+/// Whether the rows were too many to be counted at once.
+bool RowModel::IsWaiting(const RowContent& container) const {
+    const auto slow = slow_.find(PlaceOf(container));
+    return slow != slow_.end() && !slow->second;
+}
+
+/// "(12)", or where rows are hidden "(7 of 12)"; "(…)" as long as it is not known, nothing where it cannot
+/// be.
 std::string RowModel::CountText(const Row& row, std::optional<std::int64_t> count) {
-    if (!count) return " (?)";
+    if (!count) return IsWaiting(row.Content()) ? " (…)" : "";
     const RowContent& container = row.Content();
     const auto [known, isNew] = whole_.try_emplace(PlaceOf(container));
     if (isNew) {

@@ -42,7 +42,8 @@ struct RowLook {
     bool hasRows = false; ///< it can be expanded
     bool bold = false;
     bool italic = false;
-    std::string icon; ///< a key of the default images
+    std::string icon;   ///< a key of the default images
+    std::string source; ///< an item: the name of its data source
     std::vector<RowCell> cells;
 };
 
@@ -142,6 +143,10 @@ public:
     /// exactly those of the trees and lists are selected, as far as they exist.
     void BringBack(std::vector<KeptRow> expanded, std::vector<KeptRow> selected) noexcept;
 
+    /// Whether the items of the lists at the top stand there themselves, without a row for each list.
+    void SetFlat(bool flat);
+    bool IsFlat() const { return flat_; }
+
     // Selection: of items and folders it is the view's; that of trees and lists is the window's own.
     enum class Selecting { Add, Remove, Replace };
     /// False, and nothing changes, when an index is unknown.
@@ -186,6 +191,7 @@ public:
     /// Whether the work in hand must be given up, because something that it may hold was deleted.
     bool IsStopped() const { return stopped_; }
     const RowPlan& Plan() const { return plan_; }
+    CallLog& Log() const { return log_; }
     /// The root folder.
     const RowContent& Top() { return tree_.Root().content; }
     /// Counts the changes of rows and cells: what was found at another number may be out of date.
@@ -233,6 +239,7 @@ private:
     static std::optional<std::int64_t> CountIn(const RowNode& node);
     std::optional<std::int64_t> CountOf(const Row& container);
     bool MayHaveRows(const Row& container);
+    bool IsWaiting(const RowContent& container) const;
     bool IsTooLong(const ReadTrouble::Watch& watch, const RowContent& container);
     void LookAtItems(const RowBlock& block, const std::vector<std::size_t>& places,
                      const std::vector<Row>& rows, std::vector<RowLook>& looks);
@@ -244,6 +251,7 @@ private:
     std::string CountText(const Row& container, std::optional<std::int64_t> count);
 
     struct Listed;
+    std::vector<RowContent> ContentsOf(const RowNode& node) const;
     bool ListBelow(RowNode& node, std::vector<Listed>& all);
     static TreePart MakeNote(const Listed& listed);
     bool Fill(RowNode& node);
@@ -270,6 +278,7 @@ private:
     const RowLink* FindLink(const RowContent& block, RowSource* child, std::string& error) const;
 
     View* view_;
+    bool flat_ = false;
     CallLog& log_;
     RowPlan plan_;
     RowCells cells_;

@@ -59,8 +59,8 @@ bool BaseSource::TryRead(std::int64_t row, std::size_t column, const std::functi
     if (valueSql_.empty()) valueSql_.resize(table_->columns.size() + 1);
     std::string& sql = valueSql_[column];
     if (sql.empty()) {
-        const bool isRowNumber = column == table_->columns.size();
-        sql = "SELECT " + (isRowNumber ? table_->key : Database::Quoted(table_->columns[column].name)) +
+        const bool isName = column == table_->columns.size();
+        sql = "SELECT " + (isName ? table_->naming : Database::Quoted(table_->columns[column].name)) +
               " FROM " + table_->rows + " WHERE " + table_->key + " = ?";
     }
     Statement statement = Control().Db().Prepare(sql);

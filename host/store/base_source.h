@@ -23,6 +23,7 @@ public:
     /// As `ReadColumn` of the source; a place in its own table.
     bool ReadValue(std::int64_t row, std::size_t column, const std::function<void(Statement&)>& take);
 
+    bool IsOfView() override { return table_ && table_->view; }
     std::vector<RowPart> Parts() override;
     BaseSource* BaseAt(std::size_t) override { return this; }
     std::vector<BaseSource*> Bases() override { return {this}; }

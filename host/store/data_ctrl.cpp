@@ -7,11 +7,14 @@
 namespace znhost {
 
 std::shared_ptr<DataCtrl> DataCtrl::Open(Browser& model, const std::string& name, const std::string& file,
-                                         std::string& error) {
+                                         Database::Access access, std::string& error) {
     std::unique_ptr<Database> database =
-        file.empty() ? Database::OpenMemory(error) : Database::OpenFile(file, error);
+        file.empty() ? Database::OpenMemory(error) : Database::OpenFile(file, error, access);
     if (!database) return nullptr;
-    return std::make_shared<DataCtrl>(model, name, std::move(database));
+    const auto control = std::make_shared<DataCtrl>(model, name, std::move(database));
+    std::string ignored;
+    control->database_->ReadStamp(control->followed_, ignored); // what others change from here on is noticed
+    return control;
 }
 
 DataCtrl::DataCtrl(Browser& model, std::string name, std::unique_ptr<Database> database)
@@ -52,6 +55,34 @@ void DataCtrl::NoteItemsChanged() noexcept {
 void DataCtrl::ItemsChanged() {
     indexes_.Clear();
     Model().DataChanged(*this, VIEW_ROWS | VIEW_CELLS);
+}
+
+// ---- Changes
+
+bool DataCtrl::SetMayChange(bool may, std::string& error) {
+    if (may == MayChange()) return true;
+    if (!database_->Reopen(may ? Database::Access::Change : Database::Access::Read, error)) return false;
+    if (!may) changes_.Clear();
+    ForgetMissing();
+    ItemsChanged();
+    return true;
+}
+
+bool DataCtrl::UndoChange(std::string& error) {
+    if (!changes_.Undo(*database_, error)) return false;
+    ItemsChanged();
+    return true;
+}
+
+bool DataCtrl::FollowOthers(bool& changed, std::string& error) {
+    Database::Stamp now;
+    if (!database_->FollowFile(error) || !database_->ReadStamp(now, error)) return false;
+    changed = followed_.schema >= 0 && (now.foreign != followed_.foreign || !now.SameTables(followed_));
+    followed_ = now;
+    if (!changed) return true;
+    ForgetMissing();
+    ItemsChanged();
+    return true;
 }
 
 // ---- What the tables give

@@ -6,6 +6,7 @@
 #include "base/named_list.h"
 #include "host/znIBrowserDataCtrl.h"
 #include "store/base_source.h"
+#include "store/change_log.h"
 #include "store/custom_source.h"
 #include "store/data_operation.h"
 #include "store/data_reference.h"
@@ -27,10 +28,10 @@ class Browser;
 /// What has gone is not listed any more, but its object stays, and is the one listed when it comes back.
 class DataCtrl final : public znIBrowserDataCtrl, public HostObject {
 public:
-    /// Opens the database `file`, made when missing, or one in memory when `file` is "". Null, with the
-    /// reason in `error`, when that cannot be done.
+    /// Opens the database `file`, made when missing unless it is only to be read, or one in memory when
+    /// `file` is "". Null, with the reason in `error`, when that cannot be done.
     static std::shared_ptr<DataCtrl> Open(Browser& model, const std::string& name, const std::string& file,
-                                          std::string& error);
+                                          Database::Access access, std::string& error);
     DataCtrl(Browser& model, std::string name, std::unique_ptr<Database> database);
     ~DataCtrl() override;
 
@@ -38,6 +39,17 @@ public:
     Browser& Model() const { return model_; }
     HostServices& Services() const;
     Database& Db() { return *database_; }
+    // Whether rows may be changed, and what people have changed.
+    bool MayChange() const { return database_->MayChange(); }
+    /// @return false, with the reason, when the database cannot be opened so. What was changed before it is
+    /// only read again cannot be undone any more.
+    bool SetMayChange(bool may, std::string& error);
+    ChangeLog& Changes() { return changes_; }
+    /// Undoes the last of the changes. @return false, with the reason, and nothing is undone
+    bool UndoChange(std::string& error);
+    /// Looks whether another connection has changed the database, and tells the views. @return false, with
+    /// the reason, when the database cannot be read
+    bool FollowOthers(bool& changed, std::string& error);
     /// Tells the reason of a failure to who can read no answer, as a background error.
     void Report(const char* what, const std::string& error);
     RowCopies& Copies() { return copies_; }
@@ -124,7 +136,9 @@ private:
     const std::unique_ptr<Database> database_;
     Schema schema_;
     RowCopies copies_;
-    Database::Stamp stamp_; // of the tables when the sources were last brought up to date
+    ChangeLog changes_;
+    Database::Stamp followed_; // when it was last looked whether others changed something
+    Database::Stamp stamp_;    // of the tables when the sources were last brought up to date
 
     // All that there ever was, and what there is now.
     std::unordered_map<std::string, std::shared_ptr<BaseSource>> knownBases_;

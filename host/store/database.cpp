@@ -1,12 +1,15 @@
 #include "store/database.h"
 
 #include "base/text.h"
-#include "store/database_file.h"
 #include "store/temporary_files.h"
 
 #include <algorithm>
+#include <array>
+#include <cctype>
+#include <cstdio>
 #include <iterator>
 #include <sqlite3.h>
+#include <utility>
 
 namespace znhost {
 namespace {
@@ -33,35 +36,97 @@ std::string TooLargeFile() {
 
 } // namespace
 
-std::unique_ptr<Database> Database::OpenFile(const std::string& path, std::string& error) {
+std::unique_ptr<Database> Database::OpenFile(const std::string& path, std::string& error, Access access) {
     std::string reason;
     std::string native;
     std::unique_ptr<Database> database;
-    if (FindDatabaseFile(path, native, reason)) database = Open(native.c_str(), reason);
+    if (FindDatabaseFile(path, native, reason)) {
+        if (access == Access::Read && !FileExists(native)) reason = "there is no such file";
+        if (reason.empty()) database.reset(new Database(native, access));
+        if (database && !database->Connect(reason)) database.reset();
+    }
     if (!database) error = "cannot open the database \"" + path + "\": " + reason;
     return database;
 }
 
-std::unique_ptr<Database> Database::OpenMemory(std::string& error) { return Open(":memory:", error); }
+std::unique_ptr<Database> Database::OpenMemory(std::string& error) {
+    std::unique_ptr<Database> database(new Database(":memory:", Access::Change));
+    return database->Connect(error) ? std::move(database) : nullptr;
+}
 
-std::unique_ptr<Database> Database::Open(const char* path, std::string& error) {
+/// The file as one that is only read. A log that is not there would be made: then SQLite must take the file
+/// for one that nobody changes, and `FollowFile` looks whether that is still so.
+std::string Database::ReadOnlyUri() {
+    constexpr std::string_view plain = "/._-";
+    std::string uri = "file:";
+    for (const char character : native_) {
+        std::array<char, 4> escaped{};
+        const auto byte = static_cast<unsigned char>(character);
+        if ((byte < 0x80 && std::isalnum(byte)) || plain.find(character) != plain.npos) {
+            uri += character;
+        } else {
+            std::snprintf(escaped.data(), escaped.size(), "%%%02X", byte);
+            uri += escaped.data();
+        }
+    }
+    unlocked_ = IsQuietWithLog(native_);
+    seen_ = StampOfFile(native_);
+    return uri + (unlocked_ ? "?immutable=1" : "?mode=ro");
+}
+
+/// In place of the connection that was there, if it succeeds.
+bool Database::Connect(std::string& error) {
+    unlocked_ = false;
+    const bool writes = access_ == Access::Change;
+    const std::string path = writes ? native_ : ReadOnlyUri();
+    const int flags =
+        writes ? SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE : SQLITE_OPEN_READONLY | SQLITE_OPEN_URI;
     sqlite3* handle = nullptr;
-    const int outcome =
-        sqlite3_open_v2(path, &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, TemporaryFiles::Vfs());
+    const int outcome = sqlite3_open_v2(path.c_str(), &handle, flags, TemporaryFiles::Vfs());
     Connection connection(handle); // there is one even when it could not be opened
     if (outcome != SQLITE_OK) {
         error = ToTcl(handle ? sqlite3_errmsg(handle) : sqlite3_errstr(outcome));
-        return nullptr;
+        return false;
     }
-    std::unique_ptr<Database> database(new Database(std::move(connection)));
+    Adopt(std::move(connection));
     // SQLite looks into the file only when it must.
-    return database->Execute("SELECT 1 FROM sqlite_schema", error) ? std::move(database) : nullptr;
+    return Execute("SELECT 1 FROM sqlite_schema", error);
+}
+
+bool Database::Reopen(Access access, std::string& error) {
+    if (native_ == ":memory:") return true;
+    if (lent_ || InTransaction()) {
+        error = "the database is in use";
+        return false;
+    }
+    const Access before = std::exchange(access_, access);
+    idleBySql_.clear();
+    idle_.clear();
+    NoteRollback(); // nothing that was found with the old connection holds for the new one
+    disregarded_ = 0;
+    if (Connect(error)) {
+        // SQLite takes a file that may not be written for one that is only read.
+        if (access == Access::Read || sqlite3_db_readonly(Handle(), "main") == 0) return true;
+        error = "the file may not be written";
+    }
+    access_ = before;
+    idleBySql_.clear();
+    idle_.clear();
+    std::string ignored;
+    Connect(ignored);
+    return false;
+}
+
+bool Database::FollowFile(std::string& error) {
+    if (!unlocked_ || lent_ || StampOfFile(native_) == seen_) return true;
+    return Reopen(access_, error);
 }
 
 // The program may end in the middle of a statement: then the connection stays until that has gone, too.
 void CloseConnection::operator()(sqlite3* connection) const { sqlite3_close_v2(connection); }
 
-Database::Database(Connection connection) : connection_(std::move(connection)) {
+void Database::Adopt(Connection connection) {
+    connection_ = std::move(connection);
     // No statement may damage the database file itself.
     sqlite3_db_config(Handle(), SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_limit(Handle(), SQLITE_LIMIT_LENGTH, static_cast<int>(largestValue));
@@ -191,6 +256,7 @@ bool Database::EndsAt(const char* tail, const char* end, std::string& error) {
 }
 
 void Database::TakeBack(std::list<PreparedStatement>&& prepared) {
+    --lent_;
     if (prepared.front().once) {
         prepared.clear();
         return;

@@ -2,6 +2,7 @@
 #ifndef ZN_HOST_DATABASE_H
 #define ZN_HOST_DATABASE_H
 
+#include "store/database_file.h"
 #include "store/statement.h"
 
 #include <chrono>
@@ -41,13 +42,29 @@ public:
         }
     };
 
-    /// Opens the database file, which is created when it is missing and its directory is there. Null, with a
-    /// message that names the file and the reason, when it is no regular file, cannot be opened, holds
-    /// something else, or is locked.
-    static std::unique_ptr<Database> OpenFile(const std::string& path, std::string& error);
+    enum class Access {
+        Change,
+        Read, ///< nothing is written to the file, and none is made beside it
+    };
+
+    /// Opens the database file, which is created when it is missing and its directory is there, unless it is
+    /// only to be read. Null, with a message that names the file and the reason, when it is no regular file,
+    /// cannot be opened, holds something else, or is locked.
+    static std::unique_ptr<Database> OpenFile(const std::string& path, std::string& error,
+                                              Access access = Access::Change);
     /// A new, empty database that lives as long as the connection.
     static std::unique_ptr<Database> OpenMemory(std::string& error);
     ~Database();
+
+    // ---- Access ----
+    bool MayChange() const { return access_ == Access::Change; }
+    /// Opens the same file with that access; what was kept for this connection, such as temporary tables, is
+    /// gone. @return false, with the reason, and the access stays, when that fails or somebody is in the
+    /// middle of a statement or a transaction.
+    bool Reopen(Access access, std::string& error);
+    /// Looks whether another program has written to a file that was opened without a look at the locks of
+    /// others; then it is opened anew. @return false, with the reason, when that fails
+    bool FollowFile(std::string& error);
 
     // ---- Statements ----
     /// The statement, taken from those prepared before when it is among them and not in use. More than one
@@ -104,8 +121,10 @@ private:
     using Connection = std::unique_ptr<sqlite3, CloseConnection>;
     using Clock = std::chrono::steady_clock;
 
-    explicit Database(Connection connection);
-    static std::unique_ptr<Database> Open(const char* path, std::string& error);
+    Database(std::string native, Access access) : native_(std::move(native)), access_(access) {}
+    bool Connect(std::string& error);
+    void Adopt(Connection connection);
+    std::string ReadOnlyUri();
 
     Statement PrepareAnew(std::string_view sql, std::list<PreparedStatement>&& taken);
     bool Compile(std::string_view sql, PreparedStatement& prepared, std::string& error);
@@ -114,6 +133,11 @@ private:
     bool IsStopped() noexcept;
     bool WaitForOthers(int tries) noexcept;
 
+    const std::string native_; ///< the file, as the system knows it; ":memory:" for none
+    Access access_;
+    bool unlocked_ = false; ///< opened as a file that nobody else writes to
+    FileStamp seen_;        ///< the file when it was opened so
+    std::size_t lent_ = 0;  ///< statements in use
     Connection connection_; // closed last: the statements below need it
     // The statements not in use, the latest first. The same text may be there more than once: a statement
     // used inside a loop over its own rows needs a second one.

@@ -2,7 +2,9 @@
 
 #include "base/native.h"
 
+#include <array>
 #include <filesystem>
+#include <fstream>
 
 namespace znhost {
 
@@ -43,6 +45,39 @@ std::string WhyRefused(const std::string& native) {
 }
 
 } // namespace
+
+namespace {
+
+std::int64_t Ticks(const std::filesystem::path& path) {
+    std::error_code failure;
+    const auto time = std::filesystem::last_write_time(path, failure);
+    return failure ? 0 : static_cast<std::int64_t>(time.time_since_epoch().count());
+}
+
+std::int64_t SizeOf(const std::filesystem::path& path) {
+    std::error_code failure;
+    const auto size = std::filesystem::file_size(path, failure);
+    return failure ? 0 : static_cast<std::int64_t>(size);
+}
+
+} // namespace
+
+bool FileExists(const std::string& native) {
+    std::error_code failure;
+    return std::filesystem::exists(native, failure);
+}
+
+FileStamp StampOfFile(const std::string& native) {
+    const std::string log = native + "-wal";
+    return {Ticks(native), SizeOf(native), Ticks(log), SizeOf(log)};
+}
+
+bool IsQuietWithLog(const std::string& native) {
+    constexpr std::size_t writeVersion = 18; // in the header of a database file; 2: it has a log beside it
+    std::array<char, writeVersion + 1> header{};
+    std::ifstream(native, std::ios::binary).read(header.data(), header.size());
+    return header[writeVersion] == 2 && SizeOf(native + "-wal") == 0;
+}
 
 bool FindDatabaseFile(const std::string& name, std::string& native, std::string& error) {
     if (name.empty()) { // it would be a nameless database that vanishes when it is closed

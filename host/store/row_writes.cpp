@@ -11,6 +11,8 @@ namespace znhost {
 
 namespace {
 
+constexpr const char* gone = "the item does not exist any more";
+
 /// The WHERE that finds the row of a row number in the table itself; "" when it cannot be found there: the
 /// rows of a view come from elsewhere, and copies of tables without a key have nothing that leads back.
 std::string RowInTable(const Table& table) {
@@ -35,13 +37,30 @@ const RowPart* PartAt(const std::vector<RowPart>& parts, std::size_t slot) {
     return part == parts.end() ? nullptr : &*part;
 }
 
+/// The values of the columns in the table's own row. @return false, with the reason, when they cannot be read
+bool ReadOwnRow(Database& database, const Table& table, const std::string& columns, std::int64_t row,
+                std::vector<Value>& values, std::string& error) {
+    Statement statement = database.Prepare("SELECT " + columns + " FROM main." +
+                                           Database::Quoted(table.name) + RowInTable(table));
+    statement.Bind(1, row);
+    const bool found = statement.Next();
+    for (int i = 0; found && i < statement.ColumnCount(); ++i) values.push_back(statement.Get(i));
+    if (!statement.Finish(error)) return false;
+    if (!found) error = gone;
+    return found;
+}
+
+std::string OnlyRead(const DataCtrl& control) {
+    return "\"" + control.Name() + "\" is only read: changes must be allowed first";
+}
+
 /// Runs a statement that changes one row. @return false with the reason when it did not
 bool ChangeRow(Database& database, Statement& statement, std::string& error) {
     const std::int64_t before = database.RowsChanged();
     while (statement.Next()) {
     }
     if (!statement.Finish(error)) return false;
-    if (database.RowsChanged() == before) error = "the item does not exist any more";
+    if (database.RowsChanged() == before) error = gone;
     return database.RowsChanged() != before;
 }
 
@@ -62,21 +81,36 @@ bool SimpleSource::WriteBoolean(znIBrowserDataProperty& property, std::int64_t r
         error = "only a column of a table can be changed";
         return FailWith(error);
     }
+    if (!control_.MayChange()) return FailWith(error = OnlyRead(control_));
+    const std::string name = Database::Quoted(part->table->columns[*column].name);
+    const std::string update = UpdateOf(*part->table, name + " = ?");
+    std::vector<Value> undo;
     Transaction transaction(control_.Db());
-    if (!transaction.Begin(error)) return FailWith(error);
+    if (!transaction.Begin(error) || !ReadOwnRow(control_.Db(), *part->table, name, place.row, undo, error)) {
+        return FailWith(error);
+    }
     {
-        Statement statement = control_.Db().Prepare(
-            UpdateOf(*part->table, Database::Quoted(part->table->columns[*column].name) + " = ?"));
+        Statement statement = control_.Db().Prepare(update);
         statement.Bind(1, value ? 1 : 0);
         statement.Bind(2, place.row);
         if (!ChangeRow(control_.Db(), statement, error)) return FailWith(error);
     }
     if (!transaction.Commit(error)) return FailWith(error);
+    undo.insert(undo.end(), {place.row, std::int64_t{value}});
+    control_.Changes().Add(
+        {part->table->name + ": " + part->table->columns[*column].name + " = " + (value ? "1" : "0"),
+         {{update + " AND " + name + " IS ?", std::move(undo)}}});
     control_.ItemsChanged();
     return true;
 }
 
 namespace {
+
+std::string Repeated(std::string_view text, std::size_t times) {
+    std::string all;
+    while (times--) all += text;
+    return all;
+}
 
 /// Puts rows below another by their foreign keys.
 class Mover {
@@ -113,6 +147,11 @@ public:
         }
         const bool single = joint->columns[LINK_CHILD].size() == 1;
         Database& database = childSource_.Control().Db();
+        std::vector<Value> undo;
+        if (!ReadOwnRow(database, child, to, place.row, undo, error)) return false;
+        const std::string values = single ? "?" : "(?" + Repeated(", ?", undo.size() - 1) + ")";
+        undo.emplace_back(place.row);
+        undo_.push_back({UpdateOf(child, (single ? to : "(" + to + ")") + " = " + values), std::move(undo)});
         Statement statement = database.Prepare(
             UpdateOf(child, (single ? to : "(" + to + ")") + " = (SELECT " + from + " FROM " + parent.From() +
                                 " WHERE " + parent.table->key + " = ?)"));
@@ -120,6 +159,8 @@ public:
         statement.Bind(2, place.row);
         return ChangeRow(database, statement, error);
     }
+
+    std::vector<ChangeLog::Step>& Undo() { return undo_; }
 
 private:
     const LinkJoint* JointOf(std::size_t childSlot) const {
@@ -152,6 +193,7 @@ private:
     const bool isSelf_;
     const std::int64_t parent_;
     const RowPlace parentPlace_;
+    std::vector<ChangeLog::Step> undo_;
 };
 
 } // namespace
@@ -162,6 +204,7 @@ bool SimpleSource::MoveBelow(const RowLink& link, const std::vector<std::int64_t
         error = "the items belong to another data source";
         return FailWith(error);
     }
+    if (!control_.MayChange()) return FailWith(error = OnlyRead(control_));
     Transaction transaction(control_.Db());
     if (!transaction.Begin(error)) return FailWith(error);
     Mover mover(link, parent);
@@ -170,6 +213,7 @@ bool SimpleSource::MoveBelow(const RowLink& link, const std::vector<std::int64_t
         if (!mover.Move(row, error)) return FailWith(error);
     }
     if (!transaction.Commit(error)) return FailWith(error);
+    control_.Changes().Add({name_ + ": " + std::to_string(rows.size()) + " moved", std::move(mover.Undo())});
     control_.ItemsChanged();
     return true;
 }

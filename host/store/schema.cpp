@@ -127,6 +127,11 @@ public:
             for (TableColumn& column : table_.columns)
                 column.indexed = column.primaryKey == 1; // all that the copy has
         }
+        table_.naming = table_.displayColumn
+                            ? "coalesce(nullif(" +
+                                  Database::Quoted(table_.columns[*table_.displayColumn].name) + ", ''), " +
+                                  table_.key + ")"
+                            : table_.key;
         table_.rows = table_.copied ? "temp." + Database::Quoted("znbrowser_rows_" + table_.name)
                                     : "main." + Database::Quoted(table_.name);
     }

@@ -50,6 +50,9 @@ struct Table {
     /// The column that names a row: "name", "title", "label", "caption" or "number", else the first text
     /// column; none: a row is named by its row number.
     std::optional<std::size_t> displayColumn;
+    /// What names a row, as an expression: the display column; where a row has nothing there, and in a table
+    /// without such a column, its row number.
+    std::string naming;
     /// The column that is the row number itself: INTEGER PRIMARY KEY.
     std::optional<std::size_t> rowidColumn;
     /// Why the table cannot be read (a view on a table that is gone, for example); empty: it can. Such a

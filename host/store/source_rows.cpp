@@ -134,9 +134,8 @@ bool SimpleSource::GetText(std::int64_t row, std::string& text) {
     const RowPlace place = PlaceOf(row);
     const BaseSource* const base = BaseAt(place.slot);
     if (!base || !base->Table()) return false;
-    const Table& table = *base->Table();
-    return ReadColumn(place, table.displayColumn.value_or(table.columns.size()),
-                      [&text](Statement& statement) { text = statement.Text(0); });
+    return ReadColumn(place, base->Table()->columns.size(),
+                      [&text](Statement& statement) { text = statement.Shown(0, std::string::npos); });
 }
 
 bool SimpleSource::IsStored(znIBrowserDataProperty* property) {
@@ -148,9 +147,8 @@ namespace {
 
 /// What a stored property reads from the table; NULL when that has no such column.
 std::string ColumnSql(const Table& table, znIBrowserDataProperty* property) {
-    if (!property && !table.displayColumn) return table.key;
-    const auto column =
-        property ? static_cast<DataProperty*>(property)->ColumnIn(table) : table.displayColumn;
+    if (!property) return table.naming;
+    const auto column = static_cast<DataProperty*>(property)->ColumnIn(table);
     return column ? Database::Quoted(table.columns[*column].name) : "NULL";
 }
 
@@ -176,7 +174,7 @@ void SimpleSource::ReadTexts(const std::vector<std::int64_t>& rows,
             for (std::size_t j = 0; found && j < properties.size(); ++j) {
                 const int column = static_cast<int>(j);
                 if (statement.IsNull(column)) continue;
-                texts[i * properties.size() + j] = statement.TextUpTo(column, longestCell);
+                texts[i * properties.size() + j] = statement.Shown(column, longestCell);
             }
             statement.Rewind();
         }

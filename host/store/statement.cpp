@@ -1,6 +1,7 @@
 #include "store/statement.h"
 
 #include "base/text.h"
+#include "store/blob_text.h"
 #include "store/database.h"
 
 #include <sqlite3.h>
@@ -10,7 +11,9 @@ namespace znhost {
 void FinalizeStatement::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 
 Statement::Statement(Database& owner, std::list<PreparedStatement>&& prepared)
-    : owner_(&owner), prepared_(std::move(prepared)) {}
+    : owner_(&owner), prepared_(std::move(prepared)) {
+    ++owner.lent_;
+}
 
 Statement::Statement(std::string reason) : error_(std::move(reason)), failed_(true) {}
 
@@ -85,6 +88,27 @@ std::string_view Statement::Text(int column) const { return ToTcl(Bytes(column),
 std::string Statement::TextUpTo(int column, std::size_t most) const {
     const std::string_view bytes = Bytes(column);
     return bytes.size() <= most ? std::string(ToTcl(bytes, converted_)) : ToTcl(Cut(bytes, most));
+}
+
+Statement::Type Statement::TypeOf(int column) const {
+    switch (sqlite3_column_type(Handle(), column)) {
+    case SQLITE_NULL: return Type::Null;
+    case SQLITE_INTEGER: return Type::Integer;
+    case SQLITE_FLOAT: return Type::Real;
+    case SQLITE_BLOB: return Type::Blob;
+    default: return Type::Text;
+    }
+}
+
+std::string_view Statement::Stored(int column) const {
+    if (TypeOf(column) != Type::Blob) return Bytes(column);
+    const auto* const bytes = static_cast<const char*>(sqlite3_column_blob(Handle(), column));
+    return bytes ? std::string_view(bytes, static_cast<std::size_t>(sqlite3_column_bytes(Handle(), column)))
+                 : "";
+}
+
+std::string Statement::Shown(int column, std::size_t most) const {
+    return TypeOf(column) == Type::Blob ? DescribeBlob(Stored(column)) : TextUpTo(column, most);
 }
 
 std::string_view Statement::Bytes(int column) const {

@@ -67,6 +67,13 @@ public:
     std::string_view Text(int column) const;
     /// At most so many bytes of the text as it is stored, with "…" behind them when there are more.
     std::string TextUpTo(int column, std::size_t most) const;
+    /// What a reader sees of the value: a blob by its type and size, anything else as `TextUpTo`.
+    std::string Shown(int column, std::size_t most) const;
+    enum class Type { Null, Integer, Real, Text, Blob };
+    /// How the value is stored.
+    Type TypeOf(int column) const;
+    /// The bytes of a blob, or of the text of any other value, as they are stored.
+    std::string_view Stored(int column) const;
     /// The value as it is stored; the bytes of a blob as a text.
     Value Get(int column) const;
 

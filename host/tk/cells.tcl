@@ -29,7 +29,10 @@ proc ::znbrowser::styleTree {n} {
 proc ::znbrowser::styleElement {n name} {
     upvar #0 ::znbrowser::window$n w
     switch [$w(tree) element type $name] {
-        text {$w(tree) element configure $name -fill [fillOf $n [colour text]]}
+        text {
+            set fill [colour [expr {[string match null* $name] ? "faint" : "text"}]]
+            $w(tree) element configure $name -fill [fillOf $n $fill]
+        }
         rect {$w(tree) element configure $name -fill [colour button] -outline [colour buttonLine]}
     }
 }
@@ -59,7 +62,7 @@ proc ::znbrowser::styleFor {n inTree kinds} {
 proc ::znbrowser::elementsFor {n kind place} {
     upvar #0 ::znbrowser::window$n w
     # A button is a rectangle around a text.
-    set types [dict get {text text icon image disabled image check image button {rect text} image {}} $kind]
+    set types [dict get {text text null text icon image disabled image check image button {rect text} image {}} $kind]
     set names [lrange [list $kind$place $kind${place}t] 0 [llength $types]-1]
     foreach name $names type $types {
         if {$name in $w(elements)} continue
@@ -87,7 +90,7 @@ proc ::znbrowser::layoutStyle {n style parts} {
                 $w(tree) style layout $style $part -union ${part}t -ipadx 8 -ipady 1 -padx 4
             }
             {^button\d+t$} {$w(tree) style layout $style $part -expand ns -squeeze x}
-            {^text} {$w(tree) style layout $style $part -padx 4 -expand ns -squeeze x}
+            {^(text|null)} {$w(tree) style layout $style $part -padx 4 -expand ns -squeeze x}
             default {$w(tree) style layout $style $part -padx 3 -expand ns}
         }
     }
@@ -112,15 +115,24 @@ proc ::znbrowser::drawRow {n slot row} {
     $w(tree) item style set $w(item,$slot) $w(filler) [styleFor $n 0 {}]
     lassign $row index parent depth kind
     set cells [lindex $row 11]
+    spanRow $n $slot [expr {[lindex $row 10] eq "note"}]
     foreach number $w(shown) {
         set inTree [dict get [lindex $w(columns) $number] tree]
         if {$kind ne "item"} {
-            drawContainer $n $slot $number $inTree $row
+            drawContainer $n $slot $number [expr {$inTree || ($w(flat) && $number == [lindex $w(shown) 0])}] $row
         } else {
             set cell [lsearch -exact -integer -inline -index 0 $cells $number]
             drawCell $n $slot $number $inTree $depth [lrange $cell 1 end]
         }
     }
+}
+
+# A row that says why something cannot be read has the whole width for it.
+proc ::znbrowser::spanRow {n slot spans} {
+    upvar #0 ::znbrowser::window$n w
+    if {$spans == [info exists w(span,$slot)]} return
+    $w(tree) item span $w(item,$slot) $w(column,[lindex $w(shown) 0]) [expr {$spans ? [llength $w(shown)] + 1 : 1}]
+    if {$spans} {set w(span,$slot) 1} else {unset w(span,$slot)}
 }
 
 proc ::znbrowser::drawState {n slot row odd} {
@@ -146,6 +158,15 @@ proc ::znbrowser::drawContainer {n slot number inTree row} {
     lassign $row index parent depth kind text expanded selected hasRows bold italic icon
     set item $w(item,$slot)
     set column $w(column,$number)
+    if {$icon eq "note"} {
+        setStyle $n $slot $number [styleFor $n 1 {image button text}]
+        $w(tree) item element configure $item $column button1t -text "Retry"
+        $w(tree) item element configure $item $column text2 -text "  [oneLine $text]" \
+            -fill [fillOf $n [colour problem]]
+        $w(tree) item element configure $item $column icon -image [imageNamed $icon]
+        $w(tree) item element configure $item $column indent -width [indentOf $depth]
+        return
+    }
     setStyle $n $slot $number [styleFor $n 1 {image text}]
     $w(tree) item element configure $item $column indent -width [indentOf $depth]
     $w(tree) item element configure $item $column icon -image [imageNamed $icon]
@@ -159,6 +180,7 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
     set item $w(item,$slot)
     set column $w(column,$number)
     set italic [dict get [lindex $w(columns) $number] italic]
+    if {!$w(bare)} {set elements [lsearch -all -inline -not -exact -index 0 $elements null]}
     setStyle $n $slot $number [styleFor $n $inTree [lmap element $elements {lindex $element 0}]]
     if {$inTree} {$w(tree) item element configure $item $column indent -width [indentOf $depth]}
     set place 0
@@ -166,8 +188,12 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
         lassign $element kind text colour
         switch $kind {
             text {
-                $w(tree) item element configure $item $column text$place -text [oneLine $text] \
+                $w(tree) item element configure $item $column text$place \
+                    -text [fitNumber $n $number $inTree [oneLine $text]] \
                     -font [fontOf 0 $italic] -fill [textFill $n $colour]
+            }
+            null {
+                $w(tree) item element configure $item $column null$place -text NULL -font [fontOf 0 1]
             }
             button {
                 $w(tree) item element configure $item $column button${place}t -text [oneLine $text]
@@ -229,6 +255,7 @@ proc ::znbrowser::forgetSlots {n} {
     upvar #0 ::znbrowser::window$n w
     foreach slot [array names w drawn,*] {unset w($slot)}
     foreach style [array names w style,*] {unset w($style)}
+    foreach slot [array names w span,*] {spanRow $n [lindex [split $slot ,] 1] 0}
     foreach key [array names w item,*] {$w(tree) item configure $w($key) -visible no}
 }
 
@@ -236,7 +263,7 @@ proc ::znbrowser::forgetSlots {n} {
 proc ::znbrowser::elementNamed {name tkIndex column place} {
     set n [number $name]
     upvar #0 ::znbrowser::window$n w
-    if {$place eq "expander"} {return expander}
+    if {![string is integer $place]} {return $place}
     foreach cell [lindex [lindex $w(page) [slotOf $n $tkIndex]] 11] {
         if {[dict get [lindex $w(columns) [lindex $cell 0]] name] eq $column} {
             return [lindex $cell [expr {$place + 1}] 0]$place

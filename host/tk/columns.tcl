@@ -1,4 +1,4 @@
-# Columns: their headers, and the menu that chooses which are shown.
+# Columns: their headers, and what the mouse does to them.
 
 proc ::znbrowser::prepareColumns {n} {
     upvar #0 ::znbrowser::window$n w
@@ -19,10 +19,10 @@ proc ::znbrowser::drawColumns {n} {
     set shown {}
     set number 0
     foreach column $w(columns) {
-        if {[dict get $column shown]} {lappend shown $number}
+        if {[dict get $column shown] && !($w(flat) && [dict get $column tree])} {lappend shown $number}
         incr number
     }
-    set layout [lmap column $w(columns) {list [dict get $column name] [dict get $column shown]}]
+    set layout [lmap column $w(columns) {list [dict get $column name] [dict get $column shown] $w(flat)}]
     if {$layout ne $w(layout)} {
         set w(layout) $layout
         makeColumns $n $shown
@@ -30,6 +30,7 @@ proc ::znbrowser::drawColumns {n} {
     set w(shown) $shown
     foreach number $shown {configureColumn $n $number}
     forgetSlots $n
+    refillChooser $n
 }
 
 proc ::znbrowser::makeColumns {n shown} {
@@ -56,7 +57,7 @@ proc ::znbrowser::configureColumn {n number} {
     set column [lindex $w(columns) $number]
     set arrow [dict get {{} none ascending up descending down} [dict get $column order]]
     $w(tree) column configure $w(column,$number) -text [oneLine [dict get $column caption]] \
-        -width [scaled [expr {max(24, [dict get $column width])}]] -arrow $arrow -arrowside right \
+        -width [set w(width,$number) [widthOf $n $column]] -arrow $arrow -arrowside right \
         -justify [dict get $column justify] -itemjustify [dict get $column justify] \
         -font [fontOf 0 [dict get $column italic]] -button [dict get $column sorts]
 }
@@ -92,41 +93,9 @@ proc ::znbrowser::columnsResized {n} {
         set width [$w(tree) column cget $w(column,$number) -width]
         if {$width eq ""} {set width [$w(tree) column width $w(column,$number)]}
         set column [lindex $w(columns) $number]
-        if {$width == [scaled [expr {max(24, [dict get $column width])}]]} continue
+        if {$width == [widthOf $n $column]} continue
+        lappend w(sized) [dict get $column name]
         columnCommand $n [dict get $column name] view column width [unscaled $width]
         if {![isOpen $n]} return
     }
-}
-
-# ---- The chooser
-
-proc ::znbrowser::buildChooser {n bar} {
-    ttk::menubutton $bar.columns -text "Columns" -style Tool.TMenubutton -menu $bar.columns.menu
-    makeMenu $bar.columns.menu -postcommand [list ::znbrowser::fillChooser $n $bar.columns.menu]
-    ttk::button $bar.expand -text "Expand all" -style Tool.TButton -takefocus 0 \
-        -command [list ::znbrowser::command $n window expandall]
-    ttk::button $bar.collapse -text "Collapse all" -style Tool.TButton -takefocus 0 \
-        -command [list ::znbrowser::command $n window collapseall]
-    pack $bar.columns $bar.collapse $bar.expand -side right -padx {6 0}
-}
-
-# One line for each column; the one with the tree stays.
-proc ::znbrowser::fillChooser {n menu} {
-    upvar #0 ::znbrowser::window$n w
-    $menu delete 0 end
-    set number -1
-    foreach column $w(columns) {
-        incr number
-        set ::znbrowser::window${n}(show,$number) [dict get $column shown]
-        $menu add checkbutton -label [oneLine [dict get $column caption]] \
-            -variable ::znbrowser::window${n}(show,$number) \
-            -state [expr {[dict get $column tree] ? "disabled" : "normal"}] \
-            -command [list ::znbrowser::choose $n $number]
-    }
-}
-
-proc ::znbrowser::choose {n number} {
-    upvar #0 ::znbrowser::window$n w
-    columnCommand $n [dict get [lindex $w(columns) $number] name] \
-        view column show [expr {$w(show,$number) ? "true" : "false"}]
 }

@@ -12,6 +12,7 @@ namespace eval ::znbrowser::any {
     variable openRows 60       ;# small tables are opened at first, up to so many rows together ...
     variable openTable 30      ;# ... when they have no more than these
     variable openTime 500      ;# milliseconds to find that out
+    variable mostInCycle 5000  ;# so many rows of a table are shown as lying in a cycle
     variable largeFile 1e8     ;# in larger ones nothing is counted or opened at first: it takes too long
 }
 
@@ -27,14 +28,22 @@ proc ::znbrowser::any::browse {control {columns {}}} {
     set nested [FindNested $control $references]
     Do view column current Name
     Do view column width 300
-    MakeColumns $tables $columns
-    MakeFolders $control $tables $references $nested
+    if {![HasDisplay]} {MakeColumns $tables $columns}
+    set cycles [MakeFolders $control $tables $references $nested]
     Do window create $control
     Do window stripe true
     ExpandSmall $control [dict keys $tables] $nested
-    if {[llength [info procs ::znbrowser::any::MakeMenu]]} {MakeMenu $control} ;# there is a display
+    if {[HasDisplay]} {MakeMenu $control}
     Do window post true
+    if {![HasDisplay]} return
+    FollowTables $control $control $tables $cycles
+    AddDatabaseMenu $control
+    RestoreSort $control
+    NoteRecent [FileOf $control]
 }
+
+# Whether windows stand on a display: then all scripts of the window are there.
+proc ::znbrowser::any::HasDisplay {} {return [llength [info procs ::znbrowser::any::FollowTables]]}
 
 # Runs a command; an answer that is an error becomes a Tcl error.
 proc ::znbrowser::any::Do {args} {
@@ -51,8 +60,8 @@ proc ::znbrowser::any::Quoted {name} {return "\"[string map {\" \"\"} $name]\""}
 
 # ---- What is in the database -----------------------------------------------------------------------------------
 
-# The tables and views that can be read, now connected to the view: name -> {column type isKey ...}, without the
-# column that names the rows. The others are reported.
+# The tables and views that can be read, now connected to the view: name -> {column type isKey isNamed ...}, where
+# isNamed tells that the column names the rows. The others are reported; in a window their rows tell what is wrong.
 proc ::znbrowser::any::ReadTables {control} {
     set tables {}
     foreach row [Sql $control {
@@ -64,7 +73,13 @@ proc ::znbrowser::any::ReadTables {control} {
             Sql $control "SELECT 1 FROM [Quoted $name] LIMIT [expr {!$isView}]" ;# a view may compute for long
             Do view datasource connect $name
             dict set tables $name [ReadColumns $control $name]
-        } message]} {puts stderr "znbrowsersh: $control: \"$name\" cannot be shown: $message"}
+        } message]} {
+            if {[HasDisplay] && ![catch {Do view datasource connect $name}]} {
+                dict set tables $name {}
+            } else {
+                puts stderr "znbrowsersh: $control: \"$name\" cannot be shown: $message"
+            }
+        }
     }
     return $tables
 }
@@ -78,8 +93,7 @@ proc ::znbrowser::any::ReadColumns {control table} {
     set found {}
     foreach row $columns {
         lassign $row column declared primary
-        if {$column eq $named} continue
-        lappend found $column [TypeOf $declared] [expr {$primary || $column in $keys}]
+        lappend found $column [TypeOf $declared] [expr {$primary || $column in $keys}] [string equal $column $named]
     }
     return $found
 }
@@ -112,13 +126,14 @@ proc ::znbrowser::any::TypeOf {declared} {
     }
 }
 
-# The references between these tables that lead to columns which exist: a list of {name child parent column}. The host
+# The references between these tables that lead to columns which exist: a list of {name child parent column to}. The host
 # names one after the table and the first column of the key, with a number where that is taken.
 proc ::znbrowser::any::ReadReferences {control tables} {
     set byName {}
     foreach table [dict keys $tables] {dict set byName [string tolower $table] $table}
     set keys {
-        SELECT "table", "from" FROM pragma_foreign_key_list(?1) AS key WHERE seq = 0 AND CASE WHEN "to" IS NULL
+        SELECT "table", "from", coalesce("to", (SELECT name FROM pragma_table_info(key."table") WHERE pk = 1))
+        FROM pragma_foreign_key_list(?1) AS key WHERE seq = 0 AND CASE WHEN "to" IS NULL
         THEN (SELECT count(*) FROM pragma_foreign_key_list(?1) WHERE id = key.id) =
             (SELECT count(*) FROM pragma_table_info(key."table") WHERE pk > 0)
         ELSE "to" COLLATE NOCASE IN (SELECT name FROM pragma_table_xinfo(key."table")) END ORDER BY id DESC
@@ -127,11 +142,11 @@ proc ::znbrowser::any::ReadReferences {control tables} {
     foreach table [dict keys $tables] {
         set taken {}
         foreach row [Sql $control $keys $table] {
-            lassign $row target column
+            lassign $row target column to
             if {![dict exists $byName [string tolower $target]]} continue
             set number [dict get [dict incr taken $column] $column]
             set name $table.$column[expr {$number > 1 ? "#$number" : ""}]
-            lappend references [list $name $table [dict get $byName [string tolower $target]] $column]
+            lappend references [list $name $table [dict get $byName [string tolower $target]] $column $to]
         }
     }
     return $references
@@ -143,23 +158,34 @@ proc ::znbrowser::any::ReadReferences {control tables} {
 # What is a key in most says little to a reader: it is not shown. Where tables differ in the type of a column, it
 # holds texts.
 proc ::znbrowser::any::MakeColumns {tables shown} {
-    set types {}
+    set types [CommonTypes $tables]
     dict for {table columns} $tables {
         if {$table eq "script"} continue ;# as a source of values, the word stands for a Tcl script
-        foreach {column type isKey} $columns {
+        foreach {column type isKey isNamed} $columns {
+            if {$isNamed} continue
             dict lappend users $column $table
             dict incr ranks $column [expr {$isKey ? -1 : $type eq "bool" ? 2 : 1}]
-            if {![dict exists $types $column]} {dict set types $column $type}
-            dict set types $column [CommonType [dict get $types $column] $type]
         }
     }
-    if {![dict size $types]} return
+    if {![info exists ranks]} return
     set ranked [lsort -stride 2 -index 1 -integer -decreasing $ranks]
     set made 0
     foreach {column rank} [lrange $ranked 0 [expr {2 * $::znbrowser::any::columnLimit - 1}]] {
         if {[catch {MakeColumn $column [dict get $types $column] [dict get $users $column]}]} continue
         if {[incr made] > $shown || $rank < 0} {Do view column show false}
     }
+}
+
+# For each name of columns the type that those of all tables have in common.
+proc ::znbrowser::any::CommonTypes {tables} {
+    set types {}
+    dict for {table columns} $tables {
+        foreach {column type isKey isNamed} $columns {
+            if {![dict exists $types $column]} {dict set types $column $type}
+            dict set types $column [CommonType [dict get $types $column] $type]
+        }
+    }
+    return $types
 }
 
 proc ::znbrowser::any::CommonType {one other} {
@@ -173,7 +199,7 @@ proc ::znbrowser::any::CommonType {one other} {
 proc ::znbrowser::any::MakeColumn {name type tables} {
     Do view property create $name
     Do view property type [expr {$type eq "" ? "string" : $type}]
-    foreach table $tables {Do view property connect $table $name}
+    foreach table $tables {catch {Do view property connect $table $name}} ;# not every view shows every table
     Do view column create $name
     lassign [dict get {bool {50 center} integer {60 right} double {80 right} string {100 left} {} {80 left}} $type] \
         width justify
@@ -185,10 +211,11 @@ proc ::znbrowser::any::MakeColumn {name type tables} {
 
 proc ::znbrowser::any::MakeFolders {control tables references nested} {
     Do view folder current $control
-    set counts [expr {![IsLarge $control]}]
+    set counts [expr {[HasDisplay] || ![IsLarge $control]}] ;# a window counts when it has nothing else to do
     Do view folder children count bynumber $counts
     Do view group children [HasKinds $references]
     set below [ByParent $references]
+    set cycles {}
     foreach table [dict keys $tables] {
         if {![dict exists $nested $table]} {
             Do view list create $table
@@ -198,9 +225,60 @@ proc ::znbrowser::any::MakeFolders {control tables references nested} {
         Do view folder children count bynumber $counts
         Do view folder tree toplevel $table [lindex [dict get $nested $table] 0]
         foreach link [Reachable $table $below] {Tie $link}
+        set source [MakeCycle $control $table [lindex [dict get $nested $table] 2]]
+        if {$source ne ""} {
+            dict set cycles $source $table
+            Do view list create $source
+            foreach link [dict get $below $table] {Tie [lreplace $link 2 2 $source]}
+        }
         Do view folder current $control
     }
     foreach reference $references {Tie $reference}
+    return $cycles
+}
+
+# The rows of a table that lie below themselves, and those below these: no row at the top leads to them. They stand in
+# a list of their own, a data source of whose name is answered; nothing where there are none, or where that cannot be
+# found out in a moment.
+proc ::znbrowser::any::MakeCycle {control table key} {
+    variable mostInCycle
+    lassign $key from to
+    set number [RowNumberName [ColumnsOf $control $table]]
+    set own [Quoted $table]
+    if {[catch {Do app glance $control "WITH RECURSIVE reached (k) AS (
+            SELECT [Quoted $to] FROM $own WHERE [Quoted $from] IS NULL OR [Quoted $from] NOT IN (SELECT [Quoted $to] FROM $own)
+            UNION SELECT below.[Quoted $to] FROM $own AS below JOIN reached ON below.[Quoted $from] = reached.k)
+            SELECT $number FROM $own WHERE [Quoted $to] NOT IN reached LIMIT $mostInCycle"} rows] || $rows eq ""} return
+    set source "$table: in a cycle"
+    MakeSource $control $source $table "$number IN ([join [lmap row $rows {lindex $row 0}] ", "])" "in a cycle"
+    return $source
+}
+
+# A data source, connected to the view, with the rows of a table that meet a condition, and all its columns.
+proc ::znbrowser::any::MakeSource {control source table condition caption} {
+    Do datasource simple create $source $caption
+    Do datasource simple connect $table
+    Do datasource simple criteria create rows
+    Do datasource simple criteria code $condition
+    Do view datasource connect $source
+    set place -1
+    foreach {column type isKey isNamed} [ReadColumns $control $table] {
+        catch {Do datasource simple property create $column 1 [expr {$type eq "" ? "string" : $type}] [incr place]}
+    }
+}
+
+# A name of the row's number that no column bears.
+proc ::znbrowser::any::RowNumberName {columns} {
+    foreach name {rowid _rowid_ oid} {
+        if {$name ni [string tolower $columns]} {return $name}
+    }
+    return rowid
+}
+
+proc ::znbrowser::any::ColumnsOf {control table} {
+    return [lmap row [Sql $control {SELECT name FROM pragma_table_xinfo(?, 'main') WHERE hidden <> 1 ORDER BY cid} $table] {
+        lindex $row 0
+    }]
 }
 
 # Lets the rows of the child stand below those that they refer to, where the host knows the reference.
@@ -219,18 +297,18 @@ proc ::znbrowser::any::IsLarge {control} {
 proc ::znbrowser::any::FindNested {control references} {
     set nested {}
     foreach reference $references {
-        lassign $reference name child parent column
+        lassign $reference name child parent column to
         if {$child ne $parent || [dict exists $nested $child]} continue
         set condition "WHERE [Quoted $column] IS NULL"
-        if {[CountRows $control $child $condition 1]} {dict set nested $child [list $name $condition]}
+        if {[CountRows $control $child $condition 1]} {dict set nested $child [list $name $condition [list $column $to]]}
     }
     return $nested
 }
 
-# Whether rows of more than one kind may stand below a row.
+# Whether rows may stand below a row along more than one reference.
 proc ::znbrowser::any::HasKinds {references} {
     dict for {parent links} [ByParent $references] {
-        if {[llength [lsort -unique [lmap link $links {lindex $link 1}]]] > 1} {return 1}
+        if {[llength $links] > 1} {return 1}
     }
     return 0
 }
@@ -272,6 +350,7 @@ proc ::znbrowser::any::ExpandSmall {control tables nested} {
     variable openRows
     variable openTable
     Do view folder expand false
+    if {[llength $tables] == 1} {return [ExpandTable $control [lindex $tables 0] $nested]}
     if {[IsLarge $control]} return
     set room $openRows
     set end [expr {[clock milliseconds] + $::znbrowser::any::openTime}]
@@ -285,13 +364,17 @@ proc ::znbrowser::any::ExpandSmall {control tables nested} {
         set count [llength $rows]
         if {$count == 0 || $count > min($openTable, $room)} continue
         incr room -$count
-        if {[dict exists $nested $table]} {
-            Do view folder current $table
-            Do view folder expand false
-            Do view folder current $control
-        } else {
-            Do view list current $table
-            Do view list expand false
-        }
+        ExpandTable $control $table $nested
+    }
+}
+
+proc ::znbrowser::any::ExpandTable {control table nested} {
+    if {[dict exists $nested $table]} {
+        Do view folder current $table
+        Do view folder expand false
+        Do view folder current $control
+    } else {
+        Do view list current $table
+        Do view list expand false
     }
 }

@@ -15,6 +15,7 @@ proc ::znbrowser::any::MakeMenu {control} {
         same "Filter by this value" ShowSame "The rows of this table with the same value in this column"
         refers "Show what refers to this row" ShowReferring "The rows of other tables that name this one"
         own "Open in a window of its own" ShowRow "This row, with all its columns"
+        grid "Open the table by itself" ShowGrid "All rows of this table, with all its columns (Ctrl-Return)"
     } {
         Do view popupmenuitem create $item
         Do view popupmenuitem caption $caption
@@ -29,11 +30,12 @@ proc ::znbrowser::any::MakeMenu {control} {
 proc ::znbrowser::any::Posting {window column rows} {
     variable clicked
     set clicked($window) {}
-    set enabled {same 0 refers 0 own 0}
+    set enabled {same 0 refers 0 own 0 grid 0}
+    if {[TableOfCurrent [::znbrowser::number $window]] ne ""} {dict set enabled grid 1}
     if {[llength $rows] == 1 && ![catch {ReadClicked $window $column [lindex $rows 0]} found]} {
         set clicked($window) $found
         lassign $found table condition field text
-        set enabled [list same [expr {$field ne ""}] refers [expr {[Referring $window $table $condition] ne ""}] own 1]
+        set enabled [list same [expr {$field ne ""}] refers [expr {[Referring [ControlOf $window] $table $condition] ne ""}] own 1 grid 1]
     }
     Do view popupmenu current $window
     foreach {item on} $enabled {
@@ -45,28 +47,21 @@ proc ::znbrowser::any::Posting {window column rows} {
 # The table of a row, a condition that only this row meets, the table's column that is shown in a column, and the value
 # there, as SQL writes it. An error where rows have no numbers, as in views.
 proc ::znbrowser::any::ReadClicked {window column index} {
-    lassign [::znbrowser::host item [::znbrowser::number $window] $index] table number
-    set columns [ColumnsOf $window $table]
-    foreach name {rowid _rowid_ oid} {
-        if {$name ni [string tolower $columns]} break
-    }
-    set condition "$name = $number"
+    set control [ControlOf $window]
+    set item [Do app item $window $index 0]
+    set table [dict get $item table]
+    set columns [ColumnsOf $control $table]
+    set condition "[RowNumberName $columns] = [dict get $item number]"
     set field $column
     if {$field ni $columns} {set field ""}
-    if {$column eq "Name"} {
-        set field [DisplayColumn [Sql $window {SELECT name, lower(type) FROM pragma_table_xinfo(?, 'main')
+    if {$column eq "Name" && $field eq ""} {
+        set field [DisplayColumn [Sql $control {SELECT name, lower(type) FROM pragma_table_xinfo(?, 'main')
             WHERE hidden <> 1 ORDER BY cid} $table]]
     }
     set value [expr {$field eq "" ? "NULL" : "quote([Quoted $field])"}]
-    set rows [Sql $window "SELECT $value FROM [Quoted $table] WHERE $condition"]
+    set rows [Sql $control "SELECT $value FROM [Quoted $table] WHERE $condition"]
     if {[llength $rows] != 1} {error "no such row"}
     return [list $table $condition $field [lindex $rows 0 0]]
-}
-
-proc ::znbrowser::any::ColumnsOf {control table} {
-    return [lmap row [Sql $control {SELECT name FROM pragma_table_xinfo(?, 'main') WHERE hidden <> 1 ORDER BY cid} $table] {
-        lindex $row 0
-    }]
 }
 
 # The tables with rows that refer to that one, each with the condition for them.
@@ -100,7 +95,7 @@ proc ::znbrowser::any::ShowSame {window args} {
 
 proc ::znbrowser::any::ShowReferring {window args} {
     lassign [set ::znbrowser::any::clicked($window)] table condition
-    ShowRows $window "refers to $table" [Referring $window $table $condition]
+    ShowRows $window "refers to $table" [Referring [ControlOf $window] $table $condition]
 }
 
 proc ::znbrowser::any::ShowRow {window args} {
@@ -108,43 +103,33 @@ proc ::znbrowser::any::ShowRow {window args} {
     ShowRows $window $table [list $table $condition]
 }
 
+proc ::znbrowser::any::ShowGrid {window args} {GridOfCurrent [::znbrowser::number $window]}
+
 # Opens a window on rows of tables: each table with a condition. What is current stays so.
-proc ::znbrowser::any::ShowRows {control title tables} {
+proc ::znbrowser::any::ShowRows {window title conditions} {
     variable opened
-    set name "$control, $title ([incr opened])"
+    set control [ControlOf $window]
+    set name "$control: $title ([incr opened])"
     Do datactrl current $control
     Do view create $name true
     Do view datactrl connect
     Do view column current Name
     Do view column width 240
-    foreach {table condition} $tables {ShowTable $control $name $table $condition}
+    set sources {}
+    foreach {table condition} $conditions {
+        set source "$name: $table"
+        MakeSource $control $source $table $condition $table
+        Do view folder current $name
+        Do view list create $source
+        dict set tables $table [ReadColumns $control $table]
+        dict set sources $source $table
+    }
     Do window create $name
     Do window stripe true
     Do window expandall
+    MakeMenu $name
     Do window post true
-    Do window current $control
-}
-
-proc ::znbrowser::any::ShowTable {control view table condition} {
-    set source "$view: $table"
-    Do datasource simple create $source $table
-    Do datasource simple connect $table
-    Do datasource simple criteria create rows
-    Do datasource simple criteria code $condition
-    Do view datasource connect $source
-    set place -1
-    foreach column [ColumnsOf $control $table] {
-        if {[incr place] >= $::znbrowser::any::columnLimit} break
-        catch {
-            Do datasource simple property create $column 1 string $place
-            if {$column ni [Do view property names]} {
-                Do view property create $column
-                Do view property type string
-                Do view column create $column
-            }
-            Do view property connect $source $column
-        }
-    }
-    Do view folder current $view
-    Do view list create $source
+    FollowTables $name $control $tables $sources
+    AddDatabaseMenu $name
+    Do window current $window
 }

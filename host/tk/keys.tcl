@@ -13,7 +13,7 @@ proc ::znbrowser::bindKeys {} {
         asterisk openBelow KP_Multiply openBelow Return toggleActive space selectActive
         Control-space toggleSelected Control-a selectAll Control-A selectAll
         Control-c copySelected Control-C copySelected Escape clearSearch
-        Menu menuAtActive Shift-F10 menuAtActive
+        Menu menuAtActive Shift-F10 menuAtActive F4 toggleDetails F5 readAgain
     } {
         set modifiers [lrange [split $key -] 0 end-1]
         bind znBrowserTree <[join [concat $modifiers Key [lindex [split $key -] end]] -]> \

@@ -17,7 +17,7 @@ proc ::znbrowser::pressRight {n x y state rootX rootY} {
     flush $n
     set at [pointed $n $x $y]
     if {[dict get $at where] eq "header"} {
-        popupAt [winfo parent $w(searchField)].columns.menu $rootX $rootY
+        openChooser $n $rootX $rootY
         return
     }
     if {![dict exists $at row]} {return [openMenuAside $n $rootX $rootY]}

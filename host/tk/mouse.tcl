@@ -41,7 +41,7 @@ proc ::znbrowser::pointed {n x y} {
     dict set found column [dict get [lindex $w(columns) $number] name]
     if {$at(element) in {expander icon}} {dict set found kind $at(element)}
     set cell [lsearch -exact -integer -inline -index 0 [lindex [dict get $found row] 11] $number]
-    if {[regexp {^(text|icon|disabled|check|button)(\d+)} $at(element) -> kind place]} {
+    if {[regexp {^(text|null|icon|disabled|check|button)(\d+)} $at(element) -> kind place]} {
         dict set found kind $kind
         dict set found place $place
     } else {
@@ -134,6 +134,7 @@ proc ::znbrowser::release {n x y args} {
         set at [pointed $n $x $y]
         if {[dict exists $at row] && [lindex [dict get $at row] 0] == [lindex $row 0]
                 && [dict get $at kind] eq "button" && [dict get $at place] == [dict get $before place]} {
+            if {[lindex $row 10] eq "note"} {return [readAgain $n]}
             event $n OnTkTreeWindowButtonClick [dict get $at column] [dict get $at element] \
                 [lindex $row 0] [dict get $at text]
         }
@@ -176,7 +177,9 @@ proc ::znbrowser::setActive {n index} {
 
 # Opens or closes a row.
 proc ::znbrowser::toggle {n row} {
-    if {[lindex $row 5]} {
+    if {[lindex $row 10] eq "note"} {
+        readAgain $n
+    } elseif {[lindex $row 5]} {
         event $n OnTkTreeRequestCollapse [lindex $row 0]
     } elseif {[lindex $row 7]} {
         event $n OnTkTreeRequestExpand [lindex $row 0]

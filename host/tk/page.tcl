@@ -130,6 +130,7 @@ proc ::znbrowser::drawPage {n} {
     if {$w(shown) eq ""} return
     set w(page) [host page $n $w(first) [expr {$w(full) + 1}]]
     if {![isOpen $n]} return ;# a script that computed a value closed it
+    if {$w(bare)} {growColumns $n}
     set slot 0
     foreach row $w(page) {
         drawRow $n $slot $row
@@ -142,9 +143,30 @@ proc ::znbrowser::drawPage {n} {
     set bar [winfo parent $w(tree)].y
     if {$w(full) >= $rows} {grid remove $bar} else {grid $bar}
     $bar set [expr {$w(first) / $rows}] [expr {min(1.0, ($w(first) + $w(full)) / $rows)}]
+    lookedAt $n
     if {$w(first) != $w(reported)} {
         if {[info exists w(timer,report)]} {after cancel $w(timer,report)}
         set w(timer,report) [after 150 [list ::znbrowser::reportScroll $n]]
+    }
+}
+
+# Other rows are looked at, or another row is the current one: who wants to know, such as the detail pane, hears of it
+# a moment later, once for all that changes meanwhile. `watchers` are their commands, which take the window's number.
+proc ::znbrowser::lookedAt {n} {
+    upvar #0 ::znbrowser::window$n w
+    if {$w(watchers) ne "" && ![info exists w(timer,look)]} {
+        set w(timer,look) [after 60 [list ::znbrowser::tellWatchers $n]]
+    }
+}
+
+proc ::znbrowser::tellWatchers {n} {
+    upvar #0 ::znbrowser::window$n w
+    if {![isOpen $n]} return
+    unset -nocomplain w(timer,look)
+    if {[host busy]} {return [lookedAt $n]}
+    foreach watcher $w(watchers) {
+        {*}$watcher $n
+        if {![isOpen $n]} return
     }
 }
 

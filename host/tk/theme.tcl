@@ -89,6 +89,7 @@ proc ::znbrowser::styleBelow {path} {
     foreach child [winfo children $path] {
         switch [winfo class $child] {
             Menu {styleMenu $child}
+            Text {styleDetails $child}
             TEntry - TSpinbox {$child configure -font znBrowser00}
             TCombobox {
                 $child configure -font znBrowser00

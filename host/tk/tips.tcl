@@ -15,6 +15,8 @@ proc ::znbrowser::cutText {n x y} {
     $w(tree) identify -array at $x $y
     if {$at(where) ne "item" || ![string match text* $at(element)]} {return ""}
     set text [$w(tree) item element cget $at(item) $at(column) $at(element) -text]
+    set whole [dict get [pointed $n $x $y] text]
+    if {$whole ne "" && $text ne [oneLine $whole] && [string is double -strict $whole]} {return $whole}
     set font [$w(tree) item element cget $at(item) $at(column) $at(element) -font]
     if {$font eq ""} {set font znBrowser00}
     lassign [$w(tree) item bbox $at(item) $at(column) $at(element)] x1 y1 x2 y2

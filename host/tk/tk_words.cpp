@@ -44,6 +44,7 @@ const char* KindName(CellElement::Kind kind) {
     case CellElement::DisabledIcon: return "disabled";
     case CellElement::CheckBox: return "check";
     case CellElement::Button: return "button";
+    case CellElement::Null: return "null";
     case CellElement::Text: break;
     }
     return "text";
@@ -93,11 +94,12 @@ Tcl_Obj* NewRow(const RowLook& look, const ColumnNumbers& columns) {
         const auto column = columns.find(cell.column);
         if (column != columns.end()) Append(cells, NewCell(cell, column->second));
     }
-    return ListOf(
-        {Tcl_NewWideIntObj(look.index), Tcl_NewWideIntObj(look.parent), Tcl_NewWideIntObj(look.depth),
-         NewText(KindName(look.kind)), NewText(look.text), Tcl_NewBooleanObj(look.expanded),
-         Tcl_NewBooleanObj(look.selected), Tcl_NewBooleanObj(look.hasRows), Tcl_NewBooleanObj(look.bold),
-         Tcl_NewBooleanObj(look.italic), NewText(look.icon), cells, Tcl_NewBooleanObj(look.collected)});
+    return ListOf({Tcl_NewWideIntObj(look.index), Tcl_NewWideIntObj(look.parent),
+                   Tcl_NewWideIntObj(look.depth), NewText(KindName(look.kind)), NewText(look.text),
+                   Tcl_NewBooleanObj(look.expanded), Tcl_NewBooleanObj(look.selected),
+                   Tcl_NewBooleanObj(look.hasRows), Tcl_NewBooleanObj(look.bold),
+                   Tcl_NewBooleanObj(look.italic), NewText(look.icon), cells,
+                   Tcl_NewBooleanObj(look.collected), NewText(look.source)});
 }
 
 Tcl_Obj* NewColumn(const View& view, const Column& column) {

@@ -7,6 +7,8 @@
 #   name frame path tree  the window's name; the frame in which it stands, its own part of that, and its tree
 #   look                  what the host said last of everything but the rows
 #   first full page       the position of the first row drawn, how many rows fit, and the rows drawn
+#   bare                  whether it shows what is stored as it is: NULL as such, numbers in columns that grow with them
+#   flat                  whether the column with the tree is left out: no row has rows below it
 #   active anchor         the Tk indices of the row with the focus, and of where a range of rows begins
 
 namespace eval ::znbrowser {
@@ -59,7 +61,7 @@ proc ::znbrowser::columnAt {name column} {
 }
 
 # The box of a row, of a cell of it or of an element in the cell, in the pixels of the tree: x1 y1 x2 y2.
-# Elements are counted from 0; "expander" is what opens and closes a row.
+# Elements are counted from 0; "expander" is what opens and closes a row, "button1" the Retry of one that cannot be read.
 proc ::znbrowser::boxOf {name tkIndex {column ""} {element ""}} {
     set item [itemAt $name $tkIndex]
     if {$item eq ""} {return ""}
@@ -87,7 +89,8 @@ proc ::znbrowser::open {n name frame} {
     variable numberOf
     upvar #0 ::znbrowser::window$n w
     array set w [list name $name first 0 full 1 page {} columns {} shown {} active -1 anchor -1 \
-        pending {} reported -1 trouble {} menu 0 menus 0 look [host look $n] paper [colour paper]]
+        pending {} reported -1 trouble {} menu 0 menus 0 bare 0 grown {} sized {} watchers {} flat 0 \
+        look [host look $n] paper [colour paper]]
     set w(owns) [expr {$frame eq "" || ![winfo exists $frame]}]
     if {$w(owns)} {set frame [makeToplevel $n $name $frame]}
     set w(frame) $frame
@@ -120,7 +123,9 @@ proc ::znbrowser::build {n} {
     upvar #0 ::znbrowser::window$n w
     ttk::frame $w(path) -style Browser.TFrame
     ttk::frame $w(path).bar -style Browser.TFrame -padding {8 6 8 6}
+    ttk::panedwindow $w(path).panes -orient horizontal
     ttk::frame $w(path).body -style Browser.TFrame
+    $w(path).panes add $w(path).body -weight 1
     ttk::frame $w(path).line -style Line.TFrame -height 1
     ttk::frame $w(path).status -style Browser.TFrame -padding {10 3 10 4}
     buildTree $n $w(path).body
@@ -139,7 +144,7 @@ proc ::znbrowser::build {n} {
     pack $w(path).bar -side top -fill x
     pack $w(path).status -side bottom -fill x
     pack $w(path).line -side bottom -fill x
-    pack $w(path).body -side top -fill both -expand 1
+    pack $w(path).panes -side top -fill both -expand 1
     pack $w(path) -side top -fill both -expand 1
     set numberOf($w(tree)) $n
     bind $w(path) <Destroy> [list ::znbrowser::destroyed $n %W]
@@ -317,6 +322,7 @@ proc ::znbrowser::draw {n changes} {
     upvar #0 ::znbrowser::window$n w
     set w(look) [host look $n]
     if {[dict exists $changes allCells] || [dict exists $changes allFilled]} {
+        set w(detailOf) ""
         drawSurface $n
         drawColumns $n
         followSearch $n
@@ -357,6 +363,12 @@ proc ::znbrowser::followTrouble {n} {
         say $n ""
     }
     set w(trouble) $trouble
+}
+
+# Reads everything anew: what could not be read before perhaps can be now.
+proc ::znbrowser::readAgain {n} {
+    foreach control [manager app datactrl names] {catch {manager app datactrl refresh $control}}
+    changed $n allCells 0
 }
 
 proc ::znbrowser::retry {n} {

@@ -70,7 +70,8 @@ std::string DrawElement(const CellElement& element) {
     case CellElement::Button: return "[" + element.text + "]";
     case CellElement::Icon: return "<" + bare(element.text) + ">";
     case CellElement::DisabledIcon: return "(" + bare(element.text) + ")";
-    case CellElement::Text: break;
+    case CellElement::Text:
+    case CellElement::Null: break;
     }
     return element.text;
 }

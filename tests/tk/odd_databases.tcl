@@ -1,0 +1,45 @@
+# Databases of the kind that people have: odd names, types and sizes. Each is the statements that make it.
+namespace eval odd {
+    # A PNG of one pixel.
+    variable pixel 89504E470D0A1A0A0000000D4948445200000001000000010802000000907753DE0000000C49444154789C63F8DFC0000004010180C52A185D0000000049454E44AE426082
+
+    # Nothing, empty texts, numbers that are too long for a column, blobs.
+    variable values [list \
+        {create table thing (id integer primary key, name text, note text, big integer, ratio real, data blob)} \
+        "insert into thing values (1, 'whole', 'two\nlines', 1, 0.5, x'$pixel'), (2, 'bare', null, null, null, null),
+            (3, 'empty', '', 9007199254740993, 3.14159265358979, x'00010203'), (4, null, 'nameless', 7, 1e300, zeroblob(5000))" \
+    ]
+    # Packages that depend on each other: two references from one table to another.
+    variable packages {
+        {create table package (id integer primary key, name text not null, section text)}
+        {create table dependency (id integer primary key, package_id integer references package,
+            needed_id integer references package, kind text)}
+        {insert into package values (1, 'editor', 'text'), (2, 'library', 'libs'), (3, 'fonts', 'x11')}
+        {insert into dependency (package_id, needed_id, kind) values (1, 2, 'needs'), (1, 3, 'likes'), (3, 2, 'needs')}
+        {create view needed as select needed_id, count(*) as times from dependency group by 1}
+    }
+    # Rows that lie below each other, of which some go round in a circle.
+    variable circle {
+        {create table place (id integer primary key, name text, inside integer references place)}
+        {insert into place values (1, 'country', null), (2, 'town', 1), (3, 'chicken', 4), (4, 'egg', 3), (5, 'shell', 4)}
+    }
+    # A check box for each row.
+    variable tasks {
+        {create table task (id integer primary key, name text, done boolean, rank integer)}
+        {insert into task values (1, 'wash', 0, 12), (2, 'dry', 1, 3), (3, 'fold', null, 1)}
+    }
+
+    # Makes the file of that name in the tests' directory.
+    proc make {kind {name ""}} {
+        set file [tcltest::makeFile "" [expr {$name eq "" ? "$kind.db" : $name}]]
+        file delete $file
+        run $file [set ::odd::$kind]
+        return $file
+    }
+
+    # Runs statements on a file, as another program does.
+    proc run {file statements} {
+        znbrowsermanager app datactrl create [set name maker[incr ::odd::makers]] $file
+        foreach statement $statements {znbrowsermanager app sql $name $statement}
+    }
+}
