@@ -11,7 +11,7 @@ namespace eval ::znbrowser::any {
     variable columnLimit 60    ;# more are not made
     variable openRows 60       ;# small tables are opened at first, up to so many rows together ...
     variable openTable 30      ;# ... when they have no more than these
-    variable openTime 500      ;# milliseconds to find that out
+    variable openTime 500      ;# milliseconds to find that out, and to look for rows that lie below themselves
     variable mostInCycle 5000  ;# so many rows of a table are shown as lying in a cycle
     variable largeFile 1e8     ;# in larger ones nothing is counted or opened at first: it takes too long
 }
@@ -216,6 +216,7 @@ proc ::znbrowser::any::MakeFolders {control tables references nested} {
     Do view group children [HasKinds $references]
     set below [ByParent $references]
     set cycles {}
+    set end [expr {[clock milliseconds] + $::znbrowser::any::openTime}]
     foreach table [dict keys $tables] {
         if {![dict exists $nested $table]} {
             Do view list create $table
@@ -225,7 +226,10 @@ proc ::znbrowser::any::MakeFolders {control tables references nested} {
         Do view folder children count bynumber $counts
         Do view folder tree toplevel $table [lindex [dict get $nested $table] 0]
         foreach link [Reachable $table $below] {Tie $link}
-        set source [MakeCycle $control $table [lindex [dict get $nested $table] 2]]
+        set source ""
+        if {[clock milliseconds] < $end} {
+            set source [MakeCycle $control $table [lindex [dict get $nested $table] 2]]
+        }
         if {$source ne ""} {
             dict set cycles $source $table
             Do view list create $source
@@ -300,7 +304,7 @@ proc ::znbrowser::any::FindNested {control references} {
         lassign $reference name child parent column to
         if {$child ne $parent || [dict exists $nested $child]} continue
         set condition "WHERE [Quoted $column] IS NULL"
-        if {[CountRows $control $child $condition 1]} {dict set nested $child [list $name $condition [list $column $to]]}
+        if {[CountRows $control $child $condition 1 glance]} {dict set nested $child [list $name $condition [list $column $to]]}
     }
     return $nested
 }
@@ -338,10 +342,10 @@ proc ::znbrowser::any::Reachable {table below} {
 }
 
 # How many rows of the table meet the condition; one more than `most` when they are more. None, when they cannot
-# be read.
-proc ::znbrowser::any::CountRows {control table condition most} {
+# be read, or with `glance` not in a moment.
+proc ::znbrowser::any::CountRows {control table condition most {how sql}} {
     set statement "SELECT count(*) FROM (SELECT 1 FROM [Quoted $table] $condition LIMIT $most + 1)"
-    if {[catch {Sql $control $statement} rows]} {return 0}
+    if {[catch {Do app $how $control $statement} rows]} {return 0}
     return [lindex $rows 0 0]
 }
 

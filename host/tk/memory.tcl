@@ -9,6 +9,7 @@ namespace eval ::znbrowser::any {
     variable memory {}     ;# what the file held when it was read, with what was remembered since
     variable remembered {} ;# keys and values that are not in the file yet
     variable memoryRead 0
+    variable passing {}    ;# what is remembered of databases in memory
     variable mostRecent 12
 }
 
@@ -48,13 +49,19 @@ proc ::znbrowser::any::FileOf {control} {
     return $files($control)
 }
 
-# About a table, in the window of a browser.
+# About a table, in the window of a browser. Of a database in memory nothing outlives the program.
 proc ::znbrowser::any::Remembered {window table key} {
-    return [Recall [list table [FileOf [ControlOf $window]] $table $key]]
+    variable passing
+    set control [ControlOf $window]
+    if {[FileOf $control] ne ""} {return [Recall [list table [FileOf $control] $table $key]]}
+    if {[dict exists $passing [list $control $table $key]]} {return [dict get $passing [list $control $table $key]]}
 }
 
 proc ::znbrowser::any::Remember {window table key value} {
-    Keep [list table [FileOf [ControlOf $window]] $table $key] $value
+    variable passing
+    set control [ControlOf $window]
+    if {[FileOf $control] eq ""} {return [dict set passing [list $control $table $key] $value]}
+    Keep [list table [FileOf $control] $table $key] $value
 }
 
 proc ::znbrowser::any::Recall {key} {

@@ -271,6 +271,7 @@ proc ::znbrowser::tell {n words} {
     if {[regexp {^\[Command\] .*?\n\t\[Error\] (.*)$} $answer -> answer]} {set failed 1}
     set refusal [host error]
     if {!$failed || ($answer eq "Unknown error" && $refusal ne "")} {set answer $refusal}
+    if {$answer eq "Unknown error"} {set answer "This cannot be done here"}
     finish $n $answer
     return [expr {!$failed && [isOpen $n]}]
 }
