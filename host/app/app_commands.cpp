@@ -3,6 +3,7 @@
 
 #include "app/data_app_commands.h"
 #include "app/database_app_commands.h"
+#include "app/export_app_commands.h"
 #include "app/item_app_commands.h"
 #include "app/popup_app_commands.h"
 #include "app/row_app_commands.h"
@@ -178,6 +179,8 @@ constexpr AppWord appWords[] = {
     {"datactrl write", "DATACTRL ?BOOL?", "BOOL", "tells whether the database may be changed, or sets it", 1,
      2, AppWrite},
     {"draw", "WINDOW", "TEXT", "draws what a window shows, as a table", 1, 1, AnswerDraw},
+    {"export", "WINDOW all|selected|INDEX csv|tsv|cells ?FILE?", "TEXT",
+     "writes rows as text, or into FILE and answers how many; cells: without captions", 3, 4, AppExport},
     {"flat", "WINDOW ?BOOL?", "BOOL",
      "tells whether the items of the lists at the top stand there without a row for each list, or sets it", 1,
      2, AnswerFlat},
