@@ -123,6 +123,14 @@ bool DataCtrl::Refresh(std::string& error) {
     return true;
 }
 
+std::uint64_t DataCtrl::Version() {
+    Database::Stamp now;
+    std::string ignored;
+    if (database_->ReadStamp(now, ignored) && now.SameRows(counted_)) return version_;
+    counted_ = now;
+    return ++version_;
+}
+
 /// When memory runs out it is done again, from what there was before.
 void DataCtrl::TakeOverTables() {
     std::vector<BaseSource*> oldBases;

@@ -22,7 +22,8 @@ public:
     RowJournal(const RowJournal&) = delete;
     RowJournal& operator=(const RowJournal&) = delete;
 
-    /// Forgets: anything may have changed. From now on the connection that the database has at present is watched.
+    /// Forgets: anything may have changed. From now on the connection that the database has at present is
+    /// watched.
     void Forget() noexcept;
     /// Appends the rows of the table that came, went or changed since that change. False when that is not
     /// known.
