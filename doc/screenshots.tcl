@@ -87,3 +87,10 @@ zn collector option perform
 zn window expandall
 zn collector pnlcolselector create "To be checked"
 takePicture 1240x420 [file join $images collector.png]
+
+zn window current gearbox
+zn collector show false
+zn collector showhide all
+znbrowser::theme dark
+zn window post true
+takePicture 1080x420 [file join $images dark.png]

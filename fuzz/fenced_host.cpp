@@ -194,6 +194,7 @@ FencedHost::FencedHost(const DatabaseImage& image, Tcl_ObjCmdProc* again, void* 
     sqlite3_limit(database, SQLITE_LIMIT_LENGTH, 1 << 20);
     image.CopyTo(database);
     host_->App().SetWork(&patience_);
+    host_->App().ForbidFiles();
     // What the hostile ones hold is read and asked for again as it is.
     if (!image.IsHostile()) sqlite3_trace_v2(database, SQLITE_TRACE_STMT, LookAtStatement, nullptr);
     Tcl_Eval(interp_, "expr {[info cmdcount] + 40000}");

@@ -7,6 +7,7 @@ znbrowsermanager window expandall
 znbrowsermanager app rows main 2 1
 znbrowsermanager app draw main
 znbrowsermanager app popup main
+znbrowsermanager app export main selected csv
 # An item, what it refers to, what refers to it, and the way to another one.
 znbrowsermanager app item main 2 100
 znbrowsermanager app references main 2

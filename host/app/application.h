@@ -29,6 +29,10 @@ public:
     bool AddDataCtrl(const std::string& name, const std::string& file, std::string& error,
                      bool readOnly = false);
 
+    /// From now on rows are written into no files: scripts that nobody trusts run here.
+    void ForbidFiles() { mayWriteFiles_ = false; }
+    bool MayWriteFiles() const { return mayWriteFiles_; }
+
     znIBrowserDataCtrl* FindDataCtrl(const char* name) override;
     void GetDataCtrls(std::vector<znIBrowserDataCtrl*>& controls) override;
     znIBrowser* GetBrowser() override;
@@ -44,6 +48,7 @@ private:
     // The browser goes first: what it holds points into the data controls.
     NamedList<DataCtrl> dataControls_;
     BrowserStates browser_;
+    bool mayWriteFiles_ = true;
 };
 
 } // namespace znhost

@@ -1,4 +1,4 @@
-# Rows on the clipboard: lines of cells with tabs between them, as tables take them.
+# Rows on the clipboard and in files: lines of cells with tabs or commas between them, as tables take them.
 
 proc ::znbrowser::copy {text} {
     clipboard clear
@@ -23,38 +23,46 @@ proc ::znbrowser::textOfCell {n row number} {
     }] " "]
 }
 
-# A cell with a tab, a line break or a quote in it stands between quotes, and quotes in it are doubled.
-proc ::znbrowser::tsvLine {texts} {
-    return [join [lmap text $texts {
-        if {[regexp {[\t\n\r"]} $text]} {string cat \" [string map {\" \"\"} $text] \"} else {set text}
-    }] \t]
-}
-
-proc ::znbrowser::tsvRow {n row} {
-    upvar #0 ::znbrowser::window$n w
-    return [tsvLine [lmap number $w(shown) {textOfCell $n $row $number}]]
-}
-
-proc ::znbrowser::copySelected {n} {
-    if {![isOpen $n]} return
-    flush $n
-    set rows [host selected $n]
-    if {$rows eq ""} return
-    if {[llength $rows] > $::znbrowser::copiedRows} {
-        return [say $n "No more than [grouped $::znbrowser::copiedRows] rows are copied at once"]
-    }
-    copy [join [lmap index $rows {tsvRow $n [rowOfIndex $n $index]}] \n]\n
-}
-
-# Every row, a page at a time.
-proc ::znbrowser::copyAll {n} {
+# Rows as lines of text, or into a file: "all", "selected" or a row's index. Answers the text or the number of rows, and
+# nothing when they cannot be had, which is said then.
+proc ::znbrowser::exportRows {n rows format args} {
     upvar #0 ::znbrowser::window$n w
     if {![isOpen $n]} return
     flush $n
-    set lines [list [tsvLine [lmap number $w(shown) {dict get [lindex $w(columns) $number] caption}]]]
-    set page 1000
-    for {set first 0} {$first < [dict get $w(look) rows]} {incr first $page} {
-        foreach row [host page $n $first $page] {lappend lines [tsvRow $n $row]}
+    set name $w(name)
+    host begin $n
+    set failed [catch {manager app export $name $rows $format {*}$args} answer]
+    set cancelled [host end]
+    if {!$failed} {return $answer}
+    if {[isOpen $n]} {say $n [expr {$cancelled ? "Cancelled: nothing was written." : $answer}]}
+    return
+}
+
+proc ::znbrowser::copySelected {n {format cells}} {
+    if {![isOpen $n]} return
+    flush $n
+    set count [llength [host selected $n]]
+    if {$count == 0} return
+    if {$count > $::znbrowser::copiedRows} {
+        return [say $n "No more than [grouped $::znbrowser::copiedRows] rows are copied at once: export them into a file"]
     }
-    copy [join $lines \n]\n
+    copyText [exportRows $n selected $format]
+}
+
+# Every row that is open.
+proc ::znbrowser::copyAll {n} {copyText [exportRows $n all tsv]}
+
+proc ::znbrowser::copyText {text} {
+    if {$text ne ""} {copy $text}
+}
+
+# Asks for a file, whose name tells the format, and writes rows into it.
+proc ::znbrowser::export {n rows} {
+    upvar #0 ::znbrowser::window$n w
+    set types {{{Comma-separated values} .csv} {{Tab-separated values} {.tsv .txt}}}
+    set file [tk_getSaveFile -parent $w(path) -title Export -filetypes $types -defaultextension .csv]
+    if {$file eq "" || ![isOpen $n]} return
+    set format [expr {[string tolower [file extension $file]] in {.tsv .txt .tab} ? "tsv" : "csv"}]
+    set count [exportRows $n $rows $format $file]
+    if {$count ne "" && [isOpen $n]} {say $n "[grouped $count] rows are in [file tail $file]"}
 }

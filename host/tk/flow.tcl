@@ -9,7 +9,9 @@ proc ::znbrowser::flowIn {n frame pairs} {
     foreach widget [place slaves $frame] {
         if {$widget ni $widgets} {place forget $widget}
     }
-    foreach widget [linsert $widgets 0 $frame] {bind $widget <Configure> [list ::znbrowser::flowSoon $n $frame]}
+    foreach widget [linsert $widgets 0 $frame] {
+        bind $widget <Configure> [string map {% %%} [list ::znbrowser::flowSoon $n $frame]] ;# a user named the window's
+    }
     flowSoon $n $frame
 }
 
@@ -31,21 +33,62 @@ proc ::znbrowser::flow {n frame} {
     foreach {widget gap} $w(flow,$frame) {
         if {$line ne ""} {incr x $gap}
         if {$line ne "" && $x + [winfo reqwidth $widget] > $room} {
-            incr top [expr {[placeLine $line $top] + 4}]
+            incr top [expr {[placeLine $frame $line $top] + 4}]
             set line {}
             set x 0
         }
         lappend line $widget $x
         incr x [winfo reqwidth $widget]
     }
-    set height [expr {max(1, $top + [placeLine $line $top])}]
+    set height [expr {max(1, $top + [placeLine $frame $line $top])}]
     if {[winfo reqheight $frame] != $height} {$frame configure -height $height}
 }
 
 # Answers the height of the line; all stand in the middle of it.
-proc ::znbrowser::placeLine {line top} {
+proc ::znbrowser::placeLine {frame line top} {
     set height 0
     foreach {widget x} $line {set height [expr {max($height, [winfo reqheight $widget])}]}
-    foreach {widget x} $line {place $widget -x $x -y [expr {$top + ($height - [winfo reqheight $widget]) / 2}]}
+    foreach {widget x} $line {place $widget -in $frame -x $x -y [expr {$top + ($height - [winfo reqheight $widget]) / 2}]}
     return $height
+}
+
+# ---- The bar above the rows
+#
+# The search stands left, the buttons right; below it where both have no room on one line.
+
+proc ::znbrowser::buildTools {n bar} {
+    ttk::frame $bar.tools -style Browser.TFrame
+    lower $bar.tools
+    bind $bar <Configure> [list ::znbrowser::layoutBar $n %W]
+    layoutBar $n $bar
+}
+
+proc ::znbrowser::layoutBar {n bar} {
+    upvar #0 ::znbrowser::window$n w
+    set tools {}
+    foreach widget [pack slaves $bar] { # what was packed on the right since
+        if {$widget ne "$bar.tools" && [dict get [pack info $widget] -side] eq "right"} {
+            pack forget $widget
+            set tools [linsert $tools 0 $widget 6]
+        }
+    }
+    if {[info exists w(flow,$bar.tools)]} {lappend tools {*}$w(flow,$bar.tools)}
+    set room 0
+    foreach widget [dict keys $tools] {incr room [expr {[winfo reqwidth $widget] + 6}]}
+    if {![info exists w(searchWidth)]} {set w(searchWidth) [$w(searchField) cget -width]}
+    # As if the field had its whole width: else it would be too narrow and wide enough by turns.
+    set needed [expr {$room + [scaled 30] + ($w(searchWidth) - [$w(searchField) cget -width]) * [font measure znBrowser00 0]}]
+    foreach widget [winfo children $bar] {
+        if {$widget ni [linsert [dict keys $tools] 0 $bar.tools]} {incr needed [expr {[winfo reqwidth $widget] + 6}]}
+    }
+    set narrow [expr {[winfo width $bar] > 1 && [winfo width $bar] < $needed}]
+    $bar.tools configure -width $room
+    if {$narrow} {
+        pack $bar.tools -side bottom -fill x -pady {4 0} -before [lindex [pack slaves $bar] 0]
+        $w(searchField) configure -width [expr {min(14, $w(searchWidth))}]
+    } else {
+        pack $bar.tools -side right -fill none -pady 0
+        $w(searchField) configure -width $w(searchWidth)
+    }
+    flowIn $n $bar.tools $tools
 }

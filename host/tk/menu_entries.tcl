@@ -186,11 +186,25 @@ proc ::znbrowser::standardEntries {n row column} {
             {kind separator} \
             [dict create caption "Copy cell" enabled [expr {$text ne ""}] command [list ::znbrowser::copy $text]] \
             [dict create caption "Copy rows" command [list ::znbrowser::copySelected $n] \
-                help "The selected rows, to be pasted into a table (Ctrl-C)"]]
+                help "The selected rows, to be pasted into a table (Ctrl-C)"] \
+            [dict create caption "Copy rows with captions" command [list ::znbrowser::copySelected $n tsv] \
+                help "The selected rows below the names of the columns"] \
+            [dict create caption "Copy rows as CSV" command [list ::znbrowser::copySelected $n csv] \
+                help "The selected rows below the names of the columns, with commas between the cells"]]
     }
     set rows [dict get $w(look) rows]
     lappend entries [dict create caption "Copy all" command [list ::znbrowser::copyAll $n] \
         enabled [expr {$rows > 0 && $rows <= $::znbrowser::copiedRows}] \
         help "Every row that is open, below the names of the columns, to be pasted into a table"]
+    if {$row ne "" && [lindex $row 3] ne "item" && [lindex $row 7]} {
+        lappend entries [dict create caption "Export this [lindex $row 3] …" \
+            command [list ::znbrowser::export $n [lindex $row 0]] help "Everything below it, into a file of CSV or TSV"]
+    }
+    if {$row ne ""} {
+        lappend entries [dict create caption "Export selected rows …" command [list ::znbrowser::export $n selected] \
+            help "Into a file of CSV or TSV"]
+    }
+    lappend entries [dict create caption "Export all …" command [list ::znbrowser::export $n all] enabled [expr {$rows > 0}] \
+        help "Every row that is open, into a file of CSV or TSV"]
     return $entries
 }

@@ -135,6 +135,7 @@ proc ::znbrowser::build {n} {
     buildSearch $n $w(path).bar
     buildStates $n $w(path).status
     buildRecorder $n $w(path).status
+    buildTools $n $w(path).bar
     ttk::label $w(path).status.count -style Status.TLabel -anchor w
     ttk::label $w(path).status.message -style Message.TLabel -anchor e
     ttk::label $w(path).status.help -style Status.TLabel -anchor w

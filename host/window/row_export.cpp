@@ -1,0 +1,148 @@
+#include "window/row_export.h"
+
+#include "base/services.h"
+#include "model/view.h"
+#include "window/window.h"
+
+#include <algorithm>
+#include <limits>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace znhost {
+
+namespace {
+
+constexpr std::int64_t toTheEnd = std::numeric_limits<std::int64_t>::max();
+
+/// The first of some rows that follow each other, and how many they are.
+using Range = std::pair<std::int64_t, std::int64_t>;
+
+std::vector<Range> SelectedRanges(RowModel& rows) {
+    std::vector<Range> ranges;
+    for (const std::uint32_t index : rows.SelectedRows()) {
+        const std::int64_t position = rows.PositionOf(index);
+        if (!ranges.empty() && position == ranges.back().first + ranges.back().second)
+            ++ranges.back().second;
+        else
+            ranges.emplace_back(position, 1);
+    }
+    return ranges;
+}
+
+std::string TextOf(const RowCell& cell) {
+    std::string text;
+    for (const CellElement& element : cell.elements) {
+        if (element.kind == CellElement::Icon || element.kind == CellElement::DisabledIcon) continue;
+        if (!text.empty() && !element.text.empty()) text += ' ';
+        text += element.text;
+    }
+    return text;
+}
+
+class Export {
+public:
+    Export(Window& window, ExportFormat format, const std::function<bool(std::string_view)>& write)
+        : rows_(window.Rows()), border_(format == ExportFormat::Csv ? ',' : '\t'), write_(write) {
+        if (!window.ShownView()) return;
+        for (const std::shared_ptr<Column>& column : window.ShownView()->Columns()) {
+            if (column->IsShown()) columns_.push_back(column);
+        }
+    }
+
+    bool WriteCaptions() {
+        line_.clear();
+        for (const auto& column : columns_) Add(column->Caption());
+        return WriteLine();
+    }
+
+    /// @return how many were read, unless one could not be written
+    std::int64_t Write(const Range& range, HostServices& services) {
+        std::int64_t count = 0;
+        rows_.ReadEach(range.first, range.second, [&](const RowLook& look) {
+            if (IsBehind(look)) return false;
+            failed_ = !services.WhyStop().empty() || !WriteRow(look);
+            return !failed_ && ++count > 0;
+        });
+        return count;
+    }
+    bool HasFailed() const { return failed_; }
+    /// Rows that do not lie below one of that depth are not written.
+    void KeepBelow(std::int64_t depth) { depth_ = depth; }
+
+private:
+    bool IsBehind(const RowLook& look) const { return std::int64_t{look.depth} <= depth_; }
+
+    bool WriteRow(const RowLook& look) {
+        line_.clear();
+        for (const auto& column : columns_) {
+            const auto isOfColumn = [&](const RowCell& cell) { return cell.column == column.get(); };
+            const auto cell = std::find_if(look.cells.begin(), look.cells.end(), isOfColumn);
+            if (cell != look.cells.end())
+                Add(TextOf(*cell));
+            else
+                Add(column->Kind() == ColumnKind::BuiltIn ? look.text : std::string());
+        }
+        return WriteLine();
+    }
+
+    void Add(const std::string& text) {
+        const char special[] = {border_, '\n', '\r', '"', '\0'};
+        if (text.find_first_of(special) == text.npos) {
+            line_ += text;
+        } else {
+            line_ += '"';
+            for (const char character : text) line_.append(character == '"' ? 2 : 1, character);
+            line_ += '"';
+        }
+        line_ += border_;
+    }
+
+    bool WriteLine() {
+        if (line_.empty()) line_ += border_;
+        line_.back() = '\n';
+        return write_(line_);
+    }
+
+    RowModel& rows_;
+    const char border_;
+    const std::function<bool(std::string_view)>& write_;
+    std::vector<std::shared_ptr<Column>> columns_;
+    std::string line_;
+    std::int64_t depth_ = -1;
+    bool failed_ = false;
+};
+
+} // namespace
+
+std::optional<std::int64_t> ExportRows(Window& window, const ExportedRows& which, ExportFormat format,
+                                       HostServices& services,
+                                       const std::function<bool(std::string_view)>& write,
+                                       std::string& error) {
+    RowModel& rows = window.Rows();
+    if (which.which == ExportedRows::Below) rows.Expand(which.index);
+    const RowModel::Answering answering(rows);
+    rows.TakeTrouble();
+    Export writer(window, format, write);
+    std::vector<Range> ranges{{0, toTheEnd}};
+    if (which.which == ExportedRows::Selected) ranges = SelectedRanges(rows);
+    if (which.which == ExportedRows::Below) {
+        const std::int64_t position = rows.PositionOf(which.index);
+        for (const RowLook& look : rows.Read(position, 1)) writer.KeepBelow(look.depth);
+        ranges = {{position + 1, toTheEnd}};
+    }
+    if (format != ExportFormat::Cells && !writer.WriteCaptions()) return std::nullopt;
+    std::int64_t count = 0;
+    for (const Range& range : ranges) {
+        count += writer.Write(range, services);
+        if (writer.HasFailed()) break;
+    }
+    error = services.WhyStop();
+    if (error.empty()) error = rows.TakeTrouble();
+    if (error.empty() && rows.IsStopped()) error = "what is shown has changed meanwhile";
+    if (writer.HasFailed() || !error.empty()) return std::nullopt;
+    return count;
+}
+
+} // namespace znhost
