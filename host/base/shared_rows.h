@@ -18,27 +18,26 @@ public:
     SharedRows() = default;
     SharedRows(Rows rows) : rows_(std::make_shared<Rows>(std::move(rows))) {}
 
-    operator const Rows&() const { return *rows_; }
-    const Rows& Get() const { return *rows_; }
-    std::size_t size() const { return rows_->size(); }
-    bool empty() const { return rows_->empty(); }
+    operator const Rows&() const { return Get(); }
+    const Rows& Get() const {
+        static const Rows none;
+        return rows_ ? *rows_ : none;
+    }
+    std::size_t size() const { return Get().size(); }
+    bool empty() const { return Get().empty(); }
     std::int64_t operator[](std::size_t place) const { return (*rows_)[place]; }
-    Rows::const_iterator begin() const { return rows_->begin(); }
-    Rows::const_iterator end() const { return rows_->end(); }
+    Rows::const_iterator begin() const { return Get().begin(); }
+    Rows::const_iterator end() const { return Get().end(); }
     /// The list, to be changed: no other has it.
     Rows& Own() {
-        if (rows_.use_count() > 1) rows_ = std::make_shared<Rows>(*rows_);
+        if (!rows_ || rows_.use_count() > 1) rows_ = std::make_shared<Rows>(Get());
         return *rows_;
     }
 
 private:
     friend class RowLists;
 
-    std::shared_ptr<Rows> rows_ = Nothing();
-    static const std::shared_ptr<Rows>& Nothing() {
-        static const auto nothing = std::make_shared<Rows>();
-        return nothing;
-    }
+    std::shared_ptr<Rows> rows_; ///< null: none
 };
 
 /// The long lists that the windows of a view show: those that are equal are one.

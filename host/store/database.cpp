@@ -140,6 +140,7 @@ void Database::Adopt(Connection connection) {
 }
 
 Database::~Database() {
+    if (!connection_) return; // it could not be opened
     sqlite3_progress_handler(Handle(), 0, nullptr, nullptr);
     sqlite3_busy_handler(Handle(), nullptr, nullptr);
 }

@@ -2,7 +2,7 @@
 # way to them, as their numbers are others on another day.
 
 proc ::znbrowser::buildRecorder {n bar} {
-    ttk::checkbutton $bar.record -text "Record" -style Status.Toolbutton -takefocus 0 \
+    ttk::checkbutton $bar.record -text "Record" -style Status.Toolbutton \
         -variable ::znbrowser::recording -command ::znbrowser::switchRecording
     pack $bar.record -side right -padx {4 0}
 }
