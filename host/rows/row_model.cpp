@@ -111,48 +111,6 @@ void RowModel::TakeOver() {
     if (stopped_) pending_ |= VIEW_ROWS;
 }
 
-void RowModel::Tell(RowChange::Kind kind, std::uint32_t index) noexcept {
-    if (observers_.empty()) return;
-    Note({kind, index});
-    Deliver();
-}
-
-void RowModel::Note(const RowChange& change) noexcept {
-    try {
-        changes_.push_back(change);
-    } catch (const std::bad_alloc&) {
-        untold_ = true;
-    }
-}
-
-void RowModel::Deliver() noexcept {
-    if (answering_ || delivering_) return;
-    delivering_ = true;
-    try {
-        while (!changes_.empty() || untold_) {
-            if (untold_) changes_.assign(1, RowChange());
-            untold_ = false;
-            DeliverToAll(std::exchange(changes_, {}));
-        }
-    } catch (const std::exception&) { // who did not hear is told with the next change, or after a question
-        untold_ = true;
-    }
-    delivering_ = false;
-}
-
-/// Observers may be added and removed while others are told.
-void RowModel::DeliverToAll(const std::vector<RowChange>& changes) {
-    const std::vector<RowObserver*> observers = observers_;
-    for (RowObserver* const observer : observers) {
-        const bool stays = std::find(observers_.begin(), observers_.end(), observer) != observers_.end();
-        if (stays) observer->OnRowsChanged(changes);
-    }
-}
-
-void RowModel::RemoveObserver(const RowObserver& observer) {
-    observers_.erase(std::remove(observers_.begin(), observers_.end(), &observer), observers_.end());
-}
-
 // ---- Questions ----
 
 std::int64_t RowModel::Count() {
