@@ -83,6 +83,7 @@ std::optional<std::uint32_t> RowAt(const AppCall& call, RowModel& rows, std::siz
     if (Tcl_ListObjGetElements(call.App().Interp(), call.Word(position), &count, &steps) != TCL_OK)
         return std::nullopt;
     std::vector<std::string> path;
+    path.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) path.emplace_back(Tcl_GetString(steps[i]));
     std::size_t wrong = 0;
     const std::uint32_t index = rows.FindPath(path, wrong);

@@ -41,16 +41,23 @@ proc ::znbrowser::styleElement {n name} {
     }
 }
 
-# The style for elements of these kinds; in the column of the tree with what shows the depth of the row.
-proc ::znbrowser::styleFor {n inTree kinds} {
+# What stands before the elements of a cell: in the column of the tree what shows the depth of the row; where that column
+# is left out, the first one has the mark of what is collected.
+proc ::znbrowser::leadOf {n number inTree} {
     upvar #0 ::znbrowser::window$n w
-    set key [list $inTree $kinds]
+    if {$inTree} {return {mark indent expander}}
+    return [expr {$w(flat) && $number == [lindex $w(shown) 0] ? "mark" : ""}]
+}
+
+# The style for elements of these kinds, with what stands before them.
+proc ::znbrowser::styleFor {n lead kinds} {
+    upvar #0 ::znbrowser::window$n w
+    set key [list $lead $kinds]
     if {[dict exists $w(styles) $key]} {return [dict get $w(styles) $key]}
     set style style[dict size $w(styles)]
     dict set w(styles) $key $style
     $w(tree) style create $style
-    set parts {back}
-    if {$inTree} {lappend parts mark indent expander}
+    set parts [list back {*}$lead]
     if {[lindex $kinds 0] eq "image"} {lappend parts icon}
     set place 0
     foreach kind $kinds {
@@ -126,7 +133,7 @@ proc ::znbrowser::drawRow {n slot row} {
     }
     set w(drawn,$slot) $drawn
     drawState $n $slot $row $odd
-    $w(tree) item style set $w(item,$slot) $w(filler) [styleFor $n 0 {}]
+    $w(tree) item style set $w(item,$slot) $w(filler) [styleFor $n {} {}]
     lassign $row index parent depth kind
     set cells [lindex $row 11]
     set isNote [expr {[lindex $row 10] eq "note"}]
@@ -168,14 +175,14 @@ proc ::znbrowser::drawState {n slot row odd} {
 proc ::znbrowser::drawContainer {n slot number inTree row} {
     upvar #0 ::znbrowser::window$n w
     if {!$inTree} {
-        setStyle $n $slot $number [styleFor $n 0 {}]
+        setStyle $n $slot $number [styleFor $n {} {}]
         return
     }
     lassign $row index parent depth kind text expanded selected hasRows bold italic icon
     set item $w(item,$slot)
     set column $w(column,$number)
     set kinds [expr {$icon ne "note" ? {image text} : $w(locked) ? {image button} : {image button text}}]
-    setStyle $n $slot $number [styleFor $n 1 $kinds]
+    setStyle $n $slot $number [styleFor $n [leadOf $n $number 1] $kinds]
     $w(tree) item element configure $item $column indent -width [indentOf $n $depth]
     $w(tree) item element configure $item $column icon -image [imageNamed $icon]
     if {$icon eq "note"} {return [$w(tree) item element configure $item $column button1t -text "Retry"]}
@@ -187,7 +194,7 @@ proc ::znbrowser::drawContainer {n slot number inTree row} {
 proc ::znbrowser::drawNote {n slot text} {
     upvar #0 ::znbrowser::window$n w
     set column [wideColumn $n]
-    if {$w(locked)} {setStyle $n $slot [lindex $w(shown) 1] [styleFor $n 0 text]}
+    if {$w(locked)} {setStyle $n $slot [lindex $w(shown) 1] [styleFor $n {} text]}
     $w(tree) item element configure $w(item,$slot) $column text[expr {$w(locked) ? 0 : 2}] -text "  [oneLine $text]" \
         -fill [fillOf $n [colour problem]]
 }
@@ -200,7 +207,7 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
     set italic [dict get [lindex $w(columns) $number] italic]
     if {!$w(bare)} {set elements [lsearch -all -inline -not -exact -index 0 $elements null]}
     set elements [lmap element $elements {markFound $n $element $inTree}]
-    setStyle $n $slot $number [styleFor $n $inTree [lmap element $elements {lindex $element 0}]]
+    setStyle $n $slot $number [styleFor $n [leadOf $n $number $inTree] [lmap element $elements {lindex $element 0}]]
     if {$inTree} {$w(tree) item element configure $item $column indent -width [indentOf $n $depth]}
     set place 0
     foreach element $elements {

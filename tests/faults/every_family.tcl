@@ -315,8 +315,9 @@ dict lappend sections data {*}$valueLines
 
 # Names and texts that break what was only tried with "a" and "b", in each place that takes one.
 source [file join [file dirname [info script]] .. hostile_texts.tcl]
-dict set sections hostile [concat {{window create win}} {*}[lmap kind {emoji nul command} {
-    string map [list % [list [dict get $hostile::texts $kind]]] {
+foreach kind {emoji nul command} {
+    set lines {
+        {window create win}
         {app sql m {INSERT INTO note VALUES (?, 1, ?)} % %} {app sql m {UPDATE note SET text = ?} %}
         {view property create %} {view property type string} {view property connect note text} {view column create %}
         {view column caption %} {view style create %} {view element create %} {view element connect property %}
@@ -328,7 +329,8 @@ dict set sections hostile [concat {{window create win}} {*}[lmap kind {emoji nul
         {window map record create % %} {view filter string current {}} {datasource simple create % %}
         {datasource simple connect note} {datasource simple criteria create %} {app sql m %} {view current %} {window %}
     }
-}]]
+    dict set sections hostile[string totitle $kind] [string map [list % [list [dict get $hostile::texts $kind]]] $lines]
+}
 
 set display {
     {window create win} {window part create part} {window listener connect told} {window post true}
