@@ -68,7 +68,12 @@ proc ::znbrowser::boxOf {name tkIndex {column ""} {element ""}} {
     set words [list $item]
     if {$column ne ""} {lappend words [columnAt $name $column]}
     if {$element ne ""} {lappend words [elementNamed $name $tkIndex $column $element]}
-    return [[tree $name] item bbox {*}$words]
+    set box [[tree $name] item bbox {*}$words]
+    if {$column eq "" && $box ne ""} { # the tree widget leaves out the column that stays when the others are scrolled
+        upvar #0 ::znbrowser::window[number $name] w
+        lset box 0 [lindex [$w(tree) item bbox $item $w(column,[lindex $w(shown) 0])] 0]
+    }
+    return $box
 }
 
 # ---- Opening and closing
