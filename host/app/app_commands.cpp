@@ -180,8 +180,10 @@ constexpr AppWord appWords[] = {
     {"datactrl write", "DATACTRL ?BOOL?", "BOOL", "tells whether the database may be changed, or sets it", 1,
      2, AppWrite},
     {"draw", "WINDOW", "TEXT", "draws what a window shows, as a table", 1, 1, AnswerDraw},
-    {"export", "WINDOW all|selected|INDEX csv|tsv|cells ?FILE?", "TEXT",
-     "writes rows as text, or into FILE and answers how many; cells: without captions", 3, 4, AppExport},
+    {"export", "WINDOW all|selected|INDEX csv|tsv|cells|sql ?FILE? ?deep?", "TEXT",
+     "writes rows as text, or into FILE and answers how many; cells: without captions, sql: as INSERT "
+     "statements, deep: closed rows too",
+     3, 5, AppExport},
     {"filter column", "VIEW COLUMN ?none|null|contains TEXT|equals VALUE|between LOW HIGH?", "FILTER",
      "sets or reads which values in a column are shown", 2, 5, AppFilterColumn},
     {"filter scope", "VIEW ?name|shown?", "name|shown",

@@ -2,6 +2,7 @@
 
 #include "app/app_commands.h"
 #include "app/row_app_commands.h"
+#include "app/row_inserts.h"
 #include "base/native.h"
 #include "base/text.h"
 #include "window/row_export.h"
@@ -42,13 +43,16 @@ bool ReadRows(const AppCall& call, Window& window, ExportedRows& rows) {
 
 bool ReadFormat(const AppCall& call, ExportFormat& format) {
     constexpr std::pair<const char*, ExportFormat> words[] = {
-        {"csv", ExportFormat::Csv}, {"tsv", ExportFormat::Tsv}, {"cells", ExportFormat::Cells}};
+        {"csv", ExportFormat::Csv},
+        {"tsv", ExportFormat::Tsv},
+        {"cells", ExportFormat::Cells},
+        {"sql", ExportFormat::Lines}};
     for (const auto& [word, meaning] : words) {
         if (call.Text(2) != word) continue;
         format = meaning;
         return true;
     }
-    call.Fail("unknown format \"" + call.Text(2) + "\": it must be csv, tsv or cells", "FORMAT",
+    call.Fail("unknown format \"" + call.Text(2) + "\": it must be csv, tsv, cells or sql", "FORMAT",
               call.Text(2));
     return false;
 }
@@ -115,7 +119,14 @@ int AppExport(AppCall& call) {
     ExportedRows rows;
     ExportFormat format = ExportFormat::Csv;
     if (!window || !ReadFormat(call, format) || !ReadRows(call, *window, rows)) return TCL_ERROR;
-    return call.Count() > 3 ? ExportToFile(call, *window, rows, format)
+    rows.deep = call.Count() > 4;
+    if (rows.deep && call.Text(4) != "deep")
+        return call.Fail("\"" + call.Text(4) + "\" tells nothing of the rows: it must be deep", "ROWS", call.Text(4));
+    RowInserts inserts(window->Rows());
+    rows.lineOf = [&inserts](std::uint32_t index, std::string& line, std::string& error) {
+        return inserts.Make(index, line, error);
+    };
+    return call.Count() > 3 && !call.Text(3).empty() ? ExportToFile(call, *window, rows, format)
                             : ExportAsText(call, *window, rows, format);
 }
 

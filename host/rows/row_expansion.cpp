@@ -152,6 +152,15 @@ bool RowModel::Expand(std::uint32_t index) {
     return change && ExpandRow(Find(index));
 }
 
+bool RowModel::ExpandAllBelow(std::uint32_t index) {
+    const Change change(*this);
+    const Row row = change ? Find(index) : Row();
+    if (!row || !(row.IsExpanded() || HasRows(row))) return false;
+    ExpandBelow(row.IsItem() ? tree_.NodeOf(row) : *row.node);
+    Tell(RowChange::Filled, index);
+    return true;
+}
+
 bool RowModel::Collapse(std::uint32_t index) {
     const Change change(*this);
     const Row row = change ? Find(index) : Row();

@@ -129,6 +129,8 @@ public:
     bool Collapse(std::uint32_t index);
     /// Everything; an item that lies below itself is expanded only once on the way down.
     void ExpandAll();
+    /// A row with all that lies below.
+    bool ExpandAllBelow(std::uint32_t index);
     void CollapseAll();
     /// The selected rows, with `ExpandSelected` each with all that lies below.
     void ExpandSelected();

@@ -56,13 +56,17 @@ proc ::znbrowser::copyText {text} {
     if {$text ne ""} {copy $text}
 }
 
-# Asks for a file, whose name tells the format, and writes rows into it.
-proc ::znbrowser::export {n rows} {
+# Asks for a file, whose name tells the format, and writes rows into it; closed ones too, with `deep`.
+proc ::znbrowser::export {n rows args} {
     upvar #0 ::znbrowser::window$n w
-    set types {{{Comma-separated values} .csv} {{Tab-separated values} {.tsv .txt}}}
+    set types {{{Comma-separated values} .csv} {{Tab-separated values} {.tsv .txt}} {{SQL statements} .sql}}
     set file [tk_getSaveFile -parent $w(path) -title Export -filetypes $types -defaultextension .csv]
     if {$file eq "" || ![isOpen $n]} return
-    set format [expr {[string tolower [file extension $file]] in {.tsv .txt .tab} ? "tsv" : "csv"}]
-    set count [exportRows $n $rows $format $file]
+    switch [string tolower [file extension $file]] {
+        .tsv - .txt - .tab {set format tsv}
+        .sql {set format sql}
+        default {set format csv}
+    }
+    set count [exportRows $n $rows $format $file {*}$args]
     if {$count ne "" && [isOpen $n]} {say $n "[grouped $count] rows are in [file tail $file]"}
 }

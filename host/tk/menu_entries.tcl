@@ -176,35 +176,56 @@ proc ::znbrowser::standardEntries {n row column} {
     upvar #0 ::znbrowser::window$n w
     set entries {}
     if {$row ne ""} {
-        set text [cellText $n $row $column]
         set entries [list \
             [dict create caption [expr {[lindex $row 5] ? "Collapse" : "Expand"}] enabled [lindex $row 7] \
                 command [list ::znbrowser::toggle $n $row]] \
             [dict create caption "Expand all below" command [list ::znbrowser::command $n window expandselected]] \
             [dict create caption "Collapse selected" \
-                command [list ::znbrowser::command $n window collapseselected]] \
-            {kind separator} \
+                command [list ::znbrowser::command $n window collapseselected]]]
+    }
+    return [concat $entries [copyEntries $n $row $column] [exportEntries $n $row]]
+}
+
+proc ::znbrowser::copyEntries {n row column} {
+    upvar #0 ::znbrowser::window$n w
+    set entries {}
+    if {$row ne ""} {
+        set text [cellText $n $row $column]
+        set entries [list {kind separator} \
             [dict create caption "Copy cell" enabled [expr {$text ne ""}] command [list ::znbrowser::copy $text]] \
             [dict create caption "Copy rows" command [list ::znbrowser::copySelected $n] \
                 help "The selected rows, to be pasted into a table (Ctrl-C)"] \
             [dict create caption "Copy rows with captions" command [list ::znbrowser::copySelected $n tsv] \
                 help "The selected rows below the names of the columns"] \
             [dict create caption "Copy rows as CSV" command [list ::znbrowser::copySelected $n csv] \
-                help "The selected rows below the names of the columns, with commas between the cells"]]
+                help "The selected rows below the names of the columns, with commas between the cells"] \
+            [dict create caption "Copy rows as SQL" command [list ::znbrowser::copySelected $n sql] \
+                help "The statements that insert the selected rows, with all that is stored of them"]]
     }
     set rows [dict get $w(look) rows]
     lappend entries [dict create caption "Copy all" command [list ::znbrowser::copyAll $n] \
         enabled [expr {$rows > 0 && $rows <= $::znbrowser::copiedRows}] \
         help "Every row that is open, below the names of the columns, to be pasted into a table"]
+    return $entries
+}
+
+proc ::znbrowser::exportEntries {n row} {
+    upvar #0 ::znbrowser::window$n w
+    set rows [dict get $w(look) rows]
+    set entries {}
     if {$row ne "" && [lindex $row 3] ne "item" && [lindex $row 7]} {
         lappend entries [dict create caption "Export this [lindex $row 3] …" \
-            command [list ::znbrowser::export $n [lindex $row 0]] help "Everything below it, into a file of CSV or TSV"]
+            command [list ::znbrowser::export $n [lindex $row 0]] help "Every open row below it, into a file of CSV, TSV or SQL"]
+    }
+    if {$row ne "" && [lindex $row 7]} {
+        lappend entries [dict create caption "Export all below …" help "Closed rows too, into a file of CSV, TSV or SQL" \
+            command [list ::znbrowser::export $n [lindex $row 0] deep]]
     }
     if {$row ne ""} {
         lappend entries [dict create caption "Export selected rows …" command [list ::znbrowser::export $n selected] \
-            help "Into a file of CSV or TSV"]
+            help "Into a file of CSV, TSV or SQL"]
     }
     lappend entries [dict create caption "Export all …" command [list ::znbrowser::export $n all] enabled [expr {$rows > 0}] \
-        help "Every row that is open, into a file of CSV or TSV"]
+        help "Every row that is open, into a file of CSV, TSV or SQL"]
     return $entries
 }

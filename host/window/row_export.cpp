@@ -43,8 +43,10 @@ std::string TextOf(const RowCell& cell) {
 
 class Export {
 public:
-    Export(Window& window, ExportFormat format, const std::function<bool(std::string_view)>& write)
-        : rows_(window.Rows()), border_(format == ExportFormat::Csv ? ',' : '\t'), write_(write) {
+    Export(Window& window, const ExportedRows& which, ExportFormat format,
+           const std::function<bool(std::string_view)>& write)
+        : rows_(window.Rows()), which_(which), isLines_(format == ExportFormat::Lines),
+          border_(format == ExportFormat::Csv ? ',' : '\t'), write_(write) {
         if (!window.ShownView()) return;
         for (const std::shared_ptr<Column>& column : window.ShownView()->Columns()) {
             if (column->IsShown()) columns_.push_back(column);
@@ -62,17 +64,24 @@ public:
         std::int64_t count = 0;
         rows_.ReadEach(range.first, range.second, [&](const RowLook& look) {
             if (IsBehind(look)) return false;
-            failed_ = !services.WhyStop().empty() || !WriteRow(look);
-            return !failed_ && ++count > 0;
+            failed_ = !services.WhyStop().empty() || !(isLines_ ? MakeLine(look) : WriteRow(look));
+            if (!failed_ && !line_.empty()) ++count;
+            return !failed_;
         });
         return count;
     }
     bool HasFailed() const { return failed_; }
+    /// Why a line could not be made.
+    const std::string& Error() const { return error_; }
     /// Rows that do not lie below one of that depth are not written.
     void KeepBelow(std::int64_t depth) { depth_ = depth; }
 
 private:
     bool IsBehind(const RowLook& look) const { return std::int64_t{look.depth} <= depth_; }
+
+    bool MakeLine(const RowLook& look) {
+        return which_.lineOf(look.index, line_, error_) && (line_.empty() || write_(line_));
+    }
 
     bool WriteRow(const RowLook& look) {
         line_.clear();
@@ -106,12 +115,40 @@ private:
     }
 
     RowModel& rows_;
+    const ExportedRows& which_;
+    const bool isLines_;
     const char border_;
     const std::function<bool(std::string_view)>& write_;
     std::vector<std::shared_ptr<Column>> columns_;
     std::string line_;
+    std::string error_;
     std::int64_t depth_ = -1;
     bool failed_ = false;
+};
+
+/// While one lives the rows that are wanted are open.
+class Opened {
+public:
+    Opened(RowModel& rows, const ExportedRows& which) : rows_(rows), deep_(which.deep) {
+        if (deep_) {
+            before_ = rows_.Expanded();
+            selected_ = rows_.SelectedContainers();
+        }
+        if (deep_ && which.which == ExportedRows::All) rows_.ExpandAll();
+        if (which.which != ExportedRows::Below) return;
+        deep_ ? rows_.ExpandAllBelow(which.index) : rows_.Expand(which.index);
+    }
+    ~Opened() {
+        if (deep_) rows_.BringBack(std::move(before_), std::move(selected_));
+    }
+    Opened(const Opened&) = delete;
+    Opened& operator=(const Opened&) = delete;
+
+private:
+    RowModel& rows_;
+    const bool deep_;
+    std::vector<KeptRow> before_;
+    std::vector<KeptRow> selected_;
 };
 
 } // namespace
@@ -121,10 +158,10 @@ std::optional<std::int64_t> ExportRows(Window& window, const ExportedRows& which
                                        const std::function<bool(std::string_view)>& write,
                                        std::string& error) {
     RowModel& rows = window.Rows();
-    if (which.which == ExportedRows::Below) rows.Expand(which.index);
+    const Opened opened(rows, which);
     const RowModel::Answering answering(rows);
     rows.TakeTrouble();
-    Export writer(window, format, write);
+    Export writer(window, which, format, write);
     std::vector<Range> ranges{{0, toTheEnd}};
     if (which.which == ExportedRows::Selected) ranges = SelectedRanges(rows);
     if (which.which == ExportedRows::Below) {
@@ -132,13 +169,15 @@ std::optional<std::int64_t> ExportRows(Window& window, const ExportedRows& which
         for (const RowLook& look : rows.Read(position, 1)) writer.KeepBelow(look.depth);
         ranges = {{position + 1, toTheEnd}};
     }
-    if (format != ExportFormat::Cells && !writer.WriteCaptions()) return std::nullopt;
+    const bool hasCaptions = format == ExportFormat::Csv || format == ExportFormat::Tsv;
+    if (hasCaptions && !writer.WriteCaptions()) return std::nullopt;
     std::int64_t count = 0;
     for (const Range& range : ranges) {
         count += writer.Write(range, services);
         if (writer.HasFailed()) break;
     }
     error = services.WhyStop();
+    if (error.empty()) error = writer.Error();
     if (error.empty()) error = rows.TakeTrouble();
     if (error.empty() && rows.IsStopped()) error = "what is shown has changed meanwhile";
     if (writer.HasFailed() || !error.empty()) return std::nullopt;

@@ -14,14 +14,18 @@ class HostServices;
 class Window;
 
 enum class ExportFormat {
-    Csv,  ///< commas between the cells
-    Tsv,  ///< tabs between them
-    Cells ///< the same, without the line of captions
+    Csv,   ///< commas between the cells
+    Tsv,   ///< tabs between them
+    Cells, ///< the same, without the line of captions
+    Lines  ///< no cells: each row is a line that `lineOf` makes
 };
 
 struct ExportedRows {
     enum Which { All, Selected, Below } which = All;
     std::uint32_t index = 0; ///< the row of what lies below: it is expanded when it is not
+    bool deep = false;       ///< closed rows are expanded meanwhile
+    /// Makes the line of the row with that Tk index, or an empty text for a row that has none. False: it cannot.
+    std::function<bool(std::uint32_t index, std::string& line, std::string& error)> lineOf;
 };
 
 /// Hands the rows to `write`, a line each, behind a line with the captions of the columns that are shown. A
