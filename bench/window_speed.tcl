@@ -147,6 +147,17 @@ foreach pace {30 120} {
     report "the same, taken back" [waits $field [string repeat \b [string length $text]] $pace {[look filter] eq ""}] ms 50
 }
 focus -force $tree
+foreach {what before key} {"a key typed to find the next row" "" i "one for a row some thousands further on" "item 500" 0} {
+    lassign [steps 20 {event generate $tree <KeyPress> -keysym $key} {
+        set n [znbrowser::number speed]
+        ::znbrowser::forgetTyped $n
+        ::znbrowser::goTo $n move 4
+        foreach character [split $before ""] {::znbrowser::typed $n $character 0}
+        update
+    }] median longest
+    report $what $median ms 50
+    report "the longest of 20" $longest ms
+}
 report "a key typed to find a row that is not there" [waits $tree "item x" 120 {![info exists ::znbrowser::window[znbrowser::number speed](finding)]}] ms 50
 zn OnTkTreeRequestCollapse speed [index item]
 update

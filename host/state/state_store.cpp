@@ -43,6 +43,10 @@ public:
     /// Afterwards the tables are there, and of the present version.
     bool Begin(std::string& error) {
         std::size_t version = 0;
+        if (!store_.database_.MayChange()) {
+            error = "the file is only read, and states are kept in it: changes must be allowed first";
+            return false;
+        }
         return transaction_.Begin(error) && store_.ReadVersion(version, error) &&
                store_.UpgradeFrom(version, error);
     }
