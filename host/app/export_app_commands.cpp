@@ -42,11 +42,10 @@ bool ReadRows(const AppCall& call, Window& window, ExportedRows& rows) {
 }
 
 bool ReadFormat(const AppCall& call, ExportFormat& format) {
-    constexpr std::pair<const char*, ExportFormat> words[] = {
-        {"csv", ExportFormat::Csv},
-        {"tsv", ExportFormat::Tsv},
-        {"cells", ExportFormat::Cells},
-        {"sql", ExportFormat::Lines}};
+    constexpr std::pair<const char*, ExportFormat> words[] = {{"csv", ExportFormat::Csv},
+                                                              {"tsv", ExportFormat::Tsv},
+                                                              {"cells", ExportFormat::Cells},
+                                                              {"sql", ExportFormat::Lines}};
     for (const auto& [word, meaning] : words) {
         if (call.Text(2) != word) continue;
         format = meaning;
@@ -121,13 +120,14 @@ int AppExport(AppCall& call) {
     if (!window || !ReadFormat(call, format) || !ReadRows(call, *window, rows)) return TCL_ERROR;
     rows.deep = call.Count() > 4;
     if (rows.deep && call.Text(4) != "deep")
-        return call.Fail("\"" + call.Text(4) + "\" tells nothing of the rows: it must be deep", "ROWS", call.Text(4));
+        return call.Fail("\"" + call.Text(4) + "\" tells nothing of the rows: it must be deep", "ROWS",
+                         call.Text(4));
     RowInserts inserts(window->Rows());
     rows.lineOf = [&inserts](std::uint32_t index, std::string& line, std::string& error) {
         return inserts.Make(index, line, error);
     };
     return call.Count() > 3 && !call.Text(3).empty() ? ExportToFile(call, *window, rows, format)
-                            : ExportAsText(call, *window, rows, format);
+                                                     : ExportAsText(call, *window, rows, format);
 }
 
 } // namespace znhost

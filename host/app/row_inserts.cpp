@@ -19,8 +19,8 @@ std::string Literal(const std::string& text) {
 /// The expression for a column's value as SQL writes it. A text may hold a NUL, at which `quote` would stop.
 std::string LiteralOf(const std::string& column) {
     return "CASE WHEN typeof(" + column + ") = 'text' AND instr(" + column +
-           ", char(0)) THEN 'CAST(' || quote(CAST(" + column + " AS BLOB)) || ' AS TEXT)' ELSE quote(" + column +
-           ") END";
+           ", char(0)) THEN 'CAST(' || quote(CAST(" + column + " AS BLOB)) || ' AS TEXT)' ELSE quote(" +
+           column + ") END";
 }
 
 /// Whether the database computes the column, so that it takes no value.
@@ -43,15 +43,14 @@ std::string RowInserts::SelectFor(DataCtrl& control, const Table& table) {
         values += (values.empty() ? "" : " || ', ' || ") + LiteralOf(name);
     }
     const std::string begin = "INSERT INTO " + Database::Quoted(table.name) + " (" + columns + ") VALUES (";
-    return "SELECT " + Literal(begin) + " || " + values + " || ');' FROM " + table.rows + " WHERE " + table.key +
-           " = ?";
+    return "SELECT " + Literal(begin) + " || " + values + " || ');' FROM " + table.rows + " WHERE " +
+           table.key + " = ?";
 }
 
 bool RowInserts::Make(std::uint32_t index, std::string& line, std::string& error) {
     line.clear();
     znBrowserDataItem item;
-    auto* const source =
-        rows_.GetItem(index, item) ? dynamic_cast<SimpleSource*>(item.source) : nullptr;
+    auto* const source = rows_.GetItem(index, item) ? dynamic_cast<SimpleSource*>(item.source) : nullptr;
     if (!source) return true;
     const RowPlace place = source->PlaceOf(item.row);
     BaseSource* const base = source->BaseAt(place.slot);

@@ -13,7 +13,8 @@ namespace znhost {
 class DataCtrl;
 class RowModel;
 
-/// Makes the statements. They name every column that can be written, and every value is exactly what is stored.
+/// Makes the statements. They name every column that can be written, and every value is exactly what is
+/// stored.
 class RowInserts {
 public:
     explicit RowInserts(RowModel& rows) : rows_(rows) {}

@@ -123,7 +123,7 @@ proc ::znbrowser::layoutStyle {n style parts} {
 proc ::znbrowser::drawRow {n slot row} {
     upvar #0 ::znbrowser::window$n w
     set odd [expr {($w(first) + $slot) % 2}]
-    set drawn [list $row $odd [expr {[lindex $row 0] == $w(active)}] $w(marks) $w(indents)]
+    set drawn [list $row $odd [expr {[lindex $row 0] == $w(active)}] $w(marks) $w(indents) $w(visible)]
     if {[info exists w(drawn,$slot)] && $w(drawn,$slot) eq $drawn} return
     if {![info exists w(item,$slot)]} {
         set w(item,$slot) [$w(tree) item create -parent root -visible yes]
@@ -138,7 +138,7 @@ proc ::znbrowser::drawRow {n slot row} {
     set cells [lindex $row 11]
     set isNote [expr {[lindex $row 10] eq "note"}]
     spanRow $n $slot $isNote
-    foreach number $w(shown) {
+    foreach number $w(visible) {
         set inTree [dict get [lindex $w(columns) $number] tree]
         if {$kind ne "item"} {
             drawContainer $n $slot $number [expr {$inTree || ($w(flat) && $number == [lindex $w(shown) 0])}] $row

@@ -12,7 +12,8 @@ namespace eval ::znbrowser::any {
     variable openRows 60       ;# small tables are opened at first, up to so many rows together ...
     variable openTable 30      ;# ... when they have no more than these
     variable openTime 500      ;# milliseconds to find that out, and to look for rows that lie below themselves
-    variable mostInCycle 5000  ;# so many rows of a table are shown as lying in a cycle
+    variable mostInCycle 50000 ;# so many rows of a table are shown as lying in a cycle
+    variable unsought {}       ;# by data control: the tables for whose cycles there was no time yet
     variable largeFile 1e8     ;# in larger ones nothing is counted or opened at first: it takes too long
 }
 
@@ -39,6 +40,7 @@ proc ::znbrowser::any::browse {control {columns {}}} {
     FollowTables $control $control $tables $cycles
     AddDatabaseMenu $control
     RestoreSort $control
+    SeekCyclesSoon $control 400
     NoteRecent [FileOf $control]
 }
 
@@ -231,14 +233,11 @@ proc ::znbrowser::any::MakeFolders {control tables references nested} {
         Do view folder children count bynumber $counts
         Do view folder tree toplevel $table [lindex [dict get $nested $table] 0]
         foreach link [Reachable $table $below] {Tie $link}
-        set source ""
-        if {[clock milliseconds] < $end} {
-            set source [MakeCycle $control $table [lindex [dict get $nested $table] 2]]
-        }
-        if {$source ne ""} {
-            dict set cycles $source $table
-            Do view list create $source
-            foreach link [dict get $below $table] {Tie [lreplace $link 2 2 $source]}
+        set key [lindex [dict get $nested $table] 2]
+        if {[clock milliseconds] > $end || [catch {RowsInCycle $control $table $key glance} rows]} {
+            dict set ::znbrowser::any::unsought $control $table [list $key [dict get $below $table]]
+        } elseif {$rows ne ""} {
+            dict set cycles [MakeCycle $control $table $rows [dict get $below $table]] $table
         }
         Do view folder current $control
     }
@@ -246,20 +245,29 @@ proc ::znbrowser::any::MakeFolders {control tables references nested} {
     return $cycles
 }
 
-# The rows of a table that lie below themselves, and those below these: no row at the top leads to them. They stand in
-# a list of their own, a data source of whose name is answered; nothing where there are none, or where that cannot be
-# found out in a moment.
-proc ::znbrowser::any::MakeCycle {control table key} {
+# The numbers of the rows of a table that lie below themselves, and of those below these: no row at the top leads to
+# them. An error where that cannot be found out in time.
+#   how: sql, or glance for no longer than a moment
+proc ::znbrowser::any::RowsInCycle {control table key how} {
     variable mostInCycle
     lassign $key from to
     set number [RowNumberName [ColumnsOf $control $table]]
     set own [Quoted $table]
-    if {[catch {Do app glance $control "WITH RECURSIVE reached (k) AS (
+    set rows [Do app $how $control "WITH RECURSIVE reached (k) AS (
             SELECT [Quoted $to] FROM $own WHERE [Quoted $from] IS NULL OR [Quoted $from] NOT IN (SELECT [Quoted $to] FROM $own)
             UNION SELECT below.[Quoted $to] FROM $own AS below JOIN reached ON below.[Quoted $from] = reached.k)
-            SELECT $number FROM $own WHERE [Quoted $to] NOT IN reached LIMIT $mostInCycle"} rows] || $rows eq ""} return
+            SELECT $number FROM $own WHERE [Quoted $to] NOT IN reached LIMIT $mostInCycle"]
+    return [lmap row $rows {lindex $row 0}]
+}
+
+# Lists the rows in the current folder, by a data source of their own, whose name is answered.
+proc ::znbrowser::any::MakeCycle {control table rows below} {
     set source "$table: in a cycle"
-    MakeSource $control $source $table "$number IN ([join [lmap row $rows {lindex $row 0}] ", "])" "in a cycle"
+    set number [RowNumberName [ColumnsOf $control $table]]
+    set caption [expr {[llength $rows] < $::znbrowser::any::mostInCycle ? "in a cycle" : "in a cycle, the first"}]
+    MakeSource $control $source $table "$number IN ([join $rows ", "])" $caption
+    Do view list create $source
+    foreach link $below {Tie [lreplace $link 2 2 $source]}
     return $source
 }
 

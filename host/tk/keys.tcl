@@ -20,7 +20,7 @@ proc ::znbrowser::bindKeys {} {
             "::znbrowser::onTree $handler %W; break"
     }
     foreach {key pages} {Left -1 Right 1} {
-        bind znBrowserTree <Control-Key-$key> "%W xview scroll $pages pages; break"
+        bind znBrowserTree <Control-Key-$key> "::znbrowser::onTree scrollSideways %W scroll $pages pages; break"
     }
     bind znBrowserTree <Key> {if {[::znbrowser::onTree typed %W %A %s]} break}
     bind znBrowserTree <Control-Key-f> {::znbrowser::onTree focusSearch %W; break}

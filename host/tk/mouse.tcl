@@ -11,7 +11,7 @@ proc ::znbrowser::bindMouse {} {
     bind znBrowserTree <Leave> {::znbrowser::onTree leave %W}
     foreach {sequence rows} {<ButtonPress-4> -3 <ButtonPress-5> 3} {
         bind znBrowserTree $sequence "::znbrowser::onTree wheel %W $rows; break"
-        bind znBrowserTree <Shift-[string trim $sequence <>]> "%W xview scroll $rows units; break"
+        bind znBrowserTree <Shift-[string trim $sequence <>]> "::znbrowser::onTree scrollSideways %W scroll $rows units; break"
     }
 }
 

@@ -36,7 +36,7 @@ proc ::znbrowser::fitNumber {n number inTree text} {
 # first, unless the user has said how wide they are.
 proc ::znbrowser::growColumns {n} {
     upvar #0 ::znbrowser::window$n w
-    foreach number $w(shown) {
+    foreach number $w(visible) {
         set column [lindex $w(columns) $number]
         set name [dict get $column name]
         set numbers [holdsNumbers $n $number]

@@ -10,7 +10,7 @@ proc ::znbrowser::buildTree {n frame} {
         -xscrollincrement 20 -columnresizemode realtime -usetheme no -takefocus 1 -showheader yes \
         -headerfont znBrowser00 -width 100 -height 100
     ttk::scrollbar $frame.y -orient vertical -command [list ::znbrowser::yview $n]
-    ttk::scrollbar $frame.x -orient horizontal -command [list $w(tree) xview]
+    ttk::scrollbar $frame.x -orient horizontal -command [list ::znbrowser::scrollSideways $n]
     $w(tree) configure -xscrollcommand [list ::znbrowser::xscrolled $frame.x]
     grid $w(tree) $frame.y -sticky nsew
     grid $frame.x -sticky ew
@@ -29,6 +29,28 @@ proc ::znbrowser::xscrolled {bar first last} {
         grid $bar
         $bar set $first $last
     }
+}
+
+# What a scrollbar, a key or a wheel says. Cells are drawn before they are seen.
+proc ::znbrowser::scrollSideways {n args} {
+    upvar #0 ::znbrowser::window$n w
+    $w(tree) xview {*}$args
+    if {![host busy] && [visibleColumns $n] ne $w(visible)} {drawPage $n}
+}
+
+# The columns that are drawn: of many those in sight, and a little beside.
+proc ::znbrowser::visibleColumns {n} {
+    upvar #0 ::znbrowser::window$n w
+    if {[llength $w(shown)] <= 40} {return $w(shown)}
+    set end [expr {[winfo width $w(tree)] + 200}]
+    set visible [lrange $w(shown) 0 $w(locked)-1]
+    lassign [$w(tree) column bbox $w(column,[lindex $w(shown) $w(locked)])] x
+    foreach number [lrange $w(shown) $w(locked) end] {
+        set next [expr {$x + $w(width,$number)}]
+        if {$next > -200 && $x < $end} {lappend visible $number}
+        set x $next
+    }
+    return $visible
 }
 
 # ---- Positions
@@ -131,6 +153,7 @@ proc ::znbrowser::drawPage {n} {
     if {$w(shown) eq ""} return
     set w(page) [host page $n $w(first) [expr {$w(full) + 1}]]
     if {![isOpen $n]} return ;# a script that computed a value closed it
+    set w(visible) [visibleColumns $n]
     if {$w(bare)} {growColumns $n}
     fitTree $n
     set slot 0

@@ -18,7 +18,7 @@
 namespace eval ::znbrowser::any {
     variable followed
     array set followed {}
-    variable mostColumns 200 ;# more are not shown at once
+    variable mostColumns 2000 ;# more are not shown at once
 }
 
 # Lets the columns of a browser's window follow its tables.

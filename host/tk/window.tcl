@@ -94,7 +94,7 @@ proc ::znbrowser::open {n name frame} {
     variable numberOf
     upvar #0 ::znbrowser::window$n w
     array set w [list name $name first 0 full 1 page {} columns {} shown {} active -1 anchor -1 \
-        pending {} reported -1 trouble {} menu 0 menus 0 bare 0 grown {} sized {} watchers {} flat 0 locked 0 indents {0 18} \
+        pending {} reported -1 trouble {} menu 0 menus 0 bare 0 grown {} sized {} watchers {} flat 0 locked 0 indents {0 18} visible {} \
         look [host look $n] paper [colour paper]]
     set w(owns) [expr {$frame eq "" || ![winfo exists $frame]}]
     if {$w(owns)} {set frame [makeToplevel $n $name $frame]}

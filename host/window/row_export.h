@@ -24,7 +24,8 @@ struct ExportedRows {
     enum Which { All, Selected, Below } which = All;
     std::uint32_t index = 0; ///< the row of what lies below: it is expanded when it is not
     bool deep = false;       ///< closed rows are expanded meanwhile
-    /// Makes the line of the row with that Tk index, or an empty text for a row that has none. False: it cannot.
+    /// Makes the line of the row with that Tk index, or an empty text for a row that has none. False: it
+    /// cannot.
     std::function<bool(std::uint32_t index, std::string& line, std::string& error)> lineOf;
 };
 

@@ -32,6 +32,16 @@ namespace eval odd {
         {insert into plain values (1, 'plain row')}
         {create view broken as select name, abs(-9223372036854775808) as value from plain}
     }
+    # More columns than anybody looks at together.
+    variable wide [apply {{} {
+        for {set number 1} {$number <= 300} {incr number} {
+            lappend columns "c$number integer"
+            lappend values "i * $number"
+        }
+        return [list "create table wide (id integer primary key, name text, [join $columns ,])" \
+            "with recursive n (i) as (select 1 union all select i + 1 from n where i < 200)
+                insert into wide select i, 'row ' || i, [join $values ,] from n"]
+    }}]
     # A check box for each row.
     variable tasks {
         {create table task (id integer primary key, name text, done boolean, rank integer)}
