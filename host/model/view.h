@@ -157,6 +157,7 @@ public:
     void GetDataSourcesSimple(std::vector<znIBrowserDataSourceSimple*>& sources) override;
     void GetDataSourcesHierarchical(std::vector<znIBrowserDataSourceHierarchical*>& sources) override;
     znIBrowserDataSourceHierarchical* FindDataSourceHierarchical(const char* name) override;
+    /// A name may stand in double quotes, as one must that is a word of the commands: "script".
     znIBrowserDataSource* FindDataSource(const char* name) override;
     bool SetDataSourceConnected(znIBrowserDataSource* source, bool connected) override;
     bool GetConnectedDataSources(std::vector<znIBrowserDataSource*>& sources) override;
@@ -203,6 +204,8 @@ private:
     NamedList<ViewProperty> properties_;
     NamedList<ViewOperation> operations_;
     std::shared_ptr<FreeFolder> root_;
+
+    znIBrowserDataSource* FindConnected(const std::string& name) const;
 
     std::vector<znIBrowserDataSource*> connected_;
     std::vector<znIBrowserDataReference*> references_;

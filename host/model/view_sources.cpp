@@ -147,10 +147,16 @@ znIBrowserDataSourceHierarchical* View::FindDataSourceHierarchical(const char* n
 znIBrowserDataSource* View::FindDataSource(const char* name) {
     if (Refused("znIBrowserView::FindDataSource", name)) return nullptr;
     const std::string wanted = TextOf(name);
-    for (znIBrowserDataSource* const source : connected_) {
-        if (NameOf(log_, source) == wanted) return source;
-    }
-    return nullptr;
+    if (znIBrowserDataSource* const source = FindConnected(wanted)) return source;
+    const bool quoted = wanted.size() > 2 && wanted.front() == '"' && wanted.back() == '"';
+    return quoted ? FindConnected(wanted.substr(1, wanted.size() - 2)) : nullptr;
+}
+
+znIBrowserDataSource* View::FindConnected(const std::string& name) const {
+    const auto found = std::find_if(connected_.begin(), connected_.end(), [&](znIBrowserDataSource* source) {
+        return NameOf(log_, source) == name;
+    });
+    return found == connected_.end() ? nullptr : *found;
 }
 
 bool View::SetDataSourceConnected(znIBrowserDataSource* source, bool connected) {

@@ -388,7 +388,7 @@ RowModel::Place RowModel::PlaceOf(const RowContent& container) {
 /// nothing else to do.
 bool RowModel::IsTooLong(const ReadTrouble::Watch& watch, const RowContent& container) {
     if (!watch.Seen() || watch.Why() != ReadTrouble::Kind::TooLong) return false;
-    if (slow_.emplace(PlaceOf(container), std::nullopt).second) uncounted_.push_back(container);
+    if (slow_.emplace(PlaceOf(container), std::nullopt).second) uncounted_.push_back({container});
     return true;
 }
 
@@ -447,17 +447,27 @@ bool RowModel::MayHaveRows(const Row& row) {
 }
 
 void RowModel::CountMore() {
-    constexpr auto timeToCount = std::chrono::milliseconds(150);
+    constexpr auto shortest = std::chrono::milliseconds(150);
+    constexpr auto longest = std::chrono::milliseconds(2000);
     const Answering answering(*this);
     if (!view_ || uncounted_.empty()) return;
-    const HostServices::Hurry hurry(Services(), timeToCount);
-    const RowContent container = std::move(uncounted_.back());
-    uncounted_.pop_back();
+    const auto least =
+        std::min_element(uncounted_.begin(), uncounted_.end(),
+                         [](const Uncounted& a, const Uncounted& b) { return a.tried < b.tried; });
+    Uncounted next = std::move(*least);
+    uncounted_.erase(least);
+    const auto time = std::max(shortest, 4 * next.tried);
+    const HostServices::Hurry hurry(Services(), time);
     const ReadTrouble::Watch watch(Services().Trouble());
-    const std::int64_t count = plan_.Count(container);
-    if (watch.Seen()) return;
-    slow_[PlaceOf(container)] = count;
-    Tell(RowChange::AllCells);
+    const std::int64_t count = plan_.Count(next.container);
+    if (!watch.Seen()) {
+        slow_[PlaceOf(next.container)] = count;
+        Tell(RowChange::AllCells);
+        return;
+    }
+    const bool isTooLong = watch.Why() == ReadTrouble::Kind::TooLong;
+    if (isTooLong) next.tried = time;
+    if (next.tried < longest && (isTooLong || !Services().WhyStop().empty())) uncounted_.push_back(next);
 }
 
 } // namespace znhost

@@ -229,7 +229,8 @@ public:
     std::string TakeTrouble() { return std::exchange(trouble_, {}); }
     /// Whether the number of rows of something shown is not known, because there was no time to count them.
     bool IsUncounted() const { return !uncounted_.empty(); }
-    /// Counts the rows of one of those, in the time that a person does not notice.
+    /// Goes on counting: the rows of one of those, in more time than it was given before. What takes longer
+    /// than seconds is given up.
     void CountMore();
 
 private:
@@ -334,7 +335,11 @@ private:
     static Place PlaceOf(const RowContent& container);
     std::map<Place, std::optional<std::int64_t>>
         slow_; ///< what takes long to count, and its count when known
-    std::vector<RowContent> uncounted_;
+    struct Uncounted {
+        RowContent container;
+        std::chrono::milliseconds tried{}; ///< for so long it was counted
+    };
+    std::vector<Uncounted> uncounted_;
     std::map<Place, std::optional<std::int64_t>> whole_; ///< how many rows there would be if none were hidden
     struct Kept {
         std::vector<KeptRow> expanded;

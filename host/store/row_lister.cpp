@@ -1,5 +1,6 @@
 #include "store/row_lister.h"
 
+#include "base/services.h"
 #include "base/text.h"
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserDataProperty.h"
@@ -410,7 +411,8 @@ bool RowLister::SortRows(std::vector<std::int64_t>& rows) {
 }
 
 void RowLister::Sort(std::vector<std::int64_t>& rows, std::size_t begin, std::size_t end) const {
-    keys_.Sort(rows, begin, end, query_.order.descending, byNumber_);
+    keys_.Sort(rows, begin, end, query_.order.descending, byNumber_,
+               [this] { source_.Control().Services().WhyStop(); });
 }
 
 } // namespace znhost

@@ -103,13 +103,16 @@ void SortKeys::Reverse(std::vector<Entry>& entries) const {
 }
 
 void SortKeys::Sort(std::vector<std::int64_t>& rows, std::size_t begin, std::size_t end, bool descending,
-                    bool byNumber) const {
+                    bool byNumber, const std::function<void()>& pause) const {
+    constexpr std::size_t stepsBetweenPauses = 1U << 16;
     if (end - begin < 2) return;
     std::vector<Entry> entries;
     entries.reserve(end - begin);
     for (std::size_t place = begin; place < end; ++place)
         entries.push_back({keys_[place], place, rows[place]});
+    std::size_t steps = 0;
     const auto comesBefore = [&](const Entry& a, const Entry& b) {
+        if (++steps % stepsBetweenPauses == 0 && pause) pause();
         const int order = descending ? Compare(b.key, a.key) : Compare(a.key, b.key);
         if (order != 0) return order < 0;
         return byNumber ? a.row < b.row : a.place < b.place;

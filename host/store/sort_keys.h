@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,8 +32,9 @@ public:
 
     /// Puts the rows between those places into the order of their keys. Rows of equal keys are ordered by
     /// their numbers, or stay as they are when that is not `byNumber`; also when the order descends.
+    /// @param pause  called now and then, as many rows take long; may be empty
     void Sort(std::vector<std::int64_t>& rows, std::size_t begin, std::size_t end, bool descending,
-              bool byNumber) const;
+              bool byNumber, const std::function<void()>& pause = {}) const;
 
 private:
     enum Kind : std::uint32_t { Nothing, Integer, Real, Text };

@@ -98,7 +98,11 @@ proc ::znbrowser::layoutStyle {n style parts} {
             {^back$} {$w(tree) style layout $style back -detach yes -iexpand xy}
             {^mark$} {$w(tree) style layout $style mark -visible {yes marks no {}} -padx {4 0} -expand ns}
             {^indent$} {$w(tree) style layout $style indent -padx [list [scaled 4] 0]}
-            {^expander$} {$w(tree) style layout $style expander -padx {0 2} -expand ns}
+            {^expander$} {
+                # A text without an icon begins where that of the row above does, beside whose icon it stands.
+                set gap [expr {"icon" in $parts ? 0 : max(0, [scaled 16] + 6 - [scaled 18])}]
+                $w(tree) style layout $style expander -padx [list 0 [expr {2 + $gap}]] -expand ns
+            }
             {^button\d+$} {
                 $w(tree) style layout $style $part -union ${part}t -ipadx 8 -ipady 1 -padx 4
             }
@@ -119,7 +123,7 @@ proc ::znbrowser::layoutStyle {n style parts} {
 proc ::znbrowser::drawRow {n slot row} {
     upvar #0 ::znbrowser::window$n w
     set odd [expr {($w(first) + $slot) % 2}]
-    set drawn [list $row $odd [expr {[lindex $row 0] == $w(active)}] $w(marks)]
+    set drawn [list $row $odd [expr {[lindex $row 0] == $w(active)}] $w(marks) $w(indents)]
     if {[info exists w(drawn,$slot)] && $w(drawn,$slot) eq $drawn} return
     if {![info exists w(item,$slot)]} {
         set w(item,$slot) [$w(tree) item create -parent root -visible yes]
@@ -132,7 +136,8 @@ proc ::znbrowser::drawRow {n slot row} {
     $w(tree) item style set $w(item,$slot) $w(filler) [styleFor $n {} {}]
     lassign $row index parent depth kind
     set cells [lindex $row 11]
-    spanRow $n $slot [expr {[lindex $row 10] eq "note"}]
+    set isNote [expr {[lindex $row 10] eq "note"}]
+    spanRow $n $slot $isNote
     foreach number $w(shown) {
         set inTree [dict get [lindex $w(columns) $number] tree]
         if {$kind ne "item"} {
@@ -142,13 +147,14 @@ proc ::znbrowser::drawRow {n slot row} {
             drawCell $n $slot $number $inTree $depth [lrange $cell 1 end]
         }
     }
+    if {$isNote} {drawNote $n $slot [lindex $row 4]}
 }
 
 # A row that says why something cannot be read has the whole width for it.
 proc ::znbrowser::spanRow {n slot spans} {
     upvar #0 ::znbrowser::window$n w
     if {$spans == [info exists w(span,$slot)]} return
-    $w(tree) item span $w(item,$slot) $w(column,[lindex $w(shown) 0]) [expr {$spans ? [llength $w(shown)] + 1 : 1}]
+    $w(tree) item span $w(item,$slot) [wideColumn $n] [expr {$spans ? [llength $w(shown)] + 1 - $w(locked) : 1}]
     if {$spans} {set w(span,$slot) 1} else {unset w(span,$slot)}
 }
 
@@ -175,20 +181,22 @@ proc ::znbrowser::drawContainer {n slot number inTree row} {
     lassign $row index parent depth kind text expanded selected hasRows bold italic icon
     set item $w(item,$slot)
     set column $w(column,$number)
-    if {$icon eq "note"} {
-        setStyle $n $slot $number [styleFor $n [leadOf $n $number 1] {image button text}]
-        $w(tree) item element configure $item $column button1t -text "Retry"
-        $w(tree) item element configure $item $column text2 -text "  [oneLine $text]" \
-            -fill [fillOf $n [colour problem]]
-        $w(tree) item element configure $item $column icon -image [imageNamed $icon]
-        $w(tree) item element configure $item $column indent -width [indentOf $depth]
-        return
-    }
-    setStyle $n $slot $number [styleFor $n [leadOf $n $number 1] {image text}]
-    $w(tree) item element configure $item $column indent -width [indentOf $depth]
+    set kinds [expr {$icon ne "note" ? {image text} : $w(locked) ? {image button} : {image button text}}]
+    setStyle $n $slot $number [styleFor $n [leadOf $n $number 1] $kinds]
+    $w(tree) item element configure $item $column indent -width [indentOf $n $depth]
     $w(tree) item element configure $item $column icon -image [imageNamed $icon]
+    if {$icon eq "note"} {return [$w(tree) item element configure $item $column button1t -text "Retry"]}
     $w(tree) item element configure $item $column text1 -text [oneLine $text] -fill {} \
         -font [fontOf $bold $italic]
+}
+
+# Why something cannot be read, behind the button: in a column of its own where that of the tree stays.
+proc ::znbrowser::drawNote {n slot text} {
+    upvar #0 ::znbrowser::window$n w
+    set column [wideColumn $n]
+    if {$w(locked)} {setStyle $n $slot [lindex $w(shown) 1] [styleFor $n {} text]}
+    $w(tree) item element configure $w(item,$slot) $column text[expr {$w(locked) ? 0 : 2}] -text "  [oneLine $text]" \
+        -fill [fillOf $n [colour problem]]
 }
 
 # A cell of an item: the elements that it shows, each a list of kind, text, colour and name.
@@ -200,7 +208,7 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
     if {!$w(bare)} {set elements [lsearch -all -inline -not -exact -index 0 $elements null]}
     set elements [lmap element $elements {markFound $n $element $inTree}]
     setStyle $n $slot $number [styleFor $n [leadOf $n $number $inTree] [lmap element $elements {lindex $element 0}]]
-    if {$inTree} {$w(tree) item element configure $item $column indent -width [indentOf $depth]}
+    if {$inTree} {$w(tree) item element configure $item $column indent -width [indentOf $n $depth]}
     set place 0
     foreach element $elements {
         lassign $element kind text colour
@@ -267,8 +275,6 @@ proc ::znbrowser::setStyle {n slot number style} {
     set w(style,$slot,$number) $style
     $w(tree) item style set $w(item,$slot) $w(column,$number) $style
 }
-
-proc ::znbrowser::indentOf {depth} {return [expr {min($depth, 60) * [scaled 18]}]}
 
 # A text as one line; more of it than any screen has room for is not looked at.
 proc ::znbrowser::oneLine {text} {

@@ -36,7 +36,9 @@ proc ::znbrowser::drawColumns {n} {
 proc ::znbrowser::makeColumns {n shown} {
     upvar #0 ::znbrowser::window$n w
     forgetSlots $n
+    set w(sideways) [sideways $n]
     $w(tree) column delete all
+    set w(locked) 0
     foreach key [array names w column,*] {unset w($key)}
     foreach key [array names w number,*] {unset w($key)}
     foreach number $shown {

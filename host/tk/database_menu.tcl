@@ -91,15 +91,20 @@ proc ::znbrowser::any::Open {n} {
     if {$file ne ""} {OpenFile $n $file}
 }
 
-# Opens a browser on a file; a file that is open comes to the front. It is only read, as the window's own is.
+# Opens a browser on a file; that of a file that is open comes to the front. It is only read, as the window's own is.
 proc ::znbrowser::any::OpenFile {n file} {
     foreach other [::znbrowser::windows] {
         upvar #0 ::znbrowser::window$other w
-        if {![info exists w(elsewhere)] || [FileOf [ControlOf $w(name)]] ne [file normalize $file]} continue
-        raise [winfo toplevel $w(path)]
-        return [focus $w(tree)]
+        if {![info exists w(elsewhere)] || $w(name) ne [ControlOf $w(name)]} continue
+        if {[IsSameFile [FileOf $w(name)] $file]} {return [::znbrowser::raiseWindow $other]}
     }
     Try $n BrowseFile $file
+}
+
+# Whether two names are those of one file, by whatever links.
+proc ::znbrowser::any::IsSameFile {one other} {
+    if {$one eq "" || [catch {file stat $one first; file stat $other second}]} {return 0}
+    return [expr {$first(dev) == $second(dev) && $first(ino) == $second(ino)}]
 }
 
 proc ::znbrowser::any::BrowseFile {file} {
@@ -114,8 +119,10 @@ proc ::znbrowser::any::BrowseFile {file} {
 
 proc ::znbrowser::any::Refresh {n} {
     upvar #0 ::znbrowser::window$n w
-    Try $n Do app datactrl refresh [ControlOf $w(name)]
+    ::znbrowser::host begin $n
+    set failed [catch {Do app datactrl refresh [ControlOf $w(name)]} message]
     set w(detailOf) ""
+    ::znbrowser::finish $n [expr {$failed ? $message : ""}]
 }
 
 # Now and then: what other programs have changed in the files is shown. What cannot be read now is looked at later.

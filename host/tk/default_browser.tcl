@@ -160,7 +160,6 @@ proc ::znbrowser::any::ReadReferences {control tables} {
 proc ::znbrowser::any::MakeColumns {tables shown} {
     set types [CommonTypes $tables]
     dict for {table columns} $tables {
-        if {$table eq "script"} continue ;# as a source of values, the word stands for a Tcl script
         foreach {column type isKey isNamed} $columns {
             if {$isNamed} continue
             dict lappend users $column $table
@@ -199,12 +198,18 @@ proc ::znbrowser::any::CommonType {one other} {
 proc ::znbrowser::any::MakeColumn {name type tables} {
     Do view property create $name
     Do view property type [expr {$type eq "" ? "string" : $type}]
-    foreach table $tables {catch {Do view property connect $table $name}} ;# not every view shows every table
+    foreach table $tables {catch {Do view property connect [SourceWord $table] $name}} ;# not every view shows every table
     Do view column create $name
     lassign [dict get {bool {50 center} integer {60 right} double {80 right} string {100 left} {} {80 left}} $type] \
         width justify
     Do view column justify $justify
     Do view column width [expr {max($width, 24 + 8 * min(20, [string length $name]))}]
+}
+
+# The name of a source of values: as such the word "script" stands for a Tcl script.
+proc ::znbrowser::any::SourceWord {source} {
+    if {$source eq "script"} {return {"script"}}
+    return $source
 }
 
 # ---- Folders and lists -----------------------------------------------------------------------------------------

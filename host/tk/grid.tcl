@@ -4,11 +4,8 @@
 proc ::znbrowser::any::OpenGrid {control table} {
     variable followed
     set name "$control: $table"
-    if {![catch {::znbrowser::tree $name} tree]} {
-        set top [winfo toplevel $tree]
-        wm deiconify $top
-        raise $top
-        focus $tree
+    if {![catch {::znbrowser::number $name} open]} {
+        ::znbrowser::raiseWindow $open
         return $name
     }
     set before [Do window current]

@@ -3,7 +3,7 @@
 namespace eval ::znbrowser {
     variable keyHelp {
         "Rows" {
-            "Up, Down, Page Up, Page Down, Home, End" "go to another row; with Shift, select up to it"
+            "Up, Down, Page Up, Page Down, Home, End" "go to another row; with Shift, select up to it; with Ctrl, select nothing"
             "Right, +"          "opens a row, or goes into it"
             "Left, -"           "closes a row, or goes to the one above it"
             "*"                 "opens all below a row"
@@ -12,20 +12,40 @@ namespace eval ::znbrowser {
             "Ctrl-A"            "selects all rows; in a field, its text"
             "Ctrl-C"            "copies the selected rows"
             "Letters"           "go to the row that begins so"
+            "Ctrl-Left, Ctrl-Right" "scroll sideways; the wheel with Shift, too"
             "Menu, Shift-F10"   "opens the menu of a row"
+            "F4"                "shows or hides all values of the current row, and what it refers to"
+        }
+        "Search" {
+            "Ctrl-F"            "goes to the search field"
+            "Return, Shift-Return" "there, go to the next match; to the one before"
+            "Down"              "there, goes to the rows"
+            "Ctrl-Shift-F"      "searches names, or all columns shown"
+            "Escape"            "ends the search; closes what is open; cancels what takes long"
         }
         "Window" {
-            "Ctrl-F"            "goes to the search field; Return there finds the next row, Shift-Return the one before"
-            "Ctrl-Shift-F"      "searches names, or all columns shown"
-            "Escape"            "ends the search; closes what is open"
             "Tab, Shift-Tab"    "go from control to control"
-            "F4"                "shows or hides all values of the current row, and what it refers to"
             "F5"                "reads again"
-            "Ctrl-O, Ctrl-Return" "in the browser of a database: another file, the table by itself"
             "Ctrl-K"            "shows or hides the collector bar"
             "Ctrl-Z, Ctrl-Shift-Z" "take back the collector's last step; do it again"
             "Ctrl-+, Ctrl--, Ctrl-0" "larger, smaller, as at first; the wheel with Ctrl, too"
             "F1"                "shows this list"
+        }
+        "Browser of a database" {
+            "Ctrl-O"            "opens another file"
+            "Ctrl-Return"       "opens the table by itself"
+            "Ctrl-Z"            "takes back the last change of the file"
+        }
+        "All values of a row" {
+            "Tab, Shift-Tab"    "go from link to link"
+            "Return"            "goes to the row that a link names, or lists those that refer to this one"
+            "Up, Down, Page Up, Page Down" "scroll"
+            "Escape, F4"        "goes back to the rows; closes it"
+        }
+        "List of columns" {
+            "Space, Return"     "shows or hides a column"
+            "Alt-Up, Alt-Down"  "move it"
+            "Down"              "goes from the field to the list"
         }
     }
 }
@@ -49,15 +69,12 @@ proc ::znbrowser::showKeys {n} {
     wm transient $list [winfo toplevel $w(path)]
     wm protocol $list WM_DELETE_WINDOW [list ::znbrowser::hideKeys $n]
     ttk::frame $list.keys -style Browser.TFrame -padding [list [scaled 16] [scaled 12]]
-    set row 0
+    set place 0
+    foreach side {left right} {
+        pack [ttk::frame $list.keys.$side -style Browser.TFrame] -side left -anchor n -padx [list 0 [scaled 12]]
+    }
     dict for {title keys} $keyHelp {
-        grid [ttk::label $list.keys.title$row -text $title -font znBrowser10] -row $row -columnspan 2 -sticky w -pady {6 2}
-        foreach {key does} $keys {
-            incr row
-            grid [ttk::label $list.keys.key$row -text $key] -row $row -column 0 -sticky nw -padx [list 0 [scaled 18]]
-            grid [ttk::label $list.keys.does$row -text $does -wraplength [scaled 420]] -row $row -column 1 -sticky w
-        }
-        incr row
+        listKeys $list.keys.[expr {[incr place] <= 2 ? "left" : "right"}] $place $title $keys
     }
     ttk::button $list.close -text Close -style Tool.TButton -command [list ::znbrowser::hideKeys $n]
     pack $list.keys
@@ -65,6 +82,16 @@ proc ::znbrowser::showKeys {n} {
     foreach key {Escape F1} {bind $list <$key> [list ::znbrowser::hideKeys $n]}
     placeDialog $n $list
     focus $list.close
+}
+
+# The keys of one place, below those that are listed already.
+proc ::znbrowser::listKeys {list place title keys} {
+    grid [ttk::label $list.title$place -text $title -font znBrowser10] -columnspan 2 -sticky w -pady {6 2}
+    set number 0
+    foreach {key does} $keys {
+        grid [ttk::label $list.key$place,[incr number] -text $key -wraplength [scaled 170]] \
+            [ttk::label $list.does$place,$number -text $does -wraplength [scaled 270]] -sticky nw -padx [list 0 [scaled 14]]
+    }
 }
 
 proc ::znbrowser::hideKeys {n} {

@@ -19,6 +19,9 @@ proc ::znbrowser::bindKeys {} {
         bind znBrowserTree <[join [concat $modifiers Key [lindex [split $key -] end]] -]> \
             "::znbrowser::onTree $handler %W; break"
     }
+    foreach {key pages} {Left -1 Right 1} {
+        bind znBrowserTree <Control-Key-$key> "%W xview scroll $pages pages; break"
+    }
     bind znBrowserTree <Key> {if {[::znbrowser::onTree typed %W %A %s]} break}
     bind znBrowserTree <Control-Key-f> {::znbrowser::onTree focusSearch %W; break}
     foreach key {f F} {bind znBrowserTree <Control-Shift-Key-$key> {::znbrowser::onTree switchScope %W; break}}

@@ -44,13 +44,19 @@ proc ::znbrowser::growColumns {n} {
         set longest [longestText $n $number]
         if {$longest eq ""} continue
         set wanted [expr {[font measure znBrowser00 $longest] + [scaled $::znbrowser::besideNumber] + 2}]
-        set wanted [expr {max($w(width,$number), min($wanted, [scaled $::znbrowser::widestNumber]))}]
-        if {[dict exists $w(grown) $name] && $wanted == $w(width,$number)} continue
-        dict set w(grown) $name $wanted
-        set w(width,$number) $wanted
-        $w(tree) column configure $w(column,$number) -width $wanted
-        forgetSlots $n
+        growColumn $n $number [expr {min($wanted, [scaled $::znbrowser::widestNumber])}]
+        dict set w(grown) $name $w(width,$number)
     }
+}
+
+# Makes a column wider, if it is not as wide already.
+proc ::znbrowser::growColumn {n number wanted} {
+    upvar #0 ::znbrowser::window$n w
+    if {$wanted <= $w(width,$number)} return
+    dict set w(grown) [dict get [lindex $w(columns) $number] name] $wanted
+    set w(width,$number) $wanted
+    $w(tree) column configure $w(column,$number) -width $wanted
+    forgetSlots $n
 }
 
 # The longest text of a column in the page.

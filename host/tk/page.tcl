@@ -111,7 +111,8 @@ proc ::znbrowser::yview {n action amount {unit ""}} {
 # The tree, or its header, has another size: another number of rows fits.
 proc ::znbrowser::resized {n} {
     upvar #0 ::znbrowser::window$n w
-    if {[measure $n]} {changed $n resized 0}
+    measure $n
+    changed $n resized 0
 }
 
 # How many rows fit; whether that is another number than before.
@@ -131,6 +132,7 @@ proc ::znbrowser::drawPage {n} {
     set w(page) [host page $n $w(first) [expr {$w(full) + 1}]]
     if {![isOpen $n]} return ;# a script that computed a value closed it
     if {$w(bare)} {growColumns $n}
+    fitTree $n
     set slot 0
     foreach row $w(page) {
         drawRow $n $slot $row

@@ -153,7 +153,6 @@ proc ::znbrowser::any::MakeFollowed {window column} {
     dict set followed($window,made) $column 1
     set tables {}
     dict for {table columns} $followed($window,tables) {
-        if {$table eq "script"} continue ;# as a source of values, the word stands for a Tcl script
         foreach {own type isKey isNamed} $columns {
             if {$own eq $column} {lappend tables $table}
         }

@@ -81,6 +81,7 @@ proc ::znbrowser::restyleWindow {n} {
     dict for {key style} $w(styles) {layoutStyle $n $style [$w(tree) style elements $style]}
     styleBelow $w(path)
     set w(layout) "" ;# the columns have colours, too
+    set w(grown) {}
     changed $n allCells 0
 }
 

@@ -230,7 +230,7 @@ Tcl_Obj* Preselect(const Question& question) {
     return Tcl_NewObj();
 }
 
-/// Counts the rows of one more of those that took too long: whether there are more.
+/// Goes on counting what took too long: whether there is more of it.
 Tcl_Obj* Count(const Question& question) {
     question.window.Rows().CountMore();
     return Tcl_NewBooleanObj(question.window.Rows().IsUncounted());
@@ -317,6 +317,12 @@ Tcl_Obj* BeginQuietly(TkWindows& windows, int window) {
     return Tcl_NewObj();
 }
 
+/// As `begin`, for what nobody waits for.
+Tcl_Obj* BeginMeanwhile(TkWindows& windows, int window) {
+    windows.Work().Begin(window, TkWork::Panel::Yields);
+    return Tcl_NewObj();
+}
+
 Tcl_Obj* End(TkWindows& windows, int) { return Tcl_NewBooleanObj(windows.Work().End()); }
 
 Tcl_Obj* SetTime(TkWindows& windows, int milliseconds) {
@@ -348,8 +354,15 @@ struct PlainWord {
 };
 
 constexpr PlainWord plainWords[] = {
-    {"begin", Begin},  {"busy", IsBusy},     {"cancel", Cancel},        {"changes", Changes},
-    {"end", End},      {"error", LastError}, {"quietly", BeginQuietly}, {"recording", IsRecording},
+    {"begin", Begin},
+    {"busy", IsBusy},
+    {"cancel", Cancel},
+    {"changes", Changes},
+    {"end", End},
+    {"error", LastError},
+    {"meanwhile", BeginMeanwhile},
+    {"quietly", BeginQuietly},
+    {"recording", IsRecording},
     {"time", SetTime},
 };
 

@@ -13,6 +13,8 @@ constexpr auto patience = std::chrono::milliseconds(200);
 constexpr auto pause = std::chrono::milliseconds(40);
 /// Without a panel, from the first moment on: a key must not wait longer.
 constexpr auto pauseOfTyping = std::chrono::milliseconds(25);
+/// Of what nobody waits for: it looks round so often.
+constexpr auto pauseOfYielding = std::chrono::milliseconds(5);
 
 int PutOffExit(ClientData work, Tcl_Interp*, int objc, Tcl_Obj* const objv[]) {
     static_cast<TkWork*>(work)->PutOff(objc, objv);
@@ -128,12 +130,32 @@ bool TkWork::HasTime() { return !depth_ || until_ == Clock::time_point::max() ||
 bool TkWork::GoesOn() {
     if (!depth_ || serving_) return true;
     if (cancelled_) return false;
+    if (panel_ == Panel::Yields) {
+        cancelled_ = IsDisturbed();
+        return !cancelled_;
+    }
     const Clock::time_point now = Clock::now();
     const bool waits = panel_ == Panel::Shown ? now - begun_ < patience || (shown_ && now - served_ < pause)
                                               : now - served_ < pauseOfTyping;
     if (waits) return true;
     Serve();
     return !cancelled_;
+}
+
+/// Whether anything waits to be attended to: what the notifier has found, and leaves where it is.
+bool TkWork::IsDisturbed() {
+    if (Clock::now() - served_ < pauseOfYielding) return false;
+    served_ = Clock::now();
+    const Tcl_Time noTime{0, 0};
+    Tcl_WaitForEvent(&noTime);
+    bool waits = false;
+    Tcl_DeleteEvents(
+        [](Tcl_Event* event, ClientData found) {
+            if (event->proc) *static_cast<bool*>(found) = true; // one without is the one in hand
+            return 0;                                           // it stays
+        },
+        &waits);
+    return waits;
 }
 
 void TkWork::Serve() {

@@ -28,8 +28,9 @@ public:
     TkWork& operator=(const TkWork&) = delete;
 
     /// Whether a panel takes the keyboard while work takes long; without one somebody goes on typing, and
-    /// what is typed may cancel the work.
-    enum class Panel { Shown, None };
+    /// what is typed may cancel the work. What nobody waits for yields: whatever happens cancels it, and is
+    /// attended to as soon as it has stopped.
+    enum class Panel { Shown, None, Yields };
     /// What happens from now on is waited for by the user of that window. There must be an `End`. Work in the
     /// middle of other work has the panel of that.
     void Begin(int window, Panel panel);
@@ -64,6 +65,7 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
+    bool IsDisturbed();
     void Serve();
     void Call(const char* procedure) const;
     static int Leave(void* work, Tcl_Interp* interp, int code);

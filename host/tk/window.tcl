@@ -68,7 +68,12 @@ proc ::znbrowser::boxOf {name tkIndex {column ""} {element ""}} {
     set words [list $item]
     if {$column ne ""} {lappend words [columnAt $name $column]}
     if {$element ne ""} {lappend words [elementNamed $name $tkIndex $column $element]}
-    return [[tree $name] item bbox {*}$words]
+    set box [[tree $name] item bbox {*}$words]
+    if {$column eq "" && $box ne ""} { # the tree widget leaves out the column that stays when the others are scrolled
+        upvar #0 ::znbrowser::window[number $name] w
+        lset box 0 [lindex [$w(tree) item bbox $item $w(column,[lindex $w(shown) 0])] 0]
+    }
+    return $box
 }
 
 # ---- Opening and closing
@@ -89,7 +94,7 @@ proc ::znbrowser::open {n name frame} {
     variable numberOf
     upvar #0 ::znbrowser::window$n w
     array set w [list name $name first 0 full 1 page {} columns {} shown {} active -1 anchor -1 \
-        pending {} reported -1 trouble {} menu 0 menus 0 bare 0 grown {} sized {} watchers {} flat 0 \
+        pending {} reported -1 trouble {} menu 0 menus 0 bare 0 grown {} sized {} watchers {} flat 0 locked 0 indents {0 18} \
         look [host look $n] paper [colour paper]]
     set w(owns) [expr {$frame eq "" || ![winfo exists $frame]}]
     if {$w(owns)} {set frame [makeToplevel $n $name $frame]}
@@ -353,12 +358,26 @@ proc ::znbrowser::draw {n changes} {
     followTrouble $n
 }
 
-# Counts what took too long when the window was drawn, a little at a time.
+# Counts what took too long when the window was drawn, while nothing happens.
 proc ::znbrowser::countMore {n} {
     upvar #0 ::znbrowser::window$n w
     unset -nocomplain w(timer,count)
     if {![isOpen $n]} return
-    if {[host busy] || [host count $n]} {set w(timer,count) [after 20 [list ::znbrowser::countMore $n]]}
+    lassign [meanwhile $n {host count $n}] done more
+    if {[isOpen $n] && (!$done || $more)} {
+        set w(timer,count) [after [expr {$done ? 20 : 400}] [list ::znbrowser::countMore $n]]
+    }
+}
+
+# Does something that nobody waits for. Answers whether it was done to the end, and its result: whatever happens, such
+# as a key, comes before it.
+proc ::znbrowser::meanwhile {n script} {
+    if {[host busy]} {return 0}
+    host meanwhile $n
+    set failed [catch {uplevel 1 $script} result]
+    if {[host end]} {return 0}
+    if {$failed} {error $result}
+    return [list 1 $result]
 }
 
 # What could not be read is said as long as it cannot; what others keep from being read is tried again.

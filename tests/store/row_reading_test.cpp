@@ -152,6 +152,20 @@ TEST(SortKeysTest, LargeIntegersAndRealsAreComparedExactly) {
     EXPECT_EQ(rows, (std::vector<std::int64_t>{5, 3, 9, 8, 4, 6, 1, 2, 7, 0}));
 }
 
+TEST(SortKeysTest, SortingManyRowsPausesNowAndThen) {
+    constexpr std::int64_t count = 100000;
+    SortKeys keys;
+    std::vector<std::int64_t> rows;
+    for (std::int64_t row = 0; row < count; ++row) {
+        rows.push_back(row);
+        keys.Add(Value(row * 7919 % count));
+    }
+    int pauses = 0;
+    keys.Sort(rows, 0, rows.size(), false, true, [&pauses] { ++pauses; });
+    EXPECT_GT(pauses, 5);
+    EXPECT_EQ(rows[1] * 7919 % count, 1);
+}
+
 class JournalTest : public DataHost {
 protected:
     /// The rows of "part" that a statement changes; "?" when they are not known.

@@ -23,6 +23,15 @@ namespace eval odd {
         {create table place (id integer primary key, name text, inside integer references place)}
         {insert into place values (1, 'country', null), (2, 'town', 1), (3, 'chicken', 4), (4, 'egg', 3), (5, 'shell', 4)}
     }
+    # A chain of rows, each below the one before it, beside a list that is no tree; and more columns than fit.
+    variable chain {
+        {create table link (id integer primary key, name text, inside integer references link, one text, two text, three text, four text)}
+        {with recursive n (i) as (select 1 union all select i + 1 from n where i < 80)
+            insert into link select i, 'link ' || i, nullif(i - 1, 0), 'first text', 'second text', 'third text', 'fourth text' from n}
+        {create table plain (id integer primary key, name text)}
+        {insert into plain values (1, 'plain row')}
+        {create view broken as select name, abs(-9223372036854775808) as value from plain}
+    }
     # A check box for each row.
     variable tasks {
         {create table task (id integer primary key, name text, done boolean, rank integer)}

@@ -32,8 +32,8 @@ proc startExpanded {} {
 }
 
 # Waits until the condition is true; an error when it does not become so.
-proc await {condition} {
-    set end [expr {[clock milliseconds] + 10000}]
+proc await {condition {milliseconds 10000}} {
+    set end [expr {[clock milliseconds] + $milliseconds}]
     while {![uplevel 1 [list expr $condition]]} {
         if {[clock milliseconds] > $end} {error "waited in vain for: $condition"}
         after 10 {set ::tick 1}
