@@ -113,6 +113,7 @@ void RestoreState(benchmark::State& state) {
         return SecondsOf([&trees] { trees.Eval("zn state restore"); });
     });
     trees.Expect(state.range(0) * 2 + 3);
+    trees.Eval("zn app state delete model s");
 }
 
 /// Everything that is expanded is listed anew.

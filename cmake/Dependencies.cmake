@@ -4,6 +4,9 @@
 find_package(CLI11 REQUIRED)
 find_package(GTest REQUIRED)
 find_package(benchmark REQUIRED)
+if(ZN_POSTGRES)
+    pkg_check_modules(PQ REQUIRED IMPORTED_TARGET libpq)
+endif()
 pkg_check_modules(EDIT REQUIRED IMPORTED_TARGET libedit)
 
 find_library(ZN_TCL_LIBRARY tcl8.6 REQUIRED)

@@ -3,6 +3,9 @@
 zn_find_sources(sources host/*.cpp)
 set(zn_host_face "${PROJECT_SOURCE_DIR}/host/tk/browser_host.cpp")
 list(REMOVE_ITEM sources "${zn_host_face}")
+if(NOT ZN_POSTGRES)
+    list(FILTER sources EXCLUDE REGEX "/host/store/postgres/")
+endif()
 if(sources)
     # The scripts of the windows become part of the library.
     zn_find_sources(tk_scripts host/tk/*.tcl)
@@ -39,6 +42,10 @@ if(sources)
     target_include_directories(znbrowserhost PUBLIC "${PROJECT_SOURCE_DIR}/host" "${generated}")
     target_compile_features(znbrowserhost PUBLIC cxx_std_20) # names are checked by consteval functions
     target_link_libraries(znbrowserhost PUBLIC zn_headers PRIVATE zn_tcl_stubs sqlite3)
+    if(ZN_POSTGRES)
+        target_compile_definitions(znbrowserhost PRIVATE ZN_POSTGRES)
+        target_link_libraries(znbrowserhost PRIVATE PkgConfig::PQ)
+    endif()
 
     # The same for others: one public class.
     add_library(zn_host_library SHARED "${zn_host_face}")

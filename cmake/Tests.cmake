@@ -8,6 +8,9 @@ set(zn_tk_environment
     "LSAN_OPTIONS=print_suppressions=0:suppressions=${PROJECT_SOURCE_DIR}/tests/tk/leaks.supp")
 
 zn_find_sources(sources tests/*_test.cpp)
+if(NOT ZN_POSTGRES)
+    list(FILTER sources EXCLUDE REGEX "/pg_[a-z_]*test[.]cpp$")
+endif()
 if(sources AND TARGET zn_objects AND TARGET znbrowserhost)
     add_executable(znbrowsertest ${sources})
     target_include_directories(znbrowsertest PRIVATE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/src")
@@ -27,6 +30,9 @@ endif()
 if(TARGET znbrowsersh)
     zn_find_sources(scripts tests/*.test)
     list(FILTER scripts EXCLUDE REGEX "/tests/install/") # those are for other shells
+    if(NOT ZN_POSTGRES)
+        list(FILTER scripts EXCLUDE REGEX "/tests/server/")
+    endif()
     foreach(script IN LISTS scripts)
         file(RELATIVE_PATH name "${PROJECT_SOURCE_DIR}/tests" "${script}")
         set(shell $<TARGET_FILE:znbrowsersh>)
@@ -37,6 +43,18 @@ if(TARGET znbrowsersh)
         set_tests_properties("${name}" PROPERTIES TIMEOUT 300 ENVIRONMENT
             "${zn_tk_environment}")
     endforeach()
+
+    # What scripts see of the data is the same on a server.
+    if(ZN_POSTGRES)
+        foreach(name data/criteria data/data_ctrl data/data_operation data/data_property data/data_reference
+                data/data_source_hierarchical data/data_source_simple data/input_field data/view_data_source
+                rows/filter rows/rows rows/row_events state/state_store view/dataitem view/folder view/property view/sort view/tree)
+            add_test(NAME "server/${name}" COMMAND $<TARGET_FILE:znbrowsersh>
+                "${PROJECT_SOURCE_DIR}/tests/all.tcl" "${PROJECT_SOURCE_DIR}/tests/${name}.test")
+            set_tests_properties("server/${name}" PROPERTIES TIMEOUT 300
+                ENVIRONMENT "${zn_tk_environment};ZN_TEST_SERVER=1")
+        endforeach()
+    endif()
 
     zn_find_sources(outputs tests/examples/*.out)
     foreach(output IN LISTS outputs)

@@ -3,6 +3,7 @@
 #include "fuzz/hostile_databases.h"
 #include "host/app/application.h"
 #include "host/store/data_ctrl.h"
+#include "host/store/sqlite/sqlite_database.h"
 #include "host/tk/tk_scripts.h"
 
 #include <sanitizer/asan_interface.h>
@@ -190,7 +191,8 @@ FencedHost::FencedHost(const DatabaseImage& image, Tcl_ObjCmdProc* again, void* 
     host_ = std::make_unique<znhost::EmbeddedHost>(interp_);
     std::string error;
     if (!host_->CreateDataCtrl("gearbox", "", error)) Die(error);
-    sqlite3* const database = host_->App().DataControls().Find("gearbox")->Db().Handle();
+    znhost::Database& opened = host_->App().DataControls().Find("gearbox")->Db();
+    sqlite3* const database = static_cast<znhost::SqliteDatabase&>(opened).Handle();
     sqlite3_limit(database, SQLITE_LIMIT_LENGTH, 1 << 20);
     image.CopyTo(database);
     host_->App().SetWork(&patience_);

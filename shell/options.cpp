@@ -1,5 +1,6 @@
 #include "options.h"
 
+#include "base/native.h"
 #include "reference.h"
 #include "znBrowserVersion.h"
 
@@ -36,6 +37,9 @@ class HelpFormatter : public CLI::Formatter {
 std::vector<DatabaseOption> SplitDatabases(const std::vector<std::string>& words) {
     std::vector<DatabaseOption> databases;
     for (const std::string& word : words) {
+        if (znhost::IsOnServer(word)) { // it may hold a password
+            throw CLI::ValidationError("--db", "expected NAME=postgresql://...");
+        }
         const std::size_t equals = word.find('=');
         if (equals == std::string::npos || equals == 0) {
             throw CLI::ValidationError("--db", "expected NAME=FILE but got \"" + word + "\"");
@@ -113,7 +117,8 @@ std::optional<ExitCode> ParseOptions(int argc, const char* const* argv, Options&
     app.footer(FOOTER);
     app.failure_message(DescribeFailure);
     app.add_option("--db", databases,
-                   "Add the data control NAME on a SQLite file, created when missing; NAME= is in memory")
+                   "Add the data control NAME on a SQLite file, created when missing, or on "
+                   "postgresql://...; NAME= is in memory")
         ->type_name("NAME=FILE")
         ->allow_extra_args(false);
     app.add_flag("--strict", options.strict,

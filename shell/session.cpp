@@ -91,10 +91,12 @@ bool Session::AddDatabases(const std::vector<DatabaseOption>& databases) {
         std::string file;
         std::string error;
         const std::string name = FromNative(database.name);
-        if (!znhost::FileOfNative(database.file, file, error) ||
-            !host_->CreateDataCtrl(name, file, error, readsOnly_)) {
-            PrintLine(TCL_STDERR,
-                      "znbrowsersh: --db " + FromNative(database.name + "=" + database.file) + ": " + error);
+        const bool onServer = znhost::IsOnServer(database.file);
+        const bool named = onServer || znhost::FileOfNative(database.file, file, error);
+        if (onServer) file = FromNative(database.file);
+        if (!named || !host_->CreateDataCtrl(name, file, error, readsOnly_)) {
+            const std::string shown = name + (onServer ? "" : "=" + FromNative(database.file)); // no password
+            PrintLine(TCL_STDERR, "znbrowsersh: --db " + shown + ": " + error);
             return false;
         }
         browsed_.push_back(name);

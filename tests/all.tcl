@@ -21,6 +21,7 @@ set unused 0
 
 proc ::tcltest::cleanupTestsHook {} {
     set ::passed $::tcltest::numTests(Passed)
+    if {[info procs ::server::end] ne ""} {::server::end}
 }
 set failed [expr {[::tcltest::runAllTests] || $unused}]
 if {!$failed && $passed == 0} {

@@ -24,6 +24,8 @@ znbrowsermanager view column create spare
 znbrowsermanager OnTkTreeCheckBoxClick main spare "" 3 false
 znbrowsermanager app datactrl changes bicycle
 znbrowsermanager app datactrl undo bicycle
+znbrowsermanager app datactrl file bicycle
+znbrowsermanager app tables bicycle part
 znbrowsermanager app datactrl follow bicycle
 znbrowsermanager app datactrl refresh bicycle
 # The same row on another day, and all from one to another.

@@ -9,6 +9,7 @@
 #include "app/popup_app_commands.h"
 #include "app/row_app_commands.h"
 #include "app/state_app_commands.h"
+#include "app/table_app_commands.h"
 #include "base/tcl_values.h"
 #include "model/data_sources.h"
 #include "store/data_ctrl.h"
@@ -166,7 +167,10 @@ constexpr AppWord appWords[] = {
     {"datactrl changes", "DATACTRL", "TEXT ...",
      "lists what people have changed in windows and can undo, the first change first", 1, 1, AppChanges},
     {"datactrl create", "NAME ?FILE?", "NAME",
-     "adds a data control on the database FILE, or on one in memory", 1, 2, CreateDataCtrl},
+     "adds a data control on the database FILE (or postgresql://...), or on one in memory", 1, 2,
+     CreateDataCtrl},
+    {"datactrl file", "DATACTRL", "?FILE?",
+     "tells the file or the server of the database; nothing for one in memory", 1, 1, AppFile},
     {"datactrl follow", "DATACTRL", "BOOL",
      "looks whether others have changed the database, and lets windows show it then", 1, 1, AppFollow},
     {"datactrl names", "", "DATACTRL ...", "lists the data controls", 0, 0, DataCtrlNames},
@@ -239,6 +243,8 @@ constexpr AppWord appWords[] = {
     {"state entities", "DATACTRL NAME", "NAME ...", "lists the entities kept with a state", 2, 2,
      AppStateEntities},
     {"state names", "DATACTRL", "STATE ...", "lists the saved states", 1, 1, AppStateNames},
+    {"tables", "DATACTRL ?TABLE?", "TABLE ...",
+     "lists what is known of the tables and views, or of one, a dictionary for each", 1, 2, AppTables},
 };
 
 int Help(AppCall& call) {

@@ -3,10 +3,11 @@
 #include "app/app_commands.h"
 #include "app/application.h"
 #include "app/manager_command.h"
+#include "base/native.h"
 #include "host/znIBrowserDataCtrl.h"
 #include "model/data_sources.h"
 #include "store/data_ctrl.h"
-#include "store/database_file.h"
+#include "store/sqlite/database_file.h"
 #include "window/row_drawing.h"
 #include "window/window_display.h"
 #include "window/window_list.h"
@@ -43,7 +44,8 @@ struct PreservedInterp {
 /// A manager that knows whether a command runs.
 class RunningManager final : public znBrowserManagerTcl {
 public:
-    using znBrowserManagerTcl::znBrowserManagerTcl;
+    explicit RunningManager(Application& application)
+        : znBrowserManagerTcl(&application), application_(application) {}
 
     int EvalTclCommand(int objc, Tcl_Obj* const objv[]) override {
         struct Running {
@@ -52,11 +54,13 @@ public:
             int& count;
         };
         const Running running(running_);
+        const HostServices::OneLook look(application_);
         return znBrowserManagerTcl::EvalTclCommand(objc, objv);
     }
     bool IsRunning() const { return running_ > 0; }
 
 private:
+    Application& application_;
     int running_ = 0;
 };
 
@@ -97,7 +101,7 @@ struct EmbeddedHost::Parts : PreservedInterp {
 
 EmbeddedHost::EmbeddedHost(Tcl_Interp* interp, InterpMemory memory)
     : parts_(std::make_unique<Parts>(interp, memory)) {
-    parts_->manager = std::make_unique<RunningManager>(&parts_->application);
+    parts_->manager = std::make_unique<RunningManager>(parts_->application);
     parts_->application.SetManager(parts_->manager.get());
     parts_->WatchCommand();
 }
@@ -116,7 +120,8 @@ bool EmbeddedHost::CreateDataCtrl(const std::string& name, const std::string& fi
                                   bool readOnly) {
     std::string native;
     std::string ignored;
-    const bool isThere = !file.empty() && FindDatabaseFile(file, native, ignored) && FileExists(native);
+    const bool isFile = !file.empty() && FindDatabaseFile(file, native, ignored) && FileExists(native);
+    const bool isThere = isFile || IsOnServer(file);
     return App().AddDataCtrl(name, file, error, readOnly && isThere);
 }
 

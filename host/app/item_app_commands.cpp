@@ -143,8 +143,8 @@ int AnswerItem(AppCall& call) {
         columns += (columns.empty() ? "" : ", ") + Database::Quoted(column.name);
     static_cast<void>(item->base->Parts()); // a copy of the rows is brought up to date
     Statement statement =
-        database.Prepare("SELECT " + columns + " FROM " + table->rows + " WHERE " + table->key + " = ?");
-    statement.Bind(1, item->place.row);
+        database.Prepare("SELECT " + columns + " FROM " + table->rows + " WHERE " + table->is);
+    table->BindRow(statement, 1, item->place.row);
     Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
     const bool found = statement.Next();
     for (std::size_t i = 0; found && i < table->columns.size(); ++i)
@@ -158,6 +158,7 @@ int AnswerItem(AppCall& call) {
                                 {"row", Tcl_NewWideIntObj(item->row)},
                                 {"table", NewText(table->name)},
                                 {"number", Tcl_NewWideIntObj(item->place.row)},
+                                {"where", NewText(table->ConditionOf(item->place.row))},
                                 {"columns", list}}));
 }
 

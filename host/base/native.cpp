@@ -61,4 +61,11 @@ bool FileOfNative(const std::string& bytes, std::string& name, std::string& erro
     return true;
 }
 
+bool IsOnServer(std::string_view name) {
+    for (const std::string_view scheme : {"postgresql://", "postgres://"}) {
+        if (name.substr(0, scheme.size()) == scheme) return true;
+    }
+    return false;
+}
+
 } // namespace znhost

@@ -3,6 +3,7 @@
 #define ZN_HOST_NATIVE_H
 
 #include <string>
+#include <string_view>
 
 namespace znhost {
 
@@ -20,6 +21,10 @@ bool NativeFileName(const std::string& name, std::string& native, std::string& e
 /// The name of a file on the command line, for `NativeFileName` and Tcl's own commands. "~" has no meaning in
 /// it. @return false, with the reason in `error`, when another file would be meant.
 bool FileOfNative(const std::string& bytes, std::string& name, std::string& error);
+
+/// Whether a word of the command line, or of a script, names a database on a server: "postgresql://...".
+/// Passwords may stand in it.
+bool IsOnServer(std::string_view name);
 
 } // namespace znhost
 

@@ -7,6 +7,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -52,6 +53,24 @@ public:
     /// Whether the time is limited.
     bool IsHurried() const { return until_ != forEver; }
 
+    /// While one lives, what is asked of the data belongs together: a server need not be asked whether
+    /// anything changed meanwhile. One that begins inside of another begins a new look.
+    class OneLook {
+    public:
+        explicit OneLook(HostServices& services) : services_(services) {
+            ++services_.look_;
+            ++services_.looking_;
+        }
+        ~OneLook() { --services_.looking_; }
+        OneLook(const OneLook&) = delete;
+        OneLook& operator=(const OneLook&) = delete;
+
+    private:
+        HostServices& services_;
+    };
+    /// The number of the present look; 0: none is under way.
+    std::uint64_t Look() const { return looking_ > 0 ? look_ : 0; }
+
     /// What could not be read of late.
     ReadTrouble& Trouble() { return trouble_; }
     /// Gives an error that no answer can tell to the interpreter's background error handler.
@@ -86,6 +105,8 @@ protected:
 private:
     znIBrowserManagerTcl* manager_ = nullptr;
     LongWork* work_ = nullptr;
+    std::uint64_t look_ = 0;
+    int looking_ = 0;
     ReadTrouble trouble_;
     std::atomic<bool> interrupted_{false};
     static constexpr auto forEver = std::chrono::steady_clock::time_point::max();

@@ -3,9 +3,11 @@
 #include "host/znIBrowserDataSourceSimple.h"
 #include "model/view.h"
 #include "rows/row_model.h"
+#include "rows/wanted_rows.h"
 
 #include <algorithm>
 #include <map>
+#include <span>
 #include <tuple>
 #include <unordered_map>
 
@@ -45,29 +47,6 @@ std::vector<KeptRow> RowModel::WereExpanded() {
 
 // ---- Bringing back ----
 
-/// What is to be expanded directly below one row, by its place in the list: containers by what they are,
-/// items by data source and row number. What is found is taken out.
-struct RowModel::WantedRows {
-    using Items = std::unordered_map<std::int64_t, std::size_t>;
-
-    std::multimap<std::pair<RowKind, std::string>, std::size_t> containers;
-    std::map<std::string, Items> items;
-
-    void Add(const KeptRow& row, std::size_t place) {
-        if (row.kind == RowKind::Item) {
-            items[row.name].emplace(row.row, place);
-        } else {
-            containers.emplace(std::make_pair(row.kind, row.name), place);
-        }
-    }
-    void AppendTo(std::vector<std::size_t>& places) const {
-        for (const auto& container : containers) places.push_back(container.second);
-        for (const auto& [source, rows] : items) {
-            for (const auto& item : rows) places.push_back(item.second);
-        }
-    }
-};
-
 /// False when there is nothing below the row, or the work must be given up. A row that is brought back was
 /// expanded, perhaps with nothing below it any more: so it is again.
 bool RowModel::ExpandWanted(RowNode& node, const Row& row) {
@@ -75,78 +54,101 @@ bool RowModel::ExpandWanted(RowNode& node, const Row& row) {
     return node.expanded && !stopped_;
 }
 
+/// What is expanded step by step: the rows that are wanted, and those of them whose content is still to be
+/// looked at.
+struct RowModel::Expanding {
+    RowPlan::Ahead ahead;
+    WantedRows rows;
+    std::vector<std::pair<RowNode*, std::size_t>> open; ///< each with its number
+    std::unordered_map<const RowSource*, WantedRows::Name> sources;
+    std::vector<std::int64_t> expected; ///< the items of one block
+
+    void Found(WantedRow& wanted, RowNode* expanded) {
+        wanted.found = true;
+        if (expanded) open.emplace_back(expanded, wanted.place + 1);
+    }
+};
+
 /// Expands the wanted ones of the rows directly below, and collapses the others.
-/// @param open  receives the wanted ones and their places in the list.
-void RowModel::ExpandExactly(RowNode& node, WantedRows& wanted, OpenRows& open, RowPlan::Ahead& ahead) {
+void RowModel::ExpandExactly(RowNode& node, std::span<WantedRow> wanted, Expanding& all) {
     for (const TreePart& part : node.parts) {
         if (stopped_) return;
         if (part.block) {
-            ExpandExactly(*part.block, wanted, open, ahead);
+            ExpandExactly(*part.block, wanted, all);
             continue;
         }
         RowNode& below = *part.node;
-        const auto found = wanted.containers.find({below.content.kind, NameOf(log_, below.content)});
-        if (found == wanted.containers.end()) {
+        const auto named =
+            WantedRows::Among(wanted, below.content.kind, all.rows.NumberOf(NameOf(log_, below.content)));
+        const auto found =
+            std::find_if(named.begin(), named.end(), [](const auto& one) { return !one.found; });
+        if (found == named.end()) {
             if (below.expanded) tree_.Collapse(below);
-            continue;
+        } else {
+            all.Found(*found, ExpandWanted(below, RowTree::RowOf(below)) ? &below : nullptr);
         }
-        if (ExpandWanted(below, RowTree::RowOf(below))) open.emplace_back(&below, found->second);
-        wanted.containers.erase(found);
     }
 }
 
-void RowModel::ExpandExactly(RowBlock& block, WantedRows& wanted, OpenRows& open, RowPlan::Ahead& ahead) {
-    WantedRows::Items none;
-    const auto known = wanted.items.find(NameOf(log_, block.content));
-    WantedRows::Items& items = known == wanted.items.end() ? none : known->second;
+void RowModel::ExpandExactly(RowBlock& block, std::span<WantedRow> wanted, Expanding& all) {
+    const auto [known, isNew] = all.sources.emplace(block.content.source, 0);
+    if (isNew) known->second = all.rows.NumberOf(NameOf(log_, block.content));
+    const auto items = WantedRows::Among(wanted, RowKind::Item, known->second);
+    const auto find = [items](std::int64_t row) {
+        const auto at =
+            std::lower_bound(items.begin(), items.end(), row,
+                             [](const auto& item, std::int64_t number) { return item.row < number; });
+        return at != items.end() && at->row == row ? at : items.end();
+    };
     std::vector<RowNode*> unwanted;
     for (const auto& child : block.children) {
-        if (!items.count(RowTree::RowOf(*child.second).Number())) unwanted.push_back(child.second.get());
+        if (find(RowTree::RowOf(*child.second).Number()) == items.end())
+            unwanted.push_back(child.second.get());
     }
     for (RowNode* const node : unwanted) tree_.Collapse(*node);
-    std::vector<std::int64_t> expected;
-    for (const auto& item : items) expected.push_back(item.first);
-    if (!expected.empty()) ahead.Expect(block.content, expected);
-    for (std::uint32_t i = 0; i < block.rows.size() && !items.empty() && !stopped_; ++i) {
-        const auto item = items.find(block.rows[i]);
-        if (item == items.end()) continue;
-        const Row row = RowTree::ItemAt(block, i);
-        if (row.IsExpanded() || kept_ || HasRows(row)) {
-            RowNode& node = tree_.NodeOf(row);
-            if (ExpandWanted(node, row)) open.emplace_back(&node, item->second);
-        }
-        items.erase(item);
+    if (items.empty()) return;
+    all.expected.clear();
+    for (const auto& item : items) all.expected.push_back(item.row);
+    all.ahead.Expect(block.content, all.expected);
+    auto next = items.begin(); // most blocks stand in the order of the row numbers
+    for (std::size_t i = 0, missing = items.size(); i < block.rows.size() && missing && !stopped_; ++i) {
+        const auto item = next != items.end() && next->row == block.rows[i] ? next : find(block.rows[i]);
+        if (item == items.end() || item->found) continue;
+        next = item + 1;
+        --missing;
+        ExpandWanted(block, static_cast<std::uint32_t>(i), *item, all);
     }
+}
+
+void RowModel::ExpandWanted(RowBlock& block, std::uint32_t position, WantedRow& item, Expanding& all) {
+    const Row row = RowTree::ItemAt(block, position);
+    RowNode* expanded = nullptr;
+    if (row.IsExpanded() || kept_ || HasRows(row)) {
+        expanded = &tree_.NodeOf(row);
+        if (!ExpandWanted(*expanded, row)) expanded = nullptr;
+    }
+    all.Found(item, expanded);
 }
 
 /// @param nodes  by the numbers of the rows: receives those that are expanded now
 /// @return the places of the rows that do not exist
 std::vector<std::size_t> RowModel::ExpandExactly(const std::vector<KeptRow>& rows,
                                                  std::vector<RowNode*>& nodes) {
-    std::vector<std::vector<std::size_t>> below(rows.size() + 1); // by the number of the row above
-    for (std::size_t place = 0; place < rows.size(); ++place) {
-        if (rows[place].above <= place) below[rows[place].above].push_back(place);
-    }
-    std::vector<std::size_t> missing;
     RowNode& root = tree_.Root();
     nodes.assign(rows.size() + 1, nullptr);
-    nodes[0] = &root;
     constexpr std::size_t many = 1000; // of which most lie below each other
     const RowTree::ManyChanges changes(tree_, root);
-    RowPlan::Ahead ahead(plan_, rows.size() >= many);
-    OpenRows open{{&root, 0}};
-    while (!open.empty() && !stopped_) {
-        const auto [node, number] = open.back();
-        open.pop_back();
-        WantedRows wanted;
-        for (const std::size_t place : below[number]) wanted.Add(rows[place], place);
-        OpenRows found;
-        ExpandExactly(*node, wanted, found, ahead);
-        for (const auto& [expanded, place] : found) {
-            open.emplace_back(expanded, place + 1);
-            nodes[place + 1] = expanded;
+    Expanding all{RowPlan::Ahead(plan_, rows.size() >= many), WantedRows(rows), {{&root, 0}}, {}, {}};
+    std::vector<std::size_t> missing;
+    while (!all.open.empty() && !stopped_) {
+        const auto [node, number] = all.open.back();
+        all.open.pop_back();
+        nodes[number] = node;
+        const std::span<WantedRow> wanted = all.rows.Below(number);
+        ExpandExactly(*node, wanted, all);
+        for (const auto& one : wanted) {
+            if (!one.found) missing.push_back(one.place);
         }
-        wanted.AppendTo(missing);
     }
     return missing;
 }

@@ -14,6 +14,7 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <span>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -29,6 +30,7 @@ namespace znhost {
 class HostServices;
 class FreeFolder;
 class View;
+struct WantedRow;
 
 /// What a row shows beside its cells.
 struct RowLook {
@@ -302,11 +304,11 @@ private:
     bool TakeChanges(RowNode& list, ChangedItems& changed);
     bool TakeChange(RowBlock& block, const RowOrder& order, std::int64_t row);
     void Update(const TreePart& part, Listed&& now);
-    struct WantedRows;
-    using OpenRows = std::vector<std::pair<RowNode*, std::size_t>>;
-    void ExpandExactly(RowNode& node, WantedRows& wanted, OpenRows& open, RowPlan::Ahead& ahead);
-    void ExpandExactly(RowBlock& block, WantedRows& wanted, OpenRows& open, RowPlan::Ahead& ahead);
+    struct Expanding;
+    void ExpandExactly(RowNode& node, std::span<WantedRow> wanted, Expanding& all);
+    void ExpandExactly(RowBlock& block, std::span<WantedRow> wanted, Expanding& all);
     bool ExpandWanted(RowNode& node, const Row& row);
+    void ExpandWanted(RowBlock& block, std::uint32_t position, WantedRow& item, Expanding& all);
     std::vector<std::size_t> ExpandExactly(const std::vector<KeptRow>& rows, std::vector<RowNode*>& found);
     void BringBackKept();
     RowNode* FindContainer(const FreeFolder& folder, const znIBrowserDataSourceSimple* list);

@@ -28,7 +28,7 @@ bool BrowserStates::RestoreState(znIBrowserState* state, znIBrowserWindowAccess*
     if (!own.Read(settings)) return false;
     if (settings.empty()) return Fail("Nothing has been saved in the state \"" + own.Name() + "\"");
     std::string text;
-    const bool restored = RestoreSettings(static_cast<Window&>(*window), settings, text);
+    const bool restored = RestoreSettings(static_cast<Window&>(*window), std::move(settings), text);
     log_.SetError(text);
     return restored;
 }

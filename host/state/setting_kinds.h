@@ -28,7 +28,7 @@ struct Keeping {
 /// Settings on their way into a window.
 class Restoring {
 public:
-    Restoring(Window& window, const Settings& settings);
+    Restoring(Window& window, Settings settings);
 
     Window& Target() const { return window_; }
     /// The view that the window shows; a script may close it, so it is not to be asked for after one ran.

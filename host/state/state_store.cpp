@@ -8,13 +8,6 @@ namespace {
 
 std::string NoState(std::string_view name) { return "There is no state \"" + std::string(name) + "\""; }
 
-bool RunWith(Database& database, const char* sql, std::int64_t state, std::string& error) {
-    Statement statement = database.Prepare(sql);
-    statement.Bind(1, state);
-    statement.Next();
-    return statement.Finish(error);
-}
-
 } // namespace
 
 const std::vector<StateStore::Upgrade>& StateStore::Upgrades() {
@@ -31,6 +24,44 @@ const std::vector<StateStore::Upgrade>& StateStore::Upgrades() {
     return upgrades;
 }
 
+const std::vector<StateStore::Upgrade>& StateStore::UpgradesOfServer() {
+    static const std::vector<Upgrade> upgrades = {
+        {"DO $$ BEGIN IF to_regnamespace('znbrowser') IS NULL THEN CREATE SCHEMA znbrowser; END IF; END $$",
+         "CREATE TABLE znbrowser.schema (version bigint NOT NULL)", "INSERT INTO znbrowser.schema VALUES (0)",
+         "CREATE TABLE znbrowser.state (id bigint GENERATED ALWAYS AS IDENTITY PRIMARY KEY, "
+         "name text COLLATE \"C\" NOT NULL UNIQUE)",
+         "CREATE TABLE znbrowser.setting (state bigint NOT NULL, kind text COLLATE \"C\" NOT NULL, "
+         "position bigint NOT NULL, subject text NOT NULL, key text NOT NULL, value text NOT NULL, "
+         "PRIMARY KEY (state, kind, position))",
+         "CREATE TABLE znbrowser.entity (position bigint GENERATED ALWAYS AS IDENTITY PRIMARY KEY, "
+         "state bigint NOT NULL, name text COLLATE \"C\" NOT NULL, UNIQUE (state, name))"},
+    };
+    return upgrades;
+}
+
+// ---- Statements ----
+
+/// The statement with the names that the tables have in this database.
+std::string StateStore::Named(std::string_view sql) const {
+    constexpr std::string_view prefix = "znbrowser_";
+    const std::string_view own = database_.Sql().ownTables;
+    std::string named(sql);
+    for (std::size_t at = own == prefix ? named.npos : named.find(prefix); at != named.npos;
+         at = named.find(prefix, at + own.size())) {
+        named.replace(at, prefix.size(), own);
+    }
+    return named;
+}
+
+Statement StateStore::Prepare(std::string_view sql) { return database_.Prepare(Named(sql)); }
+
+bool StateStore::RunWith(const char* sql, std::int64_t state, std::string& error) {
+    Statement statement = Prepare(sql);
+    statement.Bind(1, state);
+    statement.Next();
+    return statement.Finish(error);
+}
+
 // ---- Versions ----
 
 /// Everything that one operation changes. The rows are the browser's own, and the windows that show the
@@ -44,11 +75,12 @@ public:
     bool Begin(std::string& error) {
         std::size_t version = 0;
         if (!store_.database_.MayChange()) {
-            error = "the file is only read, and states are kept in it: changes must be allowed first";
+            error = "the database is only read, and states are kept in it: changes must be allowed first";
             return false;
         }
-        return transaction_.Begin(error) && store_.ReadVersion(version, error) &&
-               store_.UpgradeFrom(version, error);
+        const char* const lock = store_.database_.Sql().lockOwnTables;
+        return transaction_.Begin(error) && (!lock || store_.database_.Execute(lock, error)) &&
+               store_.ReadVersion(version, error) && store_.UpgradeFrom(version, error);
     }
     bool Commit(std::string& error) {
         if (!transaction_.Commit(error)) return false;
@@ -64,10 +96,10 @@ private:
 
 bool StateStore::ReadVersion(std::size_t& version, std::string& error) {
     version = 0;
-    Statement table = database_.Prepare("SELECT 1 FROM main.sqlite_schema WHERE name = 'znbrowser_schema'");
+    Statement table = database_.Prepare(database_.Sql().hasOwnTables);
     const bool exists = table.Next();
     if (!exists) return table.Finish(error);
-    Statement row = database_.Prepare("SELECT version FROM main.znbrowser_schema");
+    Statement row = Prepare("SELECT version FROM znbrowser_schema");
     const std::int64_t number = row.Next() ? row.Integer(0) : 0;
     if (!row.Finish(error)) return false;
     version = static_cast<std::size_t>(number);
@@ -77,15 +109,20 @@ bool StateStore::ReadVersion(std::size_t& version, std::string& error) {
     return false;
 }
 
+/// Who may read a server's tables need not have the right to make some.
+bool StateStore::FailToMake(std::string& error) const {
+    if (database_.Sql().isServer) error = "the tables for states cannot be made: " + error;
+    return false;
+}
+
 bool StateStore::UpgradeFrom(std::size_t version, std::string& error) {
     if (version == upgrades_.size()) return true;
     for (; version < upgrades_.size(); ++version) {
         for (const char* const statement : upgrades_[version]) {
-            if (!database_.Execute(statement, error)) return false;
+            if (!database_.Execute(statement, error)) return FailToMake(error);
         }
     }
-    return RunWith(database_, "UPDATE znbrowser_schema SET version = ?", static_cast<std::int64_t>(version),
-                   error);
+    return RunWith("UPDATE znbrowser_schema SET version = ?", static_cast<std::int64_t>(version), error);
 }
 
 /// Before reading: looks whether there are tables, and brings them up to date.
@@ -108,7 +145,7 @@ bool StateStore::ReadyFor(std::string_view name, std::string& error) {
 // ---- States ----
 
 bool StateStore::FindState(std::string_view name, std::int64_t& id, std::string& error) {
-    Statement state = database_.Prepare("SELECT id FROM znbrowser_state WHERE name = ?");
+    Statement state = Prepare("SELECT id FROM znbrowser_state WHERE name = ?");
     state.Bind(1, name);
     const bool found = state.Next();
     if (found) id = state.Integer(0);
@@ -121,7 +158,7 @@ bool StateStore::Names(std::vector<std::string>& names, std::string& error) {
     bool hasTables = false;
     if (!Ready(hasTables, error)) return false;
     if (!hasTables) return true;
-    Statement states = database_.Prepare("SELECT name FROM znbrowser_state ORDER BY id");
+    Statement states = Prepare("SELECT name FROM znbrowser_state ORDER BY id");
     while (states.Next()) names.emplace_back(states.Text(0));
     return states.Finish(error);
 }
@@ -133,8 +170,8 @@ bool StateStore::Create(std::string_view name, std::string& error) {
     }
     Change change(*this);
     if (!change.Begin(error)) return false;
-    Statement state = database_.Prepare("INSERT INTO znbrowser_state (name) VALUES (?) "
-                                        "ON CONFLICT DO NOTHING RETURNING id");
+    Statement state = Prepare("INSERT INTO znbrowser_state (name) VALUES (?) "
+                              "ON CONFLICT DO NOTHING RETURNING id");
     state.Bind(1, name);
     const bool isNew = state.Next();
     state.Next();
@@ -147,9 +184,9 @@ bool StateStore::Delete(std::string_view name, std::string& error) {
     Change change(*this);
     std::int64_t id = 0;
     return change.Begin(error) && FindState(name, id, error) &&
-           RunWith(database_, "DELETE FROM znbrowser_setting WHERE state = ?", id, error) &&
-           RunWith(database_, "DELETE FROM znbrowser_entity WHERE state = ?", id, error) &&
-           RunWith(database_, "DELETE FROM znbrowser_state WHERE id = ?", id, error) && change.Commit(error);
+           RunWith("DELETE FROM znbrowser_setting WHERE state = ?", id, error) &&
+           RunWith("DELETE FROM znbrowser_entity WHERE state = ?", id, error) &&
+           RunWith("DELETE FROM znbrowser_state WHERE id = ?", id, error) && change.Commit(error);
 }
 
 // ---- Settings ----
@@ -158,8 +195,8 @@ bool StateStore::Write(std::string_view name, const Settings& settings, std::str
     Change change(*this);
     std::int64_t id = 0;
     if (!change.Begin(error) || !FindState(name, id, error)) return false;
-    if (!RunWith(database_, "DELETE FROM znbrowser_setting WHERE state = ?", id, error)) return false;
-    Statement row = database_.Prepare("INSERT INTO znbrowser_setting VALUES (?, ?, ?, ?, ?, ?)");
+    if (!RunWith("DELETE FROM znbrowser_setting WHERE state = ?", id, error)) return false;
+    Statement row = Prepare("INSERT INTO znbrowser_setting VALUES (?, ?, ?, ?, ?, ?)");
     row.Bind(1, id);
     std::int64_t position = 0;
     for (const Setting& setting : settings) {
@@ -176,7 +213,6 @@ bool StateStore::Write(std::string_view name, const Settings& settings, std::str
 
 bool StateStore::ReadSettings(Statement& rows, std::string_view name, Settings& settings,
                               std::string& error) {
-    rows.Bind(1, name);
     bool found = false;
     while (rows.Next()) {
         found = true;
@@ -194,19 +230,21 @@ bool StateStore::ReadSettings(Statement& rows, std::string_view name, Settings& 
 bool StateStore::Read(std::string_view name, Settings& settings, std::string& error) {
     settings.clear();
     if (!ReadyFor(name, error)) return false;
-    Statement rows = database_.Prepare("SELECT kind, subject, key, value FROM znbrowser_state "
-                                       "LEFT JOIN znbrowser_setting ON state = id "
-                                       "WHERE name = ? ORDER BY kind, position");
+    Statement rows = Prepare("SELECT kind, subject, key, value FROM znbrowser_state "
+                             "LEFT JOIN znbrowser_setting ON state = id "
+                             "WHERE name = ? ORDER BY kind, position");
+    rows.Bind(1, name);
     return ReadSettings(rows, name, settings, error);
 }
 
 bool StateStore::Read(std::string_view name, std::string_view kind, Settings& settings, std::string& error) {
     settings.clear();
     if (!ReadyFor(name, error)) return false;
-    Statement rows = database_.Prepare("SELECT kind, subject, key, value FROM znbrowser_state "
-                                       "LEFT JOIN znbrowser_setting ON state = id AND kind = ?2 "
-                                       "WHERE name = ?1 ORDER BY position");
-    rows.Bind(2, kind);
+    Statement rows = Prepare("SELECT kind, subject, key, value FROM znbrowser_state "
+                             "LEFT JOIN znbrowser_setting ON state = id AND kind = ? "
+                             "WHERE name = ? ORDER BY position");
+    rows.Bind(1, kind);
+    rows.Bind(2, name);
     return ReadSettings(rows, name, settings, error);
 }
 
@@ -216,7 +254,7 @@ bool StateStore::Entities(std::string_view name, std::vector<std::string>& entit
     entities.clear();
     std::int64_t id = 0;
     if (!ReadyFor(name, error) || !FindState(name, id, error)) return false;
-    Statement rows = database_.Prepare("SELECT name FROM znbrowser_entity WHERE state = ? ORDER BY position");
+    Statement rows = Prepare("SELECT name FROM znbrowser_entity WHERE state = ? ORDER BY position");
     rows.Bind(1, id);
     while (rows.Next()) entities.emplace_back(rows.Text(0));
     return rows.Finish(error);
@@ -227,8 +265,8 @@ bool StateStore::AddEntities(std::string_view name, const std::vector<std::strin
     Change change(*this);
     std::int64_t id = 0;
     if (!change.Begin(error) || !FindState(name, id, error)) return false;
-    Statement row = database_.Prepare("INSERT INTO znbrowser_entity (state, name) VALUES (?, ?) "
-                                      "ON CONFLICT DO NOTHING");
+    Statement row = Prepare("INSERT INTO znbrowser_entity (state, name) VALUES (?, ?) "
+                            "ON CONFLICT DO NOTHING");
     row.Bind(1, id);
     for (const std::string& entity : entities) {
         row.Bind(2, entity);
@@ -243,8 +281,8 @@ bool StateStore::RemoveEntities(std::string_view name, const std::vector<std::st
     Change change(*this);
     std::int64_t id = 0;
     if (!change.Begin(error) || !FindState(name, id, error)) return false;
-    Statement row = database_.Prepare("DELETE FROM znbrowser_entity WHERE state = ? AND name = ? "
-                                      "RETURNING position");
+    Statement row = Prepare("DELETE FROM znbrowser_entity WHERE state = ? AND name = ? "
+                            "RETURNING position");
     row.Bind(1, id);
     for (const std::string& entity : entities) {
         row.Bind(2, entity);

@@ -23,7 +23,8 @@ public:
     using Upgrade = std::vector<const char*>;
 
     /// The database must outlive the store.
-    explicit StateStore(Database& database) : StateStore(database, Upgrades()) {}
+    explicit StateStore(Database& database)
+        : StateStore(database, database.Sql().isServer ? UpgradesOfServer() : Upgrades()) {}
     /// With a history of upgrades of its own: the first makes version 1 out of nothing.
     StateStore(Database& database, std::vector<Upgrade> upgrades)
         : database_(database), upgrades_(std::move(upgrades)) {}
@@ -53,10 +54,16 @@ public:
 
     /// The history of the tables as this program has them.
     static const std::vector<Upgrade>& Upgrades();
+    /// The same on a server, where they have a schema of their own.
+    static const std::vector<Upgrade>& UpgradesOfServer();
 
 private:
     class Change;
 
+    std::string Named(std::string_view sql) const;
+    Statement Prepare(std::string_view sql);
+    bool RunWith(const char* sql, std::int64_t state, std::string& error);
+    bool FailToMake(std::string& error) const;
     bool ReadVersion(std::size_t& version, std::string& error);
     bool UpgradeFrom(std::size_t version, std::string& error);
     bool Ready(bool& hasTables, std::string& error);

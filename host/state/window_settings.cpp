@@ -6,6 +6,7 @@
 #include "window/browser_windows.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace znhost {
 
@@ -38,8 +39,14 @@ private:
 
 } // namespace
 
-Restoring::Restoring(Window& window, const Settings& settings) : window_(window) {
-    for (const Setting& setting : settings) byKind_[setting.kind].push_back(setting);
+Restoring::Restoring(Window& window, Settings settings) : window_(window) {
+    for (auto next = settings.begin(); next != settings.end();) { // those of a kind stand together
+        const auto first = next;
+        next = std::find_if(first, settings.end(),
+                            [first](const Setting& setting) { return setting.kind != first->kind; });
+        Settings& same = byKind_[first->kind];
+        same.insert(same.end(), std::make_move_iterator(first), std::make_move_iterator(next));
+    }
 }
 
 void Restoring::Skip(const char* what, const std::string& name) {
@@ -105,10 +112,10 @@ bool KeepSettings(Window& window, Settings& settings, std::string& error) {
     return true;
 }
 
-bool RestoreSettings(Window& window, const Settings& settings, std::string& skipped) {
+bool RestoreSettings(Window& window, Settings settings, std::string& skipped) {
     const CallLog::Quiet quiet(window.Log());
     const std::shared_ptr<Window> self = window.shared_from_this();
-    Restoring restoring(window, settings);
+    Restoring restoring(window, std::move(settings));
     const auto restore = [&](const std::vector<SettingKind>& kinds) {
         for (const SettingKind& kind : kinds) {
             if (window.ShownView()) kind.restore(restoring, restoring.Of(kind.name));

@@ -20,7 +20,7 @@ bool KeepSettings(Window& window, Settings& settings, std::string& error);
 ///
 /// @return false, with the reason in `skipped`, when the window shows no view, or was closed by a script that
 ///         ran meanwhile.
-bool RestoreSettings(Window& window, const Settings& settings, std::string& skipped);
+bool RestoreSettings(Window& window, Settings settings, std::string& skipped);
 
 } // namespace znhost
 

@@ -61,10 +61,10 @@ bool BaseSource::TryRead(std::int64_t row, std::size_t column, const std::functi
     if (sql.empty()) {
         const bool isName = column == table_->columns.size();
         sql = "SELECT " + (isName ? table_->naming : Database::Quoted(table_->columns[column].name)) +
-              " FROM " + table_->rows + " WHERE " + table_->key + " = ?";
+              " FROM " + table_->rows + " WHERE " + table_->is;
     }
     Statement statement = Control().Db().Prepare(sql);
-    statement.Bind(1, row);
+    table_->BindRow(statement, 1, row);
     found = statement.Next();
     if (found) take(statement);
     return statement.Finish(error);

@@ -2,7 +2,6 @@
 
 #include "store/custom_source.h"
 #include "store/data_ctrl.h"
-#include "store/sql_guard.h"
 
 namespace znhost {
 
@@ -31,8 +30,7 @@ const Criteria::Checked& Criteria::Check(const std::string& code, const Schema::
     Checked& checked = checked_[table->name];
     if (checked.table == table) return checked;
     checked.table = table;
-    checked.passed =
-        CheckExpression(owner_.Control().Db(), table->name, code, checked.parameters, checked.error);
+    checked.passed = owner_.Control().Db().CheckExpression(*table, code, checked.parameters, checked.error);
     return checked;
 }
 

@@ -8,8 +8,7 @@ namespace znhost {
 
 std::shared_ptr<DataCtrl> DataCtrl::Open(Browser& model, const std::string& name, const std::string& file,
                                          Database::Access access, std::string& error) {
-    std::unique_ptr<Database> database =
-        file.empty() ? Database::OpenMemory(error) : Database::OpenFile(file, error, access);
+    std::unique_ptr<Database> database = Database::Open(file, error, access);
     if (!database) return nullptr;
     const auto control = std::make_shared<DataCtrl>(model, name, std::move(database));
     std::string ignored;
@@ -21,6 +20,7 @@ DataCtrl::DataCtrl(Browser& model, std::string name, std::unique_ptr<Database> d
     : HostObject(model.Log()), model_(model), name_(std::move(name)), database_(std::move(database)),
       schema_(*database_), copies_(*database_), journal_(*database_) {
     database_->SetWhyStop([this] { return Services().WhyStop(); });
+    database_->SetWhichLook([this] { return Services().Look(); });
 }
 
 DataCtrl::~DataCtrl() = default;
@@ -35,9 +35,12 @@ bool DataCtrl::RunSql(const std::string& statement, const std::vector<std::strin
     Database::Stamp before;
     Database::Stamp after;
     std::string ignored;
-    const bool known = database_->ReadStamp(before, ignored);
+    const bool known = database_->ReadStamp(before, error);
+    if (!known && database_->Sql().isServer && !database_->InTransaction())
+        return false; // nothing was done yet
     try {
         const bool done = database_->Run(statement, bound, rows, error);
+        database_->LookAgain(); // the statement may have called anything
         ForgetMissing();
         if (!known || !database_->ReadStamp(after, ignored) || !after.SameRows(before)) RowsChanged();
         return done;
@@ -63,8 +66,8 @@ void DataCtrl::ItemsChanged() {
 void DataCtrl::RowsChanged() {
     Database::Stamp now;
     std::string ignored;
-    const bool known =
-        database_->ReadStamp(now, ignored) && now.SameTables(told_) && now.foreign == told_.foreign;
+    const bool known = journal_.IsTold() && database_->ReadStamp(now, ignored) && now.SameTables(told_) &&
+                       now.foreign == told_.foreign;
     told_ = now;
     if (!known) return ItemsChanged();
     indexes_.Clear();

@@ -1,4 +1,4 @@
-// A data control of the embedded host: one SQLite database, and what scripts make on it.
+// A data control of the embedded host: one database, and what scripts make on it.
 #ifndef ZN_HOST_DATA_CTRL_H
 #define ZN_HOST_DATA_CTRL_H
 
@@ -29,8 +29,9 @@ class Browser;
 /// What has gone is not listed any more, but its object stays, and is the one listed when it comes back.
 class DataCtrl final : public znIBrowserDataCtrl, public HostObject {
 public:
-    /// Opens the database `file`, made when missing unless it is only to be read, or one in memory when
-    /// `file` is "". Null, with the reason in `error`, when that cannot be done.
+    /// Opens the database `file`, made when missing unless it is only to be read, one on a server when that
+    /// is named, or one in memory when `file` is "". Null, with the reason in `error`, when that cannot be
+    /// done.
     static std::shared_ptr<DataCtrl> Open(Browser& model, const std::string& name, const std::string& file,
                                           Database::Access access, std::string& error);
     DataCtrl(Browser& model, std::string name, std::unique_ptr<Database> database);
@@ -60,12 +61,15 @@ public:
     void SetStates(std::shared_ptr<znIBrowserStateContainer> states) { states_ = std::move(states); }
     znIBrowserStateContainer* States() const { return states_.get(); }
 
-    /// Runs one SQL statement, the values bound to its `?`. @return false with SQLite's reason in `error`.
+    /// Runs one SQL statement, the values bound to its `?`. @return false with the database's reason in
+    /// `error`.
     bool RunSql(const std::string& statement, const std::vector<std::string>& values,
                 std::vector<std::vector<std::string>>& rows, std::string& error);
     /// Brings sources and references up to date with the tables. @return false, with the reason, when the
     /// database cannot be read at present: they stay as they were.
     bool Refresh(std::string& error);
+    /// As they were when last looked at.
+    const std::vector<Schema::TablePtr>& Tables() const { return schema_.Known(); }
     /// Another number as soon as rows may be others than before; always another while that cannot be known.
     std::uint64_t Version();
     /// Makes the views and the other sources let go of tables, columns and references that the database lost:

@@ -1,31 +1,47 @@
-// One open SQLite connection: statements, values, transaction state, change detection.
+// One open database, whichever engine it is of: statements, values, transaction state, change detection.
 #ifndef ZN_HOST_DATABASE_H
 #define ZN_HOST_DATABASE_H
 
-#include "store/database_file.h"
 #include "store/statement.h"
 
-#include <chrono>
 #include <functional>
 #include <unordered_map>
 #include <vector>
 
-struct sqlite3;
-
 namespace znhost {
 
-/// Closes the connection as soon as no statement is in use any more.
-struct CloseConnection {
-    void operator()(sqlite3* connection) const;
+struct Table;
+
+/// Where the SQL of the host differs from engine to engine; what differs from table to table stands in the
+/// tables.
+struct Dialect {
+    const char* begin;         ///< begins a transaction in which is written
+    const char* ownTables;     ///< what the names of the host's own tables begin with
+    const char* hasOwnTables;  ///< gives a row when they are there
+    const char* lockOwnTables; ///< keeps others from changing them until the transaction ends; null: need not
+    bool isServer;
+    /// The rows in the list (see `Database::ListOf`) bound to its `?` as a table `given`, with the place of
+    /// each, from 0, as `key` and the row as `value`; null where `Table::among` finds them.
+    const char* given;
 };
 
-/// A connection to a database file, or to a database in memory. Failures come as `false` and SQLite's own
-/// text. Texts are in Tcl's form on this side of the class, and in the database's on the other. A value has
-/// at most 256 MiB, a statement 16 MiB, a temporary file 1 GiB. All objects made from a database must go
-/// before it does, unless the program ends in the middle of their use.
+/// Who is told of the rows that change through a connection.
+class RowWatcher {
+public:
+    virtual ~RowWatcher() = default;
+    virtual void OnRowChange(std::string_view table, std::int64_t row) noexcept = 0;
+    /// Rows that were told may be as they were before.
+    virtual void OnRowsUndone() noexcept = 0;
+};
+
+/// What the sources, the links and the saved states need of a database; each engine gives it in a folder of
+/// its own. Failures come as `false` and the engine's own text. Texts are in Tcl's form on this side of the
+/// class, and in the database's on the other. A value has at most 256 MiB, a statement 16 MiB. All objects
+/// made from a database must go before it does, unless the program ends in the middle of their use.
 class Database {
 public:
     using Rows = std::vector<std::vector<std::string>>;
+    using Tables = std::vector<std::shared_ptr<Table>>;
 
     /// What the tables and their rows looked like at one moment. Equal stamps: nothing changed in between.
     struct Stamp {
@@ -47,6 +63,8 @@ public:
         Read, ///< nothing is written to the file, and none is made beside it
     };
 
+    /// Opens what a script names: a database on a server ("postgresql://..."), a file, or one in memory ("").
+    static std::unique_ptr<Database> Open(const std::string& name, std::string& error, Access access);
     /// Opens the database file, which is created when it is missing and its directory is there, unless it is
     /// only to be read. Null, with a message that names the file and the reason, when it is no regular file,
     /// cannot be opened, holds something else, or is locked.
@@ -54,17 +72,22 @@ public:
                                               Access access = Access::Change);
     /// A new, empty database that lives as long as the connection.
     static std::unique_ptr<Database> OpenMemory(std::string& error);
-    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+    virtual ~Database() = default;
+
+    /// Which file or server it is on, without what is secret; "" for one in memory.
+    virtual std::string Place() const = 0;
 
     // ---- Access ----
     bool MayChange() const { return access_ == Access::Change; }
-    /// Opens the same file with that access; what was kept for this connection, such as temporary tables, is
-    /// gone. @return false, with the reason, and the access stays, when that fails or somebody is in the
-    /// middle of a statement or a transaction.
-    bool Reopen(Access access, std::string& error);
+    /// Opens the same database with that access; what was kept for this connection, such as temporary tables,
+    /// may be gone. @return false, with the reason, and the access stays, when that fails or somebody is in
+    /// the middle of a statement or a transaction.
+    virtual bool Reopen(Access access, std::string& error) = 0;
     /// Looks whether another program has written to a file that was opened without a look at the locks of
     /// others; then it is opened anew. @return false, with the reason, when that fails
-    bool FollowFile(std::string& error);
+    virtual bool FollowFile(std::string& error) = 0;
 
     // ---- Statements ----
     /// The statement, taken from those prepared before when it is among them and not in use. More than one
@@ -77,22 +100,51 @@ public:
     bool Run(std::string_view sql, const std::vector<Value>& values, Rows& rows, std::string& error);
     /// Runs one statement and drops its rows.
     bool Execute(std::string_view sql, std::string& error);
+    /// The rows of the table as one value: for `Table::among`.
+    virtual std::string ListOf(const Table& table, const std::vector<std::int64_t>& rows) = 0;
+    /// Whether the rows of the statement are read from an index alone, which has them in its order.
+    virtual bool IsReadFromIndex(const std::string&) { return false; }
     /// Runs any number of statements, such as a shipped script holds. A transaction that a failed script left
     /// open is rolled back.
-    bool RunScript(const std::string& script, std::string& error);
+    virtual bool RunScript(const std::string& script, std::string& error) = 0;
 
     // ---- What happened ----
     /// @return false when the database cannot be read at present (it is locked, for example)
-    bool ReadStamp(Stamp& stamp, std::string& error);
+    virtual bool ReadStamp(Stamp& stamp, std::string& error) = 0;
+    /// The next stamp is read anew. Otherwise an engine whose answers take long may give the last one again
+    /// as long as it is the same look, by the number that `whichLook` gives; 0: each is a look of its own.
+    virtual void LookAgain() {}
+    void SetWhichLook(std::function<std::uint64_t()> whichLook) { whichLook_ = std::move(whichLook); }
+    /// How often a server was waited for.
+    virtual std::uint64_t RoundTrips() const { return 0; }
     /// The rows changed through this connection so far.
-    std::int64_t RowsChanged() const;
+    virtual std::int64_t RowsChanged() const = 0;
     /// Does not count that many changed rows: they lie in temporary tables of the host's own.
     void DisregardChanges(std::int64_t rows) { disregarded_ += rows; }
     /// Notes that changes may have been rolled back. `RowsChanged` does not go down then: equal counts no
     /// longer mean equal rows, so stamps taken before differ from those taken after.
     void NoteRollback() { ++rollbacks_; }
-    bool InTransaction() const;
-    std::int64_t LastInsertedRow() const;
+    /// Tells of each row that changes from now on, before it does; null: nobody is told. @return false when
+    /// the engine cannot tell
+    virtual bool WatchRows(RowWatcher*) { return false; }
+    virtual bool InTransaction() const = 0;
+    virtual const Dialect& Sql() const = 0;
+    /// Undoes the transaction, or the innermost one of its parts, if there still is one. It needs no memory.
+    virtual void Undo(bool part) noexcept = 0;
+
+    // ---- Tables ----
+    /// All tables and views in name order, but for those of the engine and of the browser itself.
+    virtual bool ReadTables(Tables& tables, std::string& error) = 0;
+    /// Makes the copy of the rows of a table that is `copied` anew. What it writes does not count as changed.
+    virtual bool CopyRows(const Table& table, std::string& error) = 0;
+    /// Accepts one expression over the columns of the table, to stand in parentheses behind WHERE. It may
+    /// have `?` parameters and subqueries that read. Refused are: anything that leaves the parentheses,
+    /// comments, a second statement, named and numbered parameters, unknown columns, WITH clauses (recursive
+    /// ones may never end), and functions that do more than compute.
+    /// @param parameters the number of `?`, when accepted
+    /// @param error why it is refused, else
+    virtual bool CheckExpression(const Table& table, std::string_view code, int& parameters,
+                                 std::string& error) = 0;
 
     // ---- What takes long ----
     /// Why what is under way is to stop; "" as long as it may go on. The text lives on.
@@ -102,53 +154,57 @@ public:
     /// not use the database.
     void SetWhyStop(WhyStop whyStop) { whyStop_ = std::move(whyStop); }
     /// Whether a failure with this text may pass by itself: others use the database at present.
-    static bool MayPass(std::string_view error);
+    virtual bool MayPass(std::string_view error) const = 0;
     /// Whether a failure with this text comes again, after as long a wait, as long as nothing changed: it
     /// took all the temporary space that a statement may have.
-    static bool IsTooLarge(std::string_view error);
-
-    // ---- For the other files of this folder ----
-    /// The connection.
-    sqlite3* Handle() const;
-    /// What SQLite tells about the outcome of the last call.
-    std::string Reason(int outcome) const;
+    virtual bool IsTooLarge(std::string_view error) const = 0;
 
     /// A name as an identifier in SQL: in double quotes, those inside doubled.
     static std::string Quoted(std::string_view name);
 
+protected:
+    /// The most bytes of one value, and of all rows that are asked for at once. Tcl ends the process above
+    /// 2 GiB, and writing a list of such texts may double them for each level of the list.
+    static constexpr std::size_t largestValue = 1 << 28;
+    static constexpr std::size_t longestSql = 1 << 24;
+
+    explicit Database(Access access) : access_(access) {}
+    Access TheAccess() const { return access_; }
+    void SetAccess(Access access) { access_ = access; }
+    /// Whether a statement is in use.
+    bool IsLent() const { return lent_ > 0; }
+    /// What is counted of the connection begins anew.
+    void ForgetCounts() { disregarded_ = 0; }
+    /// Null, with the reason, when the engine refuses the text, which is the database's here: it holds no
+    /// NUL, and is not too long.
+    virtual std::unique_ptr<EngineStatement> Compile(const std::string& sql, std::string& error) = 0;
+    /// To be called by each engine while its connection is still there.
+    void DropStatements() noexcept;
+    /// Why what is under way is to stop; "" when it may go on. Throws nothing.
+    std::string_view AskWhyStop() noexcept;
+    std::uint64_t WhichLook() const { return whichLook_ ? whichLook_() : 0; }
+    std::int64_t Rollbacks() const { return rollbacks_; }
+    std::int64_t Disregarded() const { return disregarded_; }
+
+    static std::string Limit(std::size_t bytes) { return std::to_string(bytes) + " bytes"; }
+
 private:
     friend class Statement;
-    using Connection = std::unique_ptr<sqlite3, CloseConnection>;
-    using Clock = std::chrono::steady_clock;
-
-    Database(std::string native, Access access) : native_(std::move(native)), access_(access) {}
-    bool Connect(std::string& error);
-    void Adopt(Connection connection);
-    std::string ReadOnlyUri();
 
     Statement PrepareAnew(std::string_view sql, std::list<PreparedStatement>&& taken);
     bool Compile(std::string_view sql, PreparedStatement& prepared, std::string& error);
-    bool EndsAt(const char* tail, const char* end, std::string& error);
     void TakeBack(std::list<PreparedStatement>&& prepared);
-    bool IsStopped() noexcept;
-    bool WaitForOthers(int tries) noexcept;
 
-    const std::string native_; ///< the file, as the system knows it; ":memory:" for none
-    Access access_;
-    bool unlocked_ = false; ///< opened as a file that nobody else writes to
-    FileStamp seen_;        ///< the file when it was opened so
-    std::size_t lent_ = 0;  ///< statements in use
-    Connection connection_; // closed last: the statements below need it
     // The statements not in use, the latest first. The same text may be there more than once: a statement
     // used inside a loop over its own rows needs a second one.
     std::list<PreparedStatement> idle_;
     std::unordered_multimap<std::string_view, std::list<PreparedStatement>::iterator> idleBySql_;
+    Access access_;
+    std::size_t lent_ = 0;
     std::int64_t rollbacks_ = 0;
     std::int64_t disregarded_ = 0;
     WhyStop whyStop_;
-    std::string_view stopped_; ///< why the last statement that was stopped was
-    Clock::time_point waitsSince_;
-    Clock::time_point gaveUp_; ///< waiting for others
+    std::function<std::uint64_t()> whichLook_;
 };
 
 } // namespace znhost

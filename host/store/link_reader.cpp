@@ -1,6 +1,7 @@
 #include "store/link_reader.h"
 
 #include "base/row_set.h"
+#include "store/asked_rows.h"
 #include "store/data_ctrl.h"
 
 #include <algorithm>
@@ -29,12 +30,12 @@ std::string Operand(const std::vector<std::string>& names) {
 }
 
 /// The rows of one end with their columns under plain names: item, c0, c1, ...
-std::string PairSide(const LinkJoint& joint, LinkEnd end) {
-    std::string columns;
+std::string PairSide(const LinkJoint& joint, LinkEnd end, std::string_view more = {},
+                     std::string columns = {}) {
     for (std::size_t i = 0; i < joint.columns[end].size(); ++i) {
         columns += ", " + Database::Quoted(joint.columns[end][i]) + " AS c" + std::to_string(i);
     }
-    return "(" + joint.part[end].Select(" AS item" + columns) + ")";
+    return "(" + joint.part[end].Select(" AS item" + columns, more) + ")";
 }
 
 /// The columns of both ends, under their plain names, have equal values.
@@ -61,14 +62,34 @@ bool IsRowNumber(const LinkJoint& joint, LinkEnd end) {
 }
 
 /// The rows below those given, each by its place among them; in the order of the places.
-std::string BelowSql(const LinkJoint& joint) {
-    const std::string from = "SELECT given.key, c.item FROM json_each(?) AS given CROSS JOIN ";
+std::string BelowSql(const LinkJoint& joint, const Dialect& dialect) {
+    const std::string from = "SELECT given.key, c.item FROM " + std::string(dialect.given) + " CROSS JOIN ";
     const std::string to = PairSide(joint, LINK_CHILD) + " AS c ON ";
     if (IsRowNumber(joint, LINK_PARENT)) return from + to + "c.c0 = given.value";
     LinkJoint parents = joint;
     parents.part[LINK_PARENT].condition.clear();
     return from + PairSide(parents, LINK_PARENT) + " AS p ON p.item = given.value CROSS JOIN " + to +
            PairCondition(joint, "c", "p");
+}
+
+/// The same for a server: each with the row that it is below, in the order of the source.
+std::string BelowTogetherSql(const LinkJoint& joint) {
+    LinkJoint parents = joint;
+    parents.part[LINK_PARENT].condition.clear();
+    return "SELECT p.item, c.item FROM " +
+           PairSide(parents, LINK_PARENT, joint.part[LINK_PARENT].table->among) + " AS p JOIN " +
+           PairSide(joint, LINK_CHILD, {}, ", (" + joint.part[LINK_CHILD].table->order + ") AS place") +
+           " AS c ON " + PairCondition(joint, "c", "p") + " ORDER BY c.place";
+}
+
+/// The rows at that end that are linked to others of those at the other end, each once. The `?` are those of
+/// the part at that end, then those of the other.
+std::string LinkedSql(const LinkJoint& joint, LinkEnd end, std::string_view ofThese,
+                      std::string_view toThese) {
+    std::string sql = "SELECT p.item FROM " + PairSide(joint, end, ofThese) +
+                      " AS p WHERE EXISTS (SELECT 1 FROM " + PairSide(joint, Opposite(end), toThese) +
+                      " AS c WHERE ";
+    return sql + PairCondition(joint, "p", "c") + ")";
 }
 
 /// Which end of the reference the tables are; none when they are not linked by it.
@@ -112,6 +133,7 @@ bool LinkReader::NeedsIndex(LinkEnd end) const {
     return std::any_of(joints_.begin(), joints_.end(), [end](const LinkJoint& joint) {
         const Table& table = *joint.part[end].table;
         const auto column = table.FindColumn(joint.columns[end].front());
+        if (table.IsOnServer()) return false; // it finds them
         return !column || !table.columns[*column].indexed;
     });
 }
@@ -125,8 +147,8 @@ bool LinkReader::ForEachPair(Visit&& visit) {
         Statement statement = control.Db().Prepare(PairsSql(joint));
         child.Bind(statement, parent.Bind(statement));
         while (statement.Next()) {
-            visit(source_[LINK_PARENT]->RowOf({parent.slot, statement.Integer(0)}),
-                  source_[LINK_CHILD]->RowOf({child.slot, statement.Integer(1)}));
+            visit(source_[LINK_PARENT]->RowOf({parent.slot, parent.table->RowAt(statement, 0)}),
+                  source_[LINK_CHILD]->RowOf({child.slot, child.table->RowAt(statement, 1)}));
         }
         std::string error;
         if (!statement.Finish(error)) return source_[LINK_CHILD]->FailToRead(error);
@@ -173,9 +195,10 @@ std::string LinkReader::RelatedSql(const LinkJoint& joint, LinkEnd end) const {
     const RowPart& to = joint.part[end];
     const std::vector<std::string>& columns = joint.columns[otherEnd];
     const std::string value =
-        "(SELECT " + Columns(columns) + " FROM " + from.From() + " WHERE " + from.table->key + " = ?)";
-    return to.Select({}, Operand(joint.columns[end]) + " = " + (IsRowNumber(joint, otherEnd) ? "?" : value)) +
-           " ORDER BY " + to.table->key;
+        "(SELECT " + Columns(columns) + " FROM " + from.From() + " WHERE " + from.table->is + ")";
+    return to.Select({}, Operand(joint.columns[end]) + " = " +
+                             (IsRowNumber(joint, otherEnd) ? from.table->number : value)) +
+           " ORDER BY " + to.table->order;
 }
 
 bool LinkReader::RelatedBySql(LinkEnd end, std::int64_t other, Rows& rows, bool firstOnly) {
@@ -187,9 +210,9 @@ bool LinkReader::RelatedBySql(LinkEnd end, std::int64_t other, Rows& rows, bool 
         const RowPart& to = joint.part[end];
         if (from.slot != place.slot) continue;
         Statement statement = control.Db().Prepare(RelatedSql(joint, end));
-        statement.Bind(to.Bind(statement), place.row);
+        from.table->BindRow(statement, to.Bind(statement), place.row);
         while (statement.Next()) {
-            rows.push_back(source_[end]->RowOf({to.slot, statement.Integer(0)}));
+            rows.push_back(source_[end]->RowOf({to.slot, to.table->RowAt(statement, 0)}));
             if (firstOnly) return true;
         }
         std::string error;
@@ -203,13 +226,29 @@ bool LinkReader::Related(LinkEnd end, std::int64_t other, Rows& rows, bool first
     return NeedsIndex(end) ? RelatedByIndex(end, other, rows) : RelatedBySql(end, other, rows, firstOnly);
 }
 
+bool LinkReader::IsOnServer() const {
+    return !joints_.empty() && joints_.front().part[LINK_PARENT].table->IsOnServer();
+}
+
 bool LinkReader::HasChildren(std::int64_t parent) {
+    if (IsOnServer()) {
+        std::vector<bool> have;
+        return HaveChildren({parent}, have) && have[0];
+    }
     Rows rows;
     return Related(LINK_CHILD, parent, rows, true) && !rows.empty();
 }
 
 bool LinkReader::HaveChildren(const Rows& parents, std::vector<bool>& have) {
     have.assign(parents.size(), false);
+    if (IsOnServer()) {
+        Rows found;
+        if (!LinkedTogether(LINK_PARENT, parents, true, found)) return false;
+        RowSet withChildren;
+        withChildren.Add(std::move(found));
+        for (std::size_t i = 0; i < parents.size(); ++i) have[i] = withChildren.Has(parents[i]);
+        return true;
+    }
     if (NeedsIndex(LINK_CHILD)) {
         for (std::size_t i = 0; i < parents.size(); ++i) have[i] = HasChildren(parents[i]);
         return true;
@@ -221,7 +260,7 @@ bool LinkReader::HaveChildren(const Rows& parents, std::vector<bool>& have) {
         for (std::size_t i = 0; i < parents.size(); ++i) {
             const RowPlace place = source_[LINK_PARENT]->PlaceOf(parents[i]);
             if (have[i] || place.slot != joint.part[LINK_PARENT].slot) continue;
-            statement.Bind(parameter, place.row);
+            joint.part[LINK_PARENT].table->BindRow(statement, parameter, place.row);
             have[i] = statement.Next();
             statement.Rewind();
         }
@@ -231,21 +270,52 @@ bool LinkReader::HaveChildren(const Rows& parents, std::vector<bool>& have) {
     return true;
 }
 
+/// The rows at that end that are linked at all and among those given, or linked to one of those given; with
+/// one question for each pair of tables.
+bool LinkReader::LinkedTogether(LinkEnd end, const Rows& given, bool areThese, Rows& rows) {
+    const LinkEnd givenEnd = areThese ? end : Opposite(end);
+    Database& database = source_[end]->Control().Db();
+    for (const LinkJoint& joint : joints_) {
+        const RowPart& of = joint.part[end];
+        const RowPart& to = joint.part[Opposite(end)];
+        const RowPart& part = joint.part[givenEnd];
+        Rows inPart;
+        for (const std::int64_t row : given) {
+            const RowPlace place = source_[givenEnd]->PlaceOf(row);
+            if (place.slot == part.slot) inPart.push_back(place.row);
+        }
+        if (inPart.empty()) continue;
+        const std::string& among = part.table->among;
+        Statement statement = database.Prepare(
+            LinkedSql(joint, end, areThese ? among : std::string(), areThese ? std::string() : among));
+        int position = of.Bind(statement);
+        if (areThese) statement.Bind(position++, database.ListOf(*part.table, inPart));
+        position = to.Bind(statement, position);
+        if (!areThese) statement.Bind(position, database.ListOf(*part.table, inPart));
+        while (statement.Next())
+            rows.push_back(source_[end]->RowOf({of.slot, of.table->RowAt(statement, 0)}));
+        std::string error;
+        if (!statement.Finish(error)) return source_[end]->FailToRead(error);
+    }
+    return true;
+}
+
 /// Appends what lies below those of the rows that are in the joint's table.
 bool LinkReader::ReadBelow(const LinkJoint& joint, const Rows& parents, std::vector<Placed>& found) {
     std::vector<std::size_t> places;
-    std::string given;
+    Rows given;
     for (std::size_t i = 0; i < parents.size(); ++i) {
         const RowPlace place = source_[LINK_PARENT]->PlaceOf(parents[i]);
         if (place.slot != joint.part[LINK_PARENT].slot) continue;
         places.push_back(i);
-        given += (given.empty() ? "[" : ",") + std::to_string(place.row);
+        given.push_back(place.row);
     }
     if (places.empty()) return true;
+    Database& database = source_[LINK_CHILD]->Control().Db();
     const RowPart& children = joint.part[LINK_CHILD];
     const std::size_t before = found.size();
-    Statement statement = source_[LINK_CHILD]->Control().Db().Prepare(BelowSql(joint));
-    statement.Bind(1, given + "]");
+    Statement statement = database.Prepare(BelowSql(joint, database.Sql()));
+    statement.Bind(1, database.ListOf(*joint.part[LINK_PARENT].table, given));
     children.Bind(statement, 2);
     while (statement.Next()) {
         found.emplace_back(places[static_cast<std::size_t>(statement.Integer(0))],
@@ -254,6 +324,24 @@ bool LinkReader::ReadBelow(const LinkJoint& joint, const Rows& parents, std::vec
     // An index may have the rows of one value in an order of its own.
     const auto first = found.begin() + static_cast<std::ptrdiff_t>(before);
     if (!std::is_sorted(first, found.end())) std::sort(first, found.end());
+    std::string error;
+    return statement.Finish(error) || source_[LINK_CHILD]->FailToRead(error);
+}
+
+/// The same with one question to a server.
+bool LinkReader::ReadBelowTogether(const LinkJoint& joint, const Rows& parents, std::vector<Placed>& found) {
+    const AskedRows asked(*source_[LINK_PARENT], joint.part[LINK_PARENT], parents);
+    if (asked.IsEmpty()) return true;
+    const RowPart& children = joint.part[LINK_CHILD];
+    const std::size_t before = found.size();
+    Statement statement = source_[LINK_CHILD]->Control().Db().Prepare(BelowTogetherSql(joint));
+    children.Bind(statement, asked.Bind(statement, 1));
+    while (statement.Next()) {
+        const std::int64_t row =
+            source_[LINK_CHILD]->RowOf({children.slot, children.table->RowAt(statement, 1)});
+        asked.ForEachPlace(statement, [&](std::size_t place) { found.emplace_back(place, row); });
+    }
+    std::stable_sort(found.begin() + static_cast<std::ptrdiff_t>(before), found.end(), IsPlacedBefore);
     std::string error;
     return statement.Finish(error) || source_[LINK_CHILD]->FailToRead(error);
 }
@@ -270,10 +358,11 @@ bool LinkReader::Children(const Rows& parents, RowGroups& groups) {
     }
     std::vector<Placed> found;
     for (const LinkJoint& joint : joints_) {
-        if (!ReadBelow(joint, parents, found)) return false;
+        const bool read =
+            IsOnServer() ? ReadBelowTogether(joint, parents, found) : ReadBelow(joint, parents, found);
+        if (!read) return false;
     }
-    const auto isBefore = [](const Placed& a, const Placed& b) { return a.first < b.first; };
-    if (joints_.size() > 1) std::stable_sort(found.begin(), found.end(), isBefore);
+    if (joints_.size() > 1) std::stable_sort(found.begin(), found.end(), IsPlacedBefore);
     groups.rows.reserve(found.size());
     for (const Placed& row : found) {
         groups.rows.push_back(row.second);
@@ -287,8 +376,10 @@ bool LinkReader::Children(const Rows& parents, RowGroups& groups) {
 bool LinkReader::RelatedToAny(LinkEnd end, const Rows& others, Rows& rows) {
     Rows all;
     const std::size_t many = others.size() * farMore;
-    if (others.size() <= manyRows || source_[LINK_PARENT]->HasMoreThan(many) ||
-        source_[LINK_CHILD]->HasMoreThan(many)) {
+    if (IsOnServer()) {
+        if (!LinkedTogether(end, others, false, all)) return false;
+    } else if (others.size() <= manyRows || source_[LINK_PARENT]->HasMoreThan(many) ||
+               source_[LINK_CHILD]->HasMoreThan(many)) {
         Rows some;
         for (const std::int64_t other : others) {
             if (!Related(end, other, some, false)) return false;
@@ -324,7 +415,7 @@ std::string LinkReader::TopCondition(const RowPart& part, std::vector<Value>& va
     if (!condition.empty()) return "(" + condition + ")";
     const bool parentHolds = reference_->IsThere() && part.table->name == reference_->Key().table &&
                              part.table->name != reference_->HoldingTable();
-    return parentHolds ? "0" : "";
+    return parentHolds ? "FALSE" : "";
 }
 
 } // namespace znhost

@@ -52,9 +52,13 @@ private:
     bool RelatedBySql(LinkEnd end, std::int64_t other, Rows& rows, bool firstOnly);
     std::string RelatedSql(const LinkJoint& joint, LinkEnd end) const;
     bool NeedsIndex(LinkEnd end) const;
+    bool IsOnServer() const;
+    bool LinkedTogether(LinkEnd end, const Rows& given, bool areThese, Rows& rows);
     /// A row below another, by the place of that among those asked for.
     using Placed = std::pair<std::size_t, std::int64_t>;
+    static bool IsPlacedBefore(const Placed& a, const Placed& b) { return a.first < b.first; }
     bool ReadBelow(const LinkJoint& joint, const Rows& parents, std::vector<Placed>& found);
+    bool ReadBelowTogether(const LinkJoint& joint, const Rows& parents, std::vector<Placed>& found);
     /// Calls `visit(parent, child)` for each pair of linked rows.
     template <class Visit>
     bool ForEachPair(Visit&& visit);

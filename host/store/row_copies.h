@@ -15,7 +15,7 @@ public:
     /// Makes the rows of the table ready to be read; to be called before each reading. Does nothing for a
     /// table that is not copied, and next to nothing when nothing in the database changed; else it reads the
     /// table once. A table whose copy would be too large is not read again before something changed.
-    /// @return false with SQLite's reason when the table cannot be read
+    /// @return false with the database's reason when the table cannot be read
     bool Refresh(const Table& table, std::string& error);
 
 private:

@@ -3,27 +3,22 @@
 #define ZN_HOST_ROW_JOURNAL_H
 
 #include "base/change_count.h"
-
-#include <cstdint>
-#include <string>
-#include <string_view>
-#include <vector>
+#include "store/database.h"
 
 namespace znhost {
 
-class Database;
-
 /// The rows that were changed of late through a connection, each with the number of its change. When there
 /// are too many, or others changed something, that is forgotten: what changed is not known then.
-class RowJournal {
+class RowJournal final : public RowWatcher {
 public:
     explicit RowJournal(Database& database);
-    ~RowJournal();
+    ~RowJournal() override;
     RowJournal(const RowJournal&) = delete;
     RowJournal& operator=(const RowJournal&) = delete;
 
-    /// Forgets: anything may have changed. From now on the connection that the database has at present is
-    /// watched.
+    /// False: the engine does not tell which rows change.
+    bool IsTold() const { return isTold_; }
+    /// Forgets: anything may have changed.
     void Forget() noexcept;
     /// Appends the rows of the table that came, went or changed since that change. False when that is not
     /// known.
@@ -37,12 +32,11 @@ private:
         std::string table;
         std::int64_t row;
     };
-    void Note(std::string_view database, const char* table, std::int64_t row) noexcept;
-
-    void Watch() noexcept;
-    void Lose() noexcept;
+    void OnRowChange(std::string_view table, std::int64_t row) noexcept override;
+    void OnRowsUndone() noexcept override { Forget(); }
 
     Database& database_;
+    const bool isTold_;
     std::vector<Entry> entries_;
     std::uint64_t forgotten_; ///< what happened up to this change is not known
 };

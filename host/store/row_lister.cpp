@@ -5,6 +5,7 @@
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserDataProperty.h"
 #include "model/view.h"
+#include "store/asked_rows.h"
 #include "store/data_ctrl.h"
 #include "store/link_reader.h"
 
@@ -95,7 +96,8 @@ bool RowLister::Run(std::vector<std::int64_t>& rows) {
         const std::vector<RowPart> parts = source_.Parts();
         byKey_ = IsSortedByKey(parts);
         if (byKey_) fields_.pop_back();
-        byNumber_ = parts.size() == 1 && dynamic_cast<BaseSource*>(&source_) != nullptr;
+        byNumber_ = ReadsByNumber(parts);
+        sorted_ = parts.size() == 1 && IsSortedByServer(parts.front());
         for (const RowPart& part : parts) read = ReadPart(part, rows) && read;
     }
     if (!read) {
@@ -103,14 +105,19 @@ bool RowLister::Run(std::vector<std::int64_t>& rows) {
         return false;
     }
     Compute(rows);
-    if (IsSorted()) Sort(rows, 0, rows.size());
+    if (IsSorted() && !sorted_) Sort(rows, 0, rows.size());
     if (byKey_ && query_.order.descending) std::reverse(rows.begin(), rows.end());
     return true;
 }
 
+/// Whether the order of the source itself is that of the row numbers.
+bool RowLister::ReadsByNumber(const std::vector<RowPart>& parts) const {
+    return parts.size() == 1 && !parts.front().table->keys && dynamic_cast<BaseSource*>(&source_);
+}
+
 /// Whether the rows are to be sorted by what is their number.
 bool RowLister::IsSortedByKey(const std::vector<RowPart>& parts) const {
-    if (!query_.order.sorted || parts.size() != 1 || !dynamic_cast<BaseSource*>(&source_)) return false;
+    if (!query_.order.sorted || !ReadsByNumber(parts)) return false;
     const Table& table = *parts.front().table;
     return fields_.back().number && table.rowidColumn && fields_.back().ColumnIn(table) == table.rowidColumn;
 }
@@ -140,7 +147,9 @@ RowLister::PartReading RowLister::ReadingOf(const RowPart& part) const {
 bool RowLister::ReadPart(const RowPart& part, std::vector<std::int64_t>& rows) {
     const PartReading reading = ReadingOf(part);
     if (LookUp(part, reading, rows)) return true;
-    if (query_.among && query_.among->Size() <= mostLookups) return ReadAmong(part, reading, rows);
+    if (query_.among && query_.among->Size() <= mostLookups)
+        return part.table->IsOnServer() ? ReadAmongTogether(part, reading, rows)
+                                        : ReadAmong(part, reading, rows);
     if (IsWhole(part) && reading.condition.empty() && CountUp(part, rows)) return true;
     Statement statement = source_.Control().Db().Prepare(part.Select(reading.columns, reading.condition) +
                                                          OrderFor(part, reading));
@@ -154,10 +163,10 @@ bool RowLister::ReadPart(const RowPart& part, std::vector<std::int64_t>& rows) {
 /// The row on which the statement stands, if it is one of those meant.
 void RowLister::Take(const RowPart& part, const Statement& statement, const PartReading& reading,
                      std::vector<std::int64_t>& rows) {
-    const std::int64_t row = source_.RowOf({part.slot, statement.Integer(0)});
+    const std::int64_t row = source_.RowOf({part.slot, part.table->RowAt(statement, 0)});
     if (!IsAmong(row) || !TakesRow(statement, reading.places)) return;
     rows.push_back(row);
-    if (IsSorted()) AddKey(fields_.back(), statement, reading.places.back());
+    if (IsSorted() && !sorted_) AddKey(fields_.back(), statement, reading.places.back());
 }
 
 /// Reads each of a few rows by its key, in the order of the table.
@@ -168,8 +177,8 @@ bool RowLister::ReadAmong(const RowPart& part, const PartReading& reading, std::
         if (place.slot == part.slot) keys.push_back(place.row);
     });
     if (!std::is_sorted(keys.begin(), keys.end())) std::sort(keys.begin(), keys.end());
-    const std::string isRow = part.table->key + " = ?";
-    const std::string condition = reading.condition + (reading.condition.empty() ? "" : " AND ") + isRow;
+    const std::string condition =
+        reading.condition + (reading.condition.empty() ? "" : " AND ") + part.table->is;
     Statement statement = source_.Control().Db().Prepare(part.Select(reading.columns, condition));
     int position = part.Bind(statement);
     for (const Value& value : reading.values) statement.Bind(position++, value);
@@ -182,9 +191,31 @@ bool RowLister::ReadAmong(const RowPart& part, const PartReading& reading, std::
     return statement.Finish(error) || source_.FailToRead(error);
 }
 
+/// The same with one question.
+bool RowLister::ReadAmongTogether(const RowPart& part, const PartReading& reading,
+                                  std::vector<std::int64_t>& rows) {
+    std::vector<std::int64_t> asked;
+    query_.among->ForEach([&](std::int64_t row) {
+        const RowPlace place = source_.PlaceOf(row);
+        if (place.slot == part.slot) asked.push_back(place.row);
+    });
+    if (asked.empty()) return true;
+    Database& database = source_.Control().Db();
+    const std::string condition =
+        reading.condition + (reading.condition.empty() ? "" : " AND ") + part.table->among;
+    Statement statement = database.Prepare(part.Select(reading.columns, condition) + OrderFor(part, reading));
+    int position = part.Bind(statement);
+    for (const Value& value : reading.values) statement.Bind(position++, value);
+    statement.Bind(position, database.ListOf(*part.table, asked));
+    while (statement.Next()) Take(part, statement, reading, rows);
+    std::string error;
+    return statement.Finish(error) || source_.FailToRead(error);
+}
+
 /// Whether all rows of the table are wanted, and nothing of them but their numbers.
 bool RowLister::IsWhole(const RowPart& part) const {
-    return fields_.empty() && !query_.among && part.condition.empty() && !part.table->copied;
+    return fields_.empty() && !query_.among && part.condition.empty() && !part.table->copied &&
+           !part.table->keys;
 }
 
 /// Where the rows of a whole table are numbered without a gap they need not be looked at. @return false, and
@@ -210,21 +241,27 @@ bool RowLister::CountUp(const RowPart& part, std::vector<std::int64_t>& rows) {
 
 /// Sorted rows are read by an index of their column, where there is one: it holds all that is needed, and
 /// often has them in order. Others are read as they stand.
-std::string RowLister::OrderFor(const RowPart& part, const PartReading& reading) {
-    const std::string own = " ORDER BY " + part.table->key;
+std::string RowLister::OrderFor(const RowPart& part, const PartReading& reading) const {
+    const std::string own = " ORDER BY " + part.table->order;
+    if (sorted_) {
+        return " ORDER BY " + std::to_string(reading.places.back() + 1) +
+               (query_.order.descending ? " DESC NULLS LAST, " : " NULLS FIRST, ") + part.table->order;
+    }
     if (!IsSorted() || !byNumber_ || fields_.size() != 1 || reading.places.back() == noPlace) return own;
     const auto column = fields_.back().ColumnIn(*part.table);
     if (*column == part.table->columns.size() || !part.table->columns[*column].indexed) return own;
     const std::string order = " ORDER BY " + Database::Quoted(part.table->columns[*column].name);
-    Statement plan = source_.Control().Db().Prepare("EXPLAIN QUERY PLAN " +
-                                                    part.Select(reading.columns, reading.condition) + order);
-    bool byIndex = false;
-    while (plan.Next()) {
-        const std::string_view step = plan.Text(3);
-        if (step.find("TEMP B-TREE") != step.npos) return own;
-        byIndex = byIndex || step.find("COVERING INDEX") != step.npos;
-    }
-    return byIndex ? order : own;
+    const std::string select = part.Select(reading.columns, reading.condition) + order;
+    return source_.Control().Db().IsReadFromIndex(select) ? order : own;
+}
+
+/// Whether a server sorts the rows as they are sorted here: numbers, all read from one column.
+bool RowLister::IsSortedByServer(const RowPart& part) const {
+    if (!IsSorted() || !part.table->IsOnServer() || !fields_.back().number) return false;
+    const auto isRead = [&part](const Field& field) {
+        return !field.computed && field.ColumnIn(*part.table);
+    };
+    return std::all_of(fields_.begin(), fields_.end(), isRead);
 }
 
 /// Reads the part by an index, if one of the conditions can be answered so. @return false, and `rows` is as
@@ -262,7 +299,7 @@ bool RowLister::Find(const RowPart& part, const PartReading& reading, const Want
         int position = first;
         for (const Value& value : run) statement.Bind(position++, value);
         while (statement.Next()) {
-            if (TakesRow(statement, reading.places)) found.push_back(statement.Integer(0));
+            if (TakesRow(statement, reading.places)) found.push_back(part.table->RowAt(statement, 0));
         }
         statement.Rewind();
     }
@@ -369,26 +406,51 @@ void RowLister::Compute(std::vector<std::int64_t>& rows) {
 bool RowLister::ReadKeys(const std::vector<std::int64_t>& rows) {
     std::vector<Value> values(rows.size());
     for (const RowPart& part : source_.Parts()) {
-        const PartReading reading = ReadingOf(part);
-        if (reading.places.back() == noPlace) continue;
-        std::string given = "[";
-        for (const std::int64_t row : rows) {
-            const RowPlace place = source_.PlaceOf(row);
-            if (given.size() > 1) given += ',';
-            given += place.slot == part.slot ? std::to_string(place.row) : "null";
-        }
-        Statement statement = source_.Control().Db().Prepare(
-            "SELECT given.key, c.value FROM json_each(?) AS given CROSS JOIN (SELECT " + part.table->key +
-            " AS item" + reading.columns + " AS value FROM " + part.From() +
-            ") AS c ON c.item = given.value");
-        statement.Bind(1, given + "]");
-        while (statement.Next())
-            values[static_cast<std::size_t>(statement.Integer(0))] = CellOf(fields_.back(), statement, 1);
-        std::string error;
-        if (!statement.Finish(error)) return source_.FailToRead(error);
+        const bool read =
+            part.table->IsOnServer() ? ReadKeysTogether(part, rows, values) : ReadKeysOf(part, rows, values);
+        if (!read) return false;
     }
     for (const Value& value : values) keys_.Add(value);
     return true;
+}
+
+bool RowLister::ReadKeysOf(const RowPart& part, const std::vector<std::int64_t>& rows,
+                           std::vector<Value>& values) const {
+    const PartReading reading = ReadingOf(part);
+    if (reading.places.back() == noPlace) return true;
+    std::vector<std::size_t> places;
+    std::vector<std::int64_t> given;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const RowPlace place = source_.PlaceOf(rows[i]);
+        if (place.slot != part.slot) continue;
+        places.push_back(i);
+        given.push_back(place.row);
+    }
+    Database& database = source_.Control().Db();
+    Statement statement =
+        database.Prepare("SELECT given.key, c.value FROM " + std::string(database.Sql().given) +
+                         " CROSS JOIN (SELECT " + part.table->key + " AS item" + reading.columns +
+                         " AS value FROM " + part.From() + ") AS c ON c.item = given.value");
+    statement.Bind(1, database.ListOf(*part.table, given));
+    while (statement.Next())
+        values[places[static_cast<std::size_t>(statement.Integer(0))]] = CellOf(fields_.back(), statement, 1);
+    std::string error;
+    return statement.Finish(error) || source_.FailToRead(error);
+}
+
+bool RowLister::ReadKeysTogether(const RowPart& part, const std::vector<std::int64_t>& rows,
+                                 std::vector<Value>& values) const {
+    const PartReading reading = ReadingOf(part);
+    const AskedRows asked(source_, part, rows);
+    if (reading.places.back() == noPlace || asked.IsEmpty()) return true;
+    Statement statement = asked.Ask(reading.columns);
+    while (statement.Next()) {
+        asked.ForEachPlace(statement, [&](std::size_t place) {
+            values[place] = CellOf(fields_.back(), statement, reading.places.back());
+        });
+    }
+    std::string error;
+    return statement.Finish(error) || source_.FailToRead(error);
 }
 
 bool RowLister::RunBelow(const std::vector<std::int64_t>& parents, RowGroups& groups) {
@@ -405,7 +467,7 @@ bool RowLister::RunBelow(const std::vector<std::int64_t>& parents, RowGroups& gr
 }
 
 bool RowLister::SortRows(std::vector<std::int64_t>& rows) {
-    if (!ReadKeys(rows)) return false;
+    if (!ReadsByNumber(source_.Parts()) || !ReadKeys(rows)) return false;
     Sort(rows, 0, rows.size());
     return true;
 }

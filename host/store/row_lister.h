@@ -54,7 +54,10 @@ private:
     };
 
     PartReading ReadingOf(const RowPart& part) const;
+    bool IsSortedByServer(const RowPart& part) const;
+    bool ReadsByNumber(const std::vector<RowPart>& parts) const;
     bool ReadPart(const RowPart& part, std::vector<std::int64_t>& rows);
+    bool ReadAmongTogether(const RowPart& part, const PartReading& reading, std::vector<std::int64_t>& rows);
     bool ReadAmong(const RowPart& part, const PartReading& reading, std::vector<std::int64_t>& rows);
     void Take(const RowPart& part, const Statement& statement, const PartReading& reading,
               std::vector<std::int64_t>& rows);
@@ -67,10 +70,14 @@ private:
     void Compute(std::vector<std::int64_t>& rows);
     void Sort(std::vector<std::int64_t>& rows, std::size_t begin, std::size_t end) const;
     bool ReadKeys(const std::vector<std::int64_t>& rows);
+    bool ReadKeysOf(const RowPart& part, const std::vector<std::int64_t>& rows,
+                    std::vector<Value>& values) const;
+    bool ReadKeysTogether(const RowPart& part, const std::vector<std::int64_t>& rows,
+                          std::vector<Value>& values) const;
     void AddKey(const Field& field, const Statement& statement, int place);
     bool IsWhole(const RowPart& part) const;
     bool CountUp(const RowPart& part, std::vector<std::int64_t>& rows);
-    std::string OrderFor(const RowPart& part, const PartReading& reading);
+    std::string OrderFor(const RowPart& part, const PartReading& reading) const;
     Cell CellOf(const Field& field, const Statement& statement, int place) const;
     Cell ComputedCell(const Field& field, std::int64_t row) const;
     static Cell CellOfText(const Field& field, std::string_view text);
@@ -83,6 +90,7 @@ private:
     std::vector<Field> fields_; // of the conditions, then of the order
     SortKeys keys_;             // of the rows, as long as they are read together with them
     bool byRow_ = false;        // all fields are still to be read, row by row
+    bool sorted_ = false;       // the rows come in the order wanted
     bool byKey_ = false;        // the order is that of the row numbers
     bool byNumber_ = true;      // the order of the source itself is that of the row numbers
 };

@@ -53,13 +53,14 @@ public:
 private:
     /// Up to so many rows are looked up one by one.
     static constexpr std::size_t mostLookups = 20000;
+    static constexpr std::ptrdiff_t rowsTogether = 1000;
 
     bool RunThrough(Clock::time_point until) {
-        const std::string& key = part_.table->key;
+        const Table& table = *part_.table;
         Statement statement = source_.control_.Db().Prepare(
-            part_.Select(columns_, scan_.inPart ? key + " > ?" : std::string()) + " ORDER BY " + key);
+            part_.Select(columns_, scan_.inPart ? table.after : std::string()) + " ORDER BY " + table.order);
         const int position = part_.Bind(statement);
-        if (scan_.inPart) statement.Bind(position, scan_.row);
+        if (scan_.inPart) table.BindRow(statement, position, scan_.row);
         for (std::int64_t count = 1; statement.Next(); ++count) {
             Take(statement);
             if (count % rowsBetweenLooks == 0 && Clock::now() >= until) return false;
@@ -75,8 +76,8 @@ private:
                 keys.push_back(place.row);
         });
         if (!std::is_sorted(keys.begin(), keys.end())) std::sort(keys.begin(), keys.end());
-        Statement statement =
-            source_.control_.Db().Prepare(part_.Select(columns_, part_.table->key + " = ?"));
+        if (part_.table->IsOnServer()) return RunTogether(keys, until);
+        Statement statement = source_.control_.Db().Prepare(part_.Select(columns_, part_.table->is));
         const int position = part_.Bind(statement);
         std::int64_t count = 0;
         for (const std::int64_t key : keys) {
@@ -88,8 +89,26 @@ private:
         return Finish(statement);
     }
 
+    /// Asks a server for many of the rows at once.
+    bool RunTogether(const std::vector<std::int64_t>& keys, Clock::time_point until) {
+        Database& database = source_.control_.Db();
+        Statement statement = database.Prepare(part_.Select(columns_, part_.table->among));
+        const int position = part_.Bind(statement);
+        for (auto first = keys.begin(); first != keys.end() && !statement.Failed();) {
+            const auto end = first + std::min<std::ptrdiff_t>(keys.end() - first, rowsTogether);
+            statement.Bind(position, database.ListOf(*part_.table, {first, end}));
+            while (statement.Next()) Take(statement);
+            statement.Rewind();
+            scan_.row = *(end - 1);
+            scan_.inPart = true;
+            first = end;
+            if (Clock::now() >= until && first != keys.end()) return false;
+        }
+        return Finish(statement);
+    }
+
     void Take(const Statement& statement) {
-        scan_.row = statement.Integer(0);
+        scan_.row = part_.table->RowAt(statement, 0);
         scan_.inPart = true;
         ++scan_.looked;
         const std::int64_t row = source_.RowOf({part_.slot, scan_.row});

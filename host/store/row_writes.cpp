@@ -13,22 +13,8 @@ namespace {
 
 constexpr const char* gone = "the item does not exist any more";
 
-/// The WHERE that finds the row of a row number in the table itself; "" when it cannot be found there: the
-/// rows of a view come from elsewhere, and copies of tables without a key have nothing that leads back.
-std::string RowInTable(const Table& table) {
-    if (!table.copied) return " WHERE " + table.key + " = ?";
-    std::string key;
-    for (const TableColumn& column : table.columns) {
-        if (column.primaryKey > 0) key += (key.empty() ? "" : ", ") + Database::Quoted(column.name);
-    }
-    if (key.empty() || table.view) return {};
-    const bool single = key.find(", ") == std::string::npos;
-    return " WHERE " + (single ? key : "(" + key + ")") + " = (SELECT " + key + " FROM " + table.rows +
-           " WHERE " + table.key + " = ?)";
-}
-
 std::string UpdateOf(const Table& table, const std::string& assignment) {
-    return "UPDATE main." + Database::Quoted(table.name) + " SET " + assignment + RowInTable(table);
+    return "UPDATE " + table.original + " SET " + assignment + " WHERE " + table.inTable;
 }
 
 const RowPart* PartAt(const std::vector<RowPart>& parts, std::size_t slot) {
@@ -40,9 +26,9 @@ const RowPart* PartAt(const std::vector<RowPart>& parts, std::size_t slot) {
 /// The values of the columns in the table's own row. @return false, with the reason, when they cannot be read
 bool ReadOwnRow(Database& database, const Table& table, const std::string& columns, std::int64_t row,
                 std::vector<Value>& values, std::string& error) {
-    Statement statement = database.Prepare("SELECT " + columns + " FROM main." +
-                                           Database::Quoted(table.name) + RowInTable(table));
-    statement.Bind(1, row);
+    Statement statement =
+        database.Prepare("SELECT " + columns + " FROM " + table.original + " WHERE " + table.inTable);
+    table.BindRow(statement, 1, row);
     const bool found = statement.Next();
     for (int i = 0; found && i < statement.ColumnCount(); ++i) values.push_back(statement.Get(i));
     if (!statement.Finish(error)) return false;
@@ -77,7 +63,7 @@ bool SimpleSource::WriteBoolean(znIBrowserDataProperty& property, std::int64_t r
     const RowPart* const part = PartAt(parts, place.slot);
     const DataProperty* const own = dynamic_cast<const DataProperty*>(&property);
     const auto column = part && own ? own->ColumnIn(*part->table) : std::nullopt;
-    if (!column || RowInTable(*part->table).empty()) {
+    if (!column || part->table->inTable.empty()) {
         error = "only a column of a table can be changed";
         return FailWith(error);
     }
@@ -92,14 +78,14 @@ bool SimpleSource::WriteBoolean(znIBrowserDataProperty& property, std::int64_t r
     {
         Statement statement = control_.Db().Prepare(update);
         statement.Bind(1, value ? 1 : 0);
-        statement.Bind(2, place.row);
+        part->table->BindRow(statement, 2, place.row);
         if (!ChangeRow(control_.Db(), statement, error)) return FailWith(error);
     }
     if (!transaction.Commit(error)) return FailWith(error);
-    undo.insert(undo.end(), {place.row, std::int64_t{value}});
+    undo.insert(undo.end(), {part->table->ValueOf(place.row), std::int64_t{value}});
     control_.Changes().Add(
         {part->table->name + ": " + part->table->columns[*column].name + " = " + (value ? "1" : "0"),
-         {{update + " AND " + name + " IS ?", std::move(undo)}}});
+         {{update + " AND " + name + " IS NOT DISTINCT FROM ?", std::move(undo)}}});
     control_.RowsChanged();
     return true;
 }
@@ -150,13 +136,13 @@ public:
         std::vector<Value> undo;
         if (!ReadOwnRow(database, child, to, place.row, undo, error)) return false;
         const std::string values = single ? "?" : "(?" + Repeated(", ?", undo.size() - 1) + ")";
-        undo.emplace_back(place.row);
+        undo.push_back(child.ValueOf(place.row));
         undo_.push_back({UpdateOf(child, (single ? to : "(" + to + ")") + " = " + values), std::move(undo)});
         Statement statement = database.Prepare(
             UpdateOf(child, (single ? to : "(" + to + ")") + " = (SELECT " + from + " FROM " + parent.From() +
-                                " WHERE " + parent.table->key + " = ?)"));
-        statement.Bind(1, parentPlace_.row);
-        statement.Bind(2, place.row);
+                                " WHERE " + parent.table->is + ")"));
+        parent.table->BindRow(statement, 1, parentPlace_.row);
+        child.BindRow(statement, 2, place.row);
         return ChangeRow(database, statement, error);
     }
 
@@ -167,7 +153,7 @@ private:
         for (const LinkJoint& joint : reader_.Joints()) {
             if (joint.childHolds && joint.part[LINK_CHILD].slot == childSlot &&
                 joint.part[LINK_PARENT].slot == parentPlace_.slot &&
-                !RowInTable(*joint.part[LINK_CHILD].table).empty()) {
+                !joint.part[LINK_CHILD].table->inTable.empty()) {
                 return &joint;
             }
         }

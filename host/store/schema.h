@@ -3,6 +3,7 @@
 #define ZN_HOST_SCHEMA_H
 
 #include "store/database.h"
+#include "store/row_keys.h"
 #include "znBrowserTypes.h"
 
 #include <optional>
@@ -31,10 +32,12 @@ struct ForeignKey {
 
 /// A table or a view. An item of it is known by its row number, the value of `key` in `rows`:
 ///
-///     SELECT <key>, <columns> FROM <rows> WHERE <key> = ?
+///     SELECT <key>, <columns> FROM <rows> WHERE <is>
 ///
-/// With most tables that is the rowid of the table itself. Views, tables WITHOUT ROWID and virtual tables
-/// have none, and where columns bear its three names it cannot be asked for: there `rows` is a temporary copy
+/// The engine may know rows by something else than a number; then `keys` numbers them. `RowAt` and `BindRow`
+/// take either. With most tables of SQLite it is the rowid of the table itself. Views, tables WITHOUT ROWID
+/// and virtual tables have none, and where columns bear its three names it cannot be asked for: there `rows`
+/// is a temporary copy
 /// (`copied`), which `RowCopies::Refresh` brings up to date before it is read. The row numbers of a copied
 /// table with a primary key stay with their rows; those of a view number its rows from 1, and hold until its
 /// rows change.
@@ -42,8 +45,18 @@ struct Table {
     std::string name;
     bool view = false;
     bool copied = false;
-    std::string rows; ///< what stands behind FROM
-    std::string key;  ///< the expression for the row number
+    std::string rows;     ///< what stands behind FROM
+    std::string original; ///< the table itself, where that is another one
+    std::string key;      ///< the expression for the row number, or what the engine knows the row by
+    std::string order;    ///< what stands behind ORDER BY for the order of the rows
+    std::string is;       ///< SQL for: the row is the one bound to its `?`
+    std::string after;    ///< SQL for: in that order the row stands behind the one bound to its `?`
+    /// SQL for: the row is one of those in the list (see `Database::ListOf`) bound to its `?`; others may be
+    /// found too. Empty: an engine that takes as long when each row is asked for.
+    std::string among;
+    std::string number;            ///< the `?` for a row number that other columns are compared with
+    std::string inTable;           ///< `is` for the original; "": the rows cannot be changed
+    std::shared_ptr<RowKeys> keys; ///< null: the row number is the value of `key`
     std::vector<TableColumn> columns;
     std::vector<ForeignKey>
         foreignKeys; ///< in the order of their declaration; only those that lead somewhere
@@ -61,6 +74,19 @@ struct Table {
 
     /// The place of a column, by its name as SQL compares it: without regard to (ASCII) case.
     std::optional<std::size_t> FindColumn(std::string_view column) const;
+    void FindDisplayColumn();
+    std::int64_t RowAt(const Statement& statement, int column) const {
+        return keys ? keys->NumberOf(statement.Text(column)) : statement.Integer(column);
+    }
+    bool IsOnServer() const { return !among.empty(); }
+    /// SQL that is true of this row only, wherever it is read; "" where only its place in a copy is known.
+    std::string ConditionOf(std::int64_t row) const;
+    /// What is bound for the row.
+    Value ValueOf(std::int64_t row) const { return keys ? Value(keys->KeyOf(row)) : Value(row); }
+    void BindRow(Statement& statement, int position, std::int64_t row) const {
+        if (keys) return statement.Bind(position, keys->KeyOf(row));
+        statement.Bind(position, row);
+    }
 };
 
 /// What the database is made of, read again when its tables changed. Tables are shared: one that was found
@@ -76,19 +102,16 @@ public:
     const std::vector<TablePtr>& Tables();
     /// The table of that name, case regarded as SQL does; null when there is none.
     TablePtr Find(std::string_view name);
+    /// The tables last known.
+    const std::vector<TablePtr>& Known() const { return tables_; }
     /// Brings `Tables` up to date. @return false when the database cannot be read at present
     bool Refresh(std::string& error);
 
 private:
-    bool Read(std::vector<TablePtr>& tables, std::string& error);
-
     Database& database_;
     Database::Stamp stamp_;
     std::vector<TablePtr> tables_;
 };
-
-/// The data type of a column declared so.
-ZNBROWSER_DATA_TYPE TypeOfDeclaration(std::string_view declaredType);
 
 /// Whether two names are one to SQL: the same but for ASCII case.
 bool SameName(std::string_view a, std::string_view b);

@@ -22,7 +22,7 @@ bool SimpleSource::FailWith(std::string text) const {
 
 bool SimpleSource::FailToRead(const std::string& reason) const {
     using Kind = ReadTrouble::Kind;
-    const Kind kind = Database::MayPass(reason)         ? Kind::Passing
+    const Kind kind = control_.Db().MayPass(reason)     ? Kind::Passing
                       : reason == HostServices::tooLong ? Kind::TooLong
                                                         : Kind::Lasting;
     control_.Services().Trouble().Note(name_, reason, kind);

@@ -141,6 +141,9 @@ protected:
     virtual DataProperty* FindColumnProperty(std::string_view) { return nullptr; }
 
 private:
+    bool ReadTextsTogether(const RowPart& part, const std::string& columns, std::size_t count,
+                           const std::vector<std::int64_t>& rows,
+                           std::vector<std::optional<std::string>>& texts);
     class PartScan;
     struct Found {
         std::vector<std::int64_t>& rows;

@@ -20,7 +20,8 @@ std::int64_t GreatestOf(const RowMark& mark, std::size_t slot) {
 
 bool SimpleSource::HasMoreThan(std::size_t count) {
     for (const RowPart& part : Parts()) {
-        Statement statement = control_.Db().Prepare("SELECT COUNT(*) FROM (" + part.Select() + " LIMIT ?)");
+        Statement statement =
+            control_.Db().Prepare("SELECT COUNT(*) FROM (" + part.Select() + " LIMIT ?) AS some");
         statement.Bind(part.Bind(statement), static_cast<std::int64_t>(count) + 1);
         const std::size_t found = statement.Next() ? static_cast<std::size_t>(statement.Integer(0)) : 0;
         std::string error;
@@ -36,8 +37,14 @@ RowMark SimpleSource::Mark() {
     RowMark mark;
     for (const RowPart& part : Parts()) {
         if (mark.greatest.size() <= part.slot) mark.greatest.resize(part.slot + 1, noRow);
-        const std::string& key = part.table->key;
-        Statement statement = control_.Db().Prepare("SELECT MAX(" + key + ") FROM " + part.From());
+        const Table& table = *part.table;
+        // Keys are numbered when they are seen: all that are there are looked at.
+        Statement statement = control_.Db().Prepare(
+            "SELECT " + (table.keys ? table.key : "MAX(" + table.key + ")") + " FROM " + part.From());
+        if (table.keys) {
+            while (statement.Next()) table.RowAt(statement, 0);
+            mark.greatest[part.slot] = table.keys->Greatest();
+        }
         if (statement.Next() && !statement.IsNull(0)) mark.greatest[part.slot] = statement.Integer(0);
         std::string error;
         if (!statement.Finish(error)) FailToRead(error);
@@ -50,11 +57,15 @@ void SimpleSource::NewRows(const RowMark& since, std::vector<std::int64_t>& rows
     for (const RowPart& part : Parts()) {
         const std::int64_t greatest = GreatestOf(since, part.slot);
         const std::string& key = part.table->key;
-        const bool all = greatest == noRow;
+        const std::shared_ptr<RowKeys>& keys = part.table->keys;
+        const bool all = greatest == noRow || keys;
         Statement statement = control_.Db().Prepare(part.Select({}, all ? "" : key + " > ?"));
         const int position = part.Bind(statement);
         if (!all) statement.Bind(position, greatest);
-        while (statement.Next()) rows.push_back(RowOf({part.slot, statement.Integer(0)}));
+        while (statement.Next()) {
+            const std::int64_t row = part.table->RowAt(statement, 0);
+            if (!keys || row > greatest) rows.push_back(RowOf({part.slot, row}));
+        }
         std::string error;
         if (!statement.Finish(error)) FailToRead(error);
     }

@@ -2,6 +2,7 @@
 #include "base/services.h"
 #include "host/znBrowserDataItems.h"
 #include "model/browser.h"
+#include "store/asked_rows.h"
 #include "store/data_ctrl.h"
 #include "store/data_property.h"
 #include "store/link_reader.h"
@@ -86,8 +87,8 @@ bool SimpleSource::HasRow(std::int64_t row) {
     const RowPlace place = PlaceOf(row);
     for (const RowPart& part : Parts()) {
         if (part.slot != place.slot) continue;
-        Statement statement = control_.Db().Prepare(part.Select({}, part.table->key + " = ?"));
-        statement.Bind(part.Bind(statement), place.row);
+        Statement statement = control_.Db().Prepare(part.Select({}, part.table->is));
+        part.table->BindRow(statement, part.Bind(statement), place.row);
         const bool found = statement.Next();
         std::string error;
         return statement.Finish(error) ? found : FailToRead(error);
@@ -130,6 +131,33 @@ bool MarkFound(Database& database, const RowPart& part, const std::vector<AskedR
     return statement.Finish(error);
 }
 
+/// The most rows that a server is asked for at once.
+constexpr std::size_t mostTogether = 10'000;
+
+/// The same for a table that a server has: a question for many rows.
+bool MarkFoundTogether(Database& database, const RowPart& part, const std::vector<AskedRow>& asked,
+                       std::vector<bool>& found) {
+    const Table& table = *part.table;
+    Statement statement = database.Prepare(part.Select({}, table.among));
+    const int list = part.Bind(statement);
+    for (std::size_t begin = 0; begin < asked.size(); begin += mostTogether) {
+        std::vector<std::int64_t> rows;
+        for (std::size_t i = begin; i < std::min(begin + mostTogether, asked.size()); ++i)
+            rows.push_back(asked[i].first);
+        statement.Bind(list, database.ListOf(table, rows));
+        while (statement.Next()) {
+            const AskedRow row(table.RowAt(statement, 0), 0);
+            for (auto one = std::lower_bound(asked.begin(), asked.end(), row);
+                 one != asked.end() && one->first == row.first; ++one) {
+                found[one->second] = true;
+            }
+        }
+        statement.Rewind();
+    }
+    std::string error;
+    return statement.Finish(error);
+}
+
 } // namespace
 
 std::vector<std::int64_t> SimpleSource::Missing(const std::vector<std::int64_t>& rows) {
@@ -144,7 +172,8 @@ std::vector<std::int64_t> SimpleSource::Missing(const std::vector<std::int64_t>&
     for (const RowPart& part : Parts()) {
         std::vector<AskedRow>& inPart = asked[part.slot];
         std::sort(inPart.begin(), inPart.end());
-        if (!MarkFound(control_.Db(), part, inPart, found)) return {};
+        const auto mark = part.table->IsOnServer() ? MarkFoundTogether : MarkFound;
+        if (!mark(control_.Db(), part, inPart, found)) return {};
     }
     std::vector<std::int64_t> missing;
     for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -175,7 +204,30 @@ std::string ColumnSql(const Table& table, znIBrowserDataProperty* property) {
     return column ? Database::Quoted(table.columns[*column].name) : "NULL";
 }
 
+/// The texts of the present row; its first column is that one of the statement.
+void TakeTexts(const Statement& statement, int first, std::size_t count, std::optional<std::string>* texts) {
+    for (std::size_t i = 0; i < count; ++i) {
+        const int column = first + static_cast<int>(i);
+        if (!statement.IsNull(column)) texts[i] = statement.Shown(column, longestCell);
+    }
+}
+
 } // namespace
+
+/// Those of the rows that are in the part, with one question.
+bool SimpleSource::ReadTextsTogether(const RowPart& part, const std::string& columns, std::size_t count,
+                                     const std::vector<std::int64_t>& rows,
+                                     std::vector<std::optional<std::string>>& texts) {
+    const AskedRows asked(*this, part, rows);
+    if (asked.IsEmpty()) return true;
+    Statement statement = asked.Ask(", " + columns);
+    while (statement.Next()) {
+        asked.ForEachPlace(statement,
+                           [&](std::size_t place) { TakeTexts(statement, 1, count, &texts[place * count]); });
+    }
+    std::string error;
+    return statement.Finish(error) || FailToRead(error);
+}
 
 void SimpleSource::ReadTexts(const std::vector<std::int64_t>& rows,
                              const std::vector<znIBrowserDataProperty*>& properties,
@@ -187,18 +239,17 @@ void SimpleSource::ReadTexts(const std::vector<std::int64_t>& rows,
         for (znIBrowserDataProperty* const property : properties) {
             columns += (columns.empty() ? "" : ", ") + ColumnSql(*part.table, property);
         }
+        if (part.table->IsOnServer()) {
+            ReadTextsTogether(part, columns, properties.size(), rows, texts);
+            continue;
+        }
         Statement statement = control_.Db().Prepare("SELECT " + columns + " FROM " + part.table->rows +
-                                                    " WHERE " + part.table->key + " = ?");
+                                                    " WHERE " + part.table->is);
         for (std::size_t i = 0; i < rows.size(); ++i) {
             const RowPlace place = PlaceOf(rows[i]);
             if (place.slot != part.slot) continue;
-            statement.Bind(1, place.row);
-            const bool found = statement.Next();
-            for (std::size_t j = 0; found && j < properties.size(); ++j) {
-                const int column = static_cast<int>(j);
-                if (statement.IsNull(column)) continue;
-                texts[i * properties.size() + j] = statement.Shown(column, longestCell);
-            }
+            part.table->BindRow(statement, 1, place.row);
+            if (statement.Next()) TakeTexts(statement, 0, properties.size(), &texts[i * properties.size()]);
             statement.Rewind();
         }
         std::string error;

@@ -1,7 +1,5 @@
 #include "store/transaction.h"
 
-#include <sqlite3.h>
-
 namespace znhost {
 
 bool Transaction::Begin(std::string& error, Purpose purpose) {
@@ -9,7 +7,7 @@ bool Transaction::Begin(std::string& error, Purpose purpose) {
     savepoint_ = inside || purpose == Purpose::Copy;
     copiesAlone_ = !inside && purpose == Purpose::Copy;
     // Savepoints of the same name nest; the innermost one is meant.
-    open_ = database_.Execute(savepoint_ ? "SAVEPOINT znbrowser" : "BEGIN IMMEDIATE", error);
+    open_ = database_.Execute(savepoint_ ? "SAVEPOINT znbrowser" : database_.Sql().begin, error);
     return open_;
 }
 
@@ -23,9 +21,7 @@ Transaction::~Transaction() {
     if (!open_) return;
     // A copy alone is nothing that anybody has looked at.
     if (!copiesAlone_) database_.NoteRollback();
-    // SQLite may have rolled back by itself already. It is asked directly, which needs no memory of ours.
-    const char* const undo = savepoint_ ? "ROLLBACK TO znbrowser; RELEASE znbrowser" : "ROLLBACK";
-    sqlite3_exec(database_.Handle(), undo, nullptr, nullptr, nullptr);
+    database_.Undo(savepoint_);
 }
 
 } // namespace znhost

@@ -36,6 +36,7 @@ proc ::znbrowser::any::TitleOf {window} {
     set file [FileOf $control]
     set part [string range $window [string length $control] end]
     if {$file eq ""} {return "$control$part"}
+    if {[IsOnServer $control]} {return "[file tail $file]$part — [string range $file 0 end-[string length /[file tail $file]]]"}
     return "[file tail $file]$part — [file dirname $file]"
 }
 
@@ -86,7 +87,7 @@ proc ::znbrowser::any::Open {n} {
     upvar #0 ::znbrowser::window$n w
     set file [FileOf [ControlOf $w(name)]]
     set file [tk_getOpenFile -parent [winfo toplevel $w(path)] -title "Open a database" \
-        -initialdir [expr {$file eq "" ? [pwd] : [file dirname $file]}] \
+        -initialdir [expr {![file exists $file] ? [pwd] : [file dirname $file]}] \
         -filetypes {{Databases {.db .sqlite .sqlite3 .db3 .s3db .gpkg .mbtiles}} {{All files} *}}]
     if {$file ne ""} {OpenFile $n $file}
 }

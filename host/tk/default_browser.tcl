@@ -1,4 +1,4 @@
-# The default browser: a view and a window on any SQLite file, for who has no script of his own.
+# The default browser: a view and a window on any database, for who has no script of his own.
 #
 # Every table and view of the database is a list of its rows; a table that refers to itself is a folder with its
 # rows nested. Below a row stand the rows that refer to it. The built-in column names a row by the table's own
@@ -41,7 +41,7 @@ proc ::znbrowser::any::browse {control {columns {}}} {
     AddDatabaseMenu $control
     RestoreSort $control
     SeekCyclesSoon $control 400
-    NoteRecent [FileOf $control]
+    if {![IsOnServer $control]} {NoteRecent [FileOf $control]}
 }
 
 # Whether windows stand on a display: then all scripts of the window are there.
@@ -62,19 +62,25 @@ proc ::znbrowser::any::Quoted {name} {return "\"[string map {\" \"\"} $name]\""}
 
 # ---- What is in the database -----------------------------------------------------------------------------------
 
+# How a table is written in SQL.
+proc ::znbrowser::any::SqlName {control table} {return [dict get [Described $control $table] sql]}
+
+proc ::znbrowser::any::Described {control table} {return [lindex [Do app tables $control $table] 0]}
+
+proc ::znbrowser::any::IsOnServer {control} {return [string match postgres*://* [Do app datactrl file $control]]}
+
 # The tables and views that can be read, now connected to the view: name -> {column type isKey isNamed ...}, where
 # isNamed tells that the column names the rows. The others are reported; in a window their rows tell what is wrong.
 proc ::znbrowser::any::ReadTables {control} {
     set tables {}
-    foreach row [Sql $control {
-        SELECT name, type = 'view' FROM pragma_table_list WHERE schema = 'main' AND type IN ('table', 'view', 'virtual')
-        AND name NOT LIKE 'sqlite!_%' ESCAPE '!' AND name NOT LIKE 'znbrowser!_%' ESCAPE '!' ORDER BY name
-    }] {
-        lassign $row name isView
+    foreach found [Do app tables $control] {
+        set name [dict get $found table]
         if {[catch {
-            Sql $control "SELECT 1 FROM [Quoted $name] LIMIT [expr {!$isView}]" ;# a view may compute for long
+            if {[dict get $found problem] ne ""} {error [dict get $found problem]}
+            # A view may compute for long.
+            Sql $control "SELECT 1 FROM [dict get $found sql] LIMIT [expr {![dict get $found view]}]"
             Do view datasource connect $name
-            dict set tables $name [ReadColumns $control $name]
+            dict set tables $name [ColumnsIn $found]
         } message]} {
             if {[HasDisplay] && ![catch {Do view datasource connect $name}]} {
                 dict set tables $name {}
@@ -86,69 +92,31 @@ proc ::znbrowser::any::ReadTables {control} {
     return $tables
 }
 
-proc ::znbrowser::any::ReadColumns {control table} {
-    set keys [lmap row [Sql $control {SELECT "from" FROM pragma_foreign_key_list(?)} $table] {lindex $row 0}]
-    set columns [Sql $control {
-        SELECT name, lower(type), pk FROM pragma_table_xinfo(?, 'main') WHERE hidden <> 1 ORDER BY cid
-    } $table]
-    set named [DisplayColumn $columns]
+proc ::znbrowser::any::ReadColumns {control table} {return [ColumnsIn [Described $control $table]]}
+
+# The type is empty where nothing is declared, as with what a view computes.
+proc ::znbrowser::any::ColumnsIn {table} {
+    set keys [concat {*}[lmap reference [dict get $table references] {dict get $reference columns}]]
     set found {}
-    foreach row $columns {
-        lassign $row column declared primary
-        lappend found $column [TypeOf $declared] [expr {$primary || $column in $keys}] [string equal $column $named]
+    foreach column [dict get $table columns] {
+        set name [dict get $column column]
+        lappend found $name [expr {[dict get $column declared] eq "" ? "" : [dict get $column type]}] \
+            [expr {[dict get $column key] || $name in $keys}] [string equal $name [dict get $table display]]
     }
     return $found
 }
 
-# The column by which the rows of a table are named.
-proc ::znbrowser::any::DisplayColumn {columns} {
-    foreach wanted {name title label caption number} {
-        foreach row $columns {
-            if {[string equal -nocase [lindex $row 0] $wanted]} {return [lindex $row 0]}
-        }
-    }
-    foreach row $columns {
-        if {[TypeOf [lindex $row 1]] eq "string" && [regexp {char|clob|text} [lindex $row 1]]} {
-            return [lindex $row 0]
-        }
-    }
-    return
-}
-
-# The type of a view property for a column declared so; the rules are SQLite's, but for what is boolean. Empty where
-# nothing is declared, as with what a view computes.
-proc ::znbrowser::any::TypeOf {declared} {
-    switch -regexp -- $declared {
-        {^bool(ean)?$}   {return bool}
-        int              {return integer}
-        char|clob|text   {return string}
-        real|floa|doub   {return double}
-        ^$               {return {}}
-        default          {return string}
-    }
-}
-
-# The references between these tables that lead to columns which exist: a list of {name child parent column to}. The host
-# names one after the table and the first column of the key, with a number where that is taken.
+# The references between these tables: a list of {name child parent column to}, of keys of several columns the first.
 proc ::znbrowser::any::ReadReferences {control tables} {
-    set byName {}
-    foreach table [dict keys $tables] {dict set byName [string tolower $table] $table}
-    set keys {
-        SELECT "table", "from", coalesce("to", (SELECT name FROM pragma_table_info(key."table") WHERE pk = 1))
-        FROM pragma_foreign_key_list(?1) AS key WHERE seq = 0 AND CASE WHEN "to" IS NULL
-        THEN (SELECT count(*) FROM pragma_foreign_key_list(?1) WHERE id = key.id) =
-            (SELECT count(*) FROM pragma_table_info(key."table") WHERE pk > 0)
-        ELSE "to" COLLATE NOCASE IN (SELECT name FROM pragma_table_xinfo(key."table")) END ORDER BY id DESC
-    }
     set references {}
-    foreach table [dict keys $tables] {
-        set taken {}
-        foreach row [Sql $control $keys $table] {
-            lassign $row target column to
-            if {![dict exists $byName [string tolower $target]]} continue
-            set number [dict get [dict incr taken $column] $column]
-            set name $table.$column[expr {$number > 1 ? "#$number" : ""}]
-            lappend references [list $name $table [dict get $byName [string tolower $target]] $column $to]
+    foreach table [Do app tables $control] {
+        set child [dict get $table table]
+        if {![dict exists $tables $child]} continue
+        foreach reference [dict get $table references] {
+            set parent [dict get $reference table]
+            if {![dict exists $tables $parent]} continue
+            lappend references [list [dict get $reference reference] $child $parent \
+                [lindex [dict get $reference columns] 0] [lindex [dict get $reference to] 0]]
         }
     }
     return $references
@@ -251,19 +219,19 @@ proc ::znbrowser::any::MakeFolders {control tables references nested} {
 proc ::znbrowser::any::RowsInCycle {control table key how} {
     variable mostInCycle
     lassign $key from to
-    set number [RowNumberName [ColumnsOf $control $table]]
-    set own [Quoted $table]
+    set number [dict get [Described $control $table] key]
+    set own [SqlName $control $table]
     set rows [Do app $how $control "WITH RECURSIVE reached (k) AS (
             SELECT [Quoted $to] FROM $own WHERE [Quoted $from] IS NULL OR [Quoted $from] NOT IN (SELECT [Quoted $to] FROM $own)
             UNION SELECT below.[Quoted $to] FROM $own AS below JOIN reached ON below.[Quoted $from] = reached.k)
-            SELECT $number FROM $own WHERE [Quoted $to] NOT IN reached LIMIT $mostInCycle"]
-    return [lmap row $rows {lindex $row 0}]
+            SELECT $number FROM $own WHERE [Quoted $to] NOT IN (SELECT k FROM reached) LIMIT $mostInCycle"]
+    return [lmap row $rows {Literal [lindex $row 0]}]
 }
 
 # Lists the rows in the current folder, by a data source of their own, whose name is answered.
 proc ::znbrowser::any::MakeCycle {control table rows below} {
     set source "$table: in a cycle"
-    set number [RowNumberName [ColumnsOf $control $table]]
+    set number [dict get [Described $control $table] key]
     set caption [expr {[llength $rows] < $::znbrowser::any::mostInCycle ? "in a cycle" : "in a cycle, the first"}]
     MakeSource $control $source $table "$number IN ([join $rows ", "])" $caption
     Do view list create $source
@@ -284,18 +252,9 @@ proc ::znbrowser::any::MakeSource {control source table condition caption} {
     }
 }
 
-# A name of the row's number that no column bears.
-proc ::znbrowser::any::RowNumberName {columns} {
-    foreach name {rowid _rowid_ oid} {
-        if {$name ni [string tolower $columns]} {return $name}
-    }
-    return rowid
-}
-
-proc ::znbrowser::any::ColumnsOf {control table} {
-    return [lmap row [Sql $control {SELECT name FROM pragma_table_xinfo(?, 'main') WHERE hidden <> 1 ORDER BY cid} $table] {
-        lindex $row 0
-    }]
+# A row's key as SQL writes it.
+proc ::znbrowser::any::Literal {key} {
+    return [expr {[string is wideinteger -strict $key] ? $key : "'[string map {' ''} $key]'"}]
 }
 
 # Lets the rows of the child stand below those that they refer to, where the host knows the reference.
@@ -305,7 +264,8 @@ proc ::znbrowser::any::Tie {reference} {
 }
 
 proc ::znbrowser::any::IsLarge {control} {
-    set bytes [Sql $control {SELECT page_count * page_size FROM pragma_page_count, pragma_page_size}]
+    set bytes [Sql $control [expr {[IsOnServer $control] ? "SELECT pg_database_size(current_database())"
+        : "SELECT page_count * page_size FROM pragma_page_count, pragma_page_size"}]]
     return [expr {[lindex $bytes 0 0] > $::znbrowser::any::largeFile}]
 }
 
@@ -357,7 +317,7 @@ proc ::znbrowser::any::Reachable {table below} {
 # How many rows of the table meet the condition; one more than `most` when they are more. None, when they cannot
 # be read, or with `glance` not in a moment.
 proc ::znbrowser::any::CountRows {control table condition most {how sql}} {
-    set statement "SELECT count(*) FROM (SELECT 1 FROM [Quoted $table] $condition LIMIT $most + 1)"
+    set statement "SELECT count(*) FROM (SELECT 1 FROM [SqlName $control $table] $condition LIMIT $most + 1) AS counted"
     if {[catch {Do app $how $control $statement} rows]} {return 0}
     return [lindex $rows 0 0]
 }
@@ -376,7 +336,7 @@ proc ::znbrowser::any::ExpandSmall {control tables nested} {
         set condition ""
         if {[dict exists $nested $table]} {set condition [lindex [dict get $nested $table] 1]}
         # The values, too: what a view computes may take longer than to find that it has a row.
-        set statement "SELECT * FROM [Quoted $table] $condition LIMIT $openTable + 1"
+        set statement "SELECT * FROM [SqlName $control $table] $condition LIMIT $openTable + 1"
         if {[catch {Do app glance $control $statement} rows]} continue
         set count [llength $rows]
         if {$count == 0 || $count > min($openTable, $room)} continue

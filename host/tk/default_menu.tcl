@@ -45,36 +45,41 @@ proc ::znbrowser::any::Posting {window column rows} {
 }
 
 # The table of a row, a condition that only this row meets, the table's column that is shown in a column, and the value
-# there, as SQL writes it. An error where rows have no numbers, as in views.
+# there, as SQL writes it. An error where nothing but its place tells a row, as in views.
 proc ::znbrowser::any::ReadClicked {window column index} {
     set control [ControlOf $window]
     set item [Do app item $window $index 0]
     set table [dict get $item table]
-    set columns [ColumnsOf $control $table]
-    set condition "[RowNumberName $columns] = [dict get $item number]"
+    set condition [dict get $item where]
+    if {$condition eq ""} {error "no such row"}
+    set known [Described $control $table]
     set field $column
-    if {$field ni $columns} {set field ""}
-    if {$column eq "Name" && $field eq ""} {
-        set field [DisplayColumn [Sql $control {SELECT name, lower(type) FROM pragma_table_xinfo(?, 'main')
-            WHERE hidden <> 1 ORDER BY cid} $table]]
-    }
-    set value [expr {$field eq "" ? "NULL" : "quote([Quoted $field])"}]
-    set rows [Sql $control "SELECT $value FROM [Quoted $table] WHERE $condition"]
+    if {$field ni [lmap one [dict get $known columns] {dict get $one column}]} {set field ""}
+    if {$column eq "Name" && $field eq ""} {set field [dict get $known display]}
+    set value [expr {$field eq "" ? "NULL" : [SqlLiteralOf $control [Quoted $field]]}]
+    set rows [Sql $control "SELECT $value FROM [dict get $known sql] WHERE $condition"]
     if {[llength $rows] != 1} {error "no such row"}
     return [list $table $condition $field [lindex $rows 0 0]]
+}
+
+# An expression for a value as SQL writes it.
+proc ::znbrowser::any::SqlLiteralOf {control expression} {
+    return [expr {[IsOnServer $control] ? "quote_nullable($expression\::text)" : "quote($expression)"}]
 }
 
 # The tables with rows that refer to that one, each with the condition for them.
 proc ::znbrowser::any::Referring {control table condition} {
     set conditions {}
-    foreach row [Sql $control {
-        SELECT child.name, key.id, key."from", coalesce(key."to", (SELECT name FROM pragma_table_info(?1) WHERE pk = key.seq + 1))
-        FROM pragma_table_list AS child, pragma_foreign_key_list(child.name) AS key
-        WHERE child.schema = 'main' AND child.type = 'table' AND key."table" = ?1 COLLATE NOCASE ORDER BY 1, 2, key.seq
-    } $table] {
-        lassign $row child id from to
-        set value [Sql $control "SELECT quote([Quoted $to]) FROM [Quoted $table] WHERE $condition"]
-        dict lappend conditions [list $child $id] "[Quoted $from] = [lindex $value 0 0]"
+    set own [SqlName $control $table]
+    foreach child [Do app tables $control] {
+        foreach reference [dict get $child references] {
+            if {[dict get $reference table] ne $table} continue
+            foreach from [dict get $reference columns] to [dict get $reference to] {
+                set value [Sql $control "SELECT [SqlLiteralOf $control [Quoted $to]] FROM $own WHERE $condition"]
+                dict lappend conditions [list [dict get $child table] [dict get $reference reference]] \
+                    "[Quoted $from] = [lindex $value 0 0]"
+            }
+        }
     }
     set referring {}
     dict for {key parts} $conditions {dict lappend referring [lindex $key 0] ([join $parts { AND }])}
@@ -90,7 +95,7 @@ proc ::znbrowser::any::Referring {control table condition} {
 
 proc ::znbrowser::any::ShowSame {window args} {
     lassign [set ::znbrowser::any::clicked($window)] table condition field value
-    ShowRows $window "$table: $field" [list $table "[Quoted $field] IS $value"]
+    ShowRows $window "$table: $field" [list $table "[Quoted $field] IS NOT DISTINCT FROM $value"]
 }
 
 proc ::znbrowser::any::ShowReferring {window args} {

@@ -39,12 +39,11 @@ proc ::znbrowser::any::ReadMemory {} {
     return $text
 }
 
-# The file of a data control, which is what its memory goes by; empty for a database in memory.
+# The file or the server of a data control, which is what its memory goes by; empty for a database in memory.
 proc ::znbrowser::any::FileOf {control} {
     variable files
     if {![info exists files($control)]} {
-        set rows [Sql $control {SELECT file FROM pragma_database_list WHERE name = 'main'}]
-        set files($control) [lindex $rows 0 0]
+        set files($control) [Do app datactrl file $control]
     }
     return $files($control)
 }

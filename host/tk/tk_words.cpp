@@ -430,7 +430,9 @@ int Answer(TkWindows& open, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[])
 
 int AnswerTkWord(void* windows, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
     try {
-        return Answer(*static_cast<TkWindows*>(windows), interp, objc, objv);
+        TkWindows& shown = *static_cast<TkWindows*>(windows);
+        const HostServices::OneLook look(shown.App());
+        return Answer(shown, interp, objc, objv);
     } catch (const std::exception& failure) { // memory ran out: Tcl knows no exceptions
         Tcl_SetObjResult(interp, Tcl_NewStringObj(failure.what(), -1));
         return TCL_ERROR;

@@ -29,8 +29,8 @@ public:
 
     // ---- The words ----
     int Count() const { return objc_; }
-    /// Whether there is a word at that position, with a text.
-    bool Has(int position) const { return Text(position) != nullptr; }
+    /// Whether there is a word at that position.
+    bool Has(int position) const { return position < objc_ && objv_[position]; }
     /// The word's text; null when there is none.
     const char* Text(int position) const {
         return position < objc_ ? WordText(objv_[position]).data() : nullptr;

@@ -25,13 +25,6 @@ void Answer(Call& call, const CommandLevel& level, const CommandRow& row, int po
 
 } // namespace
 
-const CommandRow* CommandLevel::Find(Keyword keyword) const {
-    for (const CommandRow& row : *this) {
-        if (row.keyword == keyword) return &row;
-    }
-    return nullptr;
-}
-
 void RunWord(Call& call, const CommandLevel& first, int position, Keyword keyword) {
     for (const CommandLevel* level = &first;; keyword = call.Word(position)) {
         const CommandRow* const row = level->Find(keyword);

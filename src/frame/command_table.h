@@ -38,6 +38,9 @@ struct CommandRow {
 
 /// The words that may stand at one position. The rows stand in the order in which the usage text lists them.
 struct CommandLevel {
+    /// A row of a keyword behind the last one does not compile.
+    static constexpr std::size_t keywordCount = static_cast<std::size_t>(Keyword::Apply) + 1;
+
     template <std::size_t count>
     constexpr CommandLevel(const CommandRow (&table)[count], const char* const& usage)
         : CommandLevel(table, usage, usage) {}
@@ -45,17 +48,26 @@ struct CommandLevel {
     template <std::size_t count>
     constexpr CommandLevel(const CommandRow (&table)[count], const char* const& missing,
                            const char* const& unknown)
-        : rows(table), rowCount(count), missingUsage(&missing), unknownUsage(&unknown) {}
+        : rows(table), rowCount(count), missingUsage(&missing), unknownUsage(&unknown) {
+        static_assert(count < 256, "a place is one byte");
+        for (std::size_t i = count; i-- > 0;)
+            places[static_cast<std::size_t>(table[i].keyword)] = static_cast<unsigned char>(i + 1);
+    }
 
     const CommandRow* begin() const { return rows; }
     const CommandRow* end() const { return rows + rowCount; }
     /// The row of that keyword, or null.
-    const CommandRow* Find(Keyword keyword) const;
+    const CommandRow* Find(Keyword keyword) const {
+        const auto number = static_cast<std::size_t>(keyword);
+        const std::size_t place = number < keywordCount ? places[number] : 0;
+        return place ? &rows[place - 1] : nullptr;
+    }
 
     const CommandRow* rows;
     std::size_t rowCount;
     const char* const* missingUsage;
     const char* const* unknownUsage;
+    unsigned char places[keywordCount] = {}; ///< by keyword: the place of its row, counted from 1; 0: none
 };
 
 /// Whether each row of a table can be reached where only keywords from `first` to `last` get to it.

@@ -17,12 +17,13 @@ proc answers {when beginning setup table} {
 # A fresh data control, made current: parts with features, and a table with a blank in its name.
 proc freshControl {} {
     set name control[incr ::controls]
-    zn app datactrl create $name
+    newControl $name
     foreach statement {
         {CREATE TABLE part (id INTEGER PRIMARY KEY, name TEXT, mass REAL, count INTEGER, steel BOOLEAN)}
         {CREATE TABLE feature (id INTEGER PRIMARY KEY, part_id INTEGER REFERENCES part (id), kind TEXT)}
         {CREATE TABLE "odd name" (id INTEGER PRIMARY KEY, name TEXT)}
-        {INSERT INTO part VALUES (1, 'shaft', 12.5, 1, 1), (2, 'bush {left}', 0.25, 4, 0), (3, NULL, 3, 2, 1)}
+        {INSERT INTO part VALUES (1, 'shaft', 12.5, 1, true), (2, 'bush {left}', 0.25, 4, false),
+            (3, NULL, 3, 2, true)}
         {INSERT INTO feature VALUES (1, 1, 'hole'), (2, 1, 'keyway'), (3, 2, 'hole')}
     } {
         zn app sql $name $statement

@@ -4,6 +4,17 @@ namespace import ::tcltest::*
 
 interp alias {} zn {} znbrowsermanager
 
+# A data control on a new database: in memory or, with ZN_TEST_SERVER, on a server of the tests' own.
+proc newControl {name} {
+    if {![info exists ::env(ZN_TEST_SERVER)]} {return [zn app datactrl create $name]}
+    if {[info procs server::start] eq ""} {
+        uplevel #0 [list source [file join [file dirname $::testingFile] server.tcl]]
+        server::start
+    }
+    zn app datactrl create $name [server::url [server::database]]
+}
+testConstraint file [expr {![info exists ::env(ZN_TEST_SERVER)]}] ;# what a server answers in words of its own
+
 # What an answer says: "error: MESSAGE" for a banner, "usage: WORDS" for a usage text, else the answer itself.
 proc gist {answer} {
     if {[regexp {^\[Command\] [^\n]*\n\t\[Error\] (.*)$} $answer - message]} {return "error: $message"}

@@ -4,7 +4,7 @@ source [file join [file dirname [info script]] .. harness testing.tcl]
 # A gearbox in miniature: assemblies that nest, their parts, and the parts' holes, of which most have none. The foreign
 # key of the holes has no index.
 proc makeModel {} {
-    zn app datactrl create model
+    newControl model
     foreach statement {
         {create table assembly (id integer primary key, parent_id integer references assembly, name text)}
         {create index assembly_by_parent on assembly (parent_id)}
@@ -14,8 +14,8 @@ proc makeModel {} {
         {create table hole (id integer primary key, part_id integer references part, name text)}
         {create table stamp (id integer primary key, name text)}
         {insert into assembly values (1, null, 'box'), (2, 1, 'input'), (3, 1, 'output'), (4, null, 'spare')}
-        {insert into part values (1, 2, 'gear', 1.5, 1, 1), (2, 2, 'shaft', 12, 0, 2), (3, 3, 'Gear', 4, 1, null),
-            (4, 3, 'bolt', 0.25, null, 9), (5, 1, 'lid', 2, 1, 1)}
+        {insert into part values (1, 2, 'gear', 1.5, true, 1), (2, 2, 'shaft', 12, false, 2),
+            (3, 3, 'Gear', 4, true, null), (4, 3, 'bolt', 0.25, null, 9), (5, 1, 'lid', 2, true, 1)}
         {insert into hole values (1, 1, 'bore'), (2, 5, 'vent')}
     } {
         zn app sql model $statement

@@ -1,4 +1,4 @@
-#include "store/temporary_files.h"
+#include "store/sqlite/temporary_files.h"
 #include "store/transaction.h"
 #include "store_testing.h"
 

@@ -1,5 +1,6 @@
 #include "store/row_copies.h"
-#include "store/temporary_files.h"
+#include "store/sqlite/sqlite_schema.h"
+#include "store/sqlite/temporary_files.h"
 #include "store_testing.h"
 
 using namespace znhost;

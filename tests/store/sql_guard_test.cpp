@@ -1,4 +1,5 @@
-#include "store/sql_guard.h"
+#include "store/sqlite/sql_guard.h"
+#include "store/sqlite/sqlite_database.h"
 #include "store_testing.h"
 
 using namespace znhost;
@@ -22,7 +23,9 @@ protected:
         for (const Case& one : cases) {
             int parameters = -1;
             std::string error;
-            EXPECT_FALSE(CheckExpression(*database_, "part", one.code, parameters, error)) << one.code;
+            EXPECT_FALSE(CheckExpression(static_cast<SqliteDatabase&>(*database_), "part", one.code,
+                                         parameters, error))
+                << one.code;
             EXPECT_EQ(error, one.reason) << one.code;
             EXPECT_EQ(parameters, -1);
         }
@@ -46,12 +49,16 @@ TEST_F(SqlGuard, AcceptsConditionsAndCountsTheirParameters) {
     for (const auto& [code, count] : cases) {
         int parameters = -1;
         std::string error;
-        EXPECT_TRUE(CheckExpression(*database_, "PART", code, parameters, error)) << code << ": " << error;
+        EXPECT_TRUE(
+            CheckExpression(static_cast<SqliteDatabase&>(*database_), "PART", code, parameters, error))
+            << code << ": " << error;
         EXPECT_EQ(parameters, count) << code;
     }
     int parameters = -1;
     std::string error;
-    EXPECT_TRUE(CheckExpression(*database_, "chain", "i = ?", parameters, error)) << error;
+    EXPECT_TRUE(
+        CheckExpression(static_cast<SqliteDatabase&>(*database_), "chain", "i = ?", parameters, error))
+        << error;
 }
 
 TEST_F(SqlGuard, RefusesWhatLeavesTheParentheses) {

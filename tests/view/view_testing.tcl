@@ -31,7 +31,7 @@ proc deleteViews {} {
 
 # A gearbox in miniature, made once per file: assemblies that nest, their parts, and the parts' features.
 proc makeModel {} {
-    zn app datactrl create M
+    newControl M
     foreach statement {
         {create table assembly (id integer primary key, parent_id integer references assembly (id), name text)}
         {create table part (id integer primary key, assembly_id integer references assembly (id), name text,

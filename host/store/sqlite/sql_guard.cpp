@@ -1,7 +1,8 @@
-#include "store/sql_guard.h"
+#include "store/sqlite/sql_guard.h"
 
 #include "base/text.h"
 #include "store/schema.h"
+#include "store/sqlite/sqlite_statement.h"
 
 #include <sqlite3.h>
 
@@ -127,7 +128,7 @@ private:
 };
 
 /// Whether SQLite holds the function harmless wherever it is called: it computes, and has no other effect.
-bool IsHarmless(Database& database, const std::string& function, std::string& error) {
+bool IsHarmless(SqliteDatabase& database, const std::string& function, std::string& error) {
     Statement flags = database.Prepare("SELECT 1 FROM pragma_function_list WHERE name = ? COLLATE NOCASE "
                                        "AND flags & 0x200000 LIMIT 1"); // SQLITE_INNOCUOUS
     flags.Bind(1, function);
@@ -138,7 +139,7 @@ bool IsHarmless(Database& database, const std::string& function, std::string& er
 
 } // namespace
 
-bool CheckExpression(Database& database, std::string_view table, std::string_view code, int& parameters,
+bool CheckExpression(SqliteDatabase& database, std::string_view table, std::string_view code, int& parameters,
                      std::string& error) {
     const std::string sql =
         FromTcl("SELECT 1 FROM main." + Database::Quoted(table) + " WHERE (" + std::string(code) + ")");
@@ -149,7 +150,7 @@ bool CheckExpression(Database& database, std::string_view table, std::string_vie
         Watch watch(database.Handle());
         sqlite3_stmt* handle = nullptr;
         const int outcome = sqlite3_prepare_v2(database.Handle(), sql.c_str(), -1, &handle, nullptr);
-        const std::unique_ptr<sqlite3_stmt, FinalizeStatement> statement(handle);
+        const SqliteStatement::Handle statement(handle);
         if (outcome != SQLITE_OK || !sqlite3_stmt_readonly(handle)) {
             error = watch.Refused() ? "it would do more than compare values" : database.Reason(outcome);
             return false;

@@ -1,4 +1,4 @@
-#include "store/database_file.h"
+#include "store/sqlite/database_file.h"
 
 #include "base/native.h"
 

@@ -1,0 +1,181 @@
+#include "store/postgres/pg_database.h"
+
+#include "base/text.h"
+#include "store/postgres/pg_guard.h"
+#include "store/postgres/pg_statement.h"
+
+namespace znhost {
+
+std::unique_ptr<Database> PgDatabase::Open(const std::string& url, std::string& error, Access access) {
+    std::unique_ptr<PgDatabase> database(new PgDatabase(FromTcl(url), access));
+    std::string reason;
+    if (database->connection_.Connect(reason)) return database;
+    error = "cannot open the database \"" + database->connection_.Shown() + "\": " + reason;
+    return nullptr;
+}
+
+PgDatabase::PgDatabase(const std::string& url, Access access)
+    : Database(access), connection_(url, [this] { return AskWhyStop(); }), schema_(*this) {
+    connection_.SetReadOnly(access == Access::Read);
+}
+
+// The server itself refuses what would write.
+bool PgDatabase::Reopen(Access access, std::string& error) {
+    if (IsLent() || InTransaction()) {
+        error = "the database is in use";
+        return false;
+    }
+    connection_.SetReadOnly(access == Access::Read);
+    if (!connection_.ApplyAccess(error)) {
+        connection_.SetReadOnly(!MayChange());
+        return false;
+    }
+    SetAccess(access);
+    return true;
+}
+
+std::unique_ptr<EngineStatement> PgDatabase::Compile(const std::string& sql, std::string&) {
+    return std::make_unique<PgStatement>(connection_, sql);
+}
+
+bool PgDatabase::RunScript(const std::string& script, std::string& error) {
+    const bool wasInTransaction = InTransaction();
+    NoteRollback();
+    if (connection_.Run(FromTcl(script), error)) return true;
+    if (!wasInTransaction && InTransaction()) Undo(false);
+    return false;
+}
+
+const Dialect& PgDatabase::Sql() const {
+    static constexpr Dialect dialect{"BEGIN",
+                                     "znbrowser.",
+                                     "SELECT 1 FROM pg_class c JOIN pg_namespace n ON n.oid = c.relnamespace "
+                                     "WHERE n.nspname = 'znbrowser' AND c.relname = 'schema'",
+                                     "SELECT pg_advisory_xact_lock(hashtext('znbrowser'))",
+                                     true,
+                                     nullptr};
+    return dialect;
+}
+
+void PgDatabase::Undo(bool part) noexcept {
+    if (connection_.ForgetLostTransaction()) return;
+    if (!connection_.InTransaction()) return;
+    try {
+        std::string ignored;
+        connection_.Run(part ? "ROLLBACK TO znbrowser; RELEASE znbrowser" : "ROLLBACK", ignored);
+    } catch (const std::bad_alloc&) {
+        connection_.Close(); // the server undoes it then
+    }
+}
+
+// ---- What happened
+
+namespace {
+
+/// How many transactions the server is done with, whether this one has written, where names are looked for;
+/// and what the tables are like, unless the number is the one given.
+constexpr char stampSql[] =
+    "SELECT completed, written, path, CASE WHEN completed = ? AND NOT written THEN NULL ELSE concat_ws('/', "
+    "(SELECT concat(count(*), ' ', sum((c.xmin::text::bigint + 1) * (c.oid::bigint % 1009 + 1))) "
+    "FROM pg_class c WHERE c.oid >= 16384 AND c.relpersistence <> 't' AND c.relkind IN "
+    "('r','p','v','m','f')), "
+    "(SELECT concat(count(*), ' ', sum((a.xmin::text::bigint + 1) * (a.attrelid::bigint % 1009 + a.attnum))) "
+    "FROM pg_attribute a JOIN pg_class c ON c.oid = a.attrelid WHERE c.oid >= 16384 "
+    "AND c.relpersistence <> 't' AND c.relkind IN ('r','p','v','m','f') AND a.attnum > 0), "
+    "(SELECT concat(count(*), ' ', sum((k.xmin::text::bigint + 1) * (k.oid::bigint % 1009 + 1))) "
+    "FROM pg_constraint k WHERE k.oid >= 16384 AND k.contype IN ('p','f'))) END "
+    "FROM (SELECT CASE WHEN pg_is_in_recovery() THEN (pg_last_wal_replay_lsn() - '0/0')::bigint "
+    "ELSE pg_snapshot_xmax(s)::text::bigint - (SELECT count(*) FROM pg_snapshot_xip(s)) END AS completed, "
+    "pg_current_xact_id_if_assigned() IS NOT NULL AS written, "
+    "concat(current_user, ' ', current_schemas(false)) AS path FROM pg_current_snapshot() AS s) AS now";
+
+} // namespace
+
+/// @param fingerprint  "" when the tables are those of the last look
+void PgDatabase::NoteTables(std::string fingerprint) {
+    if (fingerprint.empty() || fingerprint == fingerprint_) return;
+    fingerprint_ = std::move(fingerprint);
+    ++schemaNumber_;
+}
+
+bool PgDatabase::AskStamp(Stamp& stamp, std::string& error) {
+    if (connection_.Generation() != seenGeneration_) completed_ = -1;
+    Statement now = Prepare(stampSql);
+    now.Bind(1, completed_);
+    if (now.Next()) {
+        completed_ = now.Integer(0);
+        const bool written = now.Integer(1) != 0;
+        if (path_ != now.Text(2)) {
+            path_ = now.Text(2);
+            ++schemaNumber_;
+        }
+        NoteTables(std::string(now.Text(3)));
+        if (written) ++looksInside_;
+        now.Next();
+    }
+    if (!now.Finish(error)) return false;
+    if (schema_.HasOtherServers()) ++looksAtOthers_;
+    stamp.schema = schemaNumber_;
+    stamp.rollbacks = Rollbacks() + connection_.RolledBack();
+    stamp.foreign = completed_ - ownTransactions_ + looksAtOthers_;
+    stamp.own = connection_.Changes() - ownChanges_ + looksInside_;
+    return true;
+}
+
+// One look at the server serves all questions of one command.
+bool PgDatabase::ReadStamp(Stamp& stamp, std::string& error) {
+    const std::uint64_t look = WhichLook();
+    if (seen_ && look != 0 && look == seenIn_ && seenChanges_ == connection_.Changes()) {
+        stamp = *seen_;
+        return true;
+    }
+    seen_.reset();
+    if (!AskStamp(stamp, error)) return false;
+    seen_ = stamp;
+    seenIn_ = look;
+    seenChanges_ = connection_.Changes();
+    seenGeneration_ = connection_.Generation();
+    return true;
+}
+
+// ---- Tables
+
+std::string PgDatabase::ListOf(const Table& table, const std::vector<std::int64_t>& rows) {
+    if (!table.keys) {
+        std::string list = "{";
+        for (const std::int64_t row : rows) list += (list.size() > 1 ? "," : "") + std::to_string(row);
+        return list + "}";
+    }
+    std::vector<std::string> keys;
+    for (const std::int64_t row : rows) {
+        const std::string& key = table.keys->KeyOf(row);
+        if (key.empty()) continue;
+        keys.push_back(table.keys->IsByPlace() ? PgElements(key).back() : key);
+    }
+    return PgArray(keys);
+}
+
+bool PgDatabase::ReadTables(Tables& tables, std::string& error) { return schema_.Read(tables, error); }
+
+bool PgDatabase::CopyRows(const Table& table, std::string& error) {
+    const bool inside = InTransaction();
+    const std::int64_t before = connection_.Changes();
+    const std::string sql =
+        FromTcl("DROP TABLE IF EXISTS " + table.rows + "; CREATE TEMP TABLE " + table.rows +
+                " AS SELECT row_number() OVER () AS " + table.key + ", * FROM " + table.original +
+                "; CREATE UNIQUE INDEX ON " + table.rows + " (" + table.key + "); ANALYZE " + table.rows);
+    const bool done = connection_.Run(inside ? "SAVEPOINT znbrowser; " + sql + "; RELEASE znbrowser"
+                                             : "BEGIN READ WRITE; " + sql + "; COMMIT",
+                                      error);
+    if (!done) Undo(inside);
+    if (!inside) ++ownTransactions_;
+    ownChanges_ += connection_.Changes() - before;
+    return done;
+}
+
+bool PgDatabase::CheckExpression(const Table& table, std::string_view code, int& parameters,
+                                 std::string& error) {
+    return CheckPgExpression(*this, table, code, parameters, error);
+}
+
+} // namespace znhost
