@@ -44,7 +44,7 @@ std::string RowInserts::SelectFor(DataCtrl& control, const Table& table) {
     }
     const std::string begin = "INSERT INTO " + Database::Quoted(table.name) + " (" + columns + ") VALUES (";
     return "SELECT " + Literal(begin) + " || " + values + " || ');' FROM " + table.rows + " WHERE " +
-           table.key + " = ?";
+           table.is;
 }
 
 bool RowInserts::Make(std::uint32_t index, std::string& line, std::string& error) {
@@ -56,10 +56,14 @@ bool RowInserts::Make(std::uint32_t index, std::string& line, std::string& error
     BaseSource* const base = source->BaseAt(place.slot);
     const Schema::TablePtr table = base ? base->Table() : nullptr;
     if (!table) return true;
+    if (table->IsOnServer()) {
+        error = "rows of a server are not written as SQL statements";
+        return false;
+    }
     const auto [known, isNew] = sources_.try_emplace(table.get());
     if (isNew) known->second = {table, SelectFor(base->Control(), *table)};
     Statement statement = base->Control().Db().Prepare(known->second.select);
-    statement.Bind(1, Value(place.row));
+    table->BindRow(statement, 1, place.row);
     if (statement.Next()) line = std::string(statement.Text(0)) + "\n";
     return statement.Finish(error);
 }

@@ -73,7 +73,7 @@ proc ::znbrowser::styleFor {n lead kinds} {
 proc ::znbrowser::elementsFor {n kind place} {
     upvar #0 ::znbrowser::window$n w
     # A button is a rectangle around a text; in a text that was found a rectangle is behind the part that matched.
-    set types [dict get {text text null text icon image disabled image check image button {rect text} image {}
+    set types [dict get {text text why text null text icon image disabled image check image button {rect text} image {}
         found {text rect text text}} $kind]
     set suffixes [expr {$kind eq "found" ? {{} Mark Match Rest} : {{} t}}]
     set names [lmap type $types suffix [lrange $suffixes 0 [llength $types]-1] {string cat $kind $place $suffix}]
@@ -111,6 +111,9 @@ proc ::znbrowser::layoutStyle {n style parts} {
             {^found\d+Mark$} {$w(tree) style layout $style $part -union [string map {Mark Match} $part]}
             {^found\d+Match$} {$w(tree) style layout $style $part -expand ns}
             {^found\d+Rest$} {$w(tree) style layout $style $part -padx {0 4} -expand ns -squeeze x}
+            {^why} {
+                $w(tree) style layout $style $part -padx 4 -expand nes -squeeze x ;# on the left, whatever the column does
+            }
             {^(text|null)} {$w(tree) style layout $style $part -padx 4 -expand ns -squeeze x}
             default {$w(tree) style layout $style $part -padx 3 -expand ns}
         }
@@ -194,8 +197,8 @@ proc ::znbrowser::drawContainer {n slot number inTree row} {
 proc ::znbrowser::drawNote {n slot text} {
     upvar #0 ::znbrowser::window$n w
     set column [wideColumn $n]
-    if {$w(locked)} {setStyle $n $slot [lindex $w(shown) 1] [styleFor $n {} text]}
-    $w(tree) item element configure $w(item,$slot) $column text[expr {$w(locked) ? 0 : 2}] -text "  [oneLine $text]" \
+    if {$w(locked)} {setStyle $n $slot [lindex $w(shown) 1] [styleFor $n {} why]}
+    $w(tree) item element configure $w(item,$slot) $column [expr {$w(locked) ? "why0" : "text2"}] -text "  [oneLine $text]" \
         -fill [fillOf $n [colour problem]]
 }
 
