@@ -43,9 +43,9 @@ proc ::znbrowser::visibleColumns {n} {
     upvar #0 ::znbrowser::window$n w
     if {[llength $w(shown)] <= 40} {return $w(shown)}
     set end [expr {[winfo width $w(tree)] + 200}]
-    set visible [lrange $w(shown) 0 $w(locked)-1]
-    lassign [$w(tree) column bbox $w(column,[lindex $w(shown) $w(locked)])] x
-    foreach number [lrange $w(shown) $w(locked) end] {
+    set visible [lrange $w(shown) 0 $w(locked)] ;# where what cannot be read says why
+    lassign [$w(tree) column bbox [wideColumn $n]] left top x
+    foreach number [lrange $w(shown) $w(locked)+1 end] {
         set next [expr {$x + $w(width,$number)}]
         if {$next > -200 && $x < $end} {lappend visible $number}
         set x $next
