@@ -5,7 +5,7 @@ find_package(CLI11 REQUIRED)
 find_package(GTest REQUIRED)
 find_package(benchmark REQUIRED)
 if(ZN_POSTGRES)
-    pkg_check_modules(PQ REQUIRED IMPORTED_TARGET libpq)
+    pkg_check_modules(PQ REQUIRED libpq)
 endif()
 pkg_check_modules(EDIT REQUIRED IMPORTED_TARGET libedit)
 

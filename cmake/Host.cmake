@@ -44,7 +44,8 @@ if(sources)
     target_link_libraries(znbrowserhost PUBLIC zn_headers PRIVATE zn_tcl_stubs sqlite3)
     if(ZN_POSTGRES)
         target_compile_definitions(znbrowserhost PRIVATE ZN_POSTGRES)
-        target_link_libraries(znbrowserhost PRIVATE PkgConfig::PQ)
+        target_include_directories(znbrowserhost SYSTEM PRIVATE ${PQ_INCLUDE_DIRS})
+        target_link_libraries(znbrowserhost PRIVATE ${CMAKE_DL_LIBS}) # libpq is loaded when it is needed
     endif()
 
     # The same for others: one public class.

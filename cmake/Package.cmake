@@ -62,6 +62,7 @@ set(version "${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}")
 set(layer "libznbrowserscripting${abi} (= ${version})")
 set(host "libznbrowserhost${abi} (= ${version})")
 set(windows "tk8.6, tktreectrl")
+set(servers "libpq5")
 set(about "A model browser shows the objects of an application as trees and lists.
 Scripts build and drive it with one Tcl command, znbrowsermanager.
 .
@@ -71,7 +72,7 @@ zn_package(library libznbrowserscripting${abi} libs "scripting layer of a model 
     "${about}The layer reaches the model through interfaces that the application implements.")
 zn_package(host libznbrowserhost${abi} libs "model browser on SQLite databases"
     "${about}This library brings the model along: any SQLite database."
-    DEPENDS "${layer}" RECOMMENDS "${windows}")
+    DEPENDS "${layer}" RECOMMENDS "${windows}, ${servers}")
 zn_package_library(library libznbrowserscripting${abi} libznBrowserScripting)
 zn_package_library(host libznbrowserhost${abi} libznBrowserHost)
 zn_package(development libznbrowserscripting-dev libdevel "scripting layer of a model browser (development)"
@@ -79,7 +80,7 @@ zn_package(development libznbrowserscripting-dev libdevel "scripting layer of a 
     DEPENDS "${layer}, ${host}" RECOMMENDS tcl8.6-dev)
 zn_package(program znbrowsersh interpreters "Tcl shell with a model browser on SQLite databases"
     "${about}The shell runs such scripts, and opens a window on any SQLite database."
-    DEPENDS "${layer}" RECOMMENDS "${windows}")
+    DEPENDS "${layer}" RECOMMENDS "${windows}, ${servers}")
 zn_package(tclpackage tcl-znbrowser interpreters "model browser on SQLite databases (Tcl package)"
     "${about}With this package any Tcl 8.6 has the command, and any Tk 8.6 its windows."
     DEPENDS "${host}, tcl8.6" RECOMMENDS "${windows}")

@@ -2,6 +2,8 @@
 #ifndef ZN_HOST_LONG_WORK_H
 #define ZN_HOST_LONG_WORK_H
 
+#include <cstdint>
+
 namespace znhost {
 
 /// Decides whether long work continues. Whatever may take long asks it at short intervals.
@@ -11,6 +13,8 @@ public:
     virtual bool GoesOn() = 0;
     /// False: the time granted for the work has run out; it stops with what it has.
     virtual bool HasTime() = 0;
+    /// So many more rows have been read for it: what is told to who waits.
+    virtual void Did(std::uint64_t rows) = 0;
 
 protected:
     ~LongWork() = default;

@@ -18,6 +18,10 @@ std::string_view HostServices::WhyStop() const {
     return work_ && !work_->HasTime() ? tooLong : std::string_view();
 }
 
+void HostServices::NoteRead(std::uint64_t rows) const {
+    if (work_) work_->Did(rows);
+}
+
 HostServices::Hurry::Hurry(HostServices& services, std::chrono::milliseconds time)
     : services_(services), outer_(services.until_) {
     services.until_ = std::min(outer_, std::chrono::steady_clock::now() + time);

@@ -32,6 +32,8 @@ public:
     std::string_view WhyStop() const;
     /// What `WhyStop` answers when the time for it is over: it may be tried again with more time.
     static constexpr std::string_view tooLong = "it takes too long";
+    /// So many more rows have been read for what is under way.
+    void NoteRead(std::uint64_t rows) const;
     /// Stops what is under way and, until `Resume`, all that follows. For signal handlers and other threads.
     void Interrupt() noexcept { interrupted_ = true; }
     void Resume() noexcept { interrupted_ = false; }

@@ -19,7 +19,10 @@ std::shared_ptr<DataCtrl> DataCtrl::Open(Browser& model, const std::string& name
 DataCtrl::DataCtrl(Browser& model, std::string name, std::unique_ptr<Database> database)
     : HostObject(model.Log()), model_(model), name_(std::move(name)), database_(std::move(database)),
       schema_(*database_), copies_(*database_), journal_(*database_) {
-    database_->SetWhyStop([this] { return Services().WhyStop(); });
+    database_->SetWhyStop([this] {
+        Services().NoteRead(database_->TakeRowsRead());
+        return Services().WhyStop();
+    });
     database_->SetWhichLook([this] { return Services().Look(); });
 }
 

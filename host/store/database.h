@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace znhost {
@@ -153,6 +154,8 @@ public:
     /// the lock of another connection: a statement that is to stop fails with that text. What is asked must
     /// not use the database.
     void SetWhyStop(WhyStop whyStop) { whyStop_ = std::move(whyStop); }
+    /// How many rows statements have given since this was asked last.
+    std::uint64_t TakeRowsRead() { return std::exchange(rowsRead_, 0); }
     /// Whether a failure with this text may pass by itself: others use the database at present.
     virtual bool MayPass(std::string_view error) const = 0;
     /// Whether a failure with this text comes again, after as long a wait, as long as nothing changed: it
@@ -203,6 +206,7 @@ private:
     std::size_t lent_ = 0;
     std::int64_t rollbacks_ = 0;
     std::int64_t disregarded_ = 0;
+    std::uint64_t rowsRead_ = 0;
     WhyStop whyStop_;
     std::function<std::uint64_t()> whichLook_;
 };

@@ -74,7 +74,10 @@ void Statement::Bind(int position, const Value& value) {
 bool Statement::Next() {
     if (failed_ || finished_) return false;
     const EngineStatement::Step step = engine_->Next();
-    if (step == EngineStatement::Step::Row) return true;
+    if (step == EngineStatement::Step::Row) {
+        ++owner_->rowsRead_;
+        return true;
+    }
     finished_ = true;
     Check(step == EngineStatement::Step::Done);
     return false;

@@ -1,14 +1,17 @@
-# What is seen while the host works for longer than a moment: how long it has taken, and a way to cancel.
+# What is seen while the host works for longer than a moment: how long it has taken, how many rows it has read, and a way
+# to cancel.
 
 # The panel with its button, for scripts and tests.
 proc ::znbrowser::progressPanel {name} {return [set ::znbrowser::window[number $name](path)].progress}
 
-proc ::znbrowser::showProgress {n milliseconds} {
+proc ::znbrowser::showProgress {n milliseconds rows} {
     upvar #0 ::znbrowser::window$n w
     if {![info exists w(path)] || ![winfo exists $w(path)]} return
     set panel $w(path).progress
     if {![winfo exists $panel]} {makeProgress $n $panel}
-    $panel.text configure -text [format "Working … %.1f s" [expr {$milliseconds / 1000.0}]]
+    set text [format "Working … %.1f s" [expr {$milliseconds / 1000.0}]]
+    if {$rows} {append text ", [grouped $rows] rows"}
+    $panel.text configure -text $text
     $panel.bar configure -value [expr {$milliseconds / 20 % 100}]
 }
 
@@ -17,7 +20,7 @@ proc ::znbrowser::showProgress {n milliseconds} {
 proc ::znbrowser::makeProgress {n panel} {
     upvar #0 ::znbrowser::window$n w
     ttk::frame $panel -style Panel.TFrame -padding {18 14}
-    ttk::label $panel.text -style Panel.TLabel -width 18
+    ttk::label $panel.text -style Panel.TLabel -width 32
     ttk::progressbar $panel.bar -mode indeterminate -length 180 -style Browser.Horizontal.TProgressbar
     ttk::button $panel.cancel -text "Cancel" -style Tool.TButton -takefocus 0 -command [list ::znbrowser::host cancel]
     bind $panel <Escape> [list $panel.cancel invoke]
@@ -31,7 +34,7 @@ proc ::znbrowser::makeProgress {n panel} {
     focus $panel
 }
 
-proc ::znbrowser::hideProgress {n milliseconds} {
+proc ::znbrowser::hideProgress {n args} {
     upvar #0 ::znbrowser::window$n w
     if {![info exists w(path)] || ![winfo exists $w(path).progress]} return
     grab release $w(path).progress

@@ -103,6 +103,7 @@ void TkWork::Begin(int window, Panel panel) {
     panel_ = panel;
     begun_ = served_ = Clock::now();
     until_ = Clock::time_point::max();
+    rows_ = 0;
     cancelled_ = false;
 }
 
@@ -178,8 +179,8 @@ void TkWork::Call(const char* procedure) const {
     const Tcl_InterpState state = Tcl_SaveInterpState(interp_, TCL_OK);
     const auto milliseconds =
         std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - begun_).count();
-    const std::string script =
-        std::string(procedure) + ' ' + std::to_string(window_) + ' ' + std::to_string(milliseconds);
+    const std::string script = std::string(procedure) + ' ' + std::to_string(window_) + ' ' +
+                               std::to_string(milliseconds) + ' ' + std::to_string(rows_);
     if (Tcl_EvalEx(interp_, script.c_str(), -1, TCL_EVAL_GLOBAL) != TCL_OK)
         Tcl_BackgroundException(interp_, TCL_ERROR);
     Tcl_RestoreInterpState(interp_, state);

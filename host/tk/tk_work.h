@@ -16,7 +16,7 @@ namespace znhost {
 /// What commands of the manager answer while the display is served: an error.
 int AnswerBusy(void* data, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]);
 
-/// Shows that the host works, and a way to cancel, in the window for which it does. The display is served
+/// Shows that the host works, how far it is, and a way to cancel, in the window for which it does. The display is served
 /// meanwhile, but the manager's command answers nothing but an error: the work must find what it works on.
 /// For the same reason `exit` waits, for the moment that the work takes to stop.
 class TkWork final : public LongWork {
@@ -61,6 +61,7 @@ public:
 
     bool GoesOn() override;
     bool HasTime() override;
+    void Did(std::uint64_t rows) override { rows_ += rows; }
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -80,6 +81,7 @@ private:
     Clock::time_point begun_;
     Clock::time_point served_;
     Clock::time_point until_ = Clock::time_point::max();
+    std::uint64_t rows_ = 0; ///< read since it began
     bool cancelled_ = false;
     bool shown_ = false;
     bool serving_ = false;

@@ -135,6 +135,7 @@ proc plantAll {root tree sources faults} {
 # Configures and builds the copy; takes the faults out that do not compile. Returns the rest.
 proc build {root copy sources faults} {
     set tree [file join $copy tree]
+    set ::env(CCACHE_BASEDIR) "" ;# the compiler's messages are to name files in full
     set header [file join $copy planted.h]
     writeFile $header [readFile [file join [file dirname [file normalize [info script]]] planted.h]]
     plantAll $root $tree $sources $faults

@@ -1,10 +1,10 @@
 #include "store/postgres/pg_connection.h"
 
 #include "base/text.h"
+#include "store/postgres/libpq.h"
 
 #include <algorithm>
 #include <charconv>
-#include <libpq-fe.h>
 #include <poll.h>
 #include <utility>
 
@@ -35,7 +35,7 @@ int NumberOf(std::string_view text) {
 }
 
 std::string FieldOf(const PGresult* result, int field) {
-    const char* const text = PQresultErrorField(result, field);
+    const char* const text = Pq().PQresultErrorField(result, field);
     return text ? text : "";
 }
 
@@ -43,13 +43,13 @@ std::string FieldOf(const PGresult* result, int field) {
 std::string ReasonOf(const PGresult* result) {
     std::string reason = FieldOf(result, PG_DIAG_MESSAGE_PRIMARY);
     const std::string detail = FieldOf(result, PG_DIAG_MESSAGE_DETAIL);
-    if (reason.empty()) reason = FirstLine(PQresultErrorMessage(result));
+    if (reason.empty()) reason = FirstLine(Pq().PQresultErrorMessage(result));
     if (!detail.empty()) reason += ": " + detail;
     return ToTcl(reason);
 }
 
 struct FreeOptions {
-    void operator()(PQconninfoOption* options) const { PQconninfoFree(options); }
+    void operator()(PQconninfoOption* options) const { Pq().PQconninfoFree(options); }
 };
 using Options = std::unique_ptr<PQconninfoOption, FreeOptions>;
 
@@ -77,14 +77,16 @@ bool IsChange(std::string_view status) {
 
 } // namespace
 
-void EndPgConnection::operator()(pg_conn* connection) const { PQfinish(connection); }
+void EndPgConnection::operator()(pg_conn* connection) const { Pq().PQfinish(connection); }
 
-void ClearPgResult::operator()(pg_result* result) const { PQclear(result); }
+void ClearPgResult::operator()(pg_result* result) const { Pq().PQclear(result); }
 
 // ---- Connecting
 
 std::string PgConnection::Shown() const {
-    const Options options(PQconninfoParse(url_.c_str(), nullptr));
+    std::string reason;
+    if (!LibPq::Load(reason)) return "postgresql://";
+    const Options options(Pq().PQconninfoParse(url_.c_str(), nullptr));
     std::string shown = "postgresql://";
     const std::string user = ValueOf(options, "user");
     const std::string port = ValueOf(options, "port");
@@ -98,7 +100,7 @@ bool PgConnection::IsLoss(std::string_view reason) {
     return reason.substr(0, lost.size()) == lost || reason.substr(0, unreachable.size()) == unreachable;
 }
 
-std::string PgConnection::Reason() const { return ToTcl(FirstLine(PQerrorMessage(connection_.get()))); }
+std::string PgConnection::Reason() const { return ToTcl(FirstLine(Pq().PQerrorMessage(connection_.get()))); }
 
 bool PgConnection::Connect(std::string& reason) {
     if (connection_) return true;
@@ -114,14 +116,15 @@ bool PgConnection::Connect(std::string& reason) {
 }
 
 bool PgConnection::ConnectAnew(std::string& reason) {
-    const Options options(PQconninfoParse(url_.c_str(), nullptr));
+    if (!LibPq::Load(reason)) return false;
+    const Options options(Pq().PQconninfoParse(url_.c_str(), nullptr));
     if (!options) { // libpq would tell with parts of the text, perhaps the password
         reason = "the connection string is not of the form postgresql://USER@HOST:PORT/DATABASE?KEY=VALUE";
         return false;
     }
     const char* const keywords[] = {"fallback_application_name", "dbname", "client_encoding", nullptr};
     const char* const values[] = {"znbrowser", url_.c_str(), "UTF8", nullptr};
-    connection_.reset(PQconnectStartParams(keywords, values, 1));
+    connection_.reset(Pq().PQconnectStartParams(keywords, values, 1));
     kept_.clear();
     asked_ = false;
     reader_ = nullptr;
@@ -134,11 +137,11 @@ bool PgConnection::ConnectAnew(std::string& reason) {
 }
 
 bool PgConnection::AwaitConnection(std::string& reason) {
-    const Options used(PQconninfo(connection_.get()));
+    const Options used(Pq().PQconninfo(connection_.get()));
     const int given = NumberOf(ValueOf(used, "connect_timeout"));
     const auto deadline = Clock::now() + (given > 0 ? std::chrono::seconds(given) : timeToConnect);
     PostgresPollingStatusType next = PGRES_POLLING_WRITING;
-    while (PQstatus(connection_.get()) != CONNECTION_BAD && next != PGRES_POLLING_OK) {
+    while (Pq().PQstatus(connection_.get()) != CONNECTION_BAD && next != PGRES_POLLING_OK) {
         const std::string_view stop = whyStop_();
         if (!stop.empty()) {
             reason = stop;
@@ -149,25 +152,26 @@ bool PgConnection::AwaitConnection(std::string& reason) {
             return false;
         }
         if (WaitFor(next == PGRES_POLLING_READING ? POLLIN : POLLOUT, pauseBetweenQuestions))
-            next = PQconnectPoll(connection_.get());
+            next = Pq().PQconnectPoll(connection_.get());
         if (next == PGRES_POLLING_FAILED) break;
     }
-    if (PQstatus(connection_.get()) == CONNECTION_OK) return true;
+    if (Pq().PQstatus(connection_.get()) == CONNECTION_OK) return true;
     reason = std::string(unreachable) + ": " + Reason();
     return false;
 }
 
 bool PgConnection::SetUp(std::string& reason) {
-    if (PQserverVersion(connection_.get()) < oldestServer) {
-        reason = "the server is of version " + std::to_string(PQserverVersion(connection_.get()) / 10000) +
+    if (Pq().PQserverVersion(connection_.get()) < oldestServer) {
+        reason = "the server is of version " +
+                 std::to_string(Pq().PQserverVersion(connection_.get()) / 10000) +
                  "; it must be of version 13 or later";
         return false;
     }
-    PQsetNoticeReceiver(
+    Pq().PQsetNoticeReceiver(
         connection_.get(),
         [](void* self, const PGresult* notice) { static_cast<PgConnection*>(self)->TakeNotice(notice); },
         this);
-    PQsetnonblocking(connection_.get(), 1);
+    Pq().PQsetnonblocking(connection_.get(), 1);
     // Values are written so that they read back as the same. Somebody waits for the answers: to compile a
     // statement would take longer than most of them.
     return Run("SET jit = off; SET datestyle = 'ISO, YMD'; SET intervalstyle = 'postgres'; SET "
@@ -193,7 +197,7 @@ void PgConnection::TakeNotice(const pg_result* notice) noexcept {
 }
 
 bool PgConnection::WaitFor(short events, int milliseconds) const {
-    pollfd waiting{PQsocket(connection_.get()), events, 0};
+    pollfd waiting{Pq().PQsocket(connection_.get()), events, 0};
     return poll(&waiting, 1, milliseconds) > 0;
 }
 
@@ -238,12 +242,12 @@ bool PgConnection::Ask(Reader& reader, const std::string& sql, const Parameters&
                        std::string& reason) {
     if (!Begin(&reader, reason)) return false;
     const std::vector<const char*> values = Pointers(parameters);
-    if (!Sent(PQsendQueryParams(connection_.get(), sql.c_str(), static_cast<int>(values.size()), nullptr,
-                                values.data(), nullptr, nullptr, 0),
+    if (!Sent(Pq().PQsendQueryParams(connection_.get(), sql.c_str(), static_cast<int>(values.size()), nullptr,
+                                     values.data(), nullptr, nullptr, 0),
               reason)) {
         return false;
     }
-    PQsetSingleRowMode(connection_.get());
+    Pq().PQsetSingleRowMode(connection_.get());
     return true;
 }
 
@@ -253,19 +257,19 @@ bool PgConnection::AskKept(Reader& reader, std::uint64_t number, const std::stri
     const bool isKept = std::binary_search(kept_.begin(), kept_.end(), number);
     if (!isKept && !Prepare(number, sql, reason)) return false;
     const std::vector<const char*> values = Pointers(parameters);
-    if (!Sent(PQsendQueryPrepared(connection_.get(), NameOf(number).c_str(), static_cast<int>(values.size()),
-                                  values.data(), nullptr, nullptr, 0),
+    if (!Sent(Pq().PQsendQueryPrepared(connection_.get(), NameOf(number).c_str(),
+                                       static_cast<int>(values.size()), values.data(), nullptr, nullptr, 0),
               reason)) {
         return false;
     }
-    PQsetSingleRowMode(connection_.get());
+    Pq().PQsetSingleRowMode(connection_.get());
     return true;
 }
 
 bool PgConnection::Prepare(std::uint64_t number, const std::string& sql, std::string& reason) {
     ++roundTrips_;
     Reader* const reader = reader_;
-    if (!Sent(PQsendPrepare(connection_.get(), NameOf(number).c_str(), sql.c_str(), 0, nullptr), reason))
+    if (!Sent(Pq().PQsendPrepare(connection_.get(), NameOf(number).c_str(), sql.c_str(), 0, nullptr), reason))
         return false;
     if (!Next(reason)) return false;
     reader_ = reader;
@@ -274,7 +278,7 @@ bool PgConnection::Prepare(std::uint64_t number, const std::string& sql, std::st
 }
 
 bool PgConnection::Run(const std::string& script, std::string& reason) {
-    if (!Begin(nullptr, reason) || !Sent(PQsendQuery(connection_.get(), script.c_str()), reason))
+    if (!Begin(nullptr, reason) || !Sent(Pq().PQsendQuery(connection_.get(), script.c_str()), reason))
         return false;
     while (asked_) {
         if (!Next(reason)) return false;
@@ -293,18 +297,18 @@ bool PgConnection::Await(std::string& reason) {
             Stop();
             return false;
         }
-        const int unsent = PQflush(connection_.get());
+        const int unsent = Pq().PQflush(connection_.get());
         if (unsent < 0) return Lose(reason);
-        if (unsent == 0 && !PQisBusy(connection_.get())) return true;
+        if (unsent == 0 && !Pq().PQisBusy(connection_.get())) return true;
         ask = !WaitFor(static_cast<short>(unsent > 0 ? POLLIN | POLLOUT : POLLIN), pauseBetweenQuestions);
-        if (!ask && !PQconsumeInput(connection_.get())) return Lose(reason);
+        if (!ask && !Pq().PQconsumeInput(connection_.get())) return Lose(reason);
     }
 }
 
 PgResult PgConnection::Failed(PgResult result, std::string& reason) {
-    const ExecStatusType status = PQresultStatus(result.get());
+    const ExecStatusType status = Pq().PQresultStatus(result.get());
     if (status == PGRES_COPY_IN) {
-        PQputCopyEnd(connection_.get(), "the browser has no data for it");
+        Pq().PQputCopyEnd(connection_.get(), "the browser has no data for it");
         reason = "COPY cannot read from the browser";
     } else if (status == PGRES_COPY_OUT || status == PGRES_COPY_BOTH) {
         Stop();
@@ -321,9 +325,9 @@ PgResult PgConnection::Next(std::string& reason) {
     PgResult last;
     for (;;) {
         if (!Await(reason)) return nullptr;
-        PgResult result(PQgetResult(connection_.get()));
+        PgResult result(Pq().PQgetResult(connection_.get()));
         if (!result) break;
-        const ExecStatusType status = PQresultStatus(result.get());
+        const ExecStatusType status = Pq().PQresultStatus(result.get());
         if (status == PGRES_SINGLE_TUPLE) return result;
         if (status == PGRES_EMPTY_QUERY) continue;
         if (status != PGRES_TUPLES_OK && status != PGRES_COMMAND_OK) return Failed(std::move(result), reason);
@@ -340,11 +344,11 @@ PgResult PgConnection::Next(std::string& reason) {
 }
 
 void PgConnection::NoteDone(pg_result* result) {
-    const std::string_view status = PQcmdStatus(result);
+    const std::string_view status = Pq().PQcmdStatus(result);
     if (IsChange(status)) ++changes_;
     if (status == "ROLLBACK") ++rolledBack_;
     for (const std::string_view change : {"INSERT", "UPDATE", "DELETE", "MERGE"}) {
-        if (status.substr(0, change.size()) == change) rowsChanged_ += NumberOf(PQcmdTuples(result));
+        if (status.substr(0, change.size()) == change) rowsChanged_ += NumberOf(Pq().PQcmdTuples(result));
     }
 }
 
@@ -352,7 +356,7 @@ void PgConnection::NoteDone(pg_result* result) {
 void PgConnection::NoteStatus() {
     asked_ = false;
     reader_ = nullptr;
-    const PGTransactionStatusType status = PQtransactionStatus(connection_.get());
+    const PGTransactionStatusType status = Pq().PQtransactionStatus(connection_.get());
     inTransaction_ = status == PQTRANS_INTRANS || status == PQTRANS_INERROR;
 }
 
@@ -362,17 +366,17 @@ void PgConnection::NoteStatus() {
 bool PgConnection::Drain(std::chrono::milliseconds time) noexcept {
     const auto deadline = Clock::now() + time;
     for (;;) {
-        if (PQflush(connection_.get()) < 0 || Clock::now() > deadline) return false;
-        while (PQisBusy(connection_.get())) {
+        if (Pq().PQflush(connection_.get()) < 0 || Clock::now() > deadline) return false;
+        while (Pq().PQisBusy(connection_.get())) {
             if (Clock::now() > deadline) return false;
-            if (WaitFor(POLLIN, pauseBetweenQuestions) && !PQconsumeInput(connection_.get())) break;
+            if (WaitFor(POLLIN, pauseBetweenQuestions) && !Pq().PQconsumeInput(connection_.get())) break;
         }
-        const PgResult result(PQgetResult(connection_.get()));
+        const PgResult result(Pq().PQgetResult(connection_.get()));
         if (!result) break;
-        const ExecStatusType status = PQresultStatus(result.get());
+        const ExecStatusType status = Pq().PQresultStatus(result.get());
         if (status == PGRES_COPY_OUT || status == PGRES_COPY_BOTH) return false;
     }
-    if (PQstatus(connection_.get()) == CONNECTION_BAD) return false;
+    if (Pq().PQstatus(connection_.get()) == CONNECTION_BAD) return false;
     NoteStatus();
     return true;
 }
@@ -380,9 +384,9 @@ bool PgConnection::Drain(std::chrono::milliseconds time) noexcept {
 void PgConnection::Stop() noexcept {
     if (!connection_ || !asked_) return;
     char ignored[256];
-    PGcancel* const cancel = PQgetCancel(connection_.get());
-    if (cancel) PQcancel(cancel, ignored, sizeof ignored);
-    PQfreeCancel(cancel);
+    PGcancel* const cancel = Pq().PQgetCancel(connection_.get());
+    if (cancel) Pq().PQcancel(cancel, ignored, sizeof ignored);
+    Pq().PQfreeCancel(cancel);
     ++changes_; // it may have done a part
     if (Drain(timeToStop)) return;
     transactionLost_ = transactionLost_ || inTransaction_;

@@ -1,7 +1,8 @@
 #include "store/postgres/pg_statement.h"
 
+#include "store/postgres/libpq.h"
+
 #include <charconv>
-#include <libpq-fe.h>
 
 namespace znhost {
 
@@ -99,7 +100,7 @@ EngineStatement::Step PgStatement::Next() {
         row_ = connection_.Next(reason_);
         if (!row_) return Fail();
     }
-    if (PQntuples(row_.get()) == 1) return Step::Row;
+    if (Pq().PQntuples(row_.get()) == 1) return Step::Row;
     row_.reset();
     state_ = State::Ended;
     return Step::Done;
@@ -110,8 +111,8 @@ void PgStatement::ReadRest() noexcept {
         while (state_ == State::Reading) {
             PgResult row = connection_.Next(reason_);
             restFailed_ = !row;
-            if (!row || PQntuples(row.get()) != 1) state_ = State::Ended;
-            if (row && PQntuples(row.get()) == 1) rest_.push_back(std::move(row));
+            if (!row || Pq().PQntuples(row.get()) != 1) state_ = State::Ended;
+            if (row && Pq().PQntuples(row.get()) == 1) rest_.push_back(std::move(row));
         }
     } catch (const std::bad_alloc&) {
         connection_.Stop();
@@ -136,14 +137,15 @@ void PgStatement::Clear() {
 // ---- The present row
 
 bool PgStatement::HasColumn(int column) const {
-    return row_ && column >= 0 && column < PQnfields(row_.get()) && !PQgetisnull(row_.get(), 0, column);
+    return row_ && column >= 0 && column < Pq().PQnfields(row_.get()) &&
+           !Pq().PQgetisnull(row_.get(), 0, column);
 }
 
-int PgStatement::ColumnCount() const { return row_ ? PQnfields(row_.get()) : 0; }
+int PgStatement::ColumnCount() const { return row_ ? Pq().PQnfields(row_.get()) : 0; }
 
 EngineStatement::Kind PgStatement::KindOf(int column) const {
     if (!HasColumn(column)) return Kind::Null;
-    switch (PQftype(row_.get(), column)) {
+    switch (Pq().PQftype(row_.get(), column)) {
     case BOOLEAN:
     case BIGINT:
     case SMALLINT:
@@ -159,9 +161,9 @@ EngineStatement::Kind PgStatement::KindOf(int column) const {
 // Booleans read as in every other database of the host.
 std::string_view PgStatement::Bytes(int column) const {
     if (!HasColumn(column)) return "";
-    const std::string_view bytes(PQgetvalue(row_.get(), 0, column),
-                                 static_cast<std::size_t>(PQgetlength(row_.get(), 0, column)));
-    if (PQftype(row_.get(), column) == BOOLEAN) return bytes == "t" ? "1" : "0";
+    const std::string_view bytes(Pq().PQgetvalue(row_.get(), 0, column),
+                                 static_cast<std::size_t>(Pq().PQgetlength(row_.get(), 0, column)));
+    if (Pq().PQftype(row_.get(), column) == BOOLEAN) return bytes == "t" ? "1" : "0";
     return bytes;
 }
 
