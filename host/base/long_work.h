@@ -14,7 +14,7 @@ public:
     /// False: the time granted for the work has run out; it stops with what it has.
     virtual bool HasTime() = 0;
     /// So many more rows have been read for it: what is told to who waits.
-    virtual void Did(std::uint64_t rows) = 0;
+    virtual void Did(std::uint64_t /*rows*/) {}
 
 protected:
     ~LongWork() = default;

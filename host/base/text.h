@@ -20,6 +20,8 @@ std::string_view FromTcl(std::string_view text, std::string& storage);
 std::string_view ToTcl(std::string_view text, std::string& storage);
 std::string FromTcl(std::string_view text);
 std::string ToTcl(std::string_view text);
+/// Whether the text, in Tcl's form, holds a NUL character.
+inline bool HoldsNul(std::string_view text) { return text.find("\xC0\x80") != text.npos; }
 
 // ---- Texts in Tcl's form ----
 

@@ -61,6 +61,8 @@ struct RowCondition {
     std::string value;
     /// Never changes the model, may be slow, does not throw. NUL may occur inside the text.
     std::function<bool(std::string_view text)> accept;
+    /// What each text that `accept` takes holds, letter case aside; "" for nothing known.
+    std::string holds;
     /// May be given beside `accept`: all that it takes, for an index to find.
     std::shared_ptr<const WantedValues> wanted;
 };
@@ -97,6 +99,8 @@ struct RowScan {
     std::vector<znIBrowserDataProperty*> properties;
     /// Takes the text of a value of `properties[place]`; an item without a value there is not asked about.
     std::function<bool(std::size_t place, std::string_view text)> accept;
+    /// What each text that is taken holds, letter case aside; "" for nothing known.
+    std::string holds;
     /// Only these rows are looked at; null: all.
     const RowSet* among = nullptr;
 

@@ -52,6 +52,7 @@ FilterMatches::Known& FilterMatches::Find(RowSource& source, const TextFilter& f
     options.matchWord = filter.matchWord;
     options.glob = true;
     const auto matcher = std::make_shared<TextMatcher>(filter.pattern, options);
+    known.scan.holds = matcher->Held();
     known.scan.accept = [matcher](std::size_t, std::string_view text) { return matcher->Matches(text); };
     results.push_front(std::move(known));
     if (results.size() > mostKept) results.pop_back();

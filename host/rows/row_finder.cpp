@@ -49,6 +49,7 @@ bool MakeCondition(const znBrowserCriterion& criterion, ZNBROWSER_DATA_TYPE type
     options.regexp = criterion.useregexp;
     const auto matcher = std::make_shared<TextMatcher>(criterion.value.View(), options);
     error = matcher->GetError();
+    condition.holds = matcher->Held();
     condition.accept = [matcher](std::string_view text) { return matcher->Matches(text); };
     return error.empty();
 }

@@ -41,6 +41,7 @@ RowCondition RowPlan::ConditionFor(const ColumnFilter& filter, znIBrowserDataPro
     if (filter.kind == Kind::Equals) condition.compare = RowCondition::Compare::Equal;
     if (filter.kind != Kind::Contains) return condition;
     const auto matcher = std::make_shared<TextMatcher>(filter.value, TextMatcher::Options());
+    condition.holds = matcher->Held();
     condition.accept = [matcher](std::string_view text) { return matcher->Matches(text); };
     return condition;
 }

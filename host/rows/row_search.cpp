@@ -76,6 +76,7 @@ std::pair<std::string, std::size_t> TakeStep(const std::string& step) {
 /// The rows of a block with that text, in the order of the source.
 std::vector<std::int64_t> RowModel::Named(const RowContent& block, const std::string& name) const {
     RowCondition condition;
+    condition.holds = Fold(name);
     condition.accept = [&name](std::string_view text) { return text == name; };
     return plan_.ListFulfilling(block, condition);
 }

@@ -3,6 +3,7 @@
 #include "base/tcl_values.h"
 #include "base/text.h"
 
+#include <algorithm>
 #include <tcl.h>
 
 namespace znhost {
@@ -79,6 +80,17 @@ bool TextMatcher::Matches(std::string_view text) const {
     if (!options_.matchCase) text = Fold(text, folded_);
     if (options_.glob) return MatchesGlob(text, pattern_);
     return FindPlain(text);
+}
+
+std::string TextMatcher::Held() const {
+    if (options_.regexp) return {};
+    std::string_view longest;
+    for (std::string_view rest = pattern_; !rest.empty();) {
+        const std::size_t end = options_.glob ? std::min(rest.find_first_of("*?"), rest.size()) : rest.size();
+        if (end > longest.size()) longest = rest.substr(0, end);
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return Fold(longest);
 }
 
 bool TextMatcher::FindPlain(std::string_view text) const {

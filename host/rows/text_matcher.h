@@ -26,6 +26,8 @@ public:
     /// Empty; or why the pattern, a regular expression, cannot be used. It matches nothing then.
     const std::string& GetError() const { return error_; }
     bool Matches(std::string_view text) const;
+    /// What each text that matches holds, letter case aside; "" for nothing known.
+    std::string Held() const;
 
 private:
     struct Release {

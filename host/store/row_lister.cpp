@@ -5,7 +5,6 @@
 #include "host/znBrowserDataItems.h"
 #include "host/znIBrowserDataProperty.h"
 #include "model/view.h"
-#include "store/asked_rows.h"
 #include "store/data_ctrl.h"
 #include "store/link_reader.h"
 
@@ -42,9 +41,6 @@ Value KeyOf(Value value) {
     if (std::string* const text = std::get_if<std::string>(&value)) *text = Fold(*text);
     return value;
 }
-
-/// Columns of a statement that list a field of each of them.
-constexpr int noPlace = -1;
 
 /// Up to so many rows are looked up one by one rather than found on the way through the table.
 constexpr std::size_t mostLookups = 20000;
@@ -141,6 +137,7 @@ RowLister::PartReading RowLister::ReadingOf(const RowPart& part) const {
             ", " + (isRowNumber ? part.table->key : Database::Quoted(part.table->columns[*column].name));
     }
     if (query_.link) reading.condition = LinkReader(*query_.link).TopCondition(part, reading.values);
+    if (part.table->IsOnServer()) LetServerChoose(part, reading);
     return reading;
 }
 
@@ -191,27 +188,6 @@ bool RowLister::ReadAmong(const RowPart& part, const PartReading& reading, std::
     return statement.Finish(error) || source_.FailToRead(error);
 }
 
-/// The same with one question.
-bool RowLister::ReadAmongTogether(const RowPart& part, const PartReading& reading,
-                                  std::vector<std::int64_t>& rows) {
-    std::vector<std::int64_t> asked;
-    query_.among->ForEach([&](std::int64_t row) {
-        const RowPlace place = source_.PlaceOf(row);
-        if (place.slot == part.slot) asked.push_back(place.row);
-    });
-    if (asked.empty()) return true;
-    Database& database = source_.Control().Db();
-    const std::string condition =
-        reading.condition + (reading.condition.empty() ? "" : " AND ") + part.table->among;
-    Statement statement = database.Prepare(part.Select(reading.columns, condition) + OrderFor(part, reading));
-    int position = part.Bind(statement);
-    for (const Value& value : reading.values) statement.Bind(position++, value);
-    statement.Bind(position, database.ListOf(*part.table, asked));
-    while (statement.Next()) Take(part, statement, reading, rows);
-    std::string error;
-    return statement.Finish(error) || source_.FailToRead(error);
-}
-
 /// Whether all rows of the table are wanted, and nothing of them but their numbers.
 bool RowLister::IsWhole(const RowPart& part) const {
     return fields_.empty() && !query_.among && part.condition.empty() && !part.table->copied &&
@@ -244,7 +220,7 @@ bool RowLister::CountUp(const RowPart& part, std::vector<std::int64_t>& rows) {
 std::string RowLister::OrderFor(const RowPart& part, const PartReading& reading) const {
     const std::string own = " ORDER BY " + part.table->order;
     if (sorted_) {
-        return " ORDER BY " + std::to_string(reading.places.back() + 1) +
+        return " ORDER BY " + SortedBy(part) +
                (query_.order.descending ? " DESC NULLS LAST, " : " NULLS FIRST, ") + part.table->order;
     }
     if (!IsSorted() || !byNumber_ || fields_.size() != 1 || reading.places.back() == noPlace) return own;
@@ -253,15 +229,6 @@ std::string RowLister::OrderFor(const RowPart& part, const PartReading& reading)
     const std::string order = " ORDER BY " + Database::Quoted(part.table->columns[*column].name);
     const std::string select = part.Select(reading.columns, reading.condition) + order;
     return source_.Control().Db().IsReadFromIndex(select) ? order : own;
-}
-
-/// Whether a server sorts the rows as they are sorted here: numbers, all read from one column.
-bool RowLister::IsSortedByServer(const RowPart& part) const {
-    if (!IsSorted() || !part.table->IsOnServer() || !fields_.back().number) return false;
-    const auto isRead = [&part](const Field& field) {
-        return !field.computed && field.ColumnIn(*part.table);
-    };
-    return std::all_of(fields_.begin(), fields_.end(), isRead);
 }
 
 /// Reads the part by an index, if one of the conditions can be answered so. @return false, and `rows` is as
@@ -434,21 +401,6 @@ bool RowLister::ReadKeysOf(const RowPart& part, const std::vector<std::int64_t>&
     statement.Bind(1, database.ListOf(*part.table, given));
     while (statement.Next())
         values[places[static_cast<std::size_t>(statement.Integer(0))]] = CellOf(fields_.back(), statement, 1);
-    std::string error;
-    return statement.Finish(error) || source_.FailToRead(error);
-}
-
-bool RowLister::ReadKeysTogether(const RowPart& part, const std::vector<std::int64_t>& rows,
-                                 std::vector<Value>& values) const {
-    const PartReading reading = ReadingOf(part);
-    const AskedRows asked(source_, part, rows);
-    if (reading.places.back() == noPlace || asked.IsEmpty()) return true;
-    Statement statement = asked.Ask(reading.columns);
-    while (statement.Next()) {
-        asked.ForEachPlace(statement, [&](std::size_t place) {
-            values[place] = CellOf(fields_.back(), statement, reading.places.back());
-        });
-    }
     std::string error;
     return statement.Finish(error) || source_.FailToRead(error);
 }

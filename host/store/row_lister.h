@@ -44,6 +44,8 @@ private:
     };
     /// A value as it is compared: a number, a text, or nothing.
     using Cell = Value;
+    /// Columns of a statement that list a field of each of them.
+    static constexpr int noPlace = -1;
 
     /// How the rows of one part are read.
     struct PartReading {
@@ -54,7 +56,11 @@ private:
     };
 
     PartReading ReadingOf(const RowPart& part) const;
+    static std::string ServerCondition(const RowCondition& condition, const Field& field,
+                                       const TableColumn& column, std::vector<Value>& values);
+    void LetServerChoose(const RowPart& part, PartReading& reading) const;
     bool IsSortedByServer(const RowPart& part) const;
+    std::string SortedBy(const RowPart& part) const;
     bool ReadsByNumber(const std::vector<RowPart>& parts) const;
     bool ReadPart(const RowPart& part, std::vector<std::int64_t>& rows);
     bool ReadAmongTogether(const RowPart& part, const PartReading& reading, std::vector<std::int64_t>& rows);

@@ -1,4 +1,5 @@
 // Searching all rows of a source, a slice at a time.
+#include "base/text.h"
 #include "model/row_source.h"
 #include "store/data_ctrl.h"
 #include "store/data_property.h"
@@ -47,13 +48,16 @@ public:
 
     /// @return false when there was no time for all of it
     bool Run(Clock::time_point until) {
-        return scan_.among && scan_.among->Size() <= mostLookups ? RunAmong(until) : RunThrough(until);
+        if (scan_.among && scan_.among->Size() <= mostLookups) return RunAmong(until);
+        return part_.table->IsOnServer() ? RunSlices(until) : RunThrough(until);
     }
 
 private:
     /// Up to so many rows are looked up one by one.
     static constexpr std::size_t mostLookups = 20000;
     static constexpr std::ptrdiff_t rowsTogether = 1000;
+    /// A server is asked about so many at once.
+    static constexpr std::int64_t rowsInSlice = 50000;
 
     bool RunThrough(Clock::time_point until) {
         const Table& table = *part_.table;
@@ -105,6 +109,59 @@ private:
             if (Clock::now() >= until && first != keys.end()) return false;
         }
         return Finish(statement);
+    }
+
+    /// What a server is asked of so many rows: only those that may be taken, and how many it looked at, are
+    /// sent. The values are what is held, for each column, those of the part, and the row behind which it
+    /// goes on.
+    std::string SliceSql() const {
+        const Table& table = *part_.table;
+        std::string holds;
+        for (const std::size_t column : HeldBy())
+            holds += (holds.empty() ? "" : " OR ") + table.columns[column].holds;
+        if (holds.empty()) holds = "TRUE";
+        return "SELECT * FROM (SELECT *, row_number() OVER () AS znbrowser_place, count(*) OVER () AS "
+               "znbrowser_count FROM (" +
+               part_.Select(columns_ + ", " + holds + " AS znbrowser_held",
+                            scan_.inPart ? table.after : std::string()) +
+               " ORDER BY " + table.order + " LIMIT " + std::to_string(rowsInSlice) +
+               ") AS slice) AS numbered WHERE znbrowser_held OR znbrowser_place = znbrowser_count";
+    }
+
+    /// The columns in which the server looks for what each text holds that is taken; none when it cannot in
+    /// all.
+    std::vector<std::size_t> HeldBy() const {
+        const Table& table = *part_.table;
+        std::vector<std::size_t> columns;
+        if (scan_.holds.empty() || HoldsNul(scan_.holds) || found_.others) return columns;
+        for (const std::size_t place : places_) {
+            DataProperty* const property = static_cast<DataProperty*>(scan_.properties[place]);
+            const auto column = property ? property->ColumnIn(table) : table.displayColumn;
+            if (!column || table.columns[*column].holds.empty()) return {};
+            columns.push_back(*column);
+        }
+        return columns;
+    }
+
+    /// Lets a server look for what is searched.
+    bool RunSlices(Clock::time_point until) {
+        const int count = static_cast<int>(places_.size()) + 3;
+        for (;;) {
+            Statement statement = source_.control_.Db().Prepare(SliceSql());
+            int position = 1;
+            for (std::size_t i = HeldBy().size(); i > 0; --i) statement.Bind(position++, scan_.holds);
+            position = part_.Bind(statement, position);
+            if (scan_.inPart) part_.table->BindRow(statement, position, scan_.row);
+            const std::int64_t before = scan_.looked;
+            std::int64_t looked = 0;
+            while (statement.Next()) {
+                looked = statement.Integer(count);
+                Take(statement);
+            }
+            scan_.looked = before + looked;
+            if (statement.Failed() || looked < rowsInSlice) return Finish(statement);
+            if (Clock::now() >= until) return false;
+        }
     }
 
     void Take(const Statement& statement) {

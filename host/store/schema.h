@@ -21,6 +21,12 @@ struct TableColumn {
     bool notNull = false;
     int primaryKey = 0;   ///< position in the primary key from 1; 0: not in it
     bool indexed = false; ///< rows with a given value are found through an index
+    // How a server looks at the texts of the values; "" where it does not, or sees others than are shown.
+    std::string beyond; ///< SQL for: the text is not all ASCII
+    std::string folded; ///< SQL for the text with all ASCII letters small
+    /// SQL that is true when the text, letter case aside, holds the folded text bound to its `?`; it may be
+    /// true of texts that are not all ASCII in any case.
+    std::string holds;
 };
 
 /// The columns `from` of a table hold the values of the columns `to` of the table `table`, pair by pair.

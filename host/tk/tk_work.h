@@ -16,9 +16,9 @@ namespace znhost {
 /// What commands of the manager answer while the display is served: an error.
 int AnswerBusy(void* data, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]);
 
-/// Shows that the host works, how far it is, and a way to cancel, in the window for which it does. The display is served
-/// meanwhile, but the manager's command answers nothing but an error: the work must find what it works on.
-/// For the same reason `exit` waits, for the moment that the work takes to stop.
+/// Shows that the host works, how far it is, and a way to cancel, in the window for which it does. The
+/// display is served meanwhile, but the manager's command answers nothing but an error: the work must find
+/// what it works on. For the same reason `exit` waits, for the moment that the work takes to stop.
 class TkWork final : public LongWork {
 public:
     /// @param command  where the manager's command is kept; null in it when a script has deleted it

@@ -114,12 +114,14 @@ void Call::AnswerValue(FlagGetter getter) {
 
 void Call::SetThenAnswer(int position, TextSetter setter, Getter getter) {
     if (!Has(position)) return AnswerValue(getter);
-    if (!(manager.*setter)(Text(position))) return AnswerError();
+    Tcl_Obj* const word = objv_[position];
+    const std::string_view text = WordText(word);
+    if (!(manager.*setter)(text.data())) return AnswerError();
     znString value;
     if (!(manager.*getter)(value)) return AnswerError();
     // What was set is nearly always what is there now: then the word itself is the answer, without a copy.
-    if (!replied_ && value.View() == WordText(objv_[position])) {
-        Tcl_SetObjResult(interp_, objv_[position]);
+    if (!replied_ && value.View() == text) {
+        Tcl_SetObjResult(interp_, word);
         replied_ = true;
     } else {
         Answer(value);

@@ -1,5 +1,6 @@
 #include "frame/command_entry.h"
 
+#include "frame/call.h"
 #include "znBrowserManagerTcl.h"
 #include "znBrowserMessages.h"
 
@@ -27,13 +28,11 @@ int AnswerException(znIBrowserManagerTcl& manager, const char* message) noexcept
     return TCL_OK;
 }
 
-/// Hands on a copy of the words: "app" moves them within their array, and Tcl must find its own as it was.
-int EvalCopy(znIBrowserManagerTcl& manager, int objc, Tcl_Obj* const objv[]) {
-    constexpr int fewWords = 16;
-    if (objc > fewWords) return manager.EvalTclCommand(objc, std::vector<Tcl_Obj*>(objv, objv + objc).data());
-    Tcl_Obj* words[fewWords];
-    std::copy(objv, objv + objc, words);
-    return manager.EvalTclCommand(objc, words);
+/// Hands on the words; "app" moves them within their array, and Tcl must find its own as it was: it gets a
+/// copy.
+int Eval(znIBrowserManagerTcl& manager, int objc, Tcl_Obj* const objv[]) {
+    if (objc < 2 || WordKeyword(objv[1]) != Keyword::App) return manager.EvalTclCommand(objc, objv);
+    return manager.EvalTclCommand(objc, std::vector<Tcl_Obj*>(objv, objv + objc).data());
 }
 
 } // namespace
@@ -41,7 +40,7 @@ int EvalCopy(znIBrowserManagerTcl& manager, int objc, Tcl_Obj* const objv[]) {
 int CommandProcedure(void* clientData, Tcl_Interp*, int objc, Tcl_Obj* const objv[]) {
     znIBrowserManagerTcl& manager = *static_cast<znIBrowserManagerTcl*>(clientData);
     try {
-        return EvalCopy(manager, objc, objv);
+        return Eval(manager, objc, objv);
     } catch (const std::exception& error) {
         return AnswerException(manager, error.what());
     } catch (const znString& text) {

@@ -12,14 +12,11 @@ namespace {
 
 /// Copies a word, which is short nearly always: a call of the library's copy would cost more than the copy.
 /// @return behind the copy
-char* CopyBytes(std::string_view word, char* to) {
+inline char* CopyBytes(std::string_view word, char* to) {
     const char* const from = word.data();
     const std::size_t size = word.size();
-    if (size > 32) {
+    if (size > 16) {
         std::memcpy(to, from, size);
-    } else if (size >= 16) {
-        std::memcpy(to, from, 16);
-        std::memcpy(to + size - 16, from + size - 16, 16);
     } else if (size >= 8) {
         std::memcpy(to, from, 8);
         std::memcpy(to + size - 8, from + size - 8, 8);
@@ -32,16 +29,6 @@ char* CopyBytes(std::string_view word, char* to) {
         to[size - 1] = from[size - 1];
     }
     return to + size;
-}
-
-/// The size of the words joined by blanks; each word has its string form then. Missing words leave no blank,
-/// nor does an empty one at the beginning.
-std::size_t JoinedSize(int objc, Tcl_Obj* const objv[]) {
-    std::size_t size = 0;
-    for (int i = 0; i < objc; ++i) {
-        if (objv[i]) size += WordText(objv[i]).size() + (size ? 1 : 0);
-    }
-    return size;
 }
 
 } // namespace
@@ -82,15 +69,26 @@ void znBrowserManagerTcl::ResetBuff() const { buffer_.clear(); }
 void znBrowserManagerTcl::_ResetBuff() const { ResetBuff(); }
 const char* znBrowserManagerTcl::GetBuff() const { return buffer_.c_str(); }
 
+/// The words, joined by blanks. Missing ones leave no blank, nor do empty ones at the beginning. Most
+/// commands are as long as the last one: then they are written into its place without being measured before.
 void znBrowserManagerTcl::SetCommand(int objc, Tcl_Obj* const objv[]) {
     znString& command = ErrCommand();
-    char* end = command.Resize(JoinedSize(objc, objv));
-    const char* const begin = end;
+    char* begin = command.Resize(command.size());
+    char* end = begin + command.size();
+    char* at = begin;
     for (int i = 0; i < objc; ++i) {
         if (!objv[i]) continue;
-        if (end != begin) *end++ = ' ';
-        end = CopyBytes({objv[i]->bytes, static_cast<std::size_t>(objv[i]->length)}, end);
+        const std::string_view word = WordText(objv[i]);
+        if (static_cast<std::size_t>(end - at) <= word.size()) {
+            const auto written = static_cast<std::size_t>(at - begin);
+            begin = command.Resize(2 * (written + word.size() + 1));
+            end = begin + command.size();
+            at = begin + written;
+        }
+        if (at != begin) *at++ = ' ';
+        at = CopyBytes(word, at);
     }
+    if (at != end) command.Resize(static_cast<std::size_t>(at - begin));
     SetErrCommand(command);
     ResetBuff();
 }

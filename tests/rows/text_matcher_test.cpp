@@ -1,5 +1,7 @@
 #include "rows/text_matcher.h"
 
+#include "base/text.h"
+
 #include <gtest/gtest.h>
 
 #include <ostream>
@@ -27,6 +29,19 @@ TEST_P(Matching, Follows) {
     const TextMatcher matcher(GetParam().pattern, {has('c'), has('w'), has('r'), has('g')});
     EXPECT_EQ(matcher.Matches(GetParam().text), GetParam().matches)
         << GetParam().pattern << " in " << GetParam().text << " with " << letters;
+    EXPECT_TRUE(!GetParam().matches || Fold(GetParam().text).find(matcher.Held()) != std::string::npos);
+}
+
+TEST(TextMatcher, TellsTheLongestTextThatIsHeld) {
+    const auto held = [](const char* pattern, bool glob) {
+        TextMatcher::Options options;
+        options.glob = glob;
+        return TextMatcher(pattern, options).Held();
+    };
+    EXPECT_EQ(held("Gear", true), "gear");
+    EXPECT_EQ(held("g?arBox*S", true), "arbox");
+    EXPECT_EQ(held("*?", true), "");
+    EXPECT_EQ(held("a*b", false), "a*b");
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -127,8 +127,12 @@ TEST_F(WantedValuesTest, AnIndexServesRowNumbersCriteriaAndSeveralTables) {
     RowQuery query;
     query.conditions.emplace_back();
     const auto ids = std::make_shared<WantedValues>(std::vector<znString>{"11", "12", "3.0"}, true);
-    query.conditions[0] = {both.FindProperty("id"), RowCondition::Compare::Accept, "",
-                           [ids](std::string_view text) { return ids->Has(text); }, ids};
+    query.conditions[0] = {both.FindProperty("id"),
+                           RowCondition::Compare::Accept,
+                           "",
+                           [ids](std::string_view text) { return ids->Has(text); },
+                           "",
+                           ids};
     std::vector<std::int64_t> rows;
     both.List(query, rows);
     std::string names;

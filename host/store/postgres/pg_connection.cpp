@@ -66,10 +66,9 @@ std::vector<const char*> Pointers(const PgConnection::Parameters& parameters) {
     return pointers;
 }
 
-std::string NameOf(std::uint64_t number) { return "znbrowser_" + std::to_string(number); }
-
 bool IsChange(std::string_view status) {
-    for (const std::string_view harmless : {"SELECT", "SHOW", "BEGIN", "SAVEPOINT", "RELEASE", "FETCH"}) {
+    for (const std::string_view harmless :
+         {"SELECT", "SHOW", "BEGIN", "SAVEPOINT", "RELEASE", "FETCH", "DEALLOCATE"}) {
         if (status.substr(0, harmless.size()) == harmless) return false;
     }
     return !status.empty(); // a statement that is only prepared has none
@@ -264,6 +263,19 @@ bool PgConnection::AskKept(Reader& reader, std::uint64_t number, const std::stri
     }
     Pq().PQsetSingleRowMode(connection_.get());
     return true;
+}
+
+std::string PgConnection::NameOf(std::uint64_t number) const {
+    return "znbrowser_" + std::to_string(number) + "_" + std::to_string(forgotten_);
+}
+
+// Where it fails they are left to the connection, under names that are not used again.
+void PgConnection::ForgetKept() {
+    if (kept_.empty()) return;
+    kept_.clear();
+    ++forgotten_;
+    std::string ignored;
+    if (!inTransaction_ && connection_) Run("DEALLOCATE ALL", ignored);
 }
 
 bool PgConnection::Prepare(std::uint64_t number, const std::string& sql, std::string& reason) {

@@ -61,6 +61,8 @@ public:
     /// The same with a statement that the server keeps under that number, in this connection.
     bool AskKept(Reader& reader, std::uint64_t number, const std::string& sql, const Parameters& parameters,
                  std::string& reason);
+    /// The tables changed: what the server keeps was prepared for what they were.
+    void ForgetKept();
     /// Any number of statements without parameters. None of their rows is wanted.
     bool Run(const std::string& script, std::string& reason);
     /// The next answer to what is asked: a row, or the end. Null with the reason when it failed: the question
@@ -94,6 +96,7 @@ private:
     bool Begin(Reader* reader, std::string& reason);
     bool Sent(int sent, std::string& reason);
     bool Prepare(std::uint64_t number, const std::string& sql, std::string& reason);
+    std::string NameOf(std::uint64_t number) const;
     bool Await(std::string& reason);
     bool WaitFor(short events, int milliseconds) const;
     bool ConnectAnew(std::string& reason);
@@ -125,6 +128,7 @@ private:
     std::uint64_t roundTrips_ = 0;
     std::uint64_t rowsSinceQuestion_ = 0;
     std::vector<std::uint64_t> kept_; ///< what the server keeps, sorted
+    std::uint64_t forgotten_ = 0;     ///< how often it was told to keep them no longer
     Clock::time_point failedAt_;      ///< when it could not be connected last
     std::string whyNotConnected_;
 };

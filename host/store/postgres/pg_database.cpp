@@ -114,6 +114,8 @@ bool PgDatabase::AskStamp(Stamp& stamp, std::string& error) {
         now.Next();
     }
     if (!now.Finish(error)) return false;
+    if (statementsFor_ != schemaNumber_) connection_.ForgetKept();
+    statementsFor_ = schemaNumber_;
     if (schema_.HasOtherServers()) ++looksAtOthers_;
     stamp.schema = schemaNumber_;
     stamp.rollbacks = Rollbacks() + connection_.RolledBack();

@@ -57,6 +57,7 @@ private:
     std::string path_;                 ///< where names are looked for, and by whom
     std::string fingerprint_;          ///< of the tables
     std::int64_t schemaNumber_ = 0;
+    std::int64_t statementsFor_ = 0; ///< the tables that the statements kept were prepared for
     std::int64_t looksAtOthers_ = 0; ///< while there are tables of other servers
     std::int64_t looksInside_ = 0;   ///< inside a transaction that has written
     // What the copies did.

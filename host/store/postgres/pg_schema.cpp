@@ -44,7 +44,8 @@ constexpr char listSql[] =
 
 constexpr char columnsSql[] =
     "SELECT a.attrelid::bigint, a.attnum, a.attname, format_type(a.atttypid, a.atttypmod), "
-    "format_type(b.oid, -1), b.oid::bigint, b.typcategory::text, a.attnotnull "
+    "format_type(b.oid, -1), b.oid::bigint, b.typcategory::text, a.attnotnull, "
+    "getdatabaseencoding() = 'UTF8' "
     "FROM listed l JOIN pg_attribute a ON a.attrelid = l.oid JOIN pg_type t ON t.oid = a.atttypid "
     "JOIN pg_type b ON b.oid = coalesce(nullif(t.typbasetype, 0), t.oid) "
     "WHERE a.attnum > 0 AND NOT a.attisdropped AND has_column_privilege(l.oid, a.attnum, 'SELECT') "
@@ -92,6 +93,15 @@ ZNBROWSER_DATA_TYPE TypeOf(std::int64_t type) {
     case 1700: return ZNBROWSER_DATA_DOUBLE;
     default: return ZNBROWSER_DATA_STRING;
     }
+}
+
+/// A boolean is written in other words here than there, and blanks at the end of a `character` get lost.
+void FindTexts(TableColumn& column, std::int64_t type) {
+    if (type == 16 || type == 1042) return;
+    const std::string text = "(" + Database::Quoted(column.name) + "::text COLLATE \"C\")";
+    column.beyond = "octet_length(" + text + ") <> char_length(" + text + ")";
+    column.folded = "lower(" + text + ")";
+    column.holds = "(" + column.beyond + " OR strpos(" + column.folded + ", ?) > 0)";
 }
 
 bool IsWhole(const std::string& type) { return type == "bigint" || type == "integer" || type == "smallint"; }
@@ -174,6 +184,7 @@ bool PgSchema::ReadColumns(Found& found, std::string& error) {
         column.text = columns.Text(6) == "S";
         column.numeric = column.type != ZNBROWSER_DATA_STRING;
         column.notNull = columns.Integer(7) != 0;
+        if (columns.Integer(8) != 0) FindTexts(column, columns.Integer(5));
     }
     return columns.Finish(error);
 }
