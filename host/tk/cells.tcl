@@ -221,14 +221,7 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
                     -text [fitNumber $n $number $inTree [oneLine $text]] \
                     -font [fontOf 0 $italic] -fill [textFill $n $colour]
             }
-            found {
-                lassign [lindex $element 4] first last
-                set text [oneLine $text]
-                foreach {part from to} [list {} 0 $first-1 Match $first $last Rest $last+1 end] {
-                    $w(tree) item element configure $item $column found$place$part \
-                        -text [string range $text $from $to] -font [fontOf 0 $italic] -fill [textFill $n $colour]
-                }
-            }
+            found {drawFound $n $item $column $place $element $italic}
             null {
                 $w(tree) item element configure $item $column null$place -text NULL -font [fontOf 0 1]
             }
@@ -242,6 +235,18 @@ proc ::znbrowser::drawCell {n slot number inTree depth elements} {
             }
         }
         incr place
+    }
+}
+
+# A text in the three parts before, in and behind what the filter found there.
+proc ::znbrowser::drawFound {n item column place element italic} {
+    upvar #0 ::znbrowser::window$n w
+    lassign $element kind text colour name found
+    lassign $found first last
+    set text [oneLine $text]
+    foreach {part from to} [list {} 0 $first-1 Match $first $last Rest $last+1 end] {
+        $w(tree) item element configure $item $column found$place$part \
+            -text [string range $text $from $to] -font [fontOf 0 $italic] -fill [textFill $n $colour]
     }
 }
 

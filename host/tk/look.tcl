@@ -27,6 +27,11 @@ proc ::znbrowser::prepareLook {} {
         -selectbackground {} -selectforeground {}
     styleFields
     styleTools
+    styleStatus
+    stylePanel
+}
+
+proc ::znbrowser::styleStatus {} {
     ttk::style configure Browser.TFrame -background [colour surface]
     ttk::style configure Line.TFrame -background [colour line]
     ttk::style configure Status.TLabel -background [colour surface] -foreground [colour faint] \
@@ -39,13 +44,9 @@ proc ::znbrowser::prepareLook {} {
     }
     ttk::style configure Message.TLabel -background [colour surface] -foreground [colour problem] \
         -font znBrowserSmall
-    ttk::style configure Search.TEntry -padding [list [scaled 6] [scaled 4]] -fieldbackground [colour paper] \
-        -bordercolor [colour buttonLine] -lightcolor [colour paper] -darkcolor [colour paper]
-    ttk::style map Search.TEntry -bordercolor [list focus [colour accent]] \
-        -lightcolor [list focus [colour accent]] -darkcolor [list focus [colour accent]]
-    ttk::style configure Browser.TCombobox -selectbackground [colour paper] -selectforeground [colour text]
-    ttk::style map Browser.TCombobox -fieldbackground [list readonly [colour paper]] \
-        -bordercolor [list focus [colour accent]]
+}
+
+proc ::znbrowser::stylePanel {} {
     ttk::style configure Panel.TFrame -background [colour paper] -relief solid -borderwidth 1 \
         -bordercolor [colour buttonLine]
     ttk::style configure Panel.TLabel -background [colour paper]
@@ -61,6 +62,13 @@ proc ::znbrowser::prepareLook {} {
 }
 
 proc ::znbrowser::styleFields {} {
+    ttk::style configure Search.TEntry -padding [list [scaled 6] [scaled 4]] -fieldbackground [colour paper] \
+        -bordercolor [colour buttonLine] -lightcolor [colour paper] -darkcolor [colour paper]
+    ttk::style map Search.TEntry -bordercolor [list focus [colour accent]] \
+        -lightcolor [list focus [colour accent]] -darkcolor [list focus [colour accent]]
+    ttk::style configure Browser.TCombobox -selectbackground [colour paper] -selectforeground [colour text]
+    ttk::style map Browser.TCombobox -fieldbackground [list readonly [colour paper]] \
+        -bordercolor [list focus [colour accent]]
     ttk::style configure TSpinbox -arrowsize [scaled 10]
     ttk::style configure TMenubutton -arrowsize [scaled 5]
     ttk::style configure TCheckbutton -indicatorbackground [colour paper] -indicatorforeground [colour text] \
