@@ -102,15 +102,15 @@ TEST_F(PopupDisplayTest, WhatIsCancelledOrNoValueChangesNoField) {
         {"4294967296", "2", true, "got \"4294967296\" for the input field \"grade\""},
         {"1", "two", true, "got \"two\" for the input field \"size\": it must be a number"},
     };
-    for (const auto& [grade, size, taken, answer] : cases) {
+    for (const auto& given : cases) {
         display.answer = [&](znhost::InputValues& values) {
-            values[0].text = grade;
-            values[1].text = size;
-            return taken;
+            values[0].text = given.grade;
+            values[1].text = given.size;
+            return given.taken;
         };
         const std::string got = Run("view popupmenuitem perform v");
-        EXPECT_NE(got.find(answer), std::string::npos) << got;
-        EXPECT_EQ(got.empty(), *answer == '\0') << got;
+        EXPECT_NE(got.find(given.answer), std::string::npos) << got;
+        EXPECT_EQ(got.empty(), *given.answer == '\0') << got;
         EXPECT_EQ(Value("size"), "0.000000");
         EXPECT_EQ(Done(), "");
     }
