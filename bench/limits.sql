@@ -8,8 +8,8 @@
 
 create temp table run as
 select substr(name, 1, instr(name || '/iterations', '/iterations') - 1) as name, min(ns) as ns,
-       min(per_element) as per_element, min(ratio) as ratio, min(mebibytes) as mebibytes, min(key) as place
-from (select key, replace(json_extract(value, '$.run_name'), '/manual_time', '') as name,
+       min(per_element) as per_element, min(ratio) as ratio, min(mebibytes) as mebibytes
+from (select replace(json_extract(value, '$.run_name'), '/manual_time', '') as name,
              json_extract(value, iif(json_extract(value, '$.run_name') like '%manual_time', '$.real_time',
                                      '$.cpu_time')) *
                  case json_extract(value, '$.time_unit')
@@ -53,7 +53,7 @@ select name as benchmark,
 from (select *, name in ('NoOpCommand', 'EnsembleCommand', 'SetColumnCaption', 'GetColumnCaption', 'UsageText')
                     as is_command
       from run) as run
-order by place;
+order by name;
 
 -- What takes how long in seconds at most: benchmark, what it does, the limit.
 create temp table slowest(name, what, bound);
