@@ -205,7 +205,10 @@ void RowModel::ExpandBelow(RowNode& top) {
             if (!descent.way.insert(Descent::ItemOf(node)).second) continue;
             descent.open.push_back({&node, true});
         }
-        if (!node.expanded && !Fill(node)) continue;
+        if (!node.expanded && !Fill(node)) {
+            if (node.expanded && node.parent && !node.block) tree_.Collapse(node); // nothing lies in it
+            continue;
+        }
         // What is taken from `open` first must be pushed last: work that is given up has done the top rows.
         for (auto part = node.parts.rbegin(); part != node.parts.rend(); ++part) OpenBelow(*part, descent);
     }

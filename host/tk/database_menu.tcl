@@ -19,6 +19,7 @@ proc ::znbrowser::any::AddDatabaseMenu {window} {
     pack $w(path).status.access -side left -padx {0 16} -before $w(path).status.count
     SayAccess $n
     set w(elsewhere) ::znbrowser::any::ShowElsewhere
+    set w(named) ::znbrowser::any::TablesNamed
     set top [winfo toplevel $w(path)]
     wm title $top [TitleOf $window]
     foreach {key command} {
@@ -177,6 +178,27 @@ proc ::znbrowser::any::GridOfCurrent {n} {
     upvar #0 ::znbrowser::window$n w
     set table [TableOfCurrent $n]
     if {$table ne ""} {Try $n OpenGrid [ControlOf $w(name)] $table}
+}
+
+# The tables with that text in their names: for the first of them, a label and a command that goes there.
+proc ::znbrowser::any::TablesNamed {n text} {
+    variable followed
+    upvar #0 ::znbrowser::window$n w
+    set found {}
+    foreach table [dict keys $followed($w(name),tables)] {
+        if {[string first [string tolower $text] [string tolower $table]] < 0} continue
+        lappend found "Table “$table”" [list ::znbrowser::any::GoToTable $n $table]
+        if {[llength $found] >= 10} break
+    }
+    return $found
+}
+
+proc ::znbrowser::any::GoToTable {n table} {
+    upvar #0 ::znbrowser::window$n w
+    ::znbrowser::clearFilters $n
+    if {![::znbrowser::isOpen $n] || [catch {Do app row $w(name) [list $table]} index]} return
+    ::znbrowser::goTo $n select [::znbrowser::host position $n $index]
+    focus $w(tree)
 }
 
 # A row that the window does not show: in the grid of its table.

@@ -54,7 +54,8 @@ proc ::znbrowser::placeLine {frame line top} {
 
 # ---- The bar above the rows
 #
-# The search stands left, the buttons right; below it where both have no room on one line.
+# The search stands left, the buttons right; where both have no room on one line the field is shorter, and where that
+# does not suffice they stand below it.
 
 proc ::znbrowser::buildTools {n bar} {
     ttk::frame $bar.tools -style Browser.TFrame
@@ -82,13 +83,14 @@ proc ::znbrowser::layoutBar {n bar} {
         if {$widget ni [linsert [dict keys $tools] 0 $bar.tools]} {incr needed [expr {[winfo reqwidth $widget] + 6}]}
     }
     set narrow [expr {[winfo width $bar] > 1 && [winfo width $bar] < $needed}]
+    set small [expr {min(14, $w(searchWidth))}]
+    set least [expr {$needed - ($w(searchWidth) - $small) * [font measure znBrowser00 0]}]
     $bar.tools configure -width $room
-    if {$narrow} {
+    $w(searchField) configure -width [expr {$narrow ? $small : $w(searchWidth)}]
+    if {$narrow && [winfo width $bar] < $least} {
         pack $bar.tools -side bottom -fill x -pady {4 0} -before [lindex [pack slaves $bar] 0]
-        $w(searchField) configure -width [expr {min(14, $w(searchWidth))}]
     } else {
         pack $bar.tools -side right -fill none -pady 0
-        $w(searchField) configure -width $w(searchWidth)
     }
     flowIn $n $bar.tools $tools
 }

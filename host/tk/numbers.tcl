@@ -2,6 +2,7 @@
 #
 #   width,COLUMN  how wide a column is, by its number
 #   grown         how wide columns have become for what is in them, by their names
+#   measured      by the names of columns: the data sources whose texts they have grown with
 #   sized         the columns whose width the user has chosen
 
 namespace eval ::znbrowser {
@@ -32,21 +33,33 @@ proc ::znbrowser::fitNumber {n number inTree text} {
     return "###"
 }
 
-# Before a page is drawn: columns become as wide as the numbers in them, and once as wide as the texts that are seen
-# first, unless the user has said how wide they are.
+# Before a page is drawn: columns become as wide as the numbers in them, and as the texts that are seen first of each
+# table, unless the user has said how wide they are. What is left of the window's width is for texts that are longer.
 proc ::znbrowser::growColumns {n} {
     upvar #0 ::znbrowser::window$n w
+    set sources [lsort -unique [lmap row $w(page) {if {[lindex $row 3] ne "item"} continue; lindex $row 13}]]
+    set long {}
     foreach number $w(visible) {
         set column [lindex $w(columns) $number]
         set name [dict get $column name]
-        set numbers [holdsNumbers $n $number]
-        if {$name in $w(sized) || [dict get $column tree] || (!$numbers && [dict exists $w(grown) $name])} continue
-        set longest [longestText $n $number]
+        if {$name in $w(sized) || [dict get $column tree]} continue
+        set known {}
+        if {![holdsNumbers $n $number] && [dict exists $w(measured) $name]} {set known [dict get $w(measured) $name]}
+        if {[lmap source $sources {if {$source in $known} continue; set source}] eq ""} continue
+        dict set w(measured) $name [lsort -unique [concat $known $sources]]
+        set longest [longestText $n $number $known]
         if {$longest eq ""} continue
         set wanted [expr {[font measure znBrowser00 $longest] + [scaled $::znbrowser::besideNumber] + 2}]
         growColumn $n $number [expr {min($wanted, [scaled $::znbrowser::widestNumber])}]
-        dict set w(grown) $name $w(width,$number)
+        if {$wanted > $w(width,$number)} {lappend long $number $wanted}
     }
+    foreach {number wanted} $long {growColumn $n $number [expr {min($wanted, $w(width,$number) + [roomLeft $n])}]}
+}
+
+# The pixels beside the last column.
+proc ::znbrowser::roomLeft {n} {
+    upvar #0 ::znbrowser::window$n w
+    return [expr {max(0, [winfo width $w(tree)] - [tcl::mathop::+ {*}[lmap number $w(shown) {set w(width,$number)}]] - 4)}]
 }
 
 # Makes a column wider, if it is not as wide already.
@@ -59,11 +72,12 @@ proc ::znbrowser::growColumn {n number wanted} {
     forgetSlots $n
 }
 
-# The longest text of a column in the page.
-proc ::znbrowser::longestText {n number} {
+# The longest text of a column in the page, in rows of other sources than those.
+proc ::znbrowser::longestText {n number without} {
     upvar #0 ::znbrowser::window$n w
     set longest ""
     foreach row $w(page) {
+        if {[lindex $row 13] in $without} continue
         set cell [lsearch -exact -integer -inline -index 0 [lindex $row 11] $number]
         lassign [lindex $cell 1] kind text
         if {$kind eq "text" && [string length $text] > [string length $longest]} {set longest [string range $text 0 99]}
@@ -71,11 +85,13 @@ proc ::znbrowser::longestText {n number} {
     return $longest
 }
 
-# How wide a column is to be: as the view says, or wider where its numbers need it.
+# How wide a column is to be: as the view says, or wider where its caption, its numbers or its texts need it.
 proc ::znbrowser::widthOf {n column} {
     upvar #0 ::znbrowser::window$n w
     set name [dict get $column name]
     set width [scaled [expr {max(24, [dict get $column width])}]]
-    if {$name ni $w(sized) && [dict exists $w(grown) $name]} {return [expr {max($width, [dict get $w(grown) $name])}]}
-    return $width
+    if {!$w(bare) || $name in $w(sized)} {return $width}
+    set caption [expr {[font measure znBrowser00 [string range [dict get $column caption] 0 99]] + [scaled 24]}]
+    set grown [expr {[dict exists $w(grown) $name] ? [dict get $w(grown) $name] : 0}]
+    return [expr {max($width, min($caption, [scaled $::znbrowser::widestNumber]), $grown)}]
 }

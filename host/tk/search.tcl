@@ -6,7 +6,12 @@
 #   search         the text in the field
 #   seeking        while the host searches: a dictionary of the text, since when, how many rows were looked at, how
 #                  many are found, and whether those are shown already
+#   named          in some windows: the command that answers labels and commands for what bears a text in its name
 #   typing         exists while the host does what is waited for by somebody who types
+
+namespace eval ::znbrowser {
+    variable expandTime 300 ;# milliseconds to open what matches
+}
 
 proc ::znbrowser::buildSearch {n bar} {
     upvar #0 ::znbrowser::window$n w
@@ -160,11 +165,13 @@ proc ::znbrowser::setFilter {n text} {
     return $done
 }
 
-# What matches lies in rows that are not expanded, perhaps: they are, as far as a moment suffices for it.
+# What matches lies in rows that are not expanded, perhaps: they are, as far as a moment suffices for it. Which rows the
+# filter leaves is found out before that: it takes the time that it takes.
 proc ::znbrowser::showMatches {n} {
     upvar #0 ::znbrowser::window$n w
     quietly $n {
-        host time 300
+        flush $n
+        host time $::znbrowser::expandTime
         command $n window expandall
         flush $n
     }
@@ -288,6 +295,7 @@ proc ::znbrowser::showNoMatch {n} {
     }
     if {![winfo exists $panel]} {makeNoMatch $n $panel}
     $panel.text configure -text [noMatchText $n]
+    offerNamed $n $panel.named
     if {[dict get $w(look) allcolumns] || [dict get $w(look) filter] eq ""} {
         grid remove $panel.scope
     } else {
@@ -315,10 +323,26 @@ proc ::znbrowser::makeNoMatch {n panel} {
         -command [list ::znbrowser::switchScope $n]
     ttk::button $panel.clear -text "Show all rows" -style Tool.TButton -takefocus 0 \
         -command [list ::znbrowser::clearFilters $n]
+    ttk::label $panel.named -style Panel.TLabel
     grid $panel.text -columnspan 2
-    grid $panel.scope $panel.clear -pady {10 0} -padx 4
+    grid $panel.scope -row 2 -column 0 -pady {10 0} -padx 4
+    grid $panel.clear -row 2 -column 1 -pady {10 0} -padx 4
     place $panel -in $w(path).body -relx 0.5 -rely 0.35 -anchor center
     raise $panel
+}
+
+# What bears the text in its own name is no match: `named` is the command that finds it, if there is one, and leads there.
+proc ::znbrowser::offerNamed {n frame} {
+    upvar #0 ::znbrowser::window$n w
+    destroy {*}[winfo children $frame]
+    grid forget $frame
+    if {![info exists w(named)] || [dict get $w(look) filter] eq ""} return
+    foreach {label command} [{*}$w(named) $n [dict get $w(look) filter]] {
+        set button $frame.go[llength [winfo children $frame]]
+        ttk::button $button -text [oneLine $label] -style Tool.TButton -takefocus 0 -command $command
+        pack $button -side top -pady {6 0}
+    }
+    if {[winfo children $frame] ne ""} {grid $frame -row 1 -columnspan 2}
 }
 
 # ---- What matched

@@ -166,7 +166,9 @@ proc ::znbrowser::any::MakeFollowed {window column} {
     Do view column show false
     foreach table $tables {
         set width [Remembered $window $table width,$column]
-        if {$width ne ""} {Do view column width $width}
+        if {$width eq ""} continue
+        Do view column width $width
+        lappend ::znbrowser::window[::znbrowser::number $window](sized) $column
     }
     if {$current ne ""} {Do view column current $current}
 }

@@ -82,6 +82,7 @@ proc ::znbrowser::restyleWindow {n} {
     styleBelow $w(path)
     set w(layout) "" ;# the columns have colours, too
     set w(grown) {}
+    set w(measured) {}
     changed $n allCells 0
 }
 

@@ -8,6 +8,7 @@
 namespace eval ::znbrowser {
     variable besideTree 46    ;# pixels of a cell there, beside its text and its indent
     variable textInTree 160   ;# pixels for a text, at least, where the window has them
+    variable longInTree 320   ;# and for a longer one, as far as the column becomes wider for it
     variable mostForTree 0.55 ;# of the width of a window; wider than that it does not stay
 }
 
@@ -39,10 +40,12 @@ proc ::znbrowser::growTree {n number} {
     set wanted 0
     foreach row $w(page) {
         set text [font measure znBrowser00 [string range [lindex $row 4] 0 59]]
-        set wanted [expr {max($wanted, [lindex $row 2] * [scaled 18] + min($text, [scaled $::znbrowser::textInTree]))}]
+        set wanted [expr {max($wanted, [lindex $row 2] * [scaled 18] + min($text, [scaled $::znbrowser::longInTree]))}]
     }
+    set at [sideways $n]
     growColumn $n $number [expr {min($wanted + [scaled $::znbrowser::besideTree],
         int([winfo width $w(tree)] * $::znbrowser::mostForTree))}]
+    if {[sideways $n] != $at} {$w(tree) xview moveto $at} ;# the widget keeps the place of the left edge, also below it
 }
 
 # How rows of these depths are indented in a column of that width: where a text would not be seen the levels that

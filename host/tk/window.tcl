@@ -94,7 +94,7 @@ proc ::znbrowser::open {n name frame} {
     variable numberOf
     upvar #0 ::znbrowser::window$n w
     array set w [list name $name first 0 full 1 page {} columns {} shown {} active -1 anchor -1 \
-        pending {} reported -1 trouble {} menu 0 menus 0 bare 0 grown {} sized {} watchers {} flat 0 locked 0 indents {0 18} visible {} \
+        pending {} reported -1 trouble {} menu 0 menus 0 bare 0 grown {} measured {} sized {} watchers {} flat 0 locked 0 indents {0 18} visible {} \
         look [host look $n] paper [colour paper]]
     set w(owns) [expr {$frame eq "" || ![winfo exists $frame]}]
     if {$w(owns)} {set frame [makeToplevel $n $name $frame]}
@@ -341,6 +341,9 @@ proc ::znbrowser::draw {n changes} {
         drawColumns $n
         followSearch $n
         measure $n
+    }
+    if {[dict exists $changes filled] || [dict exists $changes allFilled] || [dict exists $changes allCells]} {
+        set w(measured) {} ;# other texts are seen
     }
     if {[dict exists $changes collector] || [dict exists $changes allCells] || [dict exists $changes allFilled]} {
         drawCollector $n

@@ -18,6 +18,13 @@ namespace eval odd {
         {insert into dependency (package_id, needed_id, kind) values (1, 2, 'needs'), (1, 3, 'likes'), (3, 2, 'needs')}
         {create view needed as select needed_id, count(*) as times from dependency group by 1}
     }
+    # A caption that is wider than the values below it, and texts that are longer in one table than in the other.
+    variable wordy {
+        {create table book (id integer primary key, name text, remark text, a_caption_wider_than_its_values integer)}
+        {create table shelf (id integer primary key, name text, remark text)}
+        {insert into book values (1, 'short', 'brief', 1)}
+        {insert into shelf values (1, 'wordy', 'a remark that is wider than columns are at first')}
+    }
     # Rows that lie below each other, of which some go round in a circle.
     variable circle {
         {create table place (id integer primary key, name text, inside integer references place)}
