@@ -82,12 +82,14 @@ proc ::znbrowser::layoutBar {n bar} {
     foreach widget [winfo children $bar] {
         if {$widget ni [linsert [dict keys $tools] 0 $bar.tools]} {incr needed [expr {[winfo reqwidth $widget] + 6}]}
     }
-    set narrow [expr {[winfo width $bar] > 1 && [winfo width $bar] < $needed}]
-    set small [expr {min(14, $w(searchWidth))}]
-    set least [expr {$needed - ($w(searchWidth) - $small) * [font measure znBrowser00 0]}]
+    set wide [winfo width $bar]
+    set digit [font measure znBrowser00 0]
+    set short [expr {min(14, $w(searchWidth))}]
+    set below [expr {$wide > 1 && $wide < $needed - ($w(searchWidth) - $short) * $digit}]
+    set missing [expr {$wide > 1 ? $needed - $wide - ($below ? $room + [scaled 12] : 0) : 0}]
     $bar.tools configure -width $room
-    $w(searchField) configure -width [expr {$narrow ? $small : $w(searchWidth)}]
-    if {$narrow && [winfo width $bar] < $least} {
+    $w(searchField) configure -width [expr {max(5, min($below ? $short : $w(searchWidth), $w(searchWidth) - ($missing + $digit - 1) / $digit))}]
+    if {$below} {
         pack $bar.tools -side bottom -fill x -pady {4 0} -before [lindex [pack slaves $bar] 0]
     } else {
         pack $bar.tools -side right -fill none -pady 0

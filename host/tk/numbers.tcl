@@ -47,9 +47,9 @@ proc ::znbrowser::growColumns {n} {
         if {![holdsNumbers $n $number] && [dict exists $w(measured) $name]} {set known [dict get $w(measured) $name]}
         if {[lmap source $sources {if {$source in $known} continue; set source}] eq ""} continue
         dict set w(measured) $name [lsort -unique [concat $known $sources]]
-        set longest [longestText $n $number $known]
-        if {$longest eq ""} continue
-        set wanted [expr {[font measure znBrowser00 $longest] + [scaled $::znbrowser::besideNumber] + 2}]
+        set widest [widestText $n $number $known]
+        if {!$widest} continue
+        set wanted [expr {$widest + [scaled $::znbrowser::besideNumber] + 2}]
         growColumn $n $number [expr {min($wanted, [scaled $::znbrowser::widestNumber])}]
         if {$wanted > $w(width,$number)} {lappend long $number $wanted}
     }
@@ -72,17 +72,22 @@ proc ::znbrowser::growColumn {n number wanted} {
     forgetSlots $n
 }
 
-# The longest text of a column in the page, in rows of other sources than those.
-proc ::znbrowser::longestText {n number without} {
+# The pixels that the texts of a column take in the page, in rows of other sources than those.
+proc ::znbrowser::widestText {n number without} {
     upvar #0 ::znbrowser::window$n w
-    set longest ""
+    set widest 0
+    set letters 0
     foreach row $w(page) {
         if {[lindex $row 13] in $without} continue
         set cell [lsearch -exact -integer -inline -index 0 [lindex $row 11] $number]
         lassign [lindex $cell 1] kind text
-        if {$kind eq "text" && [string length $text] > [string length $longest]} {set longest [string range $text 0 99]}
+        if {$kind ne "text" || 2 * [string length $text] < $letters} continue ;# not to be measured to be narrower
+        set pixels [font measure znBrowser00 [string range $text 0 99]]
+        if {$pixels <= $widest} continue
+        set widest $pixels
+        set letters [string length $text]
     }
-    return $longest
+    return $widest
 }
 
 # How wide a column is to be: as the view says, or wider where its caption, its numbers or its texts need it.
