@@ -30,7 +30,7 @@ proc ::znbrowser::toggleDetails {n} {
     $w(path).panes add $pane -weight 0
     update idletasks
     set half [expr {[winfo width $w(path).panes] / 2}]
-    if {[$w(path).panes sashpos 0] < $half} {$w(path).panes sashpos 0 $half} ;# the rows stay in sight
+    if {[winfo reqwidth $pane] > $half} {$w(path).panes sashpos 0 $half} ;# both are in sight
     takeWindowKeys $pane
     lappend w(watchers) ::znbrowser::followDetails
     set w(detailOf) ""
