@@ -32,6 +32,10 @@ znbrowsermanager app datactrl refresh bicycle
 znbrowsermanager app path main 3
 znbrowsermanager app row main {part wheel}
 znbrowsermanager app row main {part wheel} {part rim}
+znbrowsermanager app scroll main {part wheel}
+# What its user opens beside the rows, as long as the window is posted.
+znbrowsermanager app details main true
+znbrowsermanager app chooser main false
 # Only rows with such a name; the text of a filter may stand in any column shown.
 znbrowsermanager app filter column parts Name contains e
 znbrowsermanager app draw main

@@ -164,6 +164,8 @@ int Journal(AppCall& call) {
 }
 
 constexpr AppWord appWords[] = {
+    {"chooser", "WINDOW ?BOOL?", "BOOL", "tells whether the list of a window's columns is open, or opens it",
+     1, 2, AnswerChooser},
     {"datactrl changes", "DATACTRL", "TEXT ...",
      "lists what people have changed in windows and can undo, the first change first", 1, 1, AppChanges},
     {"datactrl create", "NAME ?FILE?", "NAME",
@@ -183,6 +185,8 @@ constexpr AppWord appWords[] = {
      AppUndo},
     {"datactrl write", "DATACTRL ?BOOL?", "BOOL", "tells whether the database may be changed, or sets it", 1,
      2, AppWrite},
+    {"details", "WINDOW ?BOOL?", "BOOL",
+     "tells whether a window shows the details of the current row, or shows them", 1, 2, AnswerDetails},
     {"draw", "WINDOW", "TEXT", "draws what a window shows, as a table", 1, 1, AnswerDraw},
     {"export", "WINDOW all|selected|INDEX csv|tsv|cells|sql ?FILE? ?deep?", "TEXT",
      "writes rows as text, or into FILE and answers how many; cells: without captions, sql: as INSERT "
@@ -233,6 +237,10 @@ constexpr AppWord appWords[] = {
      "answers the index of the row that names lead to, or those of all rows between two", 2, 3, AppRow},
     {"rows", "WINDOW ?FIRST COUNT?", "ROW ...", "lists what a window shows, a dictionary for each row", 1, 3,
      AnswerRows},
+    {"scroll", "WINDOW ?PATH?", "PATH",
+     "tells which row stands at the top of a window, or scrolls there, or as far on the way as there are "
+     "rows",
+     1, 2, AppScroll},
     {"sort natural", "VIEW COLUMN ?BOOL?", "BOOL",
      "sets or reads whether numbers in the texts of a column are ordered as numbers", 2, 3, AppSortNatural},
     {"sql", "DATACTRL STATEMENT ?VALUE ...?", "VALUE ...",

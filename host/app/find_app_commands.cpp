@@ -75,9 +75,8 @@ int AppSortNatural(AppCall& call) {
 
 namespace {
 
-/// The index of the row at the end of a path. None, and the error stands in the interpreter, when there is no
-/// such row.
-std::optional<std::uint32_t> RowAt(const AppCall& call, RowModel& rows, std::size_t position) {
+/// The names of a path. None, and the error stands in the interpreter, when the word is no list.
+std::optional<std::vector<std::string>> PathIn(const AppCall& call, std::size_t position) {
     int count = 0;
     Tcl_Obj** steps = nullptr;
     if (Tcl_ListObjGetElements(call.App().Interp(), call.Word(position), &count, &steps) != TCL_OK)
@@ -85,17 +84,44 @@ std::optional<std::uint32_t> RowAt(const AppCall& call, RowModel& rows, std::siz
     std::vector<std::string> path;
     path.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) path.emplace_back(Tcl_GetString(steps[i]));
-    std::size_t wrong = 0;
-    const std::uint32_t index = rows.FindPath(path, wrong);
-    if (index) return index;
+    return path;
+}
+
+/// @param wrong  the place of the step that leads nowhere
+void FailAt(const AppCall& call, const std::vector<std::string>& path, std::size_t wrong) {
     if (path.empty()) {
         call.Fail("the path of the row is empty: must be the names on the way to it", "ROW");
-        return std::nullopt;
+        return;
     }
     const std::string above =
         wrong == 0 ? "at the top" : "below \"" + path[wrong - 1] + "\", which must be expanded";
     call.Fail("the window \"" + call.Text(0) + "\" shows no row \"" + path[wrong] + "\" " + above, "ROW",
               path[wrong]);
+}
+
+/// The index of the row at the end of a path. None, and the error stands in the interpreter, when there is no
+/// such row.
+std::optional<std::uint32_t> RowAt(const AppCall& call, RowModel& rows, std::size_t position) {
+    const auto path = PathIn(call, position);
+    if (!path) return std::nullopt;
+    std::size_t wrong = 0;
+    if (const std::uint32_t index = rows.FindPath(*path, wrong)) return index;
+    FailAt(call, *path, wrong);
+    return std::nullopt;
+}
+
+/// The same; of a row that is gone the last on the way to it that is there.
+std::optional<std::uint32_t> RowTowards(const AppCall& call, RowModel& rows, std::size_t position) {
+    auto path = PathIn(call, position);
+    if (!path) return std::nullopt;
+    std::size_t wrong = 0;
+    std::uint32_t index = rows.FindPath(*path, wrong);
+    if (!index && wrong > 0) {
+        path->resize(wrong);
+        index = rows.FindPath(*path, wrong);
+    }
+    if (index) return index;
+    FailAt(call, *path, wrong);
     return std::nullopt;
 }
 
@@ -127,6 +153,21 @@ int AppPath(AppCall& call) {
     if (!path.empty()) return call.Answer(path);
     return call.Fail("the window \"" + call.Text(0) + "\" shows no row with the index " + call.Text(1), "ROW",
                      call.Text(1));
+}
+
+int AppScroll(AppCall& call) {
+    const std::shared_ptr<Window> window = WindowOf(call);
+    if (!window) return TCL_ERROR;
+    RowModel& rows = window->Rows();
+    const RowModel::Answering answering(rows);
+    if (call.Count() > 1) {
+        const auto index = RowTowards(call, rows, 1);
+        if (!index) return TCL_ERROR;
+        window->ScrollTo(static_cast<int>(rows.PositionOf(*index)));
+        rows.Tell(RowChange::Refreshed);
+    }
+    const std::vector<std::uint32_t> first = rows.IndicesFrom(window->ScrollPosition(), 1);
+    return call.Answer(first.empty() ? std::vector<std::string>() : rows.PathOf(first[0]));
 }
 
 int AppPrune(AppCall& call) {

@@ -18,6 +18,7 @@ int AppRow(AppCall& call);
 int AppPath(AppCall& call);
 /// WINDOW: collapses whatever holds no selected row.
 int AppPrune(AppCall& call);
+int AppScroll(AppCall& call);
 
 /// Lists what was recorded.
 int AppRecord(AppCall& call);

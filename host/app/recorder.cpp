@@ -16,23 +16,36 @@ bool Recorder::Begin(const std::string& file, std::string& error) {
     file_ = std::move(opened);
     path_ = file;
     lines_.clear();
+    held_ = false;
     on_ = true;
     return true;
 }
 
 void Recorder::End() {
+    if (held_) Write();
+    held_ = false;
     on_ = false;
     file_ = {};
 }
 
-// Each line is in the file at once: a session may end in any way.
-bool Recorder::Add(const std::string& line, std::string& error) {
-    lines_.push_back(line);
-    if (path_.empty() || !file_.is_open()) return true;
+void Recorder::Write() {
+    if (!path_.empty() && file_.is_open()) file_ << lines_.back() << '\n' << std::flush;
+}
+
+// Each line is in the file as soon as it stays: a session may end in any way.
+bool Recorder::Add(const std::string& line, const std::string& passing, std::string& error) {
     errno = 0;
-    file_ << line << '\n' << std::flush;
-    if (file_) return true;
+    if (held_ && !passing.empty() && lines_.back().compare(0, passing.size(), passing) == 0) {
+        lines_.back() = line;
+        return true;
+    }
+    if (held_) Write();
+    lines_.push_back(line);
+    held_ = !passing.empty();
+    if (!held_) Write();
+    if (path_.empty() || file_) return true;
     error = "cannot write \"" + path_ + "\": " + std::strerror(errno);
+    held_ = false;
     End();
     return false;
 }

@@ -84,16 +84,38 @@ int AnswerRows(AppCall& call) {
                      "ROWS", call.Text(0));
 }
 
-int AnswerFlat(AppCall& call) {
+namespace {
+
+/// What a window has switched on or off: tells it, or sets it.
+template <class Is, class Set>
+int AnswerSwitch(AppCall& call, Is is, Set set) {
     const std::shared_ptr<Window> window = WindowOf(call);
-    int flat = 0;
+    int on = 0;
     if (!window) return TCL_ERROR;
     if (call.Count() > 1) {
-        if (Tcl_GetBooleanFromObj(call.App().Interp(), call.Word(1), &flat) != TCL_OK) return TCL_ERROR;
-        window->Rows().SetFlat(flat != 0);
+        if (Tcl_GetBooleanFromObj(call.App().Interp(), call.Word(1), &on) != TCL_OK) return TCL_ERROR;
+        set(*window, on != 0);
     }
-    return call.Answer(window->Rows().IsFlat() ? "true" : "false");
+    return call.Answer(is(*window) ? "true" : "false");
 }
+
+int AnswerAid(AppCall& call, Window::Aid aid) {
+    return AnswerSwitch(
+        call, [aid](const Window& window) { return window.IsOpen(aid); },
+        [aid](Window& window, bool open) { window.SetOpen(aid, open); });
+}
+
+} // namespace
+
+int AnswerFlat(AppCall& call) {
+    return AnswerSwitch(
+        call, [](Window& window) { return window.Rows().IsFlat(); },
+        [](Window& window, bool flat) { window.Rows().SetFlat(flat); });
+}
+
+int AnswerDetails(AppCall& call) { return AnswerAid(call, Window::Aid::Details); }
+
+int AnswerChooser(AppCall& call) { return AnswerAid(call, Window::Aid::Chooser); }
 
 int AnswerDraw(AppCall& call) {
     const std::shared_ptr<Window> window = WindowOf(call);

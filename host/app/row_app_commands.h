@@ -23,6 +23,8 @@ int AnswerRows(AppCall& call);
 int AnswerDraw(AppCall& call);
 /// WINDOW ?BOOL?: whether the items of lists stand at the top
 int AnswerFlat(AppCall& call);
+int AnswerDetails(AppCall& call);
+int AnswerChooser(AppCall& call);
 
 } // namespace znhost
 

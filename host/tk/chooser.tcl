@@ -3,6 +3,7 @@
 #   offered   in some windows: the names of the columns that are offered; else all are
 #   choices   in some windows: pairs of a value and a text, to be chosen between, and `choose` is called with the value
 #   choice    which of them holds
+#   chooserAt where on the screen it opens; as a rule below its button
 
 # The button beside the search field.
 proc ::znbrowser::buildChooser {n bar} {
@@ -21,7 +22,23 @@ proc ::znbrowser::chooser {name} {return [set ::znbrowser::window[number $name](
 # Opens the chooser; one that is open comes to the front.
 proc ::znbrowser::openChooser {n {rootX ""} {rootY ""}} {
     upvar #0 ::znbrowser::window$n w
+    set w(chooserAt) [list $rootX $rootY]
+    if {[winfo exists $w(path).chooser]} {return [showChooser $n]}
+    switchAid $n chooser true
+}
+
+proc ::znbrowser::closeChooser {n} {switchAid $n chooser false}
+
+proc ::znbrowser::hideChooser {n} {
+    upvar #0 ::znbrowser::window$n w
+    destroy $w(path).chooser
+    focus $w(tree)
+}
+
+proc ::znbrowser::showChooser {n} {
+    upvar #0 ::znbrowser::window$n w
     set top $w(path).chooser
+    lassign $w(chooserAt) rootX rootY
     if {![winfo exists $top]} {makeChooser $n $top}
     ttk::style configure Chooser.Treeview -rowheight [rowHeight] -background [colour paper] \
         -fieldbackground [colour paper] -foreground [colour text]
@@ -43,12 +60,12 @@ proc ::znbrowser::openChooser {n {rootX ""} {rootY ""}} {
 
 proc ::znbrowser::makeChooser {n top} {
     upvar #0 ::znbrowser::window$n w
+    set w(wanted) ""
     toplevel $top -background [colour surface]
     wm withdraw $top
     wm title $top "Columns"
     wm transient $top [winfo toplevel $w(path)]
     wm protocol $top WM_DELETE_WINDOW [list ::znbrowser::closeChooser $n]
-    set w(wanted) ""
     ttk::entry $top.search -style Search.TEntry -textvariable ::znbrowser::window${n}(wanted) -width 30
     ttk::frame $top.choice -style Browser.TFrame
     ttk::frame $top.list -style Browser.TFrame
@@ -68,6 +85,7 @@ proc ::znbrowser::makeChooser {n top} {
     pack $top.choice -side top -fill x -padx 8
     pack $top.buttons -side bottom -fill x -padx 8 -pady {4 8}
     pack $top.list -side top -fill both -expand 1 -padx 8
+    trace remove variable ::znbrowser::window${n}(wanted) write [list ::znbrowser::refillChooser $n]
     trace add variable ::znbrowser::window${n}(wanted) write [list ::znbrowser::refillChooser $n]
     bind $top <Escape> [list ::znbrowser::closeChooser $n]
     bind $top.search <Down> [list focus $top.list.tree]
@@ -83,12 +101,6 @@ proc ::znbrowser::bindChooserList {n tree} {
     foreach {key step} {Up -1 Down 1} {
         bind $tree <Alt-$key> "[list ::znbrowser::moveFocused $n $step]; break"
     }
-}
-
-proc ::znbrowser::closeChooser {n} {
-    upvar #0 ::znbrowser::window$n w
-    destroy $w(path).chooser
-    if {[isOpen $n]} {focus $w(tree)}
 }
 
 # ---- What stands in it

@@ -18,14 +18,21 @@ proc ::znbrowser::details {name} {return [set ::znbrowser::window[number $name](
 
 proc ::znbrowser::toggleDetails {n} {
     upvar #0 ::znbrowser::window$n w
+    switchAid $n details [expr {[winfo exists $w(path).details] ? "false" : "true"}]
+}
+
+proc ::znbrowser::hideDetails {n} {
+    upvar #0 ::znbrowser::window$n w
     set pane $w(path).details
-    if {[winfo exists $pane]} {
-        set w(watchers) [lsearch -all -inline -exact -not $w(watchers) ::znbrowser::followDetails]
-        if {[string match $pane* [focus]]} {focus $w(tree)}
-        destroy $pane
-        forgetPictures $n
-        return
-    }
+    set w(watchers) [lsearch -all -inline -exact -not $w(watchers) ::znbrowser::followDetails]
+    if {[string match $pane* [focus]]} {focus $w(tree)}
+    destroy $pane
+    forgetPictures $n
+}
+
+proc ::znbrowser::showDetails {n} {
+    upvar #0 ::znbrowser::window$n w
+    set pane $w(path).details
     makeDetails $n $pane
     $w(path).panes add $pane -weight 0
     update idletasks

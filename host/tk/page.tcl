@@ -198,8 +198,10 @@ proc ::znbrowser::tellWatchers {n} {
 # Tells the host where the window stands, as soon as it stands still.
 proc ::znbrowser::reportScroll {n} {
     upvar #0 ::znbrowser::window$n w
+    if {[info exists w(timer,report)]} {after cancel $w(timer,report)}
     unset -nocomplain w(timer,report)
     if {$w(first) == $w(reported)} return
     set w(reported) $w(first)
     event $n OnTkTreeSetStatePos $w(first)
+    recordScroll $n
 }

@@ -94,3 +94,11 @@ proc ::znbrowser::record {n line} {
     if {$line eq "" || ![host recording]} return
     if {[catch {host record $line} problem] && [isOpen $n]} {say $n $problem}
 }
+
+# The window stands still after it was scrolled: the row at its top. The next such line takes the place of this one.
+proc ::znbrowser::recordScroll {n} {
+    upvar #0 ::znbrowser::window$n w
+    if {![isOpen $n] || ![host recording] || $w(page) eq ""} return
+    set line [list znbrowsermanager app scroll $w(name)]
+    if {[catch {host record [concat $line [list [host path $n [lindex $w(page) 0 0]]]] "$line "} problem]} {say $n $problem}
+}

@@ -176,6 +176,8 @@ Tcl_Obj* Look(const Question& question) {
     Put(dictionary, "background", NewText(window.Background()));
     Put(dictionary, "single", Tcl_NewBooleanObj(window.Rows().IsSingle()));
     Put(dictionary, "scroll", Tcl_NewIntObj(window.ScrollPosition()));
+    Put(dictionary, "details", Tcl_NewBooleanObj(window.IsOpen(Window::Aid::Details)));
+    Put(dictionary, "chooser", Tcl_NewBooleanObj(window.IsOpen(Window::Aid::Chooser)));
     Put(dictionary, "uncounted", Tcl_NewBooleanObj(window.Rows().IsUncounted()));
     if (window.ShownView()) PutView(dictionary, *window.ShownView());
     return dictionary;
@@ -391,14 +393,15 @@ bool ReadArguments(Tcl_Interp* interp, const TkWord& word, int objc, Tcl_Obj* co
     return true;
 }
 
-/// "record LINE": what its user did in a window.
+/// "record LINE ?PASSING?": what its user did in a window; a line after it that begins so replaces it.
 int Record(TkWindows& open, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
     std::string error;
-    if (objc != 3) {
-        Tcl_WrongNumArgs(interp, 2, objv, "LINE");
+    if (objc != 3 && objc != 4) {
+        Tcl_WrongNumArgs(interp, 2, objv, "LINE ?PASSING?");
         return TCL_ERROR;
     }
-    if (!open.App().Recording().Add(Tcl_GetString(objv[2]), error)) return Fail(interp, error);
+    if (!open.App().Recording().Add(Tcl_GetString(objv[2]), objc == 4 ? Tcl_GetString(objv[3]) : "", error))
+        return Fail(interp, error);
     return TCL_OK;
 }
 

@@ -94,7 +94,7 @@ proc ::znbrowser::open {n name frame} {
     variable numberOf
     upvar #0 ::znbrowser::window$n w
     array set w [list name $name first 0 full 1 page {} columns {} shown {} active -1 anchor -1 \
-        pending {} reported -1 trouble {} menu 0 menus 0 bare 0 grown {} measured {} sized {} watchers {} flat 0 locked 0 indents {0 18} visible {} \
+        pending {} reported -1 trouble {} menu 0 menus 0 bare 0 grown {} measured {} sized {} chooserAt {} watchers {} flat 0 locked 0 indents {0 18} visible {} \
         look [host look $n] paper [colour paper]]
     set w(owns) [expr {$frame eq "" || ![winfo exists $frame]}]
     if {$w(owns)} {set frame [makeToplevel $n $name $frame]}
@@ -329,6 +329,22 @@ proc ::znbrowser::flush {n} {
     } finally {
         if {[host end] && [isOpen $n]} {say $n "Cancelled: what is shown is not complete."}
     }
+    followAids $n
+}
+
+# Opens, or closes, what the host knows to be open beside the rows.
+proc ::znbrowser::followAids {n} {
+    upvar #0 ::znbrowser::window$n w
+    foreach {aid show hide} {details showDetails hideDetails chooser showChooser hideChooser} {
+        if {![isOpen $n] || [dict get $w(look) $aid] == [winfo exists $w(path).$aid]} continue
+        [expr {[dict get $w(look) $aid] ? $show : $hide}] $n
+    }
+}
+
+# Its user opens or closes one of them.
+proc ::znbrowser::switchAid {n aid open} {
+    upvar #0 ::znbrowser::window$n w
+    if {[isOpen $n] && [tell $n [list app $aid $w(name) $open]]} {flush $n}
 }
 
 # Draws what changed.

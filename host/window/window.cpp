@@ -138,8 +138,14 @@ void Window::RunWindowOperation(Window& target, ZNBROWSER_CALLBACK_OPERATION ope
     target.rows_.SelectRelated(items, operation == ZNBROWSER_CALLBACK_TREE_AREA_SELECT_PARENT_ITEMS);
 }
 
+void Window::SetOpen(Aid aid, bool open) {
+    open_[static_cast<std::size_t>(aid)] = open;
+    rows_.Tell(RowChange::Refreshed);
+}
+
 void Window::Post(bool posted) {
     if (posted == posted_) return;
+    open_ = {};
     const std::shared_ptr<Window> self = shared_from_this();
     WindowDisplay* const display = Display();
     posted_ = posted;

@@ -68,6 +68,10 @@ public:
     /// As the Tk tree reported it last.
     int ScrollPosition() const { return scrollPosition_; }
     void ScrollTo(int position) noexcept { scrollPosition_ = position; }
+    /// Whether its user has that open, as long as the window is posted: its display follows.
+    enum class Aid { Details, Chooser };
+    bool IsOpen(Aid aid) const { return open_[static_cast<std::size_t>(aid)]; }
+    void SetOpen(Aid aid, bool open);
     /// The collector bar.
     CollectorBar& Bar() { return bar_; }
     WindowPopup& Popup() { return popup_; }
@@ -181,6 +185,7 @@ private:
     bool posted_ = false;
     bool closed_ = false;
     int scrollPosition_ = 0;
+    std::array<bool, 2> open_{}; ///< by `Aid`
     CollectorBar bar_;
     unsigned partsMade_ = 0;
     WindowPart::Parts parts_;

@@ -33,3 +33,7 @@ znbrowsermanager window current W
 znbrowsermanager view filter string current {}
 znbrowsermanager window current W
 znbrowsermanager app filter column V mass between 1 20
+znbrowsermanager app details W true
+znbrowsermanager app chooser W true
+znbrowsermanager app scroll W {lists part shaft}
+znbrowsermanager app chooser W false
