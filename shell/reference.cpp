@@ -17,10 +17,11 @@
 namespace {
 
 constexpr const char* introduction[] = {
-    R"(A word may be written in any mixture of upper and lower case. Of the arguments, those in capitals stand for a kind,
-all others for themselves; ?...? may be left out, a|b is one or the other, and ... says that the last may be repeated.
-What a word answers is written in the same way: COLUMN ... is a list of columns, ?COLUMN? may be empty, and where nothing
-is written the answer is empty. Words with "..." behind them lead on to others, below in a section of their own.)",
+    R"(A word may be written in any mixture of upper and lower case. Some have a second spelling, as "enable" for "enabled"
+in the usage texts. Of the arguments, those in capitals stand for a kind, all others for themselves; ?...? may be left out,
+a|b is one or the other, and ... says that the last may be repeated. What a word answers is written in the same way:
+COLUMN ... is a list of columns, ?COLUMN? may be empty, and where nothing is written the answer is empty. Words with "..."
+behind them lead on to others, below in a section of their own.)",
     R"(Where something goes wrong, the answer is the command behind "[Command]", and behind "[Error]" on the next line the
 text that is told here. Words that are missing, or that cannot be read, are answered with the usage text of the family.)",
     R"(The examples are run when this is written, each on a host of its own and behind the lines of the opening. At the prompt

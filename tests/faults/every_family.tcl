@@ -176,7 +176,7 @@ set sections {
         {view popupmenuitem description} {view popupmenuitem icon i.png} {view popupmenuitem icon}
         {view popupmenuitem checkable true} {view popupmenuitem checkable} {view popupmenuitem checked true}
         {view popupmenuitem checked} {view popupmenuitem disabled true} {view popupmenuitem disabled}
-        {view popupmenuitem enable true} {view popupmenuitem enable} {view popupmenuitem visible true}
+        {view popupmenuitem enabled true} {view popupmenuitem enabled} {view popupmenuitem visible true}
         {view popupmenuitem visible} {view popupmenuitem onsingleitem true} {view popupmenuitem onsingleitem}
         {view popupmenuitem showonfolder true} {view popupmenuitem showonfolder} {view popupmenuitem operation op}
         {view popupmenuitem operation} {view popupmenuitem dataoperation o} {view popupmenuitem dataoperation}
@@ -221,11 +221,11 @@ set sections {
         {collector preselector} {collector preselector on} {collector preselector dataitem} {collector isolate}
         {app sql m {DELETE FROM unit WHERE id = 2}} {collector undo names} {collector undo} {collector undo}
         {app sql m {INSERT INTO unit VALUES (9, 1, 'i', 0)}} {collector showhide all} {collector undo count}
-        {collector undo show false} {collector undo enable false} {collector addremove enable}
-        {collector addremove show true} {collector entityselector show} {collector entityselector enable true}
-        {collector optionselector show} {collector optionselector enable} {collector pnlcolselector show}
-        {collector pnlcolselector enable} {collector preselector show} {collector preselector enable}
-        {collector preselector off} {collector selection show true} {collector selection enable}
+        {collector undo show false} {collector undo enabled false} {collector addremove enabled}
+        {collector addremove show true} {collector entityselector show} {collector entityselector enabled true}
+        {collector optionselector show} {collector optionselector enabled} {collector pnlcolselector show}
+        {collector pnlcolselector enabled} {collector preselector show} {collector preselector enabled}
+        {collector preselector off} {collector selection show true} {collector selection enabled}
         {app state create m st} {state current st} {state save} {collector undo clear} {state restore} {app rows win}
         {collector pnlcolselector delete kept} {collector datasource simple current own} {view datasource simple disconnect own}
         {datasource simple delete own} {collector datasource simple current} {collector selection add displayed}

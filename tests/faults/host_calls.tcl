@@ -30,12 +30,15 @@ proc recordSection {section} {
 # The words of every command, without arguments, in the order of the reference.
 proc commands {} {
     set below {}
+    set table ""
     foreach line [split [exec [info nameofexecutable] --reference] \n] {
         if {[regexp {^## `znbrowsermanager ?(.*)`$} $line - level]} {
             dict set below $level {}
         } elseif {[regexp {^As `znbrowsermanager (.*)`\.$} $line - same]} {
             dict set below $level [dict get $below $same]
-        } elseif {[info exists level] && [regexp {^\| `([A-Za-z]+)[ `]} $line - word]} {
+        } elseif {[regexp {^\| (word|goes wrong) \|} $line - table]} {
+            continue
+        } elseif {$table eq "word" && [regexp {^\| `([A-Za-z]+)[ `]} $line - word]} {
             dict lappend below $level $word
         }
     }
