@@ -57,8 +57,10 @@ function(zn_install_manual file component)
     set(folder "${CMAKE_INSTALL_MANDIR}/man${section}")
     install(FILES "${file}" DESTINATION "${folder}" RENAME "${page}" COMPONENT ${component})
     if(ZN_PACKAGE)
-        install(CODE "execute_process(COMMAND_ERROR_IS_FATAL ANY COMMAND gzip -9nf
-            \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${folder}/${page}\")" COMPONENT ${component})
+        install(CODE "
+            set(page \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${folder}/${page}\")
+            execute_process(COMMAND sed -i \"1s/ n / 3tcl /\" \"\${page}\" COMMAND_ERROR_IS_FATAL ANY)
+            execute_process(COMMAND gzip -9nf \"\${page}\" COMMAND_ERROR_IS_FATAL ANY)" COMPONENT ${component})
     endif()
 endfunction()
 

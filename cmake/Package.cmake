@@ -3,6 +3,10 @@
 set(docs share/doc/znBrowserScripting)
 install(FILES README.md CHANGELOG.md DESTINATION "${docs}" COMPONENT documentation)
 install(DIRECTORY doc examples DESTINATION "${docs}" COMPONENT documentation)
+if(TARGET examples) # with their models, which are built
+    install(DIRECTORY "${ZN_EXAMPLES_DIR}/models" DESTINATION "${docs}/examples" COMPONENT documentation)
+    add_dependencies(installed examples)
+endif()
 
 if(NOT ZN_PACKAGE)
     return()

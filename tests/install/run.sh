@@ -22,6 +22,8 @@ install_and_move() {
         readelf -SW "$lib/debug/.build-id/${id:0:2}/${id:2}.debug" 2>/dev/null | grep -qF .debug_info || fail "$binary: no debug file"
     done
     "$prefix/bin/znbrowsersh" --version
+    diff <("$prefix/bin/znbrowsersh" "$prefix/share/doc/znBrowserScripting/examples/first_view.tcl") \
+        "$source/tests/examples/first_view.out"
 }
 
 # check_programs FOLDER: what they print.
