@@ -2,7 +2,7 @@
 # else the machine does, so that this is a test.
 #
 #     znbrowsersh instructions.tcl COMMAND_COST_PROGRAM
-set limit 2.7
+set limit 2.4
 
 proc count {command times} {
     global program

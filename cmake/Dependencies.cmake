@@ -7,7 +7,7 @@ find_package(benchmark REQUIRED)
 if(ZN_POSTGRES)
     pkg_check_modules(PQ REQUIRED libpq)
 endif()
-pkg_check_modules(EDIT REQUIRED IMPORTED_TARGET libedit)
+pkg_check_modules(EDIT REQUIRED libedit)
 
 find_library(ZN_TCL_LIBRARY tcl8.6 REQUIRED)
 

@@ -16,8 +16,9 @@ if(sources AND TARGET znBrowserScripting AND TARGET znbrowserhost)
         VERBATIM)
     add_executable(znbrowsersh ${sources} "${word_source}")
     target_include_directories(znbrowsersh PRIVATE "${PROJECT_SOURCE_DIR}/shell")
+    target_include_directories(znbrowsersh SYSTEM PRIVATE ${EDIT_INCLUDE_DIRS}) # loaded when the prompt shows
     target_link_libraries(znbrowsersh PRIVATE
-        znbrowserhost znBrowserScripting zn_tcl CLI11::CLI11 PkgConfig::EDIT)
+        znbrowserhost znBrowserScripting zn_tcl CLI11::CLI11 ${CMAKE_DL_LIBS})
     zn_install(znbrowsersh program RUNTIME "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 
     # The manual page of the command comes from the tables of words.

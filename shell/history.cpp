@@ -28,18 +28,18 @@ std::string HistoryFile() {
 
 } // namespace
 
-InputHistory::InputHistory() : history_(history_init()), file_(HistoryFile()) {
+InputHistory::InputHistory() : history_(Edit().history_init()), file_(HistoryFile()) {
     HistEvent event;
-    history(history_, &event, H_SETSIZE, MAX_LINES);
-    history(history_, &event, H_SETUNIQUE, 1);
-    if (!file_.empty()) history(history_, &event, H_LOAD, file_.c_str());
+    Edit().history(history_, &event, H_SETSIZE, MAX_LINES);
+    Edit().history(history_, &event, H_SETUNIQUE, 1);
+    if (!file_.empty()) Edit().history(history_, &event, H_LOAD, file_.c_str());
 }
 
-InputHistory::~InputHistory() { history_end(history_); }
+InputHistory::~InputHistory() { Edit().history_end(history_); }
 
 void InputHistory::Add(const std::string& line) {
     if (line.find_first_not_of(" \t\n") == std::string::npos) return;
     HistEvent event;
-    history(history_, &event, H_ENTER, line.c_str());
-    if (!file_.empty()) history(history_, &event, H_SAVE, file_.c_str());
+    Edit().history(history_, &event, H_ENTER, line.c_str());
+    if (!file_.empty()) Edit().history(history_, &event, H_SAVE, file_.c_str());
 }

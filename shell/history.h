@@ -2,7 +2,7 @@
 #ifndef SHELL_HISTORY_H
 #define SHELL_HISTORY_H
 
-#include <histedit.h>
+#include "libedit.h"
 
 #include <string>
 

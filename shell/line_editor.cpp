@@ -39,28 +39,28 @@ void ListWords(const std::vector<std::string>& choices) {
 } // namespace
 
 LineEditor::LineEditor(Services services)
-    : services_(std::move(services)), editor_(el_init("znbrowsersh", stdin, stdout, stderr)) {
-    el_set(editor_, EL_CLIENTDATA, this);
-    el_set(editor_, EL_PROMPT, ShowPrompt);
-    el_set(editor_, EL_GETCFN, ReadCharacter);
-    el_set(editor_, EL_SIGNAL, 1);
-    el_set(editor_, EL_HIST, history, history_.Get());
-    el_set(editor_, EL_EDITOR, "emacs");
+    : services_(std::move(services)), editor_(Edit().el_init("znbrowsersh", stdin, stdout, stderr)) {
+    Edit().el_set(editor_, EL_CLIENTDATA, this);
+    Edit().el_set(editor_, EL_PROMPT, ShowPrompt);
+    Edit().el_set(editor_, EL_GETCFN, ReadCharacter);
+    Edit().el_set(editor_, EL_SIGNAL, 1);
+    Edit().el_set(editor_, EL_HIST, Edit().history, history_.Get());
+    Edit().el_set(editor_, EL_EDITOR, "emacs");
     // the narrow form would copy both texts and never release them
-    el_wset(editor_, EL_ADDFN, L"zn-complete", L"Complete a command word or a name", Complete);
-    el_set(editor_, EL_BIND, "^I", "zn-complete", nullptr);
-    el_set(editor_, EL_BIND, "^R", "em-inc-search-prev", nullptr);
-    el_source(editor_, nullptr);
+    Edit().el_wset(editor_, EL_ADDFN, L"zn-complete", L"Complete a command word or a name", Complete);
+    Edit().el_set(editor_, EL_BIND, "^I", "zn-complete", nullptr);
+    Edit().el_set(editor_, EL_BIND, "^R", "em-inc-search-prev", nullptr);
+    Edit().el_source(editor_, nullptr);
 }
 
-LineEditor::~LineEditor() { el_end(editor_); }
+LineEditor::~LineEditor() { Edit().el_end(editor_); }
 
 LineEditor::Outcome LineEditor::Read(const std::string& prompt, std::string& line) {
     prompt_ = prompt;
     int count = 0;
-    el_set(editor_, EL_PREP_TERM,
-           1); // before the prompt shows: what is typed at it must not meet the old mode
-    const char* const text = el_gets(editor_, &count);
+    Edit().el_set(editor_, EL_PREP_TERM,
+                  1); // before the prompt shows: what is typed at it must not meet the old mode
+    const char* const text = Edit().el_gets(editor_, &count);
     if (!text || count <= 0) return count < 0 ? Outcome::Interrupted : Outcome::End;
     const std::string typed(text, static_cast<std::size_t>(count));
     history_.Add(typed.substr(0, typed.find_last_not_of('\n') + 1));
@@ -70,7 +70,7 @@ LineEditor::Outcome LineEditor::Read(const std::string& prompt, std::string& lin
 
 LineEditor& LineEditor::Self(EditLine* editor) {
     void* self = nullptr;
-    el_get(editor, EL_CLIENTDATA, &self);
+    Edit().el_get(editor, EL_CLIENTDATA, &self);
     return *static_cast<LineEditor*>(self);
 }
 
@@ -99,14 +99,14 @@ int LineEditor::ReadCharacter(EditLine* editor, wchar_t* character) {
 
 // Types what is certain of the word; lists what it may be when that is nothing new.
 unsigned char LineEditor::Complete(EditLine* editor, int) {
-    const LineInfo* const info = el_line(editor);
+    const LineInfo* const info = Edit().el_line(editor);
     const std::string typed(info->buffer, info->cursor);
     const Completion completion = Self(editor).services_.complete(znhost::FromNative(typed));
     if (completion.choices.empty()) return CC_REFRESH_BEEP;
     if (!completion.replacement.empty()) {
-        el_deletestr(editor, CountCharacters(znhost::ToNative(completion.replaced)));
-        return el_insertstr(editor, znhost::ToNative(completion.replacement).c_str()) == 0 ? CC_REFRESH
-                                                                                           : CC_ERROR;
+        Edit().el_deletestr(editor, CountCharacters(znhost::ToNative(completion.replaced)));
+        return Edit().el_insertstr(editor, znhost::ToNative(completion.replacement).c_str()) == 0 ? CC_REFRESH
+                                                                                                  : CC_ERROR;
     }
     ListWords(completion.choices);
     return CC_REDISPLAY;

@@ -5,7 +5,7 @@
 #include "completion.h"
 #include "history.h"
 
-#include <histedit.h>
+#include "libedit.h"
 
 #include <functional>
 #include <string>

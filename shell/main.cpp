@@ -1,4 +1,5 @@
 // znbrowsersh: a Tcl shell with the command znbrowsermanager on the embedded host.
+#include "libedit.h"
 #include "options.h"
 #include "prompt.h"
 #include "session.h"
@@ -26,7 +27,10 @@ ExitCode Run(const Options& options) {
     if (!isatty(STDIN_FILENO)) return session.RunStandardInput();
     if (options.tk) session.OpenBrowsers();
     session.DrawWindows();
-    return Prompt(session).Run();
+    std::string reason;
+    if (LibEdit::Load(reason)) return Prompt(session).Run();
+    PrintLine(TCL_STDERR, "znbrowsersh: " + reason);
+    return EXIT_FAILED;
 }
 
 } // namespace

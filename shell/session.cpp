@@ -217,10 +217,21 @@ void Session::PrintFailure(int code) {
     Tcl_DecrRefCount(options);
 }
 
+// Whether a script has told Tcl to do something later.
+bool Session::IsAnythingLater() const {
+    const Tcl_InterpState state = Tcl_SaveInterpState(interp_, TCL_OK);
+    const bool known = Tcl_EvalEx(interp_, "::after info", -1, TCL_EVAL_GLOBAL) == TCL_OK;
+    const bool found = !known || *Tcl_GetStringResult(interp_);
+    Tcl_RestoreInterpState(interp_, state);
+    return found;
+}
+
 // The first call runs the timers that are due, the second the idle scripts, among them reports of background
 // errors that either has left. Once each: an idle script that schedules itself again would never end a loop.
+// To look for timers Tcl starts a thread, which takes a good part of the time of a short script: it is not
+// done in vain.
 void Session::ServePending() {
-    Tcl_DoOneEvent(TCL_TIMER_EVENTS | TCL_DONT_WAIT);
+    if (windows_ == Windows::OnDisplay || IsAnythingLater()) Tcl_DoOneEvent(TCL_TIMER_EVENTS | TCL_DONT_WAIT);
     Tcl_DoOneEvent(TCL_IDLE_EVENTS | TCL_DONT_WAIT);
     Tcl_DoOneEvent(TCL_IDLE_EVENTS | TCL_DONT_WAIT);
 }

@@ -56,6 +56,7 @@ private:
     void FindDisplay();
     bool Browse(const std::string& control);
     ExitCode Finish(int code);
+    bool IsAnythingLater() const;
     /// @return false when it was interrupted
     bool ShowToTheEnd();
     void PrintFailure(int code);

@@ -26,7 +26,7 @@ class WantedValues;
 
 /// The most bytes of a text in a cell; nobody looks at more of it, and Tcl cannot hold many that are larger.
 /// The whole text is had with `GetValueString`.
-constexpr std::size_t longestCell = 1 << 16;
+constexpr std::size_t longestCell = 1 << 12;
 
 /// How the items of one source hang below those of another: along a data reference. Either the child's table
 /// holds the foreign key (an item has any number of children), or the parent's does (it has at most one

@@ -69,7 +69,7 @@ void View::NoteItems(unsigned changes) noexcept {
     if (changes & VIEW_ROWS) itemsSeen_ = 0;
 }
 
-void View::Changed(unsigned changes) {
+void View::NoteAndTell(unsigned changes) {
     heldBack_ |= changes;
     if (mayMissItems_) ForgetMissingItems();
     if (!browser_.HoldsBack()) Flush();

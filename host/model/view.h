@@ -106,7 +106,9 @@ public:
     void RemoveObserver(const ViewObserver& observer);
     /// Tells the observers, now or, while changes are held back, with the next `Flush`; with them what could
     /// not be told before because memory ran out. `changes` are bits of `ViewChange`; 0: nothing new.
-    void Changed(unsigned changes);
+    void Changed(unsigned changes) {
+        if (!observers_.empty() || mayMissItems_) NoteAndTell(changes);
+    }
     /// The long lists that its windows show.
     RowLists& Lists() { return rowLists_; }
     /// Notes that the items of the data control changed, to be told with the next `Changed` or `Flush`.
@@ -192,6 +194,7 @@ private:
         Changed(change);
         return true;
     }
+    void NoteAndTell(unsigned changes);
     void DropRemovedObservers();
     void ForgetMissingItems();
 

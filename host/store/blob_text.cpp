@@ -55,8 +55,10 @@ std::string_view KindOfBlob(std::string_view bytes) {
     return known == std::end(signatures) ? "BLOB"sv : known->kind;
 }
 
-std::string DescribeBlob(std::string_view bytes) {
-    return std::string(KindOfBlob(bytes)) + ", " + SizeText(bytes.size());
+std::string DescribeBlob(std::string_view bytes) { return DescribeBlob(bytes, bytes.size()); }
+
+std::string DescribeBlob(std::string_view beginning, std::size_t size) {
+    return std::string(KindOfBlob(beginning)) + ", " + SizeText(size);
 }
 
 } // namespace znhost

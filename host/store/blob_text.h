@@ -2,6 +2,7 @@
 #ifndef ZN_HOST_BLOB_TEXT_H
 #define ZN_HOST_BLOB_TEXT_H
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,8 @@ std::string_view KindOfBlob(std::string_view bytes);
 
 /// Its kind and its size: "PNG image, 12.3 kB".
 std::string DescribeBlob(std::string_view bytes);
+/// The same of one of that many bytes, of which these are the first.
+std::string DescribeBlob(std::string_view beginning, std::size_t size);
 
 } // namespace znhost
 

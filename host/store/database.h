@@ -2,6 +2,7 @@
 #ifndef ZN_HOST_DATABASE_H
 #define ZN_HOST_DATABASE_H
 
+#include "store/column_values.h"
 #include "store/statement.h"
 
 #include <functional>
@@ -12,6 +13,7 @@
 namespace znhost {
 
 struct Table;
+struct TableColumn;
 
 /// Where the SQL of the host differs from engine to engine; what differs from table to table stands in the
 /// tables.
@@ -108,6 +110,10 @@ public:
     /// Runs any number of statements, such as a shipped script holds. A transaction that a failed script left
     /// open is rolled back.
     virtual bool RunScript(const std::string& script, std::string& error) = 0;
+
+    /// The values of a column of the table as they are read in parts; null where the engine, or this table,
+    /// has them whole only.
+    virtual std::unique_ptr<ColumnValues> OpenValues(const Table&, const TableColumn&) { return nullptr; }
 
     // ---- What happened ----
     /// @return false when the database cannot be read at present (it is locked, for example)

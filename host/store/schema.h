@@ -19,8 +19,9 @@ struct TableColumn {
     bool text = false;    ///< declared as a text: CHAR, CLOB or TEXT
     bool numeric = false; ///< a text that looks like a number is stored as that number
     bool notNull = false;
-    int primaryKey = 0;   ///< position in the primary key from 1; 0: not in it
-    bool indexed = false; ///< rows with a given value are found through an index
+    int primaryKey = 0;           ///< position in the primary key from 1; 0: not in it
+    bool indexed = false;         ///< rows with a given value are found through an index
+    mutable bool hasLong = false; ///< a long value was seen in it: it is better read in parts
     // How a server looks at the texts of the values; "" where it does not, or sees others than are shown.
     std::string beyond; ///< SQL for: the text is not all ASCII
     std::string folded; ///< SQL for the text with all ASCII letters small
@@ -63,6 +64,7 @@ struct Table {
     std::string number;            ///< the `?` for a row number that other columns are compared with
     std::string inTable;           ///< `is` for the original; "": the rows cannot be changed
     std::shared_ptr<RowKeys> keys; ///< null: the row number is the value of `key`
+    bool inParts = false;          ///< the engine can read its values in parts
     std::vector<TableColumn> columns;
     std::vector<ForeignKey>
         foreignKeys; ///< in the order of their declaration; only those that lead somewhere

@@ -18,6 +18,7 @@
 namespace znhost {
 
 class BaseSource;
+class CellTexts;
 class DataCtrl;
 
 /// What base and custom sources have in common: a name, captions, properties, and rows that come from one or
@@ -141,9 +142,8 @@ protected:
     virtual DataProperty* FindColumnProperty(std::string_view) { return nullptr; }
 
 private:
-    bool ReadTextsTogether(const RowPart& part, const std::string& columns, std::size_t count,
-                           const std::vector<std::int64_t>& rows,
-                           std::vector<std::optional<std::string>>& texts);
+    bool ReadTextsTogether(const RowPart& part, const std::vector<std::int64_t>& rows, CellTexts& cells,
+                           std::size_t count, std::vector<std::optional<std::string>>& texts);
     class PartScan;
     struct Found {
         std::vector<std::int64_t>& rows;

@@ -3,6 +3,7 @@
 #include "host/znBrowserDataItems.h"
 #include "model/browser.h"
 #include "store/asked_rows.h"
+#include "store/cell_texts.h"
 #include "store/data_ctrl.h"
 #include "store/data_property.h"
 #include "store/link_reader.h"
@@ -195,35 +196,17 @@ bool SimpleSource::IsStored(znIBrowserDataProperty* property) {
     return !property || (column && &column->Owner() == this);
 }
 
-namespace {
-
-/// What a stored property reads from the table; NULL when that has no such column.
-std::string ColumnSql(const Table& table, znIBrowserDataProperty* property) {
-    if (!property) return table.naming;
-    const auto column = static_cast<DataProperty*>(property)->ColumnIn(table);
-    return column ? Database::Quoted(table.columns[*column].name) : "NULL";
-}
-
-/// The texts of the present row; its first column is that one of the statement.
-void TakeTexts(const Statement& statement, int first, std::size_t count, std::optional<std::string>* texts) {
-    for (std::size_t i = 0; i < count; ++i) {
-        const int column = first + static_cast<int>(i);
-        if (!statement.IsNull(column)) texts[i] = statement.Shown(column, longestCell);
-    }
-}
-
-} // namespace
-
 /// Those of the rows that are in the part, with one question.
-bool SimpleSource::ReadTextsTogether(const RowPart& part, const std::string& columns, std::size_t count,
-                                     const std::vector<std::int64_t>& rows,
+bool SimpleSource::ReadTextsTogether(const RowPart& part, const std::vector<std::int64_t>& rows,
+                                     CellTexts& cells, std::size_t count,
                                      std::vector<std::optional<std::string>>& texts) {
     const AskedRows asked(*this, part, rows);
     if (asked.IsEmpty()) return true;
-    Statement statement = asked.Ask(", " + columns);
+    Statement statement = asked.Ask(", " + cells.Sql());
     while (statement.Next()) {
-        asked.ForEachPlace(statement,
-                           [&](std::size_t place) { TakeTexts(statement, 1, count, &texts[place * count]); });
+        asked.ForEachPlace(statement, [&](std::size_t place) {
+            cells.Take(statement, 1, rows[place], &texts[place * count]);
+        });
     }
     std::string error;
     return statement.Finish(error) || FailToRead(error);
@@ -235,21 +218,18 @@ void SimpleSource::ReadTexts(const std::vector<std::int64_t>& rows,
     texts.assign(rows.size() * properties.size(), std::nullopt);
     if (properties.empty()) return;
     for (const RowPart& part : Parts()) {
-        std::string columns;
-        for (znIBrowserDataProperty* const property : properties) {
-            columns += (columns.empty() ? "" : ", ") + ColumnSql(*part.table, property);
-        }
+        CellTexts cells(control_.Db(), *part.table, properties);
         if (part.table->IsOnServer()) {
-            ReadTextsTogether(part, columns, properties.size(), rows, texts);
+            ReadTextsTogether(part, rows, cells, properties.size(), texts);
             continue;
         }
-        Statement statement = control_.Db().Prepare("SELECT " + columns + " FROM " + part.table->rows +
+        Statement statement = control_.Db().Prepare("SELECT " + cells.Sql() + " FROM " + part.table->rows +
                                                     " WHERE " + part.table->is);
         for (std::size_t i = 0; i < rows.size(); ++i) {
             const RowPlace place = PlaceOf(rows[i]);
             if (place.slot != part.slot) continue;
             part.table->BindRow(statement, 1, place.row);
-            if (statement.Next()) TakeTexts(statement, 0, properties.size(), &texts[i * properties.size()]);
+            if (statement.Next()) cells.Take(statement, 0, place.row, &texts[i * properties.size()]);
             statement.Rewind();
         }
         std::string error;

@@ -56,10 +56,14 @@ struct CommandLevel {
 
     const CommandRow* begin() const { return rows; }
     const CommandRow* end() const { return rows + rowCount; }
+    /// The place of the keyword's row, counted from 1; 0: there is none.
+    std::size_t PlaceOf(Keyword keyword) const {
+        const auto number = static_cast<std::size_t>(keyword);
+        return number < keywordCount ? places[number] : 0;
+    }
     /// The row of that keyword, or null.
     const CommandRow* Find(Keyword keyword) const {
-        const auto number = static_cast<std::size_t>(keyword);
-        const std::size_t place = number < keywordCount ? places[number] : 0;
+        const std::size_t place = PlaceOf(keyword);
         return place ? &rows[place - 1] : nullptr;
     }
 

@@ -15,14 +15,14 @@ namespace {
 inline char* CopyBytes(std::string_view word, char* to) {
     const char* const from = word.data();
     const std::size_t size = word.size();
-    if (size > 16) {
-        std::memcpy(to, from, size);
-    } else if (size >= 8) {
-        std::memcpy(to, from, 8);
-        std::memcpy(to + size - 8, from + size - 8, 8);
-    } else if (size >= 4) {
+    if (size - 4 < 4) {
         std::memcpy(to, from, 4);
         std::memcpy(to + size - 4, from + size - 4, 4);
+    } else if (size - 8 <= 8) {
+        std::memcpy(to, from, 8);
+        std::memcpy(to + size - 8, from + size - 8, 8);
+    } else if (size > 16) {
+        std::memcpy(to, from, size);
     } else if (size) {
         to[0] = from[0];
         to[size / 2] = from[size / 2];
@@ -30,6 +30,46 @@ inline char* CopyBytes(std::string_view word, char* to) {
     }
     return to + size;
 }
+
+/// Words, one behind the other. Most commands are as long as the last one: then they are written into its
+/// place without being measured before.
+class JoinedWords {
+public:
+    explicit JoinedWords(znString& text)
+        : text_(text), begin_(text.Data()), at_(begin_), end_(begin_ + text.size()) {}
+
+    bool IsEmpty() const { return at_ == begin_; }
+    void AddFirst(std::string_view word) {
+        MakeRoom(word.size());
+        at_ = CopyBytes(word, at_);
+    }
+    void AddNext(std::string_view word) {
+        MakeRoom(word.size() + 1);
+        *at_++ = ' ';
+        at_ = CopyBytes(word, at_);
+    }
+    const znString& Finish() {
+        if (at_ != end_) text_.Resize(static_cast<std::size_t>(at_ - begin_));
+        return text_;
+    }
+
+private:
+    void MakeRoom(std::size_t bytes) {
+        if (static_cast<std::size_t>(end_ - at_) < bytes) Grow(bytes);
+    }
+    void Grow(std::size_t bytes) {
+        const auto written = static_cast<std::size_t>(at_ - begin_);
+        const std::size_t size = 2 * (written + bytes);
+        begin_ = text_.Resize(size);
+        at_ = begin_ + written;
+        end_ = begin_ + size;
+    }
+
+    znString& text_;
+    char* begin_;
+    char* at_;
+    char* end_;
+};
 
 } // namespace
 
@@ -69,26 +109,15 @@ void znBrowserManagerTcl::ResetBuff() const { buffer_.clear(); }
 void znBrowserManagerTcl::_ResetBuff() const { ResetBuff(); }
 const char* znBrowserManagerTcl::GetBuff() const { return buffer_.c_str(); }
 
-/// The words, joined by blanks. Missing ones leave no blank, nor do empty ones at the beginning. Most
-/// commands are as long as the last one: then they are written into its place without being measured before.
+/// The words, joined by blanks. Missing ones leave no blank, nor do empty ones at the beginning.
 void znBrowserManagerTcl::SetCommand(int objc, Tcl_Obj* const objv[]) {
-    znString& command = ErrCommand();
-    char* begin = command.Resize(command.size());
-    char* end = begin + command.size();
-    char* at = begin;
-    for (int i = 0; i < objc; ++i) {
-        if (!objv[i]) continue;
-        const std::string_view word = WordText(objv[i]);
-        if (static_cast<std::size_t>(end - at) <= word.size()) {
-            const auto written = static_cast<std::size_t>(at - begin);
-            begin = command.Resize(2 * (written + word.size() + 1));
-            end = begin + command.size();
-            at = begin + written;
-        }
-        if (at != begin) *at++ = ' ';
-        at = CopyBytes(word, at);
+    JoinedWords joined(ErrCommand());
+    Tcl_Obj* const* next = objv;
+    Tcl_Obj* const* const end = objv + objc;
+    for (; next != end && joined.IsEmpty(); ++next) joined.AddFirst(WordText(*next));
+    for (; next != end; ++next) {
+        if (*next) joined.AddNext(WordText(*next));
     }
-    if (at != end) command.Resize(static_cast<std::size_t>(at - begin));
-    SetErrCommand(command);
+    SetErrCommand(joined.Finish());
     ResetBuff();
 }

@@ -200,12 +200,9 @@ constexpr CommandRow topRows[] = {
      "The collector's preselector was switched; nothing follows from it.", OnColPreselButtonClicked},
 };
 
-/// "data", "pending" and "apply" are keywords, but never actions.
-constexpr Keyword firstAction = Keyword::View;
-constexpr Keyword lastAction = Keyword::OnTkColPreselButtonClicked;
-static_assert(LieWithin(topRows, firstAction, lastAction), "no action outside the range is ever looked up");
-
-bool IsAction(Keyword keyword) { return keyword >= firstAction && keyword <= lastAction; }
+// "data", "pending" and "apply" are keywords, but never actions.
+static_assert(LieWithin(topRows, Keyword::View, Keyword::OnTkColPreselButtonClicked),
+              "no keyword outside this range is an action");
 
 } // namespace
 
@@ -219,10 +216,6 @@ int znBrowserManagerTcl::EvalTclCommand(int objc, Tcl_Obj* const objv[]) {
     ++commandsBegun;
     SetCommand(objc, objv);
     Call call(*this, objc, objv);
-    const Keyword action = call.Word(1);
-    if (IsAction(action))
-        RunWord(call, topLevel, 1, action);
-    else
-        call.Answer(Messages::GENERAL);
+    RunWord(call, topLevel, 1, call.Word(1));
     return call.Finish();
 }

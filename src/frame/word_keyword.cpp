@@ -8,7 +8,7 @@ namespace znlayer {
 // A keyword is plain data, copied with the word, and the string form is never given up.
 const Tcl_ObjType keywordWordType = {"znkeyword", nullptr, nullptr, nullptr, nullptr};
 
-ZNBROWSER_TCLAPI_KEYWORD LookUpKeyword(Tcl_Obj* word) {
+[[gnu::noinline]] ZNBROWSER_TCLAPI_KEYWORD LookUpKeyword(Tcl_Obj* word) {
     const ZNBROWSER_TCLAPI_KEYWORD keyword = SharedKeywords().GetZnBrowserTclApiEnum(WordText(word));
     if (keyword != ZNBROWSER_TCLAPI_KEYWORD::Unknown && !word->typePtr) {
         word->typePtr = &keywordWordType;

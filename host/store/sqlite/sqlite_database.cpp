@@ -7,6 +7,7 @@
 #include "store/sqlite/sqlite_copies.h"
 #include "store/sqlite/sqlite_schema.h"
 #include "store/sqlite/sqlite_statement.h"
+#include "store/sqlite/sqlite_values.h"
 #include "store/sqlite/temporary_files.h"
 
 #include <algorithm>
@@ -296,6 +297,11 @@ bool SqliteDatabase::IsReadFromIndex(const std::string& select) {
         byIndex = byIndex || step.find("COVERING INDEX") != step.npos;
     }
     return byIndex;
+}
+
+std::unique_ptr<ColumnValues> SqliteDatabase::OpenValues(const Table& table, const TableColumn& column) {
+    if (!table.inParts) return nullptr;
+    return std::make_unique<SqliteValues>(Handle(), FromTcl(table.name), FromTcl(column.name));
 }
 
 bool SqliteDatabase::ReadTables(Tables& tables, std::string& error) {

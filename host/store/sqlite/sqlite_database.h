@@ -27,6 +27,7 @@ public:
     bool Reopen(Access access, std::string& error) override;
     bool FollowFile(std::string& error) override;
 
+    std::unique_ptr<ColumnValues> OpenValues(const Table& table, const TableColumn& column) override;
     bool RunScript(const std::string& script, std::string& error) override;
     std::string ListOf(const Table& table, const std::vector<std::int64_t>& rows) override;
     bool ReadStamp(Stamp& stamp, std::string& error) override;

@@ -52,6 +52,7 @@ public:
         Statement columns = Ask("table_xinfo", table_.name);
         while (columns.Next()) {
             if (columns.Integer(6) == 1) continue; // hidden: an argument of a virtual table
+            if (columns.Integer(6) > 1) table_.inParts = false; // generated: stored at other places, or not at all
             TableColumn& column = table_.columns.emplace_back();
             column.name = columns.Text(1);
             column.declaredType = columns.Text(2);
@@ -111,6 +112,7 @@ public:
             table_.copied = table_.key.empty();
         }
         if (table_.copied) {
+            table_.inParts = false;
             table_.key = "znbrowser_row";
             while (table_.FindColumn(table_.key)) table_.key += '_';
             for (TableColumn& column : table_.columns)
@@ -217,6 +219,8 @@ bool ReadSqliteTables(Database& database, Database::Tables& tables, std::string&
     Statement hold = database.Prepare("SELECT 1 FROM main.sqlite_schema");
     hold.Next();
     if (!hold.Finish(error)) return false;
+    Statement encoding = database.Prepare("PRAGMA encoding");
+    const bool isUtf8 = encoding.Next() && encoding.Text(0) == "UTF-8";
     Database::Tables found;
     Statement list = database.Prepare("PRAGMA main.table_list");
     while (list.Next()) {
@@ -225,6 +229,7 @@ bool ReadSqliteTables(Database& database, Database::Tables& tables, std::string&
         Table& table = *found.emplace_back(std::make_shared<Table>());
         table.view = type == "view";
         table.copied = type != "table" || list.Integer(4) != 0;
+        table.inParts = isUtf8 && !table.copied;
         table.name = list.Text(1);
     }
     if (!list.Finish(error)) return false;

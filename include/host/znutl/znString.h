@@ -43,6 +43,11 @@ public:
         null_ = false;
         text_.clear();
     }
+    /// The bytes, `size()` of them, to be changed in place; the string has text storage afterwards.
+    char* Data() {
+        null_ = false;
+        return text_.data();
+    }
     /// Makes the text `size` bytes long, for the caller to fill; what it had stays as far as there is room.
     /// @return where they begin
     char* Resize(std::size_t size) {
@@ -53,7 +58,11 @@ public:
     /// Replaces the text, reusing the storage; a null pointer leaves the string without text storage.
     znString& operator=(const char* text) {
         null_ = text == nullptr;
-        text_.assign(text ? text : "");
+        const std::string_view given = text ? std::string_view(text) : std::string_view();
+        if (text_.empty()) // appending to nothing costs half of what replacing does
+            text_.append(given);
+        else
+            text_.assign(given);
         return *this;
     }
     /// Replaces the text, reusing the storage. `text` may lie inside this string.
