@@ -91,29 +91,38 @@ void RestoreBackground(Restoring& restoring, const Settings& settings) {
 constexpr const char* kindWords[] = {"folder", "tree", "list"}; // in the order of RowKind
 
 void KeepExpandedRows(Keeping& keeping) {
-    for (KeptRow& row : keeping.window.Rows().Expanded()) {
-        const auto kind = static_cast<std::size_t>(row.kind);
-        keeping.Add(std::move(row.name), std::to_string(row.above),
-                    row.kind == RowKind::Item ? std::to_string(row.row) : kindWords[kind]);
+    const std::vector<KeptRow> rows = keeping.window.Rows().Expanded();
+    for (auto next = rows.begin(); next != rows.end();) {
+        const KeptRow& first = *next;
+        const auto isBeside = [&first](const KeptRow& row) {
+            return row.kind == RowKind::Item && row.above == first.above && row.name == first.name;
+        };
+        std::string value;
+        for (; next != rows.end() && isBeside(*next); ++next)
+            value += (value.empty() ? "" : " ") + std::to_string(next->row);
+        if (value.empty()) value = kindWords[static_cast<std::size_t>(next++->kind)];
+        keeping.Add(first.name, std::to_string(first.above), std::move(value));
     }
 }
 
-KeptRow RowOf(const Setting& setting) {
-    KeptRow row;
-    row.name = setting.subject;
-    row.above = NumberOf(setting.key);
+void AddRows(const Setting& setting, std::vector<KeptRow>& rows) {
     const auto word = std::find(std::begin(kindWords), std::end(kindWords), setting.value);
-    row.kind = static_cast<RowKind>(word - std::begin(kindWords));
-    if (row.kind == RowKind::Item) {
-        std::from_chars(setting.value.data(), setting.value.data() + setting.value.size(), row.row);
-    }
-    return row;
+    KeptRow row{NumberOf(setting.key), static_cast<RowKind>(word - std::begin(kindWords)), setting.subject,
+                0};
+    if (row.kind != RowKind::Item) return rows.push_back(std::move(row));
+    const char* next = setting.value.data();
+    const char* const end = next + setting.value.size();
+    do {
+        const auto read = std::from_chars(next, end, row.row);
+        rows.push_back(row);
+        next = read.ec == std::errc() && read.ptr != end ? read.ptr + 1 : end;
+    } while (next != end);
 }
 
 void RestoreExpandedRows(Restoring& restoring, const Settings& settings) {
     std::vector<KeptRow> rows;
     rows.reserve(settings.size());
-    for (const Setting& setting : settings) rows.push_back(RowOf(setting));
+    for (const Setting& setting : settings) AddRows(setting, rows);
     for (const std::size_t place : restoring.Target().Rows().SetExpanded(rows)) {
         const KeptRow& row = rows[place];
         restoring.Skip("expanded row",

@@ -84,8 +84,9 @@ inline constexpr const char* hiddenSource = "hidden source";
 /// The background colour: nothing; nothing; the colour.
 inline constexpr const char* background = "background";
 /// An expanded row: the name of its folder or data source; the number of the expanded row in which it lies,
-/// counted from 1, or 0 at the top; what it is: "folder", "tree", "list", or an item's row number. A row
-/// before those below it.
+/// counted from 1, or 0 at the top; what it is: "folder", "tree", "list", or an item's row number. Items that
+/// follow each other in the same row are one setting, with all their row numbers, "7 8 12". A row before
+/// those below it.
 inline constexpr const char* expandedRow = "expanded row";
 /// Which items of a data source are shown: its name; "hidden", or "only" and the greatest row numbers that
 /// its tables had then; the row numbers of the items that are hidden, or that are the only ones shown:
