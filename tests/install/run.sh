@@ -66,6 +66,10 @@ gears (1)
 
 END
     ! browse "$scratch/nosuch" 2>/dev/null || fail "no folder, and no error"
+    printf 'lappend auto_path {%s}\npackage require znbrowser::hostcheck\nputs [znbrowser::hostcheck::report]\n' \
+        "$prefix/share/tcltk" >"$scratch/check.tcl"
+    diff <("$scratch/example/folder_browser" "$scratch/check.tcl" "$scratch/gears" | sed -n '1,3s/^/    /p') \
+        <(grep -A2 '^    Broken promises' "$source/doc/embedding.md")
     ;;
 plain) # every header, with the prefix only, beside a toolkit that has macros of common words
     mkdir -p "$scratch/plain"
