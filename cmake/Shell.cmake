@@ -17,7 +17,8 @@ if(sources AND TARGET znBrowserScripting AND TARGET znbrowserhost)
     add_executable(znbrowsersh ${sources} "${word_source}")
     target_include_directories(znbrowsersh PRIVATE "${PROJECT_SOURCE_DIR}/shell")
     target_include_directories(znbrowsersh SYSTEM PRIVATE ${EDIT_INCLUDE_DIRS}) # loaded when the prompt shows
-    target_link_libraries(znbrowsersh PRIVATE
+    # The loader looks for each of the thousands of symbols of libstdc++ in all libraries that stand before it.
+    target_link_libraries(znbrowsersh PRIVATE stdc++
         znbrowserhost znBrowserScripting zn_tcl CLI11::CLI11 ${CMAKE_DL_LIBS})
     zn_install(znbrowsersh program RUNTIME "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 
