@@ -33,6 +33,7 @@ znbrowsermanager app path main 3
 znbrowsermanager app row main {part wheel}
 znbrowsermanager app row main {part wheel} {part rim}
 znbrowsermanager app scroll main {part wheel}
+znbrowsermanager app select all main
 # What its user opens beside the rows, as long as the window is posted.
 znbrowsermanager app details main true
 znbrowsermanager app chooser main false
@@ -61,6 +62,7 @@ znbrowsermanager app inputfield choices bicycle limit {300 500}
 znbrowsermanager app inputfield delete bicycle limit
 znbrowsermanager app state create bicycle morning
 znbrowsermanager app state names bicycle
+znbrowsermanager app state file bicycle
 znbrowsermanager app state entities bicycle morning
 znbrowsermanager app state delete bicycle morning
 znbrowsermanager app help

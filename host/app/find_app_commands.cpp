@@ -177,6 +177,12 @@ int AppPrune(AppCall& call) {
     return call.Answer("");
 }
 
+int AppSelectAll(AppCall& call) {
+    const std::shared_ptr<Window> window = WindowOf(call);
+    if (!window) return TCL_ERROR;
+    return call.Answer(window->Rows().SelectAll() ? "true" : "false");
+}
+
 // ---- Recording ----
 
 int AppRecord(AppCall& call) { return call.Answer(call.App().Recording().Lines()); }

@@ -19,6 +19,7 @@ int AppPath(AppCall& call);
 /// WINDOW: collapses whatever holds no selected row.
 int AppPrune(AppCall& call);
 int AppScroll(AppCall& call);
+int AppSelectAll(AppCall& call);
 
 /// Lists what was recorded.
 int AppRecord(AppCall& call);

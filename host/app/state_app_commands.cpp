@@ -34,6 +34,15 @@ int AppDeleteState(AppCall& call) {
     return call.Answer("");
 }
 
+int AppStateFile(AppCall& call) {
+    DataCtrl* const control = call.DataControl(0);
+    if (!control) return TCL_ERROR;
+    std::string error;
+    if (call.Count() > 1 && !StatesOf(*control).KeepIn(call.Text(1), error))
+        return call.Fail(error, "FILE", call.Text(1));
+    return call.Answer(StatesOf(*control).Place());
+}
+
 int AppStateNames(AppCall& call) {
     DataCtrl* const control = call.DataControl(0);
     if (!control) return TCL_ERROR;

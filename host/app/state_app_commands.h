@@ -12,7 +12,9 @@ int AppCreateState(AppCall& call);
 int AppDeleteState(AppCall& call);
 /// DATACTRL NAME: answers the entities kept with a state, in the order added.
 int AppStateEntities(AppCall& call);
-/// DATACTRL
+/// DATACTRL ?FILE?: answers the file in which the states are kept instead of the database; "" for none.
+int AppStateFile(AppCall& call);
+/// DATACTRL: answers the names of the states, in the order of their creation.
 int AppStateNames(AppCall& call);
 
 } // namespace znhost

@@ -46,7 +46,24 @@ std::vector<RowSet::Row> RowSet::ToVector() const {
     return rows;
 }
 
+/// Many rows that lie close together go into an empty set without being sorted.
+bool RowSet::AddDense(const std::vector<Row>& rows) {
+    constexpr std::size_t few = 1000;
+    if (rows.size() < few) return false;
+    const auto [least, most] = std::minmax_element(rows.begin(), rows.end());
+    const Row first = NumberOf(*least);
+    const auto span = static_cast<std::uint64_t>(NumberOf(*most)) - static_cast<std::uint64_t>(first);
+    if (span >= rows.size() / 4) return false;
+    words_.resize(span + 1);
+    for (std::size_t i = 0; i <= span; ++i) words_[i] = {first + static_cast<Row>(i), 0};
+    for (const Row row : rows) words_[static_cast<std::size_t>(NumberOf(row) - first)].bits |= BitOf(row);
+    std::erase_if(words_, [](const Word& word) { return word.bits == 0; });
+    for (const Word& word : words_) size_ += static_cast<std::size_t>(__builtin_popcountll(word.bits));
+    return true;
+}
+
 bool RowSet::Add(std::vector<Row> rows) {
+    if (words_.empty() && AddDense(rows)) return size_ != 0;
     std::sort(rows.begin(), rows.end());
     const std::size_t before = size_;
     std::vector<Word> merged;

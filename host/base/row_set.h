@@ -69,6 +69,7 @@ private:
     static Row NumberOf(Row row) { return row >> 6; }
     static std::uint64_t BitOf(Row row) { return std::uint64_t{1} << (row & (rowsPerWord - 1)); }
     std::vector<Word>::iterator Place(Row number);
+    bool AddDense(const std::vector<Row>& rows);
     template <class Operation>
     bool Combine(const RowSet& other, Operation&& combine);
 

@@ -169,6 +169,9 @@ public:
     enum class Selecting { Add, Remove, Replace };
     /// False, and nothing changes, when an index is unknown.
     bool Select(Selecting how, const std::vector<std::uint32_t>& indices);
+    /// Every row that is visible. False, and nothing changes, when the work is given up, or one row at most
+    /// may be selected.
+    bool SelectAll();
     /// With one row at most selected, selecting another deselects it.
     void SetSingle(bool single);
     bool IsSingle() const { return single_; }
@@ -314,7 +317,8 @@ private:
     RowNode* FindContainer(const FreeFolder& folder, const znIBrowserDataSourceSimple* list);
     void CollapseInside(RowNode& node);
     void CollapseAround(RowNode& node, const std::unordered_set<const RowNode*>& stays);
-    void Select(Selecting how, const std::vector<Row>& rows);
+    struct Chosen;
+    void Select(Selecting how, Chosen chosen);
     const RowLink* FindLink(const RowContent& block, RowSource* child, std::string& error) const;
 
     View* view_;

@@ -26,28 +26,13 @@ std::int64_t RowModel::CountSelected() {
     return static_cast<std::int64_t>(count);
 }
 
-bool RowModel::Select(Selecting how, const std::vector<std::uint32_t>& indices) {
-    const Change change(*this);
-    if (!change) return false;
-    std::vector<Row> rows;
-    rows.reserve(indices.size());
-    for (const std::uint32_t index : indices) {
-        rows.push_back(Find(index));
-        if (!rows.back()) return false;
-    }
-    if (single_ && how != Selecting::Remove && !rows.empty()) {
-        rows = {rows.back()};
-        how = Selecting::Replace;
-    }
-    Select(how, rows);
-    return true;
-}
-
-void RowModel::Select(Selecting how, const std::vector<Row>& rows) {
+/// Rows to be selected, by what they stand for.
+struct RowModel::Chosen {
     znBrowserDataItems items;
     std::set<FreeFolder*> folders;
     std::set<std::uint32_t> containers;
-    for (const Row& row : rows) {
+
+    void Take(const Row& row) {
         const RowContent& content = row.Content();
         if (row.IsItem()) {
             items.Append(content.source->GetSource(), row.Number());
@@ -57,17 +42,53 @@ void RowModel::Select(Selecting how, const std::vector<Row>& rows) {
             containers.insert(row.Index());
         }
     }
+};
+
+bool RowModel::Select(Selecting how, const std::vector<std::uint32_t>& indices) {
+    const Change change(*this);
+    if (!change) return false;
+    Chosen chosen;
+    Row last;
+    for (const std::uint32_t index : indices) {
+        last = Find(index);
+        if (!last) return false;
+        chosen.Take(last);
+    }
+    if (single_ && how != Selecting::Remove && last) {
+        chosen = {};
+        chosen.Take(last);
+        how = Selecting::Replace;
+    }
+    Select(how, std::move(chosen));
+    return true;
+}
+
+bool RowModel::SelectAll() {
+    constexpr std::size_t atOnce = 4096;
+    const Change change(*this);
+    if (!change || single_) return false;
+    Chosen chosen;
+    std::size_t taken = 0;
+    for (Row row = tree_.First(); row; row = tree_.Next(row)) {
+        if (++taken % atOnce == 0 && !GoesOn()) return false;
+        chosen.Take(row);
+    }
+    Select(Selecting::Replace, std::move(chosen));
+    return true;
+}
+
+void RowModel::Select(Selecting how, Chosen chosen) {
     Selection& selection = view_->Selected();
     const bool selects = how != Selecting::Remove;
     if (how == Selecting::Replace) {
-        selection.Replace(items);
+        selection.Replace(chosen.items);
         for (FreeFolder* const folder : view_->RootFolder().WithBelow())
-            view_->SelectFolder(*folder, folders.count(folder) != 0);
-        selectedContainers_.swap(containers);
+            view_->SelectFolder(*folder, chosen.folders.count(folder) != 0);
+        selectedContainers_.swap(chosen.containers);
     } else {
-        selects ? selection.Select(items) : selection.Deselect(items);
-        for (FreeFolder* const folder : folders) view_->SelectFolder(*folder, selects);
-        for (const std::uint32_t index : containers) {
+        selects ? selection.Select(chosen.items) : selection.Deselect(chosen.items);
+        for (FreeFolder* const folder : chosen.folders) view_->SelectFolder(*folder, selects);
+        for (const std::uint32_t index : chosen.containers) {
             selects ? static_cast<void>(selectedContainers_.insert(index))
                     : static_cast<void>(selectedContainers_.erase(index));
         }

@@ -147,7 +147,7 @@ void StateContainer::GetStates(std::vector<znIBrowserState*>& states) {
     if (Refused("znIBrowserStateContainer::GetStates")) return;
     std::vector<std::string> names;
     std::string error;
-    if (!store_.Names(names, error)) report_(error);
+    if (!store_->Names(names, error)) report_(error);
     for (const std::string& name : names) states.push_back(&Named(name));
 }
 
@@ -155,7 +155,7 @@ znIBrowserState* StateContainer::FindState(const char* name) {
     if (Refused("znIBrowserStateContainer::FindState", name)) return nullptr;
     std::vector<std::string> names;
     std::string error;
-    if (!store_.Names(names, error)) report_(error);
+    if (!store_->Names(names, error)) report_(error);
     const bool exists = std::find(names.begin(), names.end(), TextOf(name)) != names.end();
     return exists ? &Named(TextOf(name)) : nullptr;
 }
@@ -169,7 +169,7 @@ bool StateContainer::SaveState(znIBrowserState* state, znIBrowserWindowAccess* w
     Settings settings;
     std::string error;
     return (KeepSettings(static_cast<Window&>(*window), settings, error) &&
-            store_.Write(name, settings, error)) ||
+            store_->Write(name, settings, error)) ||
            Fail(error);
 }
 
@@ -181,7 +181,15 @@ bool StateContainer::ChangeEntities(const znIBrowserState* state, const std::vec
     names.reserve(entities.size());
     for (const znString& entity : entities) names.push_back(entity.Str());
     std::string error;
-    return (store_.*change)(own->Name(), names, error) || Fail(error);
+    return ((*store_).*change)(own->Name(), names, error) || Fail(error);
+}
+
+bool StateContainer::KeepIn(const std::string& file, std::string& error) {
+    std::unique_ptr<Database> database = Database::OpenFile(file, error);
+    if (!database) return false;
+    store_.emplace(*database);
+    elsewhere_ = std::move(database);
+    return true;
 }
 
 std::shared_ptr<StateContainer> MakeStates(DataCtrl& control) {

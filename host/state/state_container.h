@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -59,9 +60,14 @@ public:
     /// The database must outlive the container. `report` takes errors of questions whose answer has no place
     /// for them.
     StateContainer(Database& database, CallLog& log, Report report)
-        : HostObject(log), store_(database), report_(std::move(report)) {}
+        : HostObject(log), store_(std::in_place, database), report_(std::move(report)) {}
 
-    StateStore& Store() { return store_; }
+    StateStore& Store() { return *store_; }
+    /// From now on the states are those in that file, which is made when it is missing. False, with the
+    /// reason, and as it was, when it cannot be opened.
+    bool KeepIn(const std::string& file, std::string& error);
+    /// The file; empty as long as the states are kept in the database itself.
+    std::string Place() const { return elsewhere_ ? elsewhere_->Place() : std::string(); }
     /// The state of that name as an object, which stays as long as the container; made when there is none.
     State& Named(const std::string& name);
     /// Adds entities to a state, or removes them: `change` is that operation of the store.
@@ -75,7 +81,8 @@ public:
 private:
     const State* Own(const znIBrowserState* state) const;
 
-    StateStore store_;
+    std::unique_ptr<Database> elsewhere_;
+    std::optional<StateStore> store_;
     const Report report_;
     NamedList<State> states_; ///< those that were ever asked for
 };

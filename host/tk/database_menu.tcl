@@ -20,6 +20,7 @@ proc ::znbrowser::any::AddDatabaseMenu {window} {
     SayAccess $n
     set w(elsewhere) ::znbrowser::any::ShowElsewhere
     set w(named) ::znbrowser::any::TablesNamed
+    set w(keeping) ::znbrowser::any::MakeStates
     set top [winfo toplevel $w(path)]
     wm title $top [TitleOf $window]
     foreach {key command} {

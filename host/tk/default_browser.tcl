@@ -40,6 +40,7 @@ proc ::znbrowser::any::browse {control {columns {}}} {
     FollowTables $control $control $tables $cycles
     AddDatabaseMenu $control
     RestoreSort $control
+    FindStates $control
     SeekCyclesSoon $control 400
     if {![IsOnServer $control]} {NoteRecent [FileOf $control]}
 }

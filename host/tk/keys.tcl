@@ -180,5 +180,5 @@ proc ::znbrowser::selectAll {n} {
     upvar #0 ::znbrowser::window$n w
     flush $n
     if {[dict get $w(look) single]} return
-    selectRows $n OnTkTreeRequestSelectionUpdate {*}[host indices $n 0 [dict get $w(look) rows]]
+    selectBy $n [list app select all $w(name)]
 }

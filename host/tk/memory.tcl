@@ -112,3 +112,33 @@ proc ::znbrowser::any::NoteRecent {file} {
     set others [lsearch -all -inline -exact -not [RecentFiles] $file]
     Keep recent [lrange [linsert $others 0 $file] 0 $::znbrowser::any::mostRecent-1]
 }
+
+# ---- States of files that are only read
+#
+# They are kept in a file of their own, beside what else is remembered; those of a file that holds some itself, in that.
+
+proc ::znbrowser::any::StateFile {control} {
+    set file [FileOf $control]
+    if {$file eq "" || [MemoryFile] eq "" || [IsOnServer $control]} return
+    set sum [format %08x [zlib crc32 [encoding convertto utf-8 $file]]]
+    return [file join [file dirname [MemoryFile]] states "[file tail $file]-$sum.db"]
+}
+
+proc ::znbrowser::any::HoldsStates {control} {
+    return [expr {[catch {Do app state names $control} names] || $names ne ""}]
+}
+
+# States that were kept in an earlier session are there again.
+proc ::znbrowser::any::FindStates {control} {
+    set file [StateFile $control]
+    if {$file ne "" && [file exists $file] && ![HoldsStates $control]} {catch {Do app state file $control $file}}
+}
+
+proc ::znbrowser::any::MakeStates {n} {
+    upvar #0 ::znbrowser::window$n w
+    set control [ControlOf $w(name)]
+    set file [StateFile $control]
+    if {$file eq "" || [Do app datactrl write $control] || [Do app state file $control] ne "" || [HoldsStates $control]} return
+    file mkdir [file dirname $file]
+    ::znbrowser::tell $n [list app state file $control $file]
+}

@@ -163,9 +163,13 @@ proc ::znbrowser::release {n x y args} {
 # Tells the host what to select, and that this was all.
 proc ::znbrowser::selectRows {n event args} {
     upvar #0 ::znbrowser::window$n w
-    if {$args eq ""} return
+    if {$args ne ""} {selectBy $n [list $event $w(name) {*}$args]}
+}
+
+proc ::znbrowser::selectBy {n words} {
+    upvar #0 ::znbrowser::window$n w
     if {[fromCollector $n click none] ne "none"} {reportScroll $n} ;# it may become a step
-    event $n $event {*}$args
+    tell $n $words
     if {[isOpen $n]} {event $n OnTkTreeSelectionChangeFinished}
 }
 

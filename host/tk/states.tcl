@@ -44,9 +44,11 @@ proc ::znbrowser::askState {n} {
     if {[isOpen $n] && [lindex $answer 0] eq "ok" && [lindex $answer 1] ne ""} {keepState $n [lindex $answer 1]}
 }
 
-# What is kept by that name already is replaced.
+# What is kept by that name already is replaced. Some windows have a command, `keeping`, that finds a place for states
+# where there is none.
 proc ::znbrowser::keepState {n name} {
     upvar #0 ::znbrowser::window$n w
+    if {[info exists w(keeping)]} {catch {{*}$w(keeping) $n}} ;# the reason why they cannot be kept is told below
     if {$name ni [stateNames $n]} {
         if {![tell $n [list app state create [dict get $w(look) control] $name]]} return
     }
