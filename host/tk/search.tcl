@@ -88,16 +88,16 @@ proc ::znbrowser::stopSeeking {n} {
     unset -nocomplain w(seeking) w(timer,seek)
 }
 
-# Begins to search for what stands in the field.
+# Begins to search for what stands in the field. As long as its timer is there the field is not to show the filter.
 proc ::znbrowser::seek {n} {
     upvar #0 ::znbrowser::window$n w
-    unset -nocomplain w(timer,search)
     if {![isOpen $n]} return
     if {[host busy]} {return [searchSoon $n 30]}
     if {![quietly $n {flush $n}]} {
         if {[isOpen $n]} {searchSoon $n 30}
         return
     }
+    unset -nocomplain w(timer,search)
     if {![dict exists $w(look) filter] || $w(search) eq [dict get $w(look) filter]} return
     if {$w(search) eq ""} {return [setFilter $n ""]}
     host search $n $w(search)
@@ -208,10 +208,12 @@ proc ::znbrowser::followSearch {n} {
 # Everything that was searched for is shown: now, and not as soon as the fingers rest.
 proc ::znbrowser::applySearch {n} {
     upvar #0 ::znbrowser::window$n w
-    if {[info exists w(timer,search)]} {after cancel $w(timer,search)}
-    unset -nocomplain w(timer,search)
+    set text $w(search)
+    searchSoon $n 300 ;# unless it is done now
     stopSeeking $n
-    if {![quietly $n {flush $n}] || ![dict exists $w(look) filter]} {return 0}
+    if {![quietly $n {flush $n}] || ![dict exists $w(look) filter] || $w(search) ne $text} {return 0}
+    after cancel $w(timer,search)
+    unset w(timer,search)
     return [setFilter $n $w(search)]
 }
 
