@@ -29,6 +29,6 @@ proc takeLook {name file} {
 
 foreach theme {light dark} {
     znbrowser::theme $theme
-    foreach kind {values packages circle chain wide tasks} {takeLook $kind-$theme [odd::make $kind $kind-$theme.db]}
+    foreach kind {values packages circle chain wide tasks wordy strange files tables} {takeLook $kind-$theme [odd::make $kind $kind-$theme.db]}
     takeLook shop-$theme [file join $examples models shop.db]
 }

@@ -54,6 +54,36 @@ namespace eval odd {
         {create table task (id integer primary key, name text, done boolean, rank integer)}
         {insert into task values (1, 'wash', 0, 12), (2, 'dry', 1, 3), (3, 'fold', null, 1)}
     }
+    # Names that are nothing but a blank or nothing at all, words of SQL and Tcl, and values of other types than declared.
+    variable strange [list \
+        {create table "select" (" " integer primary key, "a ""b"" c" text, "[x] $y" real, "Ünïcödé ☃" blob, "" text)} \
+        "insert into \"select\" values (1, 'line\nbreak', 1e308, x'00ff00', ''), (9223372036854775807, '\ttab', -0.0, zeroblob(100000), null),
+            (-5, printf('%.100000c', 'x'), 0.1, 'text in a column of blobs', 12)" \
+        "create table \"[string repeat {a name without end } 6]\" (k text primary key) without rowid" \
+        "insert into \"[string repeat {a name without end } 6]\" values ('\x7ba b'), ('\$x \[exit\]'), ('-option'), ('#hash'), ('\u202ertl\u202c \u05e9\u05dc')" \
+        {create view "v 1" as select * from "select"} {create table "empty one" (x)} \
+        {create virtual table found using fts5 (body, title)} {insert into found values ('hello world', 't1')} \
+        {create table loose (c1 numeric, c2 decimal(10,2), c3 datetime, c4 boolean, c5 json, c6 varchar(10))} \
+        {insert into loose values (12345678901234567890, '1.50', '2024-01-01', 'yes', '{"a": [1]}', '0012'), ('abc', 'x', 1.5, 0, x'01', '007'), (null, null, null, null, null, null)} \
+        {create table computed (a integer, b as (a * 2), c as (a || 'x') stored)} {insert into computed (a) values (1), (2)} \
+    ]
+    # A tree of folders and files, ten in each.
+    variable files {
+        {create table file (id integer primary key, name text not null, parent integer references file, size integer, changed text)}
+        {create index file_parent on file (parent)}
+        {with recursive n (i) as (select 1 union all select i + 1 from n where i < 300000)
+            insert into file select i, case when i > 30000 then 'file ' else 'folder ' end || i, case when i > 1 then (i - 2) / 10 + 1 end,
+                case when i > 30000 then i * 7919 % 1000003 end, date('2024-01-01', (i % 365) || ' days') from n}
+    }
+    # As many tables as nobody remembers, each of which refers to the one before it.
+    variable tables [apply {{} {
+        for {set number 0} {$number < 600} {incr number} {
+            set other [expr {max(0, $number - 1)}]
+            lappend statements "create table \"t $number\" (id integer primary key, name text, value_$number integer, other_id integer references \"t $other\")" \
+                "insert into \"t $number\" values (1, 'row of $number', $number, 1)"
+        }
+        return $statements
+    }}]
 
     # Makes the file of that name in the tests' directory.
     proc make {kind {name ""}} {
