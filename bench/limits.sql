@@ -69,7 +69,15 @@ insert into slowest values
     ('SortByText/1000000', 'sorting 1,000,000 by a text', 0.8),
     ('UpdateRow/1000000', 'a changed row of 1,000,000', 0.005),
     ('ReplaceRow/1000000', 'a row of 1,000,000 that goes and one that comes', 0.005),
-    ('OpenList/10000000', 'the first rows of 10,000,000', 1);
+    ('OpenList/10000000', 'the first rows of 10,000,000', 1),
+    ('ServerOpen/dense', 'the first page of 1,000,000 rows of a server', 0.1),
+    ('ServerOpen/gaps', 'the first page of 1,000,000 with gaps in the keys', 0.1),
+    ('ServerOpen/texts', 'the first page of 1,000,000 known by texts', 0.1),
+    ('ServerOpen/pairs', 'the first page of 1,000,000 known by two columns', 0.1),
+    ('ServerPages/dense', 'page by page of 1,000,000 rows of a server', 0.01),
+    ('ServerPages/gaps', 'page by page of 1,000,000 with gaps in the keys', 0.01),
+    ('ServerPages/texts', 'page by page of 1,000,000 known by texts', 0.01),
+    ('ServerPages/pairs', 'page by page of 1,000,000 known by two columns', 0.01);
 
 -- Two benchmarks, and how many times the second the first may take.
 create temp table compared(name, other, what, bound);

@@ -4,6 +4,11 @@
 set(zn_bench_libraries zn_objects znbrowserhost zn_tcl "${ZN_TCL_STUB_LIBRARY}" benchmark::benchmark)
 
 zn_find_sources(sources bench/*_bench.cpp)
+if(NOT ZN_POSTGRES)
+    list(FILTER sources EXCLUDE REGEX "/server_bench[.]cpp$")
+endif()
+set_source_files_properties("${PROJECT_SOURCE_DIR}/bench/server_bench.cpp" PROPERTIES
+    COMPILE_DEFINITIONS "ZN_HARNESS=\"${PROJECT_SOURCE_DIR}/tests/harness\"")
 if(sources AND TARGET zn_objects AND TARGET znbrowserhost)
     add_executable(znbrowserbench ${sources})
     target_include_directories(znbrowserbench PRIVATE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/src")

@@ -2,6 +2,7 @@
 
 #include "app/app_commands.h"
 #include "app/application.h"
+#include "app/channels.h"
 #include "app/manager_command.h"
 #include "base/native.h"
 #include "host/znIBrowserDataCtrl.h"
@@ -95,6 +96,7 @@ struct EmbeddedHost::Parts : PreservedInterp {
     ManagerCommand command;
     CallLog log;
     Application application;
+    Channels channels{application};
     std::unique_ptr<RunningManager> manager;
     std::shared_ptr<WindowDisplay> display;
 };

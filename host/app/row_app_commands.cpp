@@ -34,7 +34,7 @@ namespace {
 constexpr std::size_t mostBytes = std::size_t{1} << 27;
 
 /// @param bytes grows by the bytes of the row's texts
-Tcl_Obj* NewRow(RowModel& rows, const RowLook& look, std::size_t& bytes) {
+Tcl_Obj* NewRow(const RowLook& look, std::int64_t children, std::size_t& bytes) {
     Tcl_Obj* const cells = Tcl_NewDictObj();
     bytes += look.text.size();
     for (const RowCell& cell : look.cells) {
@@ -53,8 +53,22 @@ Tcl_Obj* NewRow(RowModel& rows, const RowLook& look, std::size_t& bytes) {
     Put(row, "expanded", Tcl_NewBooleanObj(look.expanded));
     Put(row, "selected", Tcl_NewBooleanObj(look.selected));
     Put(row, "collected", Tcl_NewBooleanObj(look.collected));
-    Put(row, "children", Tcl_NewWideIntObj(rows.CountBelow(look.index)));
+    Put(row, "children", Tcl_NewWideIntObj(children));
     return row;
+}
+
+/// Appends the rows from `first` on to the list, as long as they are not too large.
+void AddRows(RowModel& rows, std::int64_t first, std::int64_t count, Tcl_Obj* list, std::size_t& bytes) {
+    constexpr std::int64_t atOnce = 1000;
+    for (; count > 0; first += atOnce, count -= atOnce) {
+        const std::vector<RowLook> looks = rows.Read(first, std::min(count, atOnce));
+        const std::vector<std::int64_t> children = rows.CountBelow(looks);
+        if (looks.empty()) return;
+        for (std::size_t i = 0; i < looks.size(); ++i) {
+            Tcl_ListObjAppendElement(nullptr, list, NewRow(looks[i], children[i], bytes));
+            if (bytes > mostBytes) return;
+        }
+    }
 }
 
 } // namespace
@@ -70,11 +84,7 @@ int AnswerRows(AppCall& call) {
     window->Rows().TakeTrouble();
     Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
     std::size_t bytes = 0;
-    window->Rows().ReadEach(static_cast<std::int64_t>(first), static_cast<std::int64_t>(count),
-                            [&](const RowLook& look) {
-                                Tcl_ListObjAppendElement(nullptr, list, NewRow(window->Rows(), look, bytes));
-                                return bytes <= mostBytes;
-                            });
+    AddRows(window->Rows(), static_cast<std::int64_t>(first), static_cast<std::int64_t>(count), list, bytes);
     const std::string trouble = window->Rows().TakeTrouble();
     if (trouble.empty() && bytes <= mostBytes) return call.Answer(list);
     Tcl_DecrRefCount(list);

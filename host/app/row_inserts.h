@@ -10,7 +10,6 @@
 
 namespace znhost {
 
-class DataCtrl;
 class RowModel;
 
 /// Makes the statements. They name every column that can be written, and every value is exactly what is
@@ -28,7 +27,6 @@ private:
         Schema::TablePtr table; ///< holds the key
         std::string select;     ///< the statement that answers it
     };
-    static std::string SelectFor(DataCtrl& control, const Table& table);
 
     RowModel& rows_;
     std::map<const Table*, Source> sources_;

@@ -3,6 +3,7 @@
 #define ZN_HOST_ROW_SOURCE_H
 
 #include "base/row_set.h"
+#include "base/shared_rows.h"
 #include "host/znIBrowserDataSourceSimple.h"
 #include "host/znutl/znString.h"
 
@@ -135,6 +136,9 @@ public:
 
     /// Replaces what `rows` holds by the rows of `query`, in order: one pass, nothing else is kept.
     virtual void List(const RowQuery& query, std::vector<std::int64_t>& rows) = 0;
+    /// All rows in the source's own order. A source whose rows are far away may read them as they are looked
+    /// at.
+    virtual SharedRows ListAll() = 0;
     /// Goes on with a search until that time, or to its end. Appends the rows with a value that is taken, in
     /// ascending order of each table, to `found`, and the others to `others`, unless that is null.
     virtual void Scan(RowScan& scan, std::chrono::steady_clock::time_point until,
@@ -148,6 +152,8 @@ public:
                            const RowOrder& order, RowGroups& groups) = 0;
     /// How many rows `List` would give.
     virtual std::int64_t Count(const RowQuery& query) = 0;
+    /// What `ask` asks of sources is about to be asked: see `Database::AskAlong`.
+    virtual void AskAlong(const std::function<void()>& ask) = 0;
     /// Whether the item `parent` of the link's parent source has a child along `link`. Answered from an
     /// index, or from a structure of the store's own where the table has none; the user's database is never
     /// changed.

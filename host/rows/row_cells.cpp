@@ -37,6 +37,11 @@ std::vector<ItemCells> RowCells::Read(const RowContent& block, const std::vector
     return items;
 }
 
+void RowCells::Ask(const RowContent& block, const std::vector<std::int64_t>& rows) {
+    std::vector<std::optional<std::string>> texts;
+    block.source->ReadTexts(rows, LayoutOf(block, Showing::All)->stored, texts);
+}
+
 std::vector<std::string> RowCells::ReadNames(const RowContent& block, const std::vector<std::int64_t>& rows,
                                              const std::function<bool()>& isStopped) {
     const std::shared_ptr<const Layout> layout = LayoutOf(block, Showing::Names);

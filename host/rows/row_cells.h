@@ -60,6 +60,8 @@ public:
     std::vector<ItemCells> Read(const RowContent& block, const std::vector<std::int64_t>& rows,
                                 const std::function<bool()>& isStopped);
 
+    /// Asks for what stands in the database of them, and for nothing that has to be computed.
+    void Ask(const RowContent& block, const std::vector<std::int64_t>& rows);
     /// What they are called only: what they show in the built-in column.
     std::vector<std::string> ReadNames(const RowContent& block, const std::vector<std::int64_t>& rows,
                                        const std::function<bool()>& isStopped);

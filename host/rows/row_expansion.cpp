@@ -71,7 +71,7 @@ bool RowModel::ListBelow(RowNode& node, std::vector<Listed>& all) {
     for (RowContent& content : node.block ? plan_.Below(row.Content(), row.Number()) : ContentsOf(node)) {
         Listed listed{std::move(content), {}, {}};
         if (listed.content.kind == RowKind::Item)
-            listed.rows = view_->Lists().Share(plan_.List(listed.content));
+            listed.rows = view_->Lists().Share(plan_.ListToShow(listed.content));
         if (stopped_) return false;
         if (listed.content.kind == RowKind::Item && whole.Seen()) listed.problem = whole.Text();
         all.push_back(std::move(listed));
@@ -138,9 +138,36 @@ void RowModel::ExpandAsCreated(RowNode& node, int depth, std::vector<std::pair<R
 
 // ---- Expanding ----
 
+/// Asks for what lies directly below a row.
+void RowModel::AskBelow(const Row& row) {
+    const RowPlan::Ahead ahead(plan_, false);
+    const bool isItem = row.IsItem();
+    HasRows(row);
+    for (const RowContent& content :
+         isItem ? plan_.Below(row.Content(), row.Number()) : plan_.Below(row.Content())) {
+        if (!isItem && content.kind == RowKind::Item) plan_.ListToShow(content);
+    }
+}
+
+std::vector<std::int64_t> RowModel::CountBelow(const std::vector<RowLook>& rows) {
+    const Answering answering(*this);
+    RowPlan::Ahead ahead(plan_, false);
+    for (const RowLook& look : rows) {
+        const Row row = look.hasRows ? Find(look.index) : Row();
+        if (row.IsItem()) ahead.Expect(row.Content(), {row.Number()});
+    }
+    std::vector<std::int64_t> counts;
+    for (const RowLook& look : rows)
+        counts.push_back(look.kind == RowKind::Item && !look.hasRows ? 0 : CountBelow(look.index));
+    return counts;
+}
+
 bool RowModel::ExpandRow(const Row& row) {
-    if (!row || !(row.IsExpanded() || HasRows(row))) return false;
+    if (!row) return false;
     if (row.IsExpanded()) return true;
+    if (row.Content().source && plan_.IsWhole()) row.Content().source->AskAlong([&] { AskBelow(row); });
+    const RowPlan::Ahead ahead(plan_, false); // whether there are any is seen by the rows themselves
+    if (!HasRows(row)) return false;
     RowNode& node = row.IsItem() ? tree_.NodeOf(row) : *row.node;
     FillAndExpand(node);
     Tell(RowChange::Filled, row.Index());

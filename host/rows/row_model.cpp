@@ -233,12 +233,31 @@ bool RowModel::IsCollected(const Row& row) const {
 std::vector<RowLook> RowModel::LooksOf(const std::vector<Row>& rows) {
     PlacesByBlock places;
     std::vector<RowLook> looks = LooksOfContainers(rows, places);
+    std::vector<ItemsOfBlock> items;
+    const ReadTrouble::Watch watch(Services().Trouble());
+    for (const auto& [block, inBlock] : places) {
+        items.push_back({block, {}});
+        for (const std::size_t place : inBlock) items.back().second.push_back(rows[place].Number());
+    }
+    NoteTrouble(watch);
+    if (plan_.IsWhole()) AskAlong(items);
     for (const auto& [block, inBlock] : places) {
         if (!stopped_) LookAtItems(*block, inBlock, rows, looks);
     }
     if (stopped_) looks.clear();
     KeepLooks(looks);
     return looks;
+}
+
+/// Asks what the items of all blocks show, together where answers take long.
+void RowModel::AskAlong(std::span<const ItemsOfBlock> items) {
+    if (items.empty()) return;
+    const RowContent& block = items.front().first->content;
+    block.source->AskAlong([&] {
+        plan_.HaveRows(block, items.front().second);
+        cells_.Ask(block, items.front().second);
+        AskAlong(items.subspan(1));
+    });
 }
 
 /// As many as are on a screen are kept.
@@ -279,8 +298,8 @@ void RowModel::LookAtItems(const RowBlock& block, const std::vector<std::size_t>
                            const std::vector<Row>& rows, std::vector<RowLook>& looks) {
     std::vector<std::int64_t> numbers;
     numbers.reserve(places.size());
-    for (const std::size_t place : places) numbers.push_back(rows[place].Number());
     const ReadTrouble::Watch watch(Services().Trouble());
+    for (const std::size_t place : places) numbers.push_back(rows[place].Number());
     const std::vector<bool> have = plan_.HaveRows(block.content, numbers);
     std::vector<ItemCells> items = cells_.Read(block.content, numbers, [this] { return stopped_; });
     const bool failed = NoteTrouble(watch);
@@ -288,7 +307,7 @@ void RowModel::LookAtItems(const RowBlock& block, const std::vector<std::size_t>
     for (std::size_t i = 0; i < items.size(); ++i) {
         RowLook& look = looks[places[i]];
         look.source = source;
-        if (failed) {
+        if (failed || numbers[i] == RowPages::nowhere) {
             const auto shown = shown_.find(look.index);
             if (shown == shown_.end()) {
                 look.text = "cannot be read: " + watch.Text();

@@ -111,6 +111,8 @@ public:
     /// How many rows lie directly below, or would when it is expanded; -1 for an unknown index, and when that
     /// cannot be found out in a moment.
     std::int64_t CountBelow(std::uint32_t index);
+    /// The same for many rows at once.
+    std::vector<std::int64_t> CountBelow(const std::vector<RowLook>& rows);
     /// The row's position from the top; -1 for an unknown index.
     std::int64_t PositionOf(std::uint32_t index);
     /// How many items, folders, trees and lists are selected, visible or not.
@@ -267,6 +269,8 @@ private:
     std::vector<RowLook> LooksOf(const std::vector<Row>& rows);
     using PlacesByBlock = std::unordered_map<const RowBlock*, std::vector<std::size_t>>;
     std::vector<RowLook> LooksOfContainers(const std::vector<Row>& rows, PlacesByBlock& places);
+    using ItemsOfBlock = std::pair<const RowBlock*, std::vector<std::int64_t>>;
+    void AskAlong(std::span<const ItemsOfBlock> items);
     void KeepLooks(const std::vector<RowLook>& looks);
     static std::optional<std::int64_t> CountIn(const RowNode& node);
     std::optional<std::int64_t> CountOf(const Row& container);
@@ -294,6 +298,7 @@ private:
     bool Fill(RowNode& node);
     void FillAndExpand(RowNode& top);
     void ExpandAsCreated(RowNode& node, int depth, std::vector<std::pair<RowNode*, int>>& open);
+    void AskBelow(const Row& row);
     bool ExpandRow(const Row& row);
     struct Descent;
     void ExpandBelow(RowNode& top);

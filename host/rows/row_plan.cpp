@@ -277,6 +277,12 @@ std::vector<std::int64_t> RowPlan::List(const RowContent& block) const {
     return List(block, OrderOf(block));
 }
 
+SharedRows RowPlan::ListToShow(const RowContent& block) const {
+    const bool isPart = block.link.reference || block.scope->filter || block.scope->display;
+    if (isPart || OrderOf(block).sorted) return SharedRows(List(block));
+    return block.source->ListAll();
+}
+
 std::vector<std::int64_t> RowPlan::ListFulfilling(const RowContent& block, RowCondition condition) {
     RowQuery query = QueryFor(block);
     query.conditions.push_back(std::move(condition));
@@ -316,6 +322,8 @@ std::int64_t RowPlan::CountRows(const RowContent& block) {
     return block.source->Count(QueryFor(block));
 }
 
+bool RowPlan::IsWhole() const { return !view_.IsFiltered() && view_.Collector().Display().ShowsAll(); }
+
 bool RowPlan::HasRows(const RowContent& container) const {
     if (container.kind == RowKind::List && container.link.reference)
         return true; // a group is only there with items
@@ -323,7 +331,9 @@ bool RowPlan::HasRows(const RowContent& container) const {
     const ReadTrouble::Watch watch(Trouble());
     const std::vector<RowContent> below = Below(container);
     return std::any_of(below.begin(), below.end(), [&watch](const RowContent& content) {
-        return content.kind != RowKind::Item || CountRows(content) > 0 || watch.Seen();
+        if (content.kind != RowKind::Item) return true;
+        const bool isAll = !content.link.reference && !content.scope->filter && !content.scope->display;
+        return (isAll ? content.source->HasMoreThan(0) : CountRows(content) > 0) || watch.Seen();
     });
 }
 
@@ -378,8 +388,11 @@ std::int64_t RowPlan::Count(const RowContent& container) const {
 
 std::int64_t RowPlan::Count(const RowContent& block, std::int64_t row) const {
     std::int64_t count = 0;
-    for (const RowContent& content : Below(block, row))
-        count += content.kind == RowKind::Item ? CountRows(content) : 1;
+    for (const RowContent& content : Below(block, row)) {
+        const bool areItems = content.kind == RowKind::Item;
+        const auto known = areItems ? KnownBelow(block, content.link, row) : std::nullopt;
+        count += known ? static_cast<std::int64_t>(known->size()) : areItems ? CountRows(content) : 1;
+    }
     return count;
 }
 

@@ -82,10 +82,15 @@ public:
     RowOrder OrderOf(const RowContent& block) const;
     /// The rows of a block, in order.
     std::vector<std::int64_t> List(const RowContent& block) const;
+    /// The same for a window, which looks at some of them only.
+    SharedRows ListToShow(const RowContent& block) const;
     /// Those that fulfil a condition, in the order of the source, hidden ones too.
     static std::vector<std::int64_t> ListFulfilling(const RowContent& block, RowCondition condition);
     /// Those of them that are in the set.
     std::vector<std::int64_t> List(const RowContent& block, const RowSet& among) const;
+
+    /// Whether nothing is filtered or hidden.
+    bool IsWhole() const;
 
     // Whether there is anything below, and how many rows directly below. What cannot be read may be there.
     bool HasRows(const RowContent& container) const;

@@ -259,16 +259,18 @@ namespace {
 class SlotsByRow {
 public:
     explicit SlotsByRow(const RowBlock& block) {
-        if (block.rows.empty()) return;
-        const auto [lowest, highest] = std::minmax_element(block.rows.begin(), block.rows.end());
+        const SharedRows::Rows& rows = block.rows.Known(); // what was not looked at nobody knows by a slot
+        if (rows.empty()) return;
+        const auto [lowest, highest] = std::minmax_element(rows.begin(), rows.end());
         lowest_ = *lowest;
         const std::uint64_t distance = Distance(*highest);
-        const bool isDense = distance / farApart <= block.rows.size();
+        const bool isDense = distance / farApart <= rows.size();
         if (isDense) dense_.resize(distance + 1, RowBlock::gone);
-        if (!isDense) sparse_.reserve(block.rows.size());
-        for (std::size_t i = 0; i < block.rows.size(); ++i) {
-            if (isDense) dense_[Distance(block.rows[i])] = block.SlotAt(i);
-            if (!isDense) sparse_.emplace_back(block.rows[i], block.SlotAt(i));
+        if (!isDense) sparse_.reserve(rows.size());
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            if (rows[i] == RowPages::nowhere) continue;
+            if (isDense) dense_[Distance(rows[i])] = block.SlotAt(i);
+            if (!isDense) sparse_.emplace_back(rows[i], block.SlotAt(i));
         }
         std::sort(sparse_.begin(), sparse_.end());
     }
@@ -294,15 +296,16 @@ private:
 } // namespace
 
 void RowTree::SetRows(RowBlock& block, SharedRows rows) {
-    if (rows.Get() == block.rows.Get()) {
+    if (rows.Continues(block.rows)) {
         block.rows = std::move(rows);
         return;
     }
     const SlotsByRow known(block);
     std::vector<std::uint32_t> slotAt(rows.size());
     std::uint32_t slots = block.slotCount;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const std::uint32_t old = known.Of(rows[i]);
+    const SharedRows::Rows& all = rows;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const std::uint32_t old = all[i] == RowPages::nowhere ? RowBlock::gone : known.Of(all[i]);
         slotAt[i] = old != RowBlock::gone ? old : slots++;
     }
     if (slots > block.slotCount && !TakeIndices(block, block.slotCount, slots - block.slotCount)) return;

@@ -75,6 +75,10 @@ public:
     /// Makes the views and the other sources let go of tables, columns and references that the database lost:
     /// not while a transaction may still bring them back, and never in the middle of a question.
     void ForgetMissing();
+    /// Whether there is something that could be let go of.
+    bool HasMissing() const {
+        return !(goneBases_.empty() && goneReferences_.empty()) && !database_->InTransaction();
+    }
     /// Tells the views that items came, went or changed: whichever.
     void ItemsChanged();
     /// Tells them that rows of the database were changed, which are looked up in the journal.

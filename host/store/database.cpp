@@ -119,10 +119,18 @@ bool Database::Execute(std::string_view sql, std::string& error) {
     return statement.Finish(error);
 }
 
-std::string Database::Quoted(std::string_view name) {
-    std::string quoted = "\"";
-    for (const char character : name) quoted.append(character == '"' ? 2 : 1, character);
-    return quoted += '"';
+namespace {
+
+std::string Between(char quote, std::string_view text) {
+    std::string quoted(1, quote);
+    for (const char character : text) quoted.append(character == quote ? 2 : 1, character);
+    return quoted += quote;
 }
+
+} // namespace
+
+std::string Database::Quoted(std::string_view name) { return Between('"', name); }
+
+std::string Database::QuotedText(std::string_view text) { return Between('\'', text); }
 
 } // namespace znhost

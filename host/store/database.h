@@ -122,6 +122,16 @@ public:
     /// as long as it is the same look, by the number that `whichLook` gives; 0: each is a look of its own.
     virtual void LookAgain() {}
     void SetWhichLook(std::function<std::uint64_t()> whichLook) { whichLook_ = std::move(whichLook); }
+    /// `ask` is going to ask several questions in this look: an engine whose answers take long lets it ask
+    /// them once without an answer (no rows), and then waits for all answers, and for the stamp, at once.
+    /// When they are asked again in the same look, and nothing else before, they are answered so. `ask` keeps
+    /// nothing of what it is told.
+    virtual void AskAlong(const std::function<void()>& ask) { (void)ask; }
+    /// What becomes readable when others may have something to tell, outside of all questions; -1: nothing.
+    /// It is another one after the connection was made anew.
+    virtual int Channel() const { return -1; }
+    /// Whether others told that something has changed, since this was asked last.
+    virtual bool TakeNotices() { return false; }
     /// How often a server was waited for.
     virtual std::uint64_t RoundTrips() const { return 0; }
     /// The rows changed through this connection so far.
@@ -153,6 +163,10 @@ public:
     virtual bool CheckExpression(const Table& table, std::string_view code, int& parameters,
                                  std::string& error) = 0;
 
+    /// SELECT of the INSERT statement that makes the row bound to its `?` again, every value exactly as it is
+    /// stored, in all columns that take one.
+    virtual std::string InsertSql(const Table& table) = 0;
+
     // ---- What takes long ----
     /// Why what is under way is to stop; "" as long as it may go on. The text lives on.
     using WhyStop = std::function<std::string_view()>;
@@ -170,6 +184,8 @@ public:
 
     /// A name as an identifier in SQL: in double quotes, those inside doubled.
     static std::string Quoted(std::string_view name);
+    /// A text as one in SQL: in single quotes.
+    static std::string QuotedText(std::string_view text);
 
 protected:
     /// The most bytes of one value, and of all rows that are asked for at once. Tcl ends the process above

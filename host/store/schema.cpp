@@ -29,11 +29,7 @@ std::optional<std::size_t> Table::FindColumn(std::string_view column) const {
 
 std::string Table::ConditionOf(std::int64_t row) const {
     if (copied) return {};
-    std::string literal = keys ? "'" : std::to_string(row);
-    if (keys) {
-        for (const char character : keys->KeyOf(row)) literal.append(character == '\'' ? 2 : 1, character);
-        literal += '\'';
-    }
+    const std::string literal = keys ? Database::QuotedText(keys->KeyOf(row)) : std::to_string(row);
     std::string condition = is; // a name before it may hold a `?`, too
     return condition.replace(condition.rfind('?'), 1, literal);
 }

@@ -58,6 +58,9 @@ struct Table {
     std::string order;    ///< what stands behind ORDER BY for the order of the rows
     std::string is;       ///< SQL for: the row is the one bound to its `?`
     std::string after;    ///< SQL for: in that order the row stands behind the one bound to its `?`
+    // The other way round, on a server.
+    std::string backwards;
+    std::string before;
     /// SQL for: the row is one of those in the list (see `Database::ListOf`) bound to its `?`; others may be
     /// found too. Empty: an engine that takes as long when each row is asked for.
     std::string among;

@@ -89,6 +89,8 @@ public:
     // RowSource
     znIBrowserDataSourceSimple* GetSource() override { return this; }
     void List(const RowQuery& query, std::vector<std::int64_t>& rows) override;
+    SharedRows ListAll() override;
+    void AskAlong(const std::function<void()>& ask) override;
     void Scan(RowScan& scan, std::chrono::steady_clock::time_point until, std::vector<std::int64_t>& rows,
               std::vector<std::int64_t>* others) override;
     std::uint64_t Version() override;

@@ -21,7 +21,7 @@ std::int64_t GreatestOf(const RowMark& mark, std::size_t slot) {
 bool SimpleSource::HasMoreThan(std::size_t count) {
     for (const RowPart& part : Parts()) {
         Statement statement =
-            control_.Db().Prepare("SELECT COUNT(*) FROM (" + part.Select() + " LIMIT ?) AS some");
+            control_.Db().Prepare("SELECT COUNT(*) FROM (" + part.Select() + " LIMIT ?) AS found");
         statement.Bind(part.Bind(statement), static_cast<std::int64_t>(count) + 1);
         const std::size_t found = statement.Next() ? static_cast<std::size_t>(statement.Integer(0)) : 0;
         std::string error;

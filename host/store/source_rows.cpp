@@ -8,6 +8,7 @@
 #include "store/data_property.h"
 #include "store/link_reader.h"
 #include "store/row_lister.h"
+#include "store/server_pages.h"
 #include "store/simple_source.h"
 
 #include <algorithm>
@@ -19,6 +20,19 @@ namespace znhost {
 void SimpleSource::List(const RowQuery& query, std::vector<std::int64_t>& rows) {
     const std::shared_ptr<SimpleSource> self = shared_from_this();
     RowLister(*this, query).Run(rows);
+}
+
+SharedRows SimpleSource::ListAll() {
+    if (std::optional<SharedRows> paged = ServerPages::List(*this)) return std::move(*paged);
+    std::vector<std::int64_t> rows;
+    List({}, rows);
+    return SharedRows(std::move(rows));
+}
+
+void SimpleSource::AskAlong(const std::function<void()>& ask) {
+    const std::vector<BaseSource*> bases = Bases();
+    const auto isHere = [](const BaseSource* base) { return base->Table() && !base->Table()->copied; };
+    if (std::all_of(bases.begin(), bases.end(), isHere)) control_.Db().AskAlong(ask);
 }
 
 bool SimpleSource::ListBelow(const RowLink& link, const std::vector<std::int64_t>& parents,

@@ -1,9 +1,12 @@
-# A PostgreSQL server of the tests' own: in a temporary directory, on a Unix socket, ended at the end.
+# A PostgreSQL server of the tests' own: in a temporary directory, on a Unix socket, ended at the end. One serves all
+# tests of a run of ctest (`shared_server.tcl`), with a database for each; who ends it, or reads its log, has another.
 package require Tcl 8.6
 
 namespace eval server {
     variable directory ""
     variable count 0
+    variable isOurs 1
+    variable harness [file dirname [file normalize [info script]]]
 }
 
 # The folder of the server's programs, "" when it is not installed.
@@ -21,14 +24,27 @@ proc server::run {program args} {
     exec -ignorestderr {*}$as env LC_ALL=C.UTF-8 [file join [programs] $program] {*}$args > [file join $directory log] 2>@1
 }
 
-# Starts the server. `settings` are more of its options.
-proc server::start {{settings {}}} {
+# Starts the server, which ends with the process. `settings` are more of its options.
+proc server::start {{settings {}} {process {}}} {
     variable directory
+    variable harness
+    if {$process eq ""} {set process [pid]}
     if {[programs] eq ""} {error "PostgreSQL is not installed: apt-get install postgresql"}
     set directory [exec mktemp -d /tmp/znserver.XXXXXX]
     if {[exec id -u] == 0} {exec chown postgres $directory}
+    exec tclsh8.6 [file join $harness server_keeper.tcl] $directory $process < /dev/null >& /dev/null &
     run initdb -D [file join $directory data] -U tester -A trust -E UTF8 --no-sync --no-instructions
     launch $settings
+}
+
+# Uses the server of the run: its directory stands in the file that ZN_TEST_SERVER names. Without one, starts it.
+proc server::share {} {
+    variable directory
+    variable isOurs
+    if {![info exists ::env(ZN_TEST_SERVER)] || ![file exists $::env(ZN_TEST_SERVER)]} {return [start]}
+    set channel [open $::env(ZN_TEST_SERVER)]
+    try {set directory [gets $channel]} finally {close $channel}
+    set isOurs 0
 }
 
 proc server::launch {{settings {}}} {
@@ -45,9 +61,12 @@ proc server::stop {{how immediate}} {
 
 proc server::end {} {
     variable directory
+    variable isOurs
     if {$directory eq ""} return
-    catch {stop}
-    file delete -force $directory
+    if {$isOurs} {
+        catch {stop}
+        exec rm -rf $directory ;# many files: Tcl takes long
+    }
     set directory ""
 }
 
@@ -66,7 +85,8 @@ proc server::ask {database sql {user tester}} {
 # A new empty database.
 proc server::database {} {
     variable count
-    set name test[incr count]
+    variable isOurs
+    set name test[expr {$isOurs ? "" : "[pid]_"}][incr count]
     ask postgres "CREATE DATABASE $name"
     return $name
 }

@@ -9,7 +9,7 @@ proc newControl {name} {
     if {![info exists ::env(ZN_TEST_SERVER)]} {return [zn app datactrl create $name]}
     if {[info procs server::start] eq ""} {
         uplevel #0 [list source [file join [file dirname $::testingFile] server.tcl]]
-        server::start
+        server::share
     }
     zn app datactrl create $name [server::url [server::database]]
 }

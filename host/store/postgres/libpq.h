@@ -12,11 +12,11 @@ namespace znhost {
 struct LibPq {
 // clang-format off
 #define ZN_LIBPQ_FUNCTIONS(use) \
-    use(PQcancel) use(PQclear) use(PQcmdStatus) use(PQcmdTuples) use(PQconnectPoll) \
+    use(PQbackendPID) use(PQcancel) use(PQclear) use(PQcmdStatus) use(PQcmdTuples) use(PQconnectPoll) \
     use(PQconnectStartParams) use(PQconninfo) use(PQconninfoFree) use(PQconninfoParse) \
-    use(PQconsumeInput) use(PQerrorMessage) use(PQfinish) use(PQflush) use(PQfreeCancel) \
+    use(PQconsumeInput) use(PQenterPipelineMode) use(PQerrorMessage) use(PQexitPipelineMode) use(PQfinish) use(PQflush) use(PQfreeCancel) use(PQfreemem) \
     use(PQftype) use(PQgetCancel) use(PQgetResult) use(PQgetisnull) use(PQgetlength) use(PQgetvalue) \
-    use(PQisBusy) use(PQnfields) use(PQntuples) use(PQputCopyEnd) use(PQresultErrorField) \
+    use(PQisBusy) use(PQnfields) use(PQnotifies) use(PQntuples) use(PQpipelineStatus) use(PQpipelineSync) use(PQputCopyEnd) use(PQresultErrorField) \
     use(PQresultErrorMessage) use(PQresultStatus) use(PQsendPrepare) use(PQsendQuery) \
     use(PQsendQueryParams) use(PQsendQueryPrepared) use(PQserverVersion) use(PQsetNoticeReceiver) \
     use(PQsetSingleRowMode) use(PQsetnonblocking) use(PQsocket) use(PQstatus) \

@@ -60,12 +60,6 @@ std::string ValueOf(const Options& options, std::string_view keyword) {
     return {};
 }
 
-std::vector<const char*> Pointers(const PgConnection::Parameters& parameters) {
-    std::vector<const char*> pointers;
-    for (const auto& parameter : parameters) pointers.push_back(parameter ? parameter->c_str() : nullptr);
-    return pointers;
-}
-
 bool IsChange(std::string_view status) {
     for (const std::string_view harmless :
          {"SELECT", "SHOW", "BEGIN", "SAVEPOINT", "RELEASE", "FETCH", "DEALLOCATE"}) {
@@ -173,6 +167,8 @@ bool PgConnection::SetUp(std::string& reason) {
     Pq().PQsetnonblocking(connection_.get(), 1);
     // Values are written so that they read back as the same. Somebody waits for the answers: to compile a
     // statement would take longer than most of them.
+    std::string ignored;
+    Run("LISTEN znbrowser", ignored); // a standby has no channels
     return Run("SET jit = off; SET datestyle = 'ISO, YMD'; SET intervalstyle = 'postgres'; SET "
                "extra_float_digits = 1; "
                "SET bytea_output = 'hex'; SET standard_conforming_strings = on",
@@ -213,7 +209,18 @@ bool PgConnection::Lose(std::string& reason, std::string why) {
 
 // ---- Asking
 
+std::vector<const char*> PgConnection::Pointers(const Parameters& parameters) {
+    std::vector<const char*> pointers;
+    for (const auto& parameter : parameters) pointers.push_back(parameter ? parameter->c_str() : nullptr);
+    return pointers;
+}
+
 bool PgConnection::Begin(Reader* reader, std::string& reason) {
+    ForgetAnswers();
+    if (!untold_.empty()) {
+        reason = std::exchange(untold_, {});
+        return false;
+    }
     if (transactionLost_) {
         reason = std::string(undone) + whyLost_ + "; ROLLBACK ends it";
         return false;
@@ -384,8 +391,11 @@ bool PgConnection::Drain(std::chrono::milliseconds time) noexcept {
             if (WaitFor(POLLIN, pauseBetweenQuestions) && !Pq().PQconsumeInput(connection_.get())) break;
         }
         const PgResult result(Pq().PQgetResult(connection_.get()));
+        const bool isOneOfSeveral = Pq().PQpipelineStatus(connection_.get()) != PQ_PIPELINE_OFF;
+        if (!result && isOneOfSeveral && Pq().PQstatus(connection_.get()) != CONNECTION_BAD) continue;
         if (!result) break;
         const ExecStatusType status = Pq().PQresultStatus(result.get());
+        if (status == PGRES_PIPELINE_SYNC) Pq().PQexitPipelineMode(connection_.get());
         if (status == PGRES_COPY_OUT || status == PGRES_COPY_BOTH) return false;
     }
     if (Pq().PQstatus(connection_.get()) == CONNECTION_BAD) return false;

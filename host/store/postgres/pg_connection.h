@@ -2,8 +2,11 @@
 #ifndef ZN_HOST_PG_CONNECTION_H
 #define ZN_HOST_PG_CONNECTION_H
 
+#include "store/postgres/pg_answers.h"
+
 #include <chrono>
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -63,6 +66,16 @@ public:
                  std::string& reason);
     /// The tables changed: what the server keeps was prepared for what they were.
     void ForgetKept();
+    /// Whether the question is only noted: it is going to be asked.
+    bool Notes(const std::string& sql, const Parameters& parameters);
+    void SetNoting(bool noting);
+    /// Asks all that was noted at once. The answers are kept until something else is asked.
+    void AskNoted();
+    /// The results of one question: some rows each, perhaps none.
+    using Answer = std::deque<PgResult>;
+    /// The whole answer, when it was kept; else nothing.
+    Answer TakeAnswer(const std::string& sql, const Parameters& parameters);
+    void ForgetAnswers() { along_.Forget(); }
     /// Any number of statements without parameters. None of their rows is wanted.
     bool Run(const std::string& script, std::string& reason);
     /// The next answer to what is asked: a row, or the end. Null with the reason when it failed: the question
@@ -74,6 +87,11 @@ public:
     void Stop() noexcept;
     /// What the reader asked has been read to its end, or it does not want the rest.
     void Leave(Reader& reader) noexcept;
+
+    /// The file of the connection while nothing is asked; -1: there is none.
+    int Channel() const;
+    /// Whether others have notified the channel "znbrowser" since this was asked last.
+    bool TakeNotices();
 
     bool InTransaction() const { return inTransaction_; }
     /// Ends the memory of a transaction that went with its connection. @return whether there was one
@@ -93,7 +111,10 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
+    static std::vector<const char*> Pointers(const Parameters& parameters);
     bool Begin(Reader* reader, std::string& reason);
+    bool AskTogether(const std::vector<PgQuestion>& questions, std::vector<Answer>& answers,
+                     std::string& reason);
     bool Sent(int sent, std::string& reason);
     bool Prepare(std::uint64_t number, const std::string& sql, std::string& reason);
     std::string NameOf(std::uint64_t number) const;
@@ -116,6 +137,8 @@ private:
     bool readOnly_ = false;
     Reader* reader_ = nullptr; ///< who reads at present
     bool asked_ = false;       ///< something is under way
+    PgAnswers<Answer> along_;
+    std::string untold_; ///< that the connection was lost, which nobody has heard of
     bool inTransaction_ = false;
     bool transactionLost_ = false;
     bool noTransaction_ = false; ///< the server warned that there is no transaction to end

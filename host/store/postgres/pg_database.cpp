@@ -98,10 +98,15 @@ void PgDatabase::NoteTables(std::string fingerprint) {
     ++schemaNumber_;
 }
 
-bool PgDatabase::AskStamp(Stamp& stamp, std::string& error) {
+Statement PgDatabase::StampStatement() {
     if (connection_.Generation() != seenGeneration_) completed_ = -1;
     Statement now = Prepare(stampSql);
     now.Bind(1, completed_);
+    return now;
+}
+
+bool PgDatabase::AskStamp(Stamp& stamp, std::string& error) {
+    Statement now = StampStatement();
     if (now.Next()) {
         completed_ = now.Integer(0);
         const bool written = now.Integer(1) != 0;
@@ -127,17 +132,47 @@ bool PgDatabase::AskStamp(Stamp& stamp, std::string& error) {
 // One look at the server serves all questions of one command.
 bool PgDatabase::ReadStamp(Stamp& stamp, std::string& error) {
     const std::uint64_t look = WhichLook();
+    if (asksAlong_) {
+        stamp = known_;
+        return true;
+    }
+    if (look != alongIn_) connection_.ForgetAnswers();
     if (seen_ && look != 0 && look == seenIn_ && seenChanges_ == connection_.Changes()) {
         stamp = *seen_;
         return true;
     }
     seen_.reset();
     if (!AskStamp(stamp, error)) return false;
-    seen_ = stamp;
+    seen_ = known_ = stamp;
     seenIn_ = look;
     seenChanges_ = connection_.Changes();
     seenGeneration_ = connection_.Generation();
     return true;
+}
+
+// What a look finds changes the tables, or the copies of views, before anything is asked of them: where that
+// may happen, and in a transaction, each question waits for its answer.
+void PgDatabase::AskAlong(const std::function<void()>& ask) {
+    if (asksAlong_) return ask();
+    const std::uint64_t look = WhichLook();
+    if (look == 0 || InTransaction() || !known_.SameTables(tablesAt_)) return;
+    const auto note = [this](bool on) {
+        asksAlong_ = on;
+        connection_.SetNoting(on);
+    };
+    struct Noting {
+        const decltype(note)& set;
+        explicit Noting(const decltype(note)& how) : set(how) { set(true); }
+        ~Noting() { set(false); }
+    };
+    {
+        const Noting noting(note);
+        const bool isLookedAt = seen_ && look == seenIn_ && seenChanges_ == connection_.Changes();
+        if (!isLookedAt) StampStatement().Next();
+        ask();
+    }
+    alongIn_ = look;
+    connection_.AskNoted();
 }
 
 // ---- Tables
@@ -157,7 +192,11 @@ std::string PgDatabase::ListOf(const Table& table, const std::vector<std::int64_
     return PgArray(keys);
 }
 
-bool PgDatabase::ReadTables(Tables& tables, std::string& error) { return schema_.Read(tables, error); }
+bool PgDatabase::ReadTables(Tables& tables, std::string& error) {
+    if (!schema_.Read(tables, error)) return false;
+    tablesAt_ = known_;
+    return true;
+}
 
 bool PgDatabase::CopyRows(const Table& table, std::string& error) {
     const bool inside = InTransaction();
@@ -173,6 +212,35 @@ bool PgDatabase::CopyRows(const Table& table, std::string& error) {
     if (!inside) ++ownTransactions_;
     ownChanges_ += connection_.Changes() - before;
     return done;
+}
+
+// A `?` in a name, or in the text, is no parameter there. Only a number that is written without quotes
+// everywhere stands without them.
+std::string PgDatabase::InsertSql(const Table& table) {
+    std::string columns, values;
+    const bool isFound = table.original.find("." + Quoted(table.name)) != table.original.npos;
+    const char* overriding = "";
+    for (const TableColumn& column : table.columns) {
+        Statement made = Prepare("SELECT attgenerated <> '', attidentity = 'a' FROM pg_attribute "
+                                 "WHERE attrelid = ?::regclass AND attname = ?");
+        made.Bind(1, table.original);
+        made.Bind(2, column.name);
+        const bool isThere = made.Next();
+        if (isThere && made.Integer(0) != 0) continue;
+        if (isThere && made.Integer(1) != 0) overriding = "OVERRIDING SYSTEM VALUE ";
+        const std::string name = Quoted(column.name);
+        const std::string text = name + "::text";
+        columns += (columns.empty() ? "" : ", ") + name;
+        values += values.empty() ? "" : " || ', ' || ";
+        values += column.numeric && column.type != ZNBROWSER_DATA_BOOL
+                      ? "CASE WHEN " + text + " ~ '^[-.0-9]+$' THEN " + text + " ELSE quote_nullable(" +
+                            text + ") END"
+                      : "quote_nullable(" + text + ")";
+    }
+    const std::string begin = "INSERT INTO " + (isFound ? Quoted(table.name) : table.original) + " (" +
+                              columns + ") " + overriding + "VALUES (";
+    return "SELECT " + QuotedText(begin) + " || " + values + " || ');' FROM " + table.rows + " WHERE " +
+           table.is;
 }
 
 bool PgDatabase::CheckExpression(const Table& table, std::string_view code, int& parameters,

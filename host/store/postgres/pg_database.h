@@ -25,6 +25,7 @@ public:
     std::string ListOf(const Table& table, const std::vector<std::int64_t>& rows) override;
     bool ReadStamp(Stamp& stamp, std::string& error) override;
     void LookAgain() override { seen_.reset(); }
+    void AskAlong(const std::function<void()>& ask) override;
     std::int64_t RowsChanged() const override { return connection_.RowsChanged(); }
     bool InTransaction() const override {
         return connection_.InTransaction() || connection_.IsTransactionLost();
@@ -33,6 +34,9 @@ public:
     void Undo(bool part) noexcept override;
     bool ReadTables(Tables& tables, std::string& error) override;
     bool CopyRows(const Table& table, std::string& error) override;
+    std::string InsertSql(const Table& table) override;
+    int Channel() const override { return connection_.Channel(); }
+    bool TakeNotices() override { return connection_.TakeNotices(); }
     bool CheckExpression(const Table& table, std::string_view code, int& parameters,
                          std::string& error) override;
     bool MayPass(std::string_view error) const override { return PgConnection::IsLoss(error); }
@@ -43,6 +47,7 @@ private:
     PgDatabase(const std::string& url, Access access);
 
     std::unique_ptr<EngineStatement> Compile(const std::string& sql, std::string& error) override;
+    Statement StampStatement();
     bool AskStamp(Stamp& stamp, std::string& error);
     void NoteTables(std::string fingerprint);
 
@@ -50,6 +55,10 @@ private:
     PgSchema schema_;
     // As of the last look.
     std::optional<Stamp> seen_;
+    Stamp known_;                      ///< the last one, of whichever look
+    Stamp tablesAt_;                   ///< when the tables were read
+    std::uint64_t alongIn_ = 0;        ///< in which look questions were asked together
+    bool asksAlong_ = false;           ///< questions are only noted at present
     std::uint64_t seenIn_ = 0;         ///< which look that was
     std::int64_t seenChanges_ = 0;     ///< own changes by then
     std::uint64_t seenGeneration_ = 0; ///< of the connection

@@ -114,6 +114,8 @@ void NumberByColumns(Table& table, const std::vector<std::string>& columns,
         table.order = columns[0];
         table.is = columns[0] + " = ?::" + types[0];
         table.after = columns[0] + " > ?::" + types[0];
+        table.backwards = columns[0] + " DESC";
+        table.before = columns[0] + " < ?::" + types[0];
         table.among = columns[0] + " = ANY(?::" + types[0] + "[])";
         return;
     }
@@ -126,6 +128,7 @@ void NumberByColumns(Table& table, const std::vector<std::string>& columns,
         const std::string element = "[" + std::to_string(i + 1) + "]::" + types[i];
         texts += comma + columns[i] + "::text";
         names += comma + columns[i];
+        table.backwards += comma + columns[i] + " DESC";
         fromOne += comma + ("given.key" + element);
         fromEach += comma + ("(given.key::text[])" + element);
     }
@@ -134,6 +137,7 @@ void NumberByColumns(Table& table, const std::vector<std::string>& columns,
     const std::string one = "(SELECT " + fromOne + " FROM (SELECT ?::text[]) AS given(key))";
     table.is = "(" + names + ") = " + one;
     table.after = "(" + names + ") > " + one;
+    table.before = "(" + names + ") < " + one;
     table.among = "(" + names + ") IN (SELECT " + fromEach + " FROM unnest(?::text[]) AS given(key))";
 }
 
@@ -141,6 +145,8 @@ void NumberByColumn(Table& table, const std::string& column) {
     table.key = table.order = column;
     table.is = column + " = ?::bigint";
     table.after = column + " > ?::bigint";
+    table.backwards = column + " DESC";
+    table.before = column + " < ?::bigint";
     table.among = column + " = ANY(?::bigint[])";
 }
 

@@ -77,11 +77,17 @@ EngineStatement::Step PgStatement::Start() {
     const bool ends = sql_.firstWord == "rollback" || sql_.firstWord == "abort" ||
                       sql_.firstWord == "commit" || sql_.firstWord == "end";
     if (ends && connection_.IsTransactionLost()) return EndLostTransaction();
+    if (connection_.Notes(sql_.text, parameters_)) {
+        state_ = State::Ended;
+        return Step::Done;
+    }
+    rest_ = connection_.TakeAnswer(sql_.text, parameters_);
+    state_ = rest_.empty() ? State::Reading : State::Ended;
+    if (!rest_.empty()) return Step::Row;
     const bool asked = wasRun_ ? connection_.AskKept(*this, number_, sql_.text, parameters_, reason_)
                                : connection_.Ask(*this, sql_.text, parameters_, reason_);
     if (!asked) return Fail();
     wasRun_ = true;
-    state_ = State::Reading;
     return Step::Row;
 }
 
@@ -90,16 +96,18 @@ EngineStatement::Step PgStatement::Next() {
         const Step step = Start();
         if (step != Step::Row) return step;
     }
+    if (row_ && ++at_ < Pq().PQntuples(row_.get())) return Step::Row;
+    at_ = 0;
     row_.reset();
-    if (!rest_.empty()) {
+    while (!rest_.empty()) {
         row_ = std::move(rest_.front());
         rest_.pop_front();
-    } else if (state_ == State::Ended) {
-        return restFailed_ ? Step::Failed : Step::Done;
-    } else {
-        row_ = connection_.Next(reason_);
-        if (!row_) return Fail();
+        if (Pq().PQntuples(row_.get()) > 0) return Step::Row;
     }
+    row_.reset();
+    if (state_ == State::Ended) return restFailed_ ? Step::Failed : Step::Done;
+    row_ = connection_.Next(reason_);
+    if (!row_) return Fail();
     if (Pq().PQntuples(row_.get()) == 1) return Step::Row;
     row_.reset();
     state_ = State::Ended;
@@ -124,6 +132,7 @@ void PgStatement::ReadRest() noexcept {
 void PgStatement::Rewind() {
     if (state_ == State::Reading) connection_.Leave(*this);
     row_.reset();
+    at_ = 0;
     rest_.clear();
     restFailed_ = false;
     state_ = State::Idle;
@@ -138,7 +147,7 @@ void PgStatement::Clear() {
 
 bool PgStatement::HasColumn(int column) const {
     return row_ && column >= 0 && column < Pq().PQnfields(row_.get()) &&
-           !Pq().PQgetisnull(row_.get(), 0, column);
+           !Pq().PQgetisnull(row_.get(), at_, column);
 }
 
 int PgStatement::ColumnCount() const { return row_ ? Pq().PQnfields(row_.get()) : 0; }
@@ -161,8 +170,8 @@ EngineStatement::Kind PgStatement::KindOf(int column) const {
 // Booleans read as in every other database of the host.
 std::string_view PgStatement::Bytes(int column) const {
     if (!HasColumn(column)) return "";
-    const std::string_view bytes(Pq().PQgetvalue(row_.get(), 0, column),
-                                 static_cast<std::size_t>(Pq().PQgetlength(row_.get(), 0, column)));
+    const std::string_view bytes(Pq().PQgetvalue(row_.get(), at_, column),
+                                 static_cast<std::size_t>(Pq().PQgetlength(row_.get(), at_, column)));
     if (Pq().PQftype(row_.get(), column) == BOOLEAN) return bytes == "t" ? "1" : "0";
     return bytes;
 }

@@ -54,7 +54,8 @@ private:
     State state_ = State::Idle;
     bool wasRun_ = false;
     PgResult row_;
-    std::deque<PgResult> rest_;
+    int at_ = 0; ///< which row of it: there may be several when the answer came with others
+    PgConnection::Answer rest_;
     bool restFailed_ = false;
     std::string reason_;
 };

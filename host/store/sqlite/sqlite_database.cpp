@@ -315,6 +315,27 @@ bool SqliteDatabase::CopyRows(const Table& table, std::string& error) {
     return filled;
 }
 
+// A text may hold a NUL, at which `quote` would stop.
+std::string SqliteDatabase::InsertSql(const Table& table) {
+    std::string columns, values;
+    for (const TableColumn& column : table.columns) {
+        const std::string name = Quoted(column.name);
+        Statement computed =
+            Prepare("SELECT 1 FROM pragma_table_xinfo(?1) WHERE name = ?2 AND hidden IN (2, 3)");
+        computed.Bind(1, table.name);
+        computed.Bind(2, column.name);
+        if (computed.Next()) continue;
+        columns += (columns.empty() ? "" : ", ") + name;
+        values += (values.empty() ? "" : " || ', ' || ") +
+                  ("CASE WHEN typeof(" + name + ") = 'text' AND instr(" + name +
+                   ", char(0)) THEN 'CAST(' || quote(CAST(" + name + " AS BLOB)) || ' AS TEXT)' ELSE quote(" +
+                   name + ") END");
+    }
+    const std::string begin = "INSERT INTO " + Quoted(table.name) + " (" + columns + ") VALUES (";
+    return "SELECT " + QuotedText(begin) + " || " + values + " || ');' FROM " + table.rows + " WHERE " +
+           table.is;
+}
+
 bool SqliteDatabase::CheckExpression(const Table& table, std::string_view code, int& parameters,
                                      std::string& error) {
     return znhost::CheckExpression(*this, table.name, code, parameters, error);

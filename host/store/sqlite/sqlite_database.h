@@ -39,6 +39,7 @@ public:
     bool IsReadFromIndex(const std::string& select) override;
     bool ReadTables(Tables& tables, std::string& error) override;
     bool CopyRows(const Table& table, std::string& error) override;
+    std::string InsertSql(const Table& table) override;
     bool CheckExpression(const Table& table, std::string_view code, int& parameters,
                          std::string& error) override;
     bool MayPass(std::string_view error) const override;
