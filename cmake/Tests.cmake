@@ -44,15 +44,30 @@ if(TARGET znbrowsersh)
             "${zn_tk_environment}")
     endforeach()
 
-    # What scripts see of the data is the same on a server.
+    # What scripts see of the data is the same on a server. One serves them all.
     if(ZN_POSTGRES)
+        set(server_file "${PROJECT_BINARY_DIR}/test-server")
+        foreach(step start stop)
+            add_test(NAME "server/${step}" COMMAND tclsh8.6
+                "${PROJECT_SOURCE_DIR}/tests/harness/shared_server.tcl" ${step} "${server_file}")
+            set_tests_properties("server/${step}" PROPERTIES TIMEOUT 300)
+        endforeach()
+        set_tests_properties("server/start" PROPERTIES FIXTURES_SETUP server)
+        set_tests_properties("server/stop" PROPERTIES FIXTURES_CLEANUP server)
         foreach(name data/criteria data/data_ctrl data/data_operation data/data_property data/data_reference
                 data/data_source_hierarchical data/data_source_simple data/input_field data/view_data_source
-                rows/filter rows/rows rows/row_events state/state_store view/dataitem view/folder view/property view/sort view/tree)
-            add_test(NAME "server/${name}" COMMAND $<TARGET_FILE:znbrowsersh>
+                rows/changes rows/export rows/filter rows/rows rows/row_events state/state_store
+                tk/collector_bar tk/export tk/looks tk/mouse_and_keys tk/parts tk/popup_menus tk/recording
+                view/dataitem view/folder view/property view/sort view/tree)
+            set(shell $<TARGET_FILE:znbrowsersh>)
+            if(name MATCHES "^tk/")
+                set(shell "${PROJECT_SOURCE_DIR}/tests/tk/on_display.sh" ${shell} --tk)
+            endif()
+            add_test(NAME "server/${name}" COMMAND ${shell}
                 "${PROJECT_SOURCE_DIR}/tests/all.tcl" "${PROJECT_SOURCE_DIR}/tests/${name}.test")
             set_tests_properties("server/${name}" PROPERTIES TIMEOUT 300
-                ENVIRONMENT "${zn_tk_environment};ZN_TEST_SERVER=1")
+                FIXTURES_REQUIRED server
+                ENVIRONMENT "${zn_tk_environment};ZN_TEST_SERVER=${server_file}")
         endforeach()
     endif()
 

@@ -18,6 +18,38 @@ znbrowser::toggleDetails [znbrowser::number shop]
 zn window current shop
 takePicture 1240x640 [file join $images any_database.png]
 
+# A database on a server, which ends with this script.
+source [file join [file dirname [info script]] .. tests harness server.tcl]
+if {[server::programs] eq ""} {
+    puts "PostgreSQL is not installed: server.png stays as it is"
+} else {
+    server::start
+    set database [server::database]
+    server::ask $database {
+        CREATE TABLE assembly (id integer PRIMARY KEY, parent integer REFERENCES assembly, name text);
+        CREATE TABLE part (id integer PRIMARY KEY, assembly integer REFERENCES assembly, name text, mass real,
+            steel boolean, made date);
+        CREATE TABLE tool (shop text, no integer, name text, PRIMARY KEY (shop, no));
+        CREATE TABLE use (id integer PRIMARY KEY, shop text, no integer, part integer REFERENCES part, what text,
+            FOREIGN KEY (shop, no) REFERENCES tool);
+        CREATE SCHEMA stock;
+        CREATE TABLE stock.bin (id integer PRIMARY KEY, part integer REFERENCES part);
+        CREATE VIEW heavy AS SELECT name, mass FROM part WHERE mass > 4;
+        INSERT INTO assembly VALUES (1, NULL, 'Gearbox'), (2, 1, 'Input'), (3, 2, 'Output'), (4, 5, 'Cover'), (5, 4, 'Case');
+        INSERT INTO part VALUES (1, 2, 'Shaft', 12.5, true, '2026-01-05'), (2, 2, 'Bush', 0.25, false, '2026-02-11'),
+            (3, 4, 'Ring', 0.8, true, NULL), (4, 3, 'Gear', 4.75, true, '2026-03-01');
+        INSERT INTO tool VALUES ('A', 1, 'lathe'), ('A', 2, 'mill'), ('O''Neil', 1, 'press');
+        INSERT INTO use VALUES (1, 'A', 1, 1, 'turn'), (2, 'O''Neil', 1, 4, 'fit');
+        INSERT INTO stock.bin VALUES (10, 1), (11, 4);
+    }
+    zn app datactrl open plm [server::url $database]
+    znbrowser::any::browse plm
+    foreach text {assembly heavy part stock.bin tool use} {zn OnTkTreeRequestExpand plm [rowOf plm "$text ("]}
+    zn window current plm
+    takePicture 960x620 [file join $images server.png]
+    server::end
+}
+
 # A menu stands on the screen by itself: the picture is cut out of that.
 zn window current gearbox
 zn window post true

@@ -27,8 +27,9 @@ Channels::~Channels() {
 void Channels::BeforeWait(ClientData channels, int) {
     Channels& self = *static_cast<Channels*>(channels);
     try {
+        const bool hasNews = self.HasNews(); // first: a connection that is found lost is closed by that
         self.Listen();
-        if (!self.HasNews()) return;
+        if (!hasNews) return;
     } catch (const std::bad_alloc&) { // Tcl knows no exceptions; it is looked at before the next wait
         return;
     }

@@ -15,7 +15,7 @@ proc startWindow {} {
     wm geometry [winfo toplevel [znbrowser::tree W]] 900x600+0+0
     raise [winfo toplevel [znbrowser::tree W]]
     update
-    zn app sql model {update part set visible = 1, assembly_id = assembly_id}
+    zn app sql model {update part set visible = true, assembly_id = assembly_id}
 }
 
 proc closeWindow {} {
