@@ -66,7 +66,7 @@ set(version "${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}")
 set(layer "libznbrowserscripting${abi} (= ${version})")
 set(host "libznbrowserhost${abi} (= ${version})")
 set(windows "tk8.6, tktreectrl")
-set(servers "libpq5")
+set(servers "libpq5 (>= 14)")
 set(about "A model browser shows the objects of an application as trees and lists.
 Scripts build and drive it with one Tcl command, znbrowsermanager.
 .
