@@ -28,7 +28,8 @@ bool IsBlank(Tcl_Obj* text) {
 
 Session::Session() : interp_(Tcl_CreateInterp()) { Tcl_CreateExitHandler(CloseAtExit, this); }
 
-// The interpreter ends with the program: taking it down, word by word, would be felt in the time of a short script.
+// The interpreter ends with the program: taking it down, word by word, would be felt in the time of a short
+// script.
 Session::~Session() {
     Tcl_DeleteExitHandler(CloseAtExit, this);
     Close();

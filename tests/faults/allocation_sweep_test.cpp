@@ -90,8 +90,8 @@ TEST_P(AllocationSweep, AllocationsFailAndTheCommandGoesOn) {
     EXPECT_GT(failed, 100u / GetParam().step) << "the script no longer allocates";
 }
 
-/// Each allocation fails once where the program is as it is shipped. With the sanitizers, which take seven times
-/// as long, every third does.
+/// Each allocation fails once where the program is as it is shipped. With the sanitizers, which take seven
+/// times as long, every third does.
 #ifdef __SANITIZE_ADDRESS__
 constexpr std::size_t everyWhich = 3;
 #else
@@ -108,8 +108,7 @@ std::vector<Swept> OpeningAndSections() {
         sweeps.push_back({name, true, 1, 3, ""});
         const std::size_t parts = name == "rows" ? 6 : 1;
         for (std::size_t part = 1; part <= parts; ++part)
-            sweeps.push_back(
-                {name, false, part, parts * everyWhich, parts > 1 ? std::to_string(part) : ""});
+            sweeps.push_back({name, false, part, parts * everyWhich, parts > 1 ? std::to_string(part) : ""});
     }
     return sweeps;
 }

@@ -52,7 +52,8 @@ public:
         Statement columns = Ask("table_xinfo", table_.name);
         while (columns.Next()) {
             if (columns.Integer(6) == 1) continue; // hidden: an argument of a virtual table
-            if (columns.Integer(6) > 1) table_.inParts = false; // generated: stored at other places, or not at all
+            if (columns.Integer(6) > 1)
+                table_.inParts = false; // generated: stored at other places, or not at all
             TableColumn& column = table_.columns.emplace_back();
             column.name = columns.Text(1);
             column.declaredType = columns.Text(2);
