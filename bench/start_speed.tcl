@@ -16,7 +16,7 @@ foreach turn [lrepeat 60 .] {
 file delete $empty
 proc best {what} {lindex [lsort -integer $::times($what)] 0}
 set failed 0
-dict for {what limit} {"an empty script" 1.4 --version 1.3} {
+dict for {what limit} {"an empty script" 1.3 --version 1.3} {
     set ratio [expr {double([best $what]) / [best "tclsh, an empty script"]}]
     if {$ratio > $limit} {set failed 1}
     puts [format "%-20s %6.1f ms, to tclsh %5.2f, limit %.1f  %s" $what [expr {[best $what] / 1000.0}] $ratio $limit \

@@ -8,8 +8,9 @@ install(TARGETS zn_headers EXPORT znBrowserScripting)
 
 zn_find_sources(sources src/*.cpp)
 if(sources)
-    # The objects are compiled once and linked twice: into the library, which hides everything but the
-    # public classes, and into the unit tests, which also reach what is hidden.
+    # The objects are compiled once and linked several times: into the library, which hides everything but the
+    # public classes, into the program, which starts faster so, and into the unit tests, which also reach what is
+    # hidden.
     add_library(zn_objects OBJECT ${sources})
     set_target_properties(zn_objects PROPERTIES
         POSITION_INDEPENDENT_CODE ON

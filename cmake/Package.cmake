@@ -84,7 +84,7 @@ zn_package(development libznbrowserscripting-dev libdevel "scripting layer of a 
     DEPENDS "${layer}, ${host}" RECOMMENDS tcl8.6-dev)
 zn_package(program znbrowsersh interpreters "Tcl shell with a model browser on SQLite databases"
     "${about}The shell runs such scripts, and opens a window on any SQLite database."
-    DEPENDS "${layer}, libedit2" RECOMMENDS "${windows}, ${servers}")
+    DEPENDS "libedit2" RECOMMENDS "${windows}, ${servers}")
 zn_package(tclpackage tcl-znbrowser interpreters "model browser on SQLite databases (Tcl package)"
     "${about}With this package any Tcl 8.6 has the command, and any Tk 8.6 its windows."
     DEPENDS "${host}, tcl8.6" RECOMMENDS "${windows}")
