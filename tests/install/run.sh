@@ -19,7 +19,7 @@ install_and_move() {
     for binary in "$prefix"/bin/* "$lib"/*.so "$lib"/tcltk/*/*.so; do
         ! readelf -SW "$binary" | grep -F .debug_info || fail "$binary is not stripped"
         id=$(readelf --notes "$binary" | sed -n 's/ *Build ID: //p')
-        readelf -SW "$lib/debug/.build-id/${id:0:2}/${id:2}.debug" 2>/dev/null | grep -qF .debug_info || fail "$binary: no debug file"
+        readelf -SW "$lib/debug/.build-id/${id:0:2}/${id:2}.debug" 2>/dev/null | grep -F .debug_info >/dev/null || fail "$binary: no debug file"
     done
     "$prefix/bin/znbrowsersh" --version
     diff <("$prefix/bin/znbrowsersh" "$prefix/share/doc/znBrowserScripting/examples/first_view.tcl") \
