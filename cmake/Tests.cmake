@@ -44,8 +44,12 @@ if(TARGET znbrowsersh)
             "${zn_tk_environment}")
     endforeach()
 
-    # What scripts see of the data is the same on a server. One serves them all.
     if(ZN_POSTGRES)
+        # A server loads it, which is not instrumented.
+        add_library(full_disk MODULE tests/harness/full_disk.cpp)
+        set_target_properties(full_disk PROPERTIES PREFIX "" COMPILE_OPTIONS "-Wall;-Wextra" LINK_OPTIONS "")
+
+        # What scripts see of the data is the same on a server. One serves them all.
         set(server_file "${PROJECT_BINARY_DIR}/test-server")
         foreach(step start stop)
             add_test(NAME "server/${step}" COMMAND tclsh8.6

@@ -6,6 +6,7 @@ namespace eval server {
     variable directory ""
     variable count 0
     variable isOurs 1
+    variable library "" ;# that its processes load before any other: full_disk.so
     variable harness [file dirname [file normalize [info script]]]
 }
 
@@ -21,17 +22,21 @@ proc server::run {program args} {
     variable directory
     set as {}
     if {[exec id -u] == 0} {set as {setpriv --reuid=postgres --regid=postgres --clear-groups}}
-    exec -ignorestderr {*}$as env LC_ALL=C.UTF-8 [file join [programs] $program] {*}$args > [file join $directory log] 2>@1
+    set loaded [glob -nocomplain -directory $directory *.so]
+    exec -ignorestderr {*}$as env LC_ALL=C.UTF-8 LD_PRELOAD=$loaded ZN_FULL_DISK=[file join $directory full] \
+        [file join [programs] $program] {*}$args > [file join $directory log] 2>@1
 }
 
 # Starts the server, which ends with the process. `settings` are more of its options.
 proc server::start {{settings {}} {process {}}} {
     variable directory
     variable harness
+    variable library
     if {$process eq ""} {set process [pid]}
     if {[programs] eq ""} {error "PostgreSQL is not installed: apt-get install postgresql"}
     set directory [exec mktemp -d /tmp/znserver.XXXXXX]
     if {[exec id -u] == 0} {exec chown postgres $directory}
+    if {$library ne ""} {file copy $library $directory} ;# its user may not see the folder of the tests
     exec tclsh8.6 [file join $harness server_keeper.tcl] $directory $process < /dev/null >& /dev/null &
     run initdb -D [file join $directory data] -U tester -A trust -E UTF8 --no-sync --no-instructions
     launch $settings
@@ -68,6 +73,13 @@ proc server::end {} {
         exec rm -rf $directory ;# many files: Tcl takes long
     }
     set directory ""
+}
+
+# From now on the disk is full in this folder of its data, "" in none: for a server that has loaded full_disk.so.
+proc server::fill {folder} {
+    variable directory
+    file delete [file join $directory full]
+    if {$folder ne ""} {file link -symbolic [file join $directory full] [file join $directory data $folder]}
 }
 
 # The name of one of its databases for a data control.
