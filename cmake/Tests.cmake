@@ -31,7 +31,7 @@ if(TARGET znbrowsersh)
     zn_find_sources(scripts tests/*.test)
     list(FILTER scripts EXCLUDE REGEX "/tests/install/") # those are for other shells
     if(NOT ZN_POSTGRES)
-        list(FILTER scripts EXCLUDE REGEX "/tests/server/")
+        list(FILTER scripts EXCLUDE REGEX "/tests/server/|_server[.]test$")
     endif()
     foreach(script IN LISTS scripts)
         file(RELATIVE_PATH name "${PROJECT_SOURCE_DIR}/tests" "${script}")
