@@ -34,7 +34,7 @@ namespace {
 constexpr std::size_t mostBytes = std::size_t{1} << 27;
 
 /// @param bytes grows by the bytes of the row's texts
-Tcl_Obj* NewRow(const RowLook& look, std::int64_t children, std::size_t& bytes) {
+Tcl_Obj* NewRow(const RowLook& look, std::size_t& bytes) {
     Tcl_Obj* const cells = Tcl_NewDictObj();
     bytes += look.text.size();
     for (const RowCell& cell : look.cells) {
@@ -53,7 +53,7 @@ Tcl_Obj* NewRow(const RowLook& look, std::int64_t children, std::size_t& bytes) 
     Put(row, "expanded", Tcl_NewBooleanObj(look.expanded));
     Put(row, "selected", Tcl_NewBooleanObj(look.selected));
     Put(row, "collected", Tcl_NewBooleanObj(look.collected));
-    Put(row, "children", Tcl_NewWideIntObj(children));
+    Put(row, "children", Tcl_NewWideIntObj(look.below));
     return row;
 }
 
@@ -61,11 +61,10 @@ Tcl_Obj* NewRow(const RowLook& look, std::int64_t children, std::size_t& bytes) 
 void AddRows(RowModel& rows, std::int64_t first, std::int64_t count, Tcl_Obj* list, std::size_t& bytes) {
     constexpr std::int64_t atOnce = 1000;
     for (; count > 0; first += atOnce, count -= atOnce) {
-        const std::vector<RowLook> looks = rows.Read(first, std::min(count, atOnce));
-        const std::vector<std::int64_t> children = rows.CountBelow(looks);
+        const std::vector<RowLook> looks = rows.Read(first, std::min(count, atOnce), true);
         if (looks.empty()) return;
-        for (std::size_t i = 0; i < looks.size(); ++i) {
-            Tcl_ListObjAppendElement(nullptr, list, NewRow(looks[i], children[i], bytes));
+        for (const RowLook& look : looks) {
+            Tcl_ListObjAppendElement(nullptr, list, NewRow(look, bytes));
             if (bytes > mostBytes) return;
         }
     }

@@ -11,8 +11,7 @@ SharedRows::SharedRows(std::unique_ptr<RowPages> pages, std::size_t size, Rows f
     list_->isRead.front() = true;
 }
 
-void SharedRows::List::ReadPage(std::size_t page) {
-    isRead[page] = true; // what cannot be read is not asked for again and again
+RowPages::Page SharedRows::List::PageAt(std::size_t page) const {
     RowPages::Page wanted;
     wanted.first = page * pageSize;
     wanted.count = std::min(pageSize, rows.size() - wanted.first);
@@ -21,6 +20,12 @@ void SharedRows::List::ReadPage(std::size_t page) {
     if (wanted.first > 0 && rows[wanted.first - 1] != RowPages::nowhere)
         wanted.before = rows[wanted.first - 1];
     if (end < rows.size() && rows[end] != RowPages::nowhere) wanted.behind = rows[end];
+    return wanted;
+}
+
+void SharedRows::List::ReadPage(std::size_t page) {
+    isRead[page] = true; // what cannot be read is not asked for again and again
+    const RowPages::Page wanted = PageAt(page);
     Rows read = pages->Read(wanted);
     read.resize(wanted.count, RowPages::nowhere);
     std::copy(read.begin(), read.end(), rows.begin() + static_cast<std::ptrdiff_t>(wanted.first));
@@ -34,16 +39,41 @@ void SharedRows::List::ReadAll() {
     pages.reset();
 }
 
-bool SharedRows::Continues(const SharedRows& other) const {
-    if (size() != other.size()) return false;
-    if (!other.IsPaged()) return Get() == other.Get();
-    for (std::size_t first = 0; first < size(); first += pageSize) {
-        if (!other.list_->isRead[first / pageSize]) continue;
-        for (std::size_t place = first; place < std::min(first + pageSize, size()); ++place) {
-            if ((*this)[place] != other.Known()[place]) return false;
-        }
+void SharedRows::List::Take(const std::vector<RowPages::Run>& runs) {
+    for (const RowPages::Run& run : runs) {
+        const std::size_t first = std::min(run.first, rows.size());
+        const std::size_t count = std::min(run.rows.size(), rows.size() - first);
+        std::copy_n(run.rows.begin(), count, rows.begin() + static_cast<std::ptrdiff_t>(first));
     }
-    return true;
+}
+
+bool SharedRows::Continues(const SharedRows& other) const {
+    const auto isSame = [](std::int64_t now, std::int64_t then) {
+        return now == then || then == RowPages::nowhere;
+    };
+    const Rows& then = other.Known();
+    return std::equal(Known().begin(), Known().end(), then.begin(), then.end(), isSame);
+}
+
+void SharedRows::Follow(const SharedRows& other) const {
+    if (!IsPaged()) return;
+    std::vector<RowPages::Run> runs;
+    bool goesOn = false;
+    for (const std::int64_t row : other.Known()) {
+        if (row != RowPages::nowhere && !goesOn) runs.emplace_back();
+        goesOn = row != RowPages::nowhere;
+        if (goesOn) runs.back().rows.push_back(row);
+    }
+    if (!runs.empty()) list_->Take(list_->pages->Find(runs));
+}
+
+void SharedRows::Look(const Rows& rows) const {
+    constexpr std::size_t many = 1000; // each is looked for by itself
+    if (!IsPaged() || rows.empty()) return;
+    if (rows.size() > many) return list_->ReadAll();
+    std::vector<RowPages::Run> runs;
+    for (const std::int64_t row : list_->pages->InOrder(rows)) runs.push_back({0, {row}});
+    if (!runs.empty()) list_->Take(list_->pages->Find(runs));
 }
 
 } // namespace znhost

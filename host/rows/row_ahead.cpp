@@ -56,12 +56,16 @@ std::optional<std::span<const std::int64_t>> RowAhead::Below(const RowContent& b
 
 /// Reads the children of that parent and of those that wait.
 bool RowAhead::Read(Along& along, std::int64_t parent) {
-    std::vector<std::int64_t> parents{parent};
+    std::vector<std::int64_t> parents;
+    bool isAmong = false;
     while (parents.size() < atOnce && !along.waiting.empty()) {
         const std::int64_t next = along.waiting.front();
         along.waiting.pop_front();
-        if (next != parent && !along.read.Has(next)) parents.push_back(next);
+        if (along.read.Has(next)) continue;
+        isAmong = isAmong || next == parent;
+        parents.push_back(next);
     }
+    if (!isAmong) parents.push_back(parent);
     RowGroups groups;
     failed_ = !along.link.child->ListBelow(along.link, parents, *along.order, groups);
     if (failed_) return false;

@@ -149,19 +149,6 @@ void RowModel::AskBelow(const Row& row) {
     }
 }
 
-std::vector<std::int64_t> RowModel::CountBelow(const std::vector<RowLook>& rows) {
-    const Answering answering(*this);
-    RowPlan::Ahead ahead(plan_, false);
-    for (const RowLook& look : rows) {
-        const Row row = look.hasRows ? Find(look.index) : Row();
-        if (row.IsItem()) ahead.Expect(row.Content(), {row.Number()});
-    }
-    std::vector<std::int64_t> counts;
-    for (const RowLook& look : rows)
-        counts.push_back(look.kind == RowKind::Item && !look.hasRows ? 0 : CountBelow(look.index));
-    return counts;
-}
-
 bool RowModel::ExpandRow(const Row& row) {
     if (!row) return false;
     if (row.IsExpanded()) return true;
@@ -377,7 +364,8 @@ bool RowModel::Reveal(const std::vector<RowStep>& path) {
             node = part->node.get();
             continue;
         }
-        const SharedRows& rows = part->block->rows;
+        part->block->rows.Look({step.row});
+        const SharedRows::Rows& rows = part->block->rows.Known();
         const auto found = std::find(rows.begin(), rows.end(), step.row);
         if (found == rows.end()) return false;
         const Row row = RowTree::ItemAt(*part->block, static_cast<std::uint32_t>(found - rows.begin()));
@@ -452,7 +440,9 @@ void RowModel::RefreshNode(RowNode& node) {
 
 void RowModel::Update(const TreePart& part, Listed&& now) {
     if (part.block) {
-        if (!now.problem.empty()) return; // what is shown stays shown
+        const ReadTrouble::Watch watch(Services().Trouble());
+        now.rows.Follow(part.block->rows);
+        if (NoteTrouble(watch) || !now.problem.empty()) return; // what is shown stays shown
         part.block->content = std::move(now.content);
         tree_.SetRows(*part.block, std::move(now.rows));
     } else {

@@ -110,9 +110,11 @@ void RowModel::ExpandExactly(RowBlock& block, std::span<WantedRow> wanted, Expan
     all.expected.clear();
     for (const auto& item : items) all.expected.push_back(item.row);
     all.ahead.Expect(block.content, all.expected);
+    block.rows.Look(all.expected);
+    const SharedRows::Rows& rows = block.rows.Known();
     auto next = items.begin(); // most blocks stand in the order of the row numbers
-    for (std::size_t i = 0, missing = items.size(); i < block.rows.size() && missing && !stopped_; ++i) {
-        const auto item = next != items.end() && next->row == block.rows[i] ? next : find(block.rows[i]);
+    for (std::size_t i = 0, missing = items.size(); i < rows.size() && missing && !stopped_; ++i) {
+        const auto item = next != items.end() && next->row == rows[i] ? next : find(rows[i]);
         if (item == items.end() || item->found) continue;
         next = item + 1;
         --missing;
@@ -214,6 +216,7 @@ void RowModel::BringBackKept() {
 std::int64_t RowModel::ShowCollected() {
     const Answering answering(*this);
     if (!IsReady() || view_->Collector().Collected().IsEmpty()) return -1;
+    LookFor(view_->Collector().Collected());
     for (Row row = tree_.First(); row; row = tree_.Next(row)) {
         if (!IsCollected(row)) continue;
         Tell(RowChange::Shown, row.Index());

@@ -118,12 +118,12 @@ std::int64_t RowModel::Count() {
     return IsReady() ? tree_.Count() : 0;
 }
 
-std::vector<RowLook> RowModel::Read(std::int64_t first, std::int64_t count) {
+std::vector<RowLook> RowModel::Read(std::int64_t first, std::int64_t count, bool countsBelow) {
     const Answering answering(*this);
     std::vector<Row> rows;
     if (!IsReady() || first < 0 || first >= tree_.Count()) return {};
     for (Row row = tree_.At(first); row && count > 0; row = tree_.Next(row), --count) rows.push_back(row);
-    return LooksOf(rows);
+    return LooksOf(rows, countsBelow);
 }
 
 void RowModel::ReadEach(std::int64_t first, std::int64_t count,
@@ -210,180 +210,6 @@ ViewProperty* RowModel::PropertyOf(std::uint32_t index, const Column& column, co
     const Answering answering(*this);
     const Row row = Find(index);
     return row.IsItem() ? cells_.PropertyOf(row.Content(), column, element) : nullptr;
-}
-
-// ---- How a row looks ----
-
-bool RowModel::HasRows(const Row& row) const {
-    return row.IsItem() ? plan_.HasRows(row.Content(), row.Number()) : plan_.HasRows(row.Content());
-}
-
-bool RowModel::IsSelected(const Row& row) const {
-    if (row.IsItem()) return view_->Selected().IsSelected(row.Content().source->GetSource(), row.Number());
-    if (row.Content().kind == RowKind::Folder) return row.Content().folder->IsSelected();
-    return selectedContainers_.count(row.Index()) != 0;
-}
-
-bool RowModel::IsCollected(const Row& row) const {
-    if (!row.IsItem() || view_->Collector().Collected().IsEmpty()) return false;
-    return view_->Collector().Collected().Has(row.Content().source->GetSource(), row.Number());
-}
-
-/// How the rows look, those of each block at once. Fewer when the work had to be given up.
-std::vector<RowLook> RowModel::LooksOf(const std::vector<Row>& rows) {
-    PlacesByBlock places;
-    std::vector<RowLook> looks = LooksOfContainers(rows, places);
-    std::vector<ItemsOfBlock> items;
-    const ReadTrouble::Watch watch(Services().Trouble());
-    for (const auto& [block, inBlock] : places) {
-        items.push_back({block, {}});
-        for (const std::size_t place : inBlock) items.back().second.push_back(rows[place].Number());
-    }
-    NoteTrouble(watch);
-    if (plan_.IsWhole()) AskAlong(items);
-    for (const auto& [block, inBlock] : places) {
-        if (!stopped_) LookAtItems(*block, inBlock, rows, looks);
-    }
-    if (stopped_) looks.clear();
-    KeepLooks(looks);
-    return looks;
-}
-
-/// Asks what the items of all blocks show, together where answers take long.
-void RowModel::AskAlong(std::span<const ItemsOfBlock> items) {
-    if (items.empty()) return;
-    const RowContent& block = items.front().first->content;
-    block.source->AskAlong([&] {
-        plan_.HaveRows(block, items.front().second);
-        cells_.Ask(block, items.front().second);
-        AskAlong(items.subspan(1));
-    });
-}
-
-/// As many as are on a screen are kept.
-void RowModel::KeepLooks(const std::vector<RowLook>& looks) {
-    constexpr std::size_t most = 1000;
-    if (looks.empty() || looks.size() > most || !trouble_.empty()) return;
-    shown_.clear();
-    for (const RowLook& look : looks) {
-        if (look.kind == RowKind::Item) shown_.emplace(look.index, look);
-    }
-}
-
-/// The looks of the containers, and the places of items by their blocks. Whether there is something in a
-/// container is not worth a wait.
-std::vector<RowLook> RowModel::LooksOfContainers(const std::vector<Row>& rows, PlacesByBlock& places) {
-    constexpr auto timeForContainers = std::chrono::milliseconds(100);
-    const HostServices::Hurry hurry(Services(), timeForContainers);
-    std::vector<RowLook> looks(rows.size());
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const Row& row = rows[i];
-        if (row.IsItem()) {
-            places[row.block].push_back(i);
-        } else {
-            looks[i] = LookOf(row);
-            looks[i].hasRows = row.IsExpanded() || MayHaveRows(row);
-        }
-        looks[i].index = row.Index();
-        if (const Row above = RowTree::RowOf(row.Owner())) looks[i].parent = above.Index();
-        looks[i].depth = row.Depth();
-        looks[i].expanded = row.IsExpanded();
-        looks[i].selected = IsSelected(row);
-        looks[i].collected = IsCollected(row);
-    }
-    return looks;
-}
-
-void RowModel::LookAtItems(const RowBlock& block, const std::vector<std::size_t>& places,
-                           const std::vector<Row>& rows, std::vector<RowLook>& looks) {
-    std::vector<std::int64_t> numbers;
-    numbers.reserve(places.size());
-    const ReadTrouble::Watch watch(Services().Trouble());
-    for (const std::size_t place : places) numbers.push_back(rows[place].Number());
-    const std::vector<bool> have = plan_.HaveRows(block.content, numbers);
-    std::vector<ItemCells> items = cells_.Read(block.content, numbers, [this] { return stopped_; });
-    const bool failed = NoteTrouble(watch);
-    const std::string source = items.empty() ? "" : NameOf(log_, block.content.source->GetSource());
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        RowLook& look = looks[places[i]];
-        look.source = source;
-        if (failed || numbers[i] == RowPages::nowhere) {
-            const auto shown = shown_.find(look.index);
-            if (shown == shown_.end()) {
-                look.text = "cannot be read: " + watch.Text();
-            } else {
-                look.hasRows = look.expanded || shown->second.hasRows;
-                look.text = shown->second.text;
-                look.cells = shown->second.cells;
-            }
-            continue;
-        }
-        look.hasRows = look.expanded || have[i];
-        look.text = std::move(items[i].name);
-        look.cells = std::move(items[i].cells);
-    }
-}
-
-namespace {
-
-/// Whether other rows of the same source lie below the same item, along another reference.
-bool IsOneOfSeveral(const RowContent& group) {
-    if (!group.link.reference) return false;
-    const std::vector<RowLink>& links = group.scope->links;
-    return std::any_of(links.begin(), links.end(), [&group](const RowLink& link) {
-        return link.parent == group.link.parent && link.child == group.link.child &&
-               link.reference != group.link.reference;
-    });
-}
-
-/// The column by which a reference "table.column" is made.
-std::string ColumnOf(const znIBrowserDataReference& reference) {
-    const std::string name = TextOf(reference.GetName());
-    return name.substr(name.rfind('.') + 1);
-}
-
-} // namespace
-
-/// What a container is called, without the number of its rows.
-std::string RowModel::CaptionOf(const RowContent& container) const {
-    if (container.kind == RowKind::Folder) return container.folder->Name();
-    if (container.kind == RowKind::Tree) return NameOf(log_, container.scope->tree);
-    znIBrowserDataSourceSimple* const source = container.source->GetSource();
-    const FolderList* const list = container.link.reference ? nullptr : container.folder->FindList(source);
-    std::string text = list && !list->caption.empty() ? list->caption : TextOf(source->GetCaption());
-    if (text.empty()) text = NameOf(log_, source);
-    return IsOneOfSeveral(container) ? text + " · " + ColumnOf(*container.link.reference) : text;
-}
-
-/// What a container shows of itself.
-RowLook RowModel::LookOf(const Row& row) {
-    const RowContent& container = row.Content();
-    const FolderSettings& settings = container.folder->Settings();
-    RowLook look;
-    look.kind = container.kind;
-    look.icon = container.kind == RowKind::Folder ? "folder"
-                : container.kind == RowKind::Tree ? "tree"
-                : container.source->IsOfView()    ? "view"
-                                                  : "list";
-    if (container.IsNote()) {
-        look.icon = "note";
-        look.italic = true;
-        look.text = "cannot be read: " + container.note;
-        return look;
-    }
-    look.text = CaptionOf(container);
-    if (container.kind == RowKind::Folder) {
-        look.bold = settings.bold;
-        look.italic = settings.italic;
-    } else if (container.kind != RowKind::Tree) {
-        look.source = NameOf(log_, container.source->GetSource());
-    }
-    if (!settings.countByNumber && !settings.countByImage) return look;
-    const std::optional<std::int64_t> count = CountOf(row);
-    if (settings.countByNumber) look.text += CountText(row, count);
-    if (settings.countByImage && count)
-        look.icon = *count == 0 ? "count_none" : *count == 1 ? "count_one" : "count_many";
-    return look;
 }
 
 // ---- What cannot be read, or not in time ----

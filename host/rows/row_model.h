@@ -45,8 +45,9 @@ struct RowLook {
     bool hasRows = false; ///< it can be expanded
     bool bold = false;
     bool italic = false;
-    std::string icon;   ///< a key of the default images
-    std::string source; ///< an item: the name of its data source
+    std::string icon;        ///< a key of the default images
+    std::string source;      ///< an item: the name of its data source
+    std::int64_t below = -1; ///< how many rows lie directly below, where that was asked for
     std::vector<RowCell> cells;
 };
 
@@ -87,7 +88,8 @@ public:
     // The rows.
     std::int64_t Count();
     /// How the rows from position `first` on look, at most `count` of them.
-    std::vector<RowLook> Read(std::int64_t first, std::int64_t count);
+    /// @param countsBelow  asks for `RowLook::below`, too, which is as `CountBelow` tells
+    std::vector<RowLook> Read(std::int64_t first, std::int64_t count, bool countsBelow = false);
     /// Looks from position `first` on for a row whose text begins so, letter case aside, and no longer than
     /// that.
     struct FoundBeginning {
@@ -111,8 +113,6 @@ public:
     /// How many rows lie directly below, or would when it is expanded; -1 for an unknown index, and when that
     /// cannot be found out in a moment.
     std::int64_t CountBelow(std::uint32_t index);
-    /// The same for many rows at once.
-    std::vector<std::int64_t> CountBelow(const std::vector<RowLook>& rows);
     /// The row's position from the top; -1 for an unknown index.
     std::int64_t PositionOf(std::uint32_t index);
     /// How many items, folders, trees and lists are selected, visible or not.
@@ -266,19 +266,28 @@ private:
     Row Find(std::uint32_t index) const { return IsReady() ? tree_.Find(index) : Row(); }
     HostServices& Services() const;
     bool NoteTrouble(const ReadTrouble::Watch& watch);
-    std::vector<RowLook> LooksOf(const std::vector<Row>& rows);
-    using PlacesByBlock = std::unordered_map<const RowBlock*, std::vector<std::size_t>>;
-    std::vector<RowLook> LooksOfContainers(const std::vector<Row>& rows, PlacesByBlock& places);
-    using ItemsOfBlock = std::pair<const RowBlock*, std::vector<std::int64_t>>;
-    void AskAlong(std::span<const ItemsOfBlock> items);
+    /// Items of a block that are looked at together.
+    struct LookedAt {
+        const RowBlock* block;
+        std::vector<std::size_t> places;    ///< among all rows that are looked at
+        std::vector<std::int64_t> numbers;  ///< none yet: their page is still to be read
+        std::optional<std::int64_t> toCome; ///< what stands for those when it is asked for
+        bool asked;                         ///< along with others
+    };
+    std::vector<RowLook> LooksOf(const std::vector<Row>& rows, bool countsBelow = false);
+    static std::vector<LookedAt> ItemsOf(const std::vector<Row>& rows);
+    static void ReadNumbers(LookedAt& items, const std::vector<Row>& rows);
+    void AskAlong(std::span<LookedAt> all, const std::vector<Row>& rows, bool countsBelow);
+    std::vector<RowLook> LooksOfContainers(const std::vector<Row>& rows);
+    void NotePlace(const Row& row, RowLook& look) const;
+    void CountBelow(const std::vector<LookedAt>& all, std::vector<RowLook>& looks);
     void KeepLooks(const std::vector<RowLook>& looks);
     static std::optional<std::int64_t> CountIn(const RowNode& node);
     std::optional<std::int64_t> CountOf(const Row& container);
     bool MayHaveRows(const Row& container);
     bool IsWaiting(const RowContent& container) const;
     bool IsTooLong(const ReadTrouble::Watch& watch, const RowContent& container);
-    void LookAtItems(const RowBlock& block, const std::vector<std::size_t>& places,
-                     const std::vector<Row>& rows, std::vector<RowLook>& looks);
+    void LookAtItems(const LookedAt& looked, std::vector<RowLook>& looks);
     RowLook LookOf(const Row& container);
     std::string CaptionOf(const RowContent& container) const;
     std::vector<std::string> TextsOf(const std::vector<Row>& rows);
@@ -286,6 +295,7 @@ private:
     Row FindStep(RowNode& node, const std::string& name, std::size_t number);
     std::vector<std::int64_t> Named(const RowContent& block, const std::string& name) const;
     bool HasRows(const Row& row) const;
+    void LookFor(const ItemSets& items);
     bool IsSelected(const Row& row) const;
     bool IsCollected(const Row& row) const;
     std::vector<std::uint32_t> SelectedIndices();

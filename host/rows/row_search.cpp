@@ -94,7 +94,8 @@ std::string RowModel::StepTo(const Row& row) {
         }
         RowSet same;
         same.Add(Named(part.block->content, name));
-        const std::vector<std::int64_t>& rows = part.block->rows;
+        part.block->rows.Look(same.ToVector());
+        const SharedRows::Rows& rows = part.block->rows.Known();
         const bool isHere = part.block.get() == row.block;
         const auto end = isHere ? rows.begin() + row.position : rows.end();
         if (same.Size() > (isHere ? 1U : 0U))
@@ -124,7 +125,8 @@ Row RowModel::FindStep(RowNode& node, const std::string& name, std::size_t numbe
         RowSet same;
         same.Add(Named(part.block->content, name));
         if (same.IsEmpty()) continue;
-        const std::vector<std::int64_t>& rows = part.block->rows;
+        part.block->rows.Look(same.ToVector());
+        const SharedRows::Rows& rows = part.block->rows.Known();
         for (std::size_t i = 0; i < rows.size(); ++i) {
             if (same.Has(rows[i]) && --number == 0)
                 return RowTree::ItemAt(*part.block, static_cast<std::uint32_t>(i));
@@ -151,6 +153,7 @@ std::uint32_t RowModel::FindPath(const std::vector<std::string>& path, std::size
 std::uint32_t RowModel::FirstSelected() {
     const Answering answering(*this);
     if (!IsReady() || CountSelected() == 0) return 0;
+    LookFor(view_->Selected().Items());
     for (Row row = tree_.First(); row; row = tree_.Next(row)) {
         if (IsSelected(row)) return row.Index();
     }

@@ -9,9 +9,22 @@
 
 namespace znhost {
 
+/// Reads the rows of long lists that are among those, wherever they stand.
+void RowModel::LookFor(const ItemSets& items) {
+    for (const RowNode* const node : RowTree::Expanded(tree_.Root())) {
+        for (const TreePart& part : node->parts) {
+            if (!part.block || !part.block->rows.IsPaged()) continue;
+            const RowSet* const rows = items.Of(part.block->content.source->GetSource());
+            if (rows) part.block->rows.Look(rows->ToVector());
+        }
+    }
+}
+
 /// The indices of the selected rows that are visible, top to bottom.
 std::vector<std::uint32_t> RowModel::SelectedIndices() {
     std::vector<std::uint32_t> indices;
+    if (CountSelected() == 0) return indices;
+    LookFor(view_->Selected().Items());
     for (Row row = tree_.First(); row; row = tree_.Next(row)) {
         if (IsSelected(row)) indices.push_back(row.Index());
     }
@@ -69,6 +82,11 @@ bool RowModel::SelectAll() {
     if (!change || single_) return false;
     Chosen chosen;
     std::size_t taken = 0;
+    for (const RowNode* const node : RowTree::Expanded(tree_.Root())) {
+        for (const TreePart& part : node->parts) {
+            if (part.block) part.block->rows.Get();
+        }
+    }
     for (Row row = tree_.First(); row; row = tree_.Next(row)) {
         if (++taken % atOnce == 0 && !GoesOn()) return false;
         chosen.Take(row);

@@ -259,14 +259,14 @@ namespace {
 class SlotsByRow {
 public:
     explicit SlotsByRow(const RowBlock& block) {
-        const SharedRows::Rows& rows = block.rows.Known(); // what was not looked at nobody knows by a slot
+        const SharedRows::Rows& rows = block.rows.Known();
         if (rows.empty()) return;
         const auto [lowest, highest] = std::minmax_element(rows.begin(), rows.end());
         lowest_ = *lowest;
         const std::uint64_t distance = Distance(*highest);
         const bool isDense = distance / farApart <= rows.size();
         if (isDense) dense_.resize(distance + 1, RowBlock::gone);
-        if (!isDense) sparse_.reserve(rows.size());
+        if (!isDense && !block.rows.IsPaged()) sparse_.reserve(rows.size());
         for (std::size_t i = 0; i < rows.size(); ++i) {
             if (rows[i] == RowPages::nowhere) continue;
             if (isDense) dense_[Distance(rows[i])] = block.SlotAt(i);
@@ -293,6 +293,23 @@ private:
     std::vector<std::pair<std::int64_t, std::uint32_t>> sparse_;
 };
 
+/// The slots of the rows: those that they have; others get what was held for rows that nobody has looked at,
+/// and then new ones, counted up from `slots`.
+std::vector<std::uint32_t> SlotsFor(const RowBlock& block, const SharedRows::Rows& rows,
+                                    std::uint32_t& slots) {
+    const SlotsByRow known(block);
+    const SharedRows::Rows& before = block.rows.Known();
+    std::vector<std::uint32_t> slotAt(rows.size(), RowBlock::gone);
+    std::size_t next = 0;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (rows[i] != RowPages::nowhere) slotAt[i] = known.Of(rows[i]);
+        if (slotAt[i] != RowBlock::gone) continue;
+        while (next < before.size() && before[next] != RowPages::nowhere) ++next;
+        slotAt[i] = next < before.size() ? block.SlotAt(next++) : slots++;
+    }
+    return slotAt;
+}
+
 } // namespace
 
 void RowTree::SetRows(RowBlock& block, SharedRows rows) {
@@ -300,14 +317,8 @@ void RowTree::SetRows(RowBlock& block, SharedRows rows) {
         block.rows = std::move(rows);
         return;
     }
-    const SlotsByRow known(block);
-    std::vector<std::uint32_t> slotAt(rows.size());
     std::uint32_t slots = block.slotCount;
-    const SharedRows::Rows& all = rows;
-    for (std::size_t i = 0; i < all.size(); ++i) {
-        const std::uint32_t old = all[i] == RowPages::nowhere ? RowBlock::gone : known.Of(all[i]);
-        slotAt[i] = old != RowBlock::gone ? old : slots++;
-    }
+    std::vector<std::uint32_t> slotAt = SlotsFor(block, rows.Known(), slots);
     if (slots > block.slotCount && !TakeIndices(block, block.slotCount, slots - block.slotCount)) return;
     block.slotCount = slots;
     block.positionOf.assign(slots, RowBlock::gone);

@@ -115,6 +115,8 @@ struct Row {
     bool IsItem() const { return block != nullptr; }
     const RowContent& Content() const { return block ? block->content : node->content; }
     std::int64_t Number() const { return block->rows[position]; }
+    /// The number as far as it has been read, else `RowPages::nowhere`.
+    std::int64_t KnownNumber() const { return block->rows.Known()[position]; }
     bool IsExpanded() const { return node && node->expanded; }
     std::uint32_t Index() const { return block ? block->IndexAt(position) : node->index; }
     /// The container in which the row lies.

@@ -20,10 +20,11 @@ int AskedRows::Bind(Statement& statement, int position) const {
     return position + 1;
 }
 
-Statement AskedRows::Ask(const std::string& columns) const {
+Statement AskedRows::Ask(const std::string& columns, const std::string& order) const {
     const Table& table = *part_.table;
-    Statement statement = source_.Control().Db().Prepare("SELECT " + table.key + columns + " FROM " +
-                                                         part_.From() + " WHERE " + table.among);
+    Statement statement =
+        source_.Control().Db().Prepare("SELECT " + table.key + columns + " FROM " + part_.From() + " WHERE " +
+                                       table.among + (order.empty() ? "" : " ORDER BY " + order));
     Bind(statement, 1);
     return statement;
 }

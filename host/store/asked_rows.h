@@ -19,8 +19,8 @@ public:
     /// Binds their list to that `?`. @return the position behind it
     int Bind(Statement& statement, int position) const;
     /// Asks for the key and `columns` (each with a comma before it) of them all, whether the part's condition
-    /// takes them or not.
-    Statement Ask(const std::string& columns) const;
+    /// takes them or not; in the order that stands behind ORDER BY, if any.
+    Statement Ask(const std::string& columns, const std::string& order = {}) const;
     /// Calls `visit(place)` with each place of the row on which the statement stands.
     template <class Visit>
     void ForEachPlace(const Statement& statement, Visit&& visit) const {

@@ -127,6 +127,16 @@ public:
     /// When they are asked again in the same look, and nothing else before, they are answered so. `ask` keeps
     /// nothing of what it is told.
     virtual void AskAlong(const std::function<void()>& ask) { (void)ask; }
+    // Rows that one of those questions finds can be asked about in others of them.
+    /// A number that stands for such rows in `ListOf`, where it is to be the only one.
+    virtual std::int64_t ExpectRows() { return 0; }
+    /// The question with which they are found: that for a page of rows, `item`, some of which are expected.
+    /// Its last two `?` are how many of the page come before those, and how many those are.
+    virtual std::string ExpectingSql(const std::string& page, std::int64_t number) {
+        return (void)number, page;
+    }
+    /// They were these rows of the table: the questions are asked again with them.
+    virtual void RowsCame(const Table&, std::int64_t, const std::vector<std::int64_t>&) {}
     /// What becomes readable when others may have something to tell, outside of all questions; -1: nothing.
     /// It is another one after the connection was made anew.
     virtual int Channel() const { return -1; }

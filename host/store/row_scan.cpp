@@ -62,7 +62,8 @@ private:
     bool RunThrough(Clock::time_point until) {
         const Table& table = *part_.table;
         Statement statement = source_.control_.Db().Prepare(
-            part_.Select(columns_, scan_.inPart ? table.after : std::string()) + " ORDER BY " + table.order);
+            part_.Select(columns_, scan_.inPart ? table.Stands(">") : std::string()) + " ORDER BY " +
+            table.order);
         const int position = part_.Bind(statement);
         if (scan_.inPart) table.BindRow(statement, position, scan_.row);
         for (std::int64_t count = 1; statement.Next(); ++count) {
@@ -123,7 +124,7 @@ private:
         return "SELECT * FROM (SELECT *, row_number() OVER () AS znbrowser_place, count(*) OVER () AS "
                "znbrowser_count FROM (" +
                part_.Select(columns_ + ", " + holds + " AS znbrowser_held",
-                            scan_.inPart ? table.after : std::string()) +
+                            scan_.inPart ? table.Stands(">") : std::string()) +
                " ORDER BY " + table.order + " LIMIT " + std::to_string(rowsInSlice) +
                ") AS slice) AS numbered WHERE znbrowser_held OR znbrowser_place = znbrowser_count";
     }

@@ -52,15 +52,14 @@ struct Table {
     std::string name;
     bool view = false;
     bool copied = false;
-    std::string rows;     ///< what stands behind FROM
-    std::string original; ///< the table itself, where that is another one
-    std::string key;      ///< the expression for the row number, or what the engine knows the row by
-    std::string order;    ///< what stands behind ORDER BY for the order of the rows
-    std::string is;       ///< SQL for: the row is the one bound to its `?`
-    std::string after;    ///< SQL for: in that order the row stands behind the one bound to its `?`
-    // The other way round, on a server.
-    std::string backwards;
-    std::string before;
+    std::string rows;      ///< what stands behind FROM
+    std::string original;  ///< the table itself, where that is another one
+    std::string key;       ///< the expression for the row number, or what the engine knows the row by
+    std::string order;     ///< what stands behind ORDER BY for the order of the rows
+    std::string is;        ///< SQL for: the row is the one bound to its `?`
+    std::string place;     ///< what is compared to find where in that order a row stands,
+    std::string bound;     ///< and the row bound to its `?` as the other side of the comparison
+    std::string backwards; ///< the order the other way round, on a server
     /// SQL for: the row is one of those in the list (see `Database::ListOf`) bound to its `?`; others may be
     /// found too. Empty: an engine that takes as long when each row is asked for.
     std::string among;
@@ -68,6 +67,7 @@ struct Table {
     std::string inTable;           ///< `is` for the original; "": the rows cannot be changed
     std::shared_ptr<RowKeys> keys; ///< null: the row number is the value of `key`
     bool inParts = false;          ///< the engine can read its values in parts
+    bool inBlocks = false; ///< a row is known by where it lies, "(BLOCK,NUMBER)": no index has that order
     std::vector<TableColumn> columns;
     std::vector<ForeignKey>
         foreignKeys; ///< in the order of their declaration; only those that lead somewhere
@@ -90,6 +90,8 @@ struct Table {
         return keys ? keys->NumberOf(statement.Text(column)) : statement.Integer(column);
     }
     bool IsOnServer() const { return !among.empty(); }
+    /// SQL for: the row stands there, "<" for instance before it, as seen from the one bound to its `?`.
+    std::string Stands(const char* there) const { return place + " " + there + " " + bound; }
     /// SQL that is true of this row only, wherever it is read; "" where only its place in a copy is known.
     std::string ConditionOf(std::int64_t row) const;
     /// What is bound for the row.

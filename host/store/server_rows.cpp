@@ -25,7 +25,8 @@ void Add(std::string& condition, const std::string& more) {
 std::string RowLister::ServerCondition(const RowCondition& condition, const Field& field,
                                        const TableColumn& column, std::vector<Value>& values) {
     using Compare = RowCondition::Compare;
-    const std::string name = Database::Quoted(column.name);
+    const bool isBoolean = column.type == ZNBROWSER_DATA_BOOL;
+    const std::string name = Database::Quoted(column.name) + (isBoolean ? "::integer" : "");
     if (condition.compare == Compare::Null) return name + " IS NULL";
     if (condition.compare == Compare::Accept || (condition.compare == Compare::Equal && !field.number)) {
         const std::string held =
@@ -34,9 +35,7 @@ std::string RowLister::ServerCondition(const RowCondition& condition, const Fiel
         values.emplace_back(held);
         return column.holds;
     }
-    const auto number = field.number && column.numeric && column.type != ZNBROWSER_DATA_BOOL
-                            ? NumberOfText(condition.value)
-                            : std::nullopt;
+    const auto number = field.number && column.numeric ? NumberOfText(condition.value) : std::nullopt;
     if (!number || !std::isfinite(*number) || !std::isfinite(*number * 2)) return {};
     const Value low = *number - Margin(*number);
     const Value high = *number + Margin(*number);

@@ -14,8 +14,11 @@ namespace znhost {
 struct PgQuestion {
     std::string sql;
     std::vector<std::optional<std::string>> values;
+    std::string asks; ///< how it is asked before all values are known; "": as it is
 
-    friend bool operator==(const PgQuestion&, const PgQuestion&) = default;
+    friend bool operator==(const PgQuestion& a, const PgQuestion& b) {
+        return a.sql == b.sql && a.values == b.values;
+    }
 };
 
 /// Questions that are going to be asked, and the answers that came to them together: each is given once.
@@ -30,6 +33,12 @@ public:
             questions_.push_back(std::move(question));
     }
     const std::vector<PgQuestion>& Questions() const { return questions_; }
+    /// A value has become known.
+    void Replace(const std::string& value, const std::string& known) {
+        for (PgQuestion& question : questions_)
+            std::replace(question.values.begin(), question.values.end(), std::optional(value),
+                         std::optional(known));
+    }
     /// The answers, in the order of the questions.
     void Keep(std::vector<Answer>&& answers) { answers_ = std::move(answers); }
     /// Nothing when it was not answered.

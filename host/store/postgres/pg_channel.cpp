@@ -2,13 +2,42 @@
 #include "base/text.h"
 #include "store/postgres/libpq.h"
 #include "store/postgres/pg_connection.h"
+#include "store/postgres/pg_sql.h"
+
+#include <algorithm>
 
 namespace znhost {
 
 // ---- Asking together
 
-bool PgConnection::Notes(const std::string& sql, const Parameters& parameters) {
-    if (along_.IsNoting()) along_.Note({sql, parameters});
+namespace {
+
+bool IsSetting(const std::optional<std::string>& value) { return value && value->substr(0, 1) == "\1"; }
+
+/// The statement that takes values from settings instead; "" when none stands there.
+std::string WithSettings(const PgSql& sql, const PgConnection::Parameters& values) {
+    if (std::none_of(values.begin(), values.end(), IsSetting)) return {};
+    std::string text = sql.text;
+    for (std::size_t i = values.size(); i-- > 0;) {
+        if (!IsSetting(values[i])) continue;
+        text.replace(sql.places[i], 1 + std::to_string(i + 1).size(),
+                     "nullif(current_setting('" + values[i]->substr(1) + "', true), '')");
+    }
+    return text;
+}
+
+/// Of values that are not used nobody else could tell.
+std::vector<Oid> TypesOf(const PgQuestion& question) {
+    constexpr Oid text = 25;
+    std::vector<Oid> types;
+    for (const auto& value : question.values) types.push_back(IsSetting(value) ? text : Oid{0});
+    return types;
+}
+
+} // namespace
+
+bool PgConnection::Notes(const PgSql& sql, const Parameters& parameters) {
+    if (along_.IsNoting()) along_.Note({sql.text, parameters, WithSettings(sql, parameters)});
     return along_.IsNoting();
 }
 
@@ -18,7 +47,7 @@ void PgConnection::SetNoting(bool noting) {
 }
 
 PgConnection::Answer PgConnection::TakeAnswer(const std::string& sql, const Parameters& parameters) {
-    return along_.Take({sql, parameters});
+    return along_.Take({sql, parameters, {}});
 }
 
 // When it fails the questions are asked one by one, and tell why.
@@ -42,9 +71,10 @@ bool PgConnection::AskTogether(const std::vector<PgQuestion>& questions, std::ve
     bool sent = Pq().PQenterPipelineMode(connection_.get()) != 0;
     for (const PgQuestion& question : questions) {
         const std::vector<const char*> values = Pointers(question.values);
-        sent = sent && Pq().PQsendQueryParams(connection_.get(), question.sql.c_str(),
-                                              static_cast<int>(values.size()), nullptr, values.data(),
-                                              nullptr, nullptr, 0) != 0;
+        const std::vector<Oid> types = TypesOf(question);
+        const std::string& sql = question.asks.empty() ? question.sql : question.asks;
+        sent = sent && Pq().PQsendQueryParams(connection_.get(), sql.c_str(), static_cast<int>(values.size()),
+                                              types.data(), values.data(), nullptr, nullptr, 0) != 0;
     }
     if (!Sent(sent && Pq().PQpipelineSync(connection_.get()) != 0, reason)) return false;
     answers.resize(questions.size());

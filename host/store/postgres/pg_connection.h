@@ -20,6 +20,8 @@ struct pg_result;
 
 namespace znhost {
 
+struct PgSql;
+
 struct EndPgConnection {
     void operator()(pg_conn* connection) const;
 };
@@ -67,8 +69,14 @@ public:
     /// The tables changed: what the server keeps was prepared for what they were.
     void ForgetKept();
     /// Whether the question is only noted: it is going to be asked.
-    bool Notes(const std::string& sql, const Parameters& parameters);
+    bool Notes(const PgSql& sql, const Parameters& parameters);
     void SetNoting(bool noting);
+    /// A value that stands for what one of the other questions leaves in that setting.
+    static std::string Setting(const std::string& name) { return '\1' + name; }
+    /// That was this value.
+    void ReplaceNoted(const std::string& setting, const std::string& value) {
+        along_.Replace(setting, value);
+    }
     /// Asks all that was noted at once. The answers are kept until something else is asked.
     void AskNoted();
     /// The results of one question: some rows each, perhaps none.

@@ -1,5 +1,6 @@
 #include "store/postgres/pg_database.h"
 
+#include "base/shared_rows.h"
 #include "base/text.h"
 #include "store/postgres/pg_guard.h"
 #include "store/postgres/pg_statement.h"
@@ -167,6 +168,7 @@ void PgDatabase::AskAlong(const std::function<void()>& ask) {
     };
     {
         const Noting noting(note);
+        expected_ = 0;
         const bool isLookedAt = seen_ && look == seenIn_ && seenChanges_ == connection_.Changes();
         if (!isLookedAt) StampStatement().Next();
         ask();
@@ -175,9 +177,37 @@ void PgDatabase::AskAlong(const std::function<void()>& ask) {
     connection_.AskNoted();
 }
 
+// The rows are left in a setting that ends with the questions.
+
+std::int64_t PgDatabase::ExpectRows() { return RowPages::nowhere + ++expected_; }
+
+namespace {
+
+bool IsExpected(const std::vector<std::int64_t>& rows, std::int64_t count) {
+    return rows.size() == 1 && rows[0] > RowPages::nowhere && rows[0] <= RowPages::nowhere + count;
+}
+
+std::string SettingOf(std::int64_t number) {
+    return "znbrowser.rows" + std::to_string(number - RowPages::nowhere);
+}
+
+} // namespace
+
+std::string PgDatabase::ExpectingSql(const std::string& page, std::int64_t number) {
+    return "WITH page AS MATERIALIZED (" + page + ") SELECT item, (SELECT set_config('" + SettingOf(number) +
+           "', coalesce(array_agg(item)::text, '{}'), true) IS NULL FROM (SELECT item FROM page OFFSET ? "
+           "LIMIT ?) "
+           "AS expected) FROM page";
+}
+
+void PgDatabase::RowsCame(const Table& table, std::int64_t number, const std::vector<std::int64_t>& rows) {
+    connection_.ReplaceNoted(PgConnection::Setting(SettingOf(number)), ListOf(table, rows));
+}
+
 // ---- Tables
 
 std::string PgDatabase::ListOf(const Table& table, const std::vector<std::int64_t>& rows) {
+    if (asksAlong_ && IsExpected(rows, expected_)) return PgConnection::Setting(SettingOf(rows[0]));
     if (!table.keys) {
         std::string list = "{";
         for (const std::int64_t row : rows) list += (list.size() > 1 ? "," : "") + std::to_string(row);

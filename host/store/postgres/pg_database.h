@@ -26,6 +26,9 @@ public:
     bool ReadStamp(Stamp& stamp, std::string& error) override;
     void LookAgain() override { seen_.reset(); }
     void AskAlong(const std::function<void()>& ask) override;
+    std::int64_t ExpectRows() override;
+    std::string ExpectingSql(const std::string& page, std::int64_t number) override;
+    void RowsCame(const Table& table, std::int64_t number, const std::vector<std::int64_t>& rows) override;
     std::int64_t RowsChanged() const override { return connection_.RowsChanged(); }
     bool InTransaction() const override {
         return connection_.InTransaction() || connection_.IsTransactionLost();
@@ -59,6 +62,7 @@ private:
     Stamp tablesAt_;                   ///< when the tables were read
     std::uint64_t alongIn_ = 0;        ///< in which look questions were asked together
     bool asksAlong_ = false;           ///< questions are only noted at present
+    std::int64_t expected_ = 0;        ///< how many lists of rows are expected from them
     std::uint64_t seenIn_ = 0;         ///< which look that was
     std::int64_t seenChanges_ = 0;     ///< own changes by then
     std::uint64_t seenGeneration_ = 0; ///< of the connection

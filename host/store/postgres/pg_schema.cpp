@@ -95,10 +95,15 @@ ZNBROWSER_DATA_TYPE TypeOf(std::int64_t type) {
     }
 }
 
-/// A boolean is written in other words here than there, and blanks at the end of a `character` get lost.
+/// The text of a value as it is shown: a boolean is written in other words on a server, and casts take the
+/// blanks at the end of a `character`.
+std::string ShownText(const std::string& name, std::int64_t type) {
+    if (type == 16) return name + "::integer::text";
+    return type == 1042 ? "textin(bpcharout(" + name + "))" : name + "::text";
+}
+
 void FindTexts(TableColumn& column, std::int64_t type) {
-    if (type == 16 || type == 1042) return;
-    const std::string text = "(" + Database::Quoted(column.name) + "::text COLLATE \"C\")";
+    const std::string text = "(" + ShownText(Database::Quoted(column.name), type) + " COLLATE \"C\")";
     column.beyond = "octet_length(" + text + ") <> char_length(" + text + ")";
     column.folded = "lower(" + text + ")";
     column.holds = "(" + column.beyond + " OR strpos(" + column.folded + ", ?) > 0)";
@@ -111,11 +116,11 @@ void NumberByColumns(Table& table, const std::vector<std::string>& columns,
                      const std::vector<std::string>& types) {
     if (columns.size() == 1) {
         table.key = columns[0] + "::text";
-        table.order = columns[0];
-        table.is = columns[0] + " = ?::" + types[0];
-        table.after = columns[0] + " > ?::" + types[0];
-        table.backwards = columns[0] + " DESC";
-        table.before = columns[0] + " < ?::" + types[0];
+        table.order = Database::Quoted(table.name) + "." + columns[0]; // the key bears the column's name, too
+        table.backwards = table.order + " DESC";
+        table.place = columns[0];
+        table.bound = "?::" + types[0];
+        table.is = table.Stands("=");
         table.among = columns[0] + " = ANY(?::" + types[0] + "[])";
         return;
     }
@@ -134,19 +139,17 @@ void NumberByColumns(Table& table, const std::vector<std::string>& columns,
     }
     table.key = "ARRAY[" + texts + "]::text";
     table.order = names;
-    const std::string one = "(SELECT " + fromOne + " FROM (SELECT ?::text[]) AS given(key))";
-    table.is = "(" + names + ") = " + one;
-    table.after = "(" + names + ") > " + one;
-    table.before = "(" + names + ") < " + one;
+    table.place = "(" + names + ")";
+    table.bound = "(SELECT " + fromOne + " FROM (SELECT ?::text[]) AS given(key))";
+    table.is = table.Stands("=");
     table.among = "(" + names + ") IN (SELECT " + fromEach + " FROM unnest(?::text[]) AS given(key))";
 }
 
 void NumberByColumn(Table& table, const std::string& column) {
-    table.key = table.order = column;
-    table.is = column + " = ?::bigint";
-    table.after = column + " > ?::bigint";
+    table.key = table.order = table.place = column;
+    table.bound = "?::bigint";
+    table.is = table.Stands("=");
     table.backwards = column + " DESC";
-    table.before = column + " < ?::bigint";
     table.among = column + " = ANY(?::bigint[])";
 }
 
@@ -255,6 +258,7 @@ void PgSchema::NumberRows(PgTable& entry) {
         table.inTable = table.is;
     } else if (entry.rows == PgTable::Rows::Table) {
         NumberByColumns(table, {"ctid"}, {"tid"});
+        table.inBlocks = true;
     } else {
         NumberByColumns(table, {"tableoid", "ctid"}, {"oid", "tid"});
         table.among = "ctid = ANY(?::tid[])"; // whichever table it is in; this is found without a look at all

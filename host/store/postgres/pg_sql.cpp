@@ -91,6 +91,7 @@ PgSql::PgSql(std::string_view sql) {
             text += '?';
             ++at;
         } else {
+            places.push_back(text.size());
             text += "$" + std::to_string(++parameters);
         }
     }

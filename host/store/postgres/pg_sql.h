@@ -33,7 +33,8 @@ struct PgSql {
 
     std::string text;
     int parameters = 0;
-    std::string firstWord; ///< in lower case
+    std::vector<std::size_t> places; ///< of the parameters in the text
+    std::string firstWord;           ///< in lower case
 };
 
 /// The texts as one array value.

@@ -77,7 +77,7 @@ EngineStatement::Step PgStatement::Start() {
     const bool ends = sql_.firstWord == "rollback" || sql_.firstWord == "abort" ||
                       sql_.firstWord == "commit" || sql_.firstWord == "end";
     if (ends && connection_.IsTransactionLost()) return EndLostTransaction();
-    if (connection_.Notes(sql_.text, parameters_)) {
+    if (connection_.Notes(sql_, parameters_)) {
         state_ = State::Ended;
         return Step::Done;
     }

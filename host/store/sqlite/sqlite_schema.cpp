@@ -129,7 +129,8 @@ public:
             table_.copied ? "temp." + Database::Quoted("znbrowser_rows_" + table_.name) : table_.original;
         table_.order = table_.key;
         table_.is = table_.key + " = ?";
-        table_.after = table_.key + " > ?";
+        table_.place = table_.key;
+        table_.bound = "?";
         table_.number = "?";
         table_.inTable = table_.copied ? RowOfCopy() : table_.is;
     }
