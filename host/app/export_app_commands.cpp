@@ -123,9 +123,8 @@ int AppExport(AppCall& call) {
         return call.Fail("\"" + call.Text(4) + "\" tells nothing of the rows: it must be deep", "ROWS",
                          call.Text(4));
     RowInserts inserts(window->Rows());
-    rows.lineOf = [&inserts](std::uint32_t index, std::string& line, std::string& error) {
-        return inserts.Make(index, line, error);
-    };
+    rows.linesOf = [&inserts](const std::vector<std::uint32_t>& indices, const RowInserts::Take& take,
+                              std::string& error) { return inserts.Make(indices, take, error); };
     return call.Count() > 3 && !call.Text(3).empty() ? ExportToFile(call, *window, rows, format)
                                                      : ExportAsText(call, *window, rows, format);
 }

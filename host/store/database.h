@@ -173,8 +173,9 @@ public:
     virtual bool CheckExpression(const Table& table, std::string_view code, int& parameters,
                                  std::string& error) = 0;
 
-    /// SELECT of the INSERT statement that makes the row bound to its `?` again, every value exactly as it is
-    /// stored, in all columns that take one.
+    /// SELECT of the key, and of the INSERT statement that makes the row bound to its `?` again, every value
+    /// exactly as it is stored, in all columns that take one; where `Table::among` finds rows, of those in
+    /// the list that is bound.
     virtual std::string InsertSql(const Table& table) = 0;
 
     // ---- What takes long ----

@@ -43,9 +43,9 @@ std::string TextOf(const RowCell& cell) {
 
 class Export {
 public:
-    Export(Window& window, const ExportedRows& which, ExportFormat format,
+    Export(Window& window, const ExportedRows& which, ExportFormat format, HostServices& services,
            const std::function<bool(std::string_view)>& write)
-        : rows_(window.Rows()), which_(which), isLines_(format == ExportFormat::Lines),
+        : rows_(window.Rows()), which_(which), services_(services), isLines_(format == ExportFormat::Lines),
           border_(format == ExportFormat::Csv ? ',' : '\t'), write_(write) {
         if (!window.ShownView()) return;
         for (const std::shared_ptr<Column>& column : window.ShownView()->Columns()) {
@@ -59,16 +59,22 @@ public:
         return WriteLine();
     }
 
-    /// @return how many were read, unless one could not be written
-    std::int64_t Write(const Range& range, HostServices& services) {
-        std::int64_t count = 0;
+    void Write(const Range& range) {
         rows_.ReadEach(range.first, range.second, [&](const RowLook& look) {
             if (IsBehind(look)) return false;
-            failed_ = !services.WhyStop().empty() || !(isLines_ ? MakeLine(look) : WriteRow(look));
-            if (!failed_ && !line_.empty()) ++count;
+            failed_ = !MayGoOn() || !(isLines_ ? Add(look.index) : WriteRow(look));
             return !failed_;
         });
-        return count;
+    }
+    /// Lines need not be looked at.
+    void Write(const std::vector<std::uint32_t>& indices) {
+        for (std::size_t i = 0; !failed_ && i < indices.size(); ++i) failed_ = !Add(indices[i]);
+    }
+    /// @return how many were written; nothing when one could not be
+    std::optional<std::int64_t> Finish() {
+        failed_ = failed_ || !WriteLines();
+        if (failed_) return std::nullopt;
+        return count_;
     }
     bool HasFailed() const { return failed_; }
     /// Why a line could not be made.
@@ -78,9 +84,20 @@ public:
 
 private:
     bool IsBehind(const RowLook& look) const { return std::int64_t{look.depth} <= depth_; }
+    bool MayGoOn() const { return services_.WhyStop().empty(); }
 
-    bool MakeLine(const RowLook& look) {
-        return which_.lineOf(look.index, line_, error_) && (line_.empty() || write_(line_));
+    bool Add(std::uint32_t index) {
+        added_.push_back(index);
+        return added_.size() < atOnce || WriteLines();
+    }
+
+    bool WriteLines() {
+        const std::vector<std::uint32_t> added = std::exchange(added_, {});
+        const auto take = [this](std::string_view line) {
+            ++count_;
+            return MayGoOn() && write_(line);
+        };
+        return added.empty() || which_.linesOf(added, take, error_);
     }
 
     bool WriteRow(const RowLook& look) {
@@ -93,6 +110,7 @@ private:
             else
                 Add(column->Kind() == ColumnKind::BuiltIn ? look.text : std::string());
         }
+        ++count_;
         return WriteLine();
     }
 
@@ -114,13 +132,18 @@ private:
         return write_(line_);
     }
 
+    static constexpr std::size_t atOnce = 1000;
+
     RowModel& rows_;
     const ExportedRows& which_;
+    const HostServices& services_;
     const bool isLines_;
     const char border_;
     const std::function<bool(std::string_view)>& write_;
     std::vector<std::shared_ptr<Column>> columns_;
     std::string line_;
+    std::vector<std::uint32_t> added_; ///< rows whose lines are not made yet
+    std::int64_t count_ = 0;
     std::string error_;
     std::int64_t depth_ = -1;
     bool failed_ = false;
@@ -161,9 +184,11 @@ std::optional<std::int64_t> ExportRows(Window& window, const ExportedRows& which
     const Opened opened(rows, which);
     const RowModel::Answering answering(rows);
     rows.TakeTrouble();
-    Export writer(window, which, format, write);
+    Export writer(window, which, format, services, write);
+    const bool areLines = format == ExportFormat::Lines;
     std::vector<Range> ranges{{0, toTheEnd}};
-    if (which.which == ExportedRows::Selected) ranges = SelectedRanges(rows);
+    if (which.which == ExportedRows::Selected)
+        ranges = areLines ? std::vector<Range>() : SelectedRanges(rows);
     if (which.which == ExportedRows::Below) {
         const std::int64_t position = rows.PositionOf(which.index);
         for (const RowLook& look : rows.Read(position, 1)) writer.KeepBelow(look.depth);
@@ -171,16 +196,16 @@ std::optional<std::int64_t> ExportRows(Window& window, const ExportedRows& which
     }
     const bool hasCaptions = format == ExportFormat::Csv || format == ExportFormat::Tsv;
     if (hasCaptions && !writer.WriteCaptions()) return std::nullopt;
-    std::int64_t count = 0;
     for (const Range& range : ranges) {
-        count += writer.Write(range, services);
-        if (writer.HasFailed()) break;
+        if (!writer.HasFailed()) writer.Write(range);
     }
+    if (areLines && which.which == ExportedRows::Selected) writer.Write(rows.SelectedRows());
+    const std::optional<std::int64_t> count = writer.Finish();
     error = services.WhyStop();
     if (error.empty()) error = writer.Error();
     if (error.empty()) error = rows.TakeTrouble();
     if (error.empty() && rows.IsStopped()) error = "what is shown has changed meanwhile";
-    if (writer.HasFailed() || !error.empty()) return std::nullopt;
+    if (!error.empty()) return std::nullopt;
     return count;
 }
 

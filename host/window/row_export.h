@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace znhost {
 
@@ -17,16 +18,18 @@ enum class ExportFormat {
     Csv,   ///< commas between the cells
     Tsv,   ///< tabs between them
     Cells, ///< the same, without the line of captions
-    Lines  ///< no cells: each row is a line that `lineOf` makes
+    Lines  ///< no cells: each row is a line that `linesOf` makes
 };
 
 struct ExportedRows {
     enum Which { All, Selected, Below } which = All;
     std::uint32_t index = 0; ///< the row of what lies below: it is expanded when it is not
     bool deep = false;       ///< closed rows are expanded meanwhile
-    /// Makes the line of the row with that Tk index, or an empty text for a row that has none. False: it
-    /// cannot.
-    std::function<bool(std::uint32_t index, std::string& line, std::string& error)> lineOf;
+    /// Hands the lines of the rows with those Tk indices to `take`, none for a row that has none. False: it
+    /// cannot, or `take` says so.
+    std::function<bool(const std::vector<std::uint32_t>& indices,
+                       const std::function<bool(std::string_view)>& take, std::string& error)>
+        linesOf;
 };
 
 /// Hands the rows to `write`, a line each, behind a line with the captions of the columns that are shown. A

@@ -5,6 +5,8 @@
 #include "store/postgres/pg_guard.h"
 #include "store/postgres/pg_statement.h"
 
+#include <set>
+
 namespace znhost {
 
 std::unique_ptr<Database> PgDatabase::Open(const std::string& url, std::string& error, Access access) {
@@ -250,14 +252,19 @@ std::string PgDatabase::InsertSql(const Table& table) {
     std::string columns, values;
     const bool isFound = table.original.find("." + Quoted(table.name)) != table.original.npos;
     const char* overriding = "";
+    std::set<std::string, std::less<>> computed;
+    Statement made =
+        Prepare("SELECT attname, attgenerated <> '' FROM pg_attribute WHERE attrelid = ?::regclass "
+                "AND (attgenerated <> '' OR attidentity = 'a')");
+    made.Bind(1, table.original);
+    while (made.Next()) {
+        if (made.Integer(1) != 0)
+            computed.emplace(made.Text(0));
+        else
+            overriding = "OVERRIDING SYSTEM VALUE ";
+    }
     for (const TableColumn& column : table.columns) {
-        Statement made = Prepare("SELECT attgenerated <> '', attidentity = 'a' FROM pg_attribute "
-                                 "WHERE attrelid = ?::regclass AND attname = ?");
-        made.Bind(1, table.original);
-        made.Bind(2, column.name);
-        const bool isThere = made.Next();
-        if (isThere && made.Integer(0) != 0) continue;
-        if (isThere && made.Integer(1) != 0) overriding = "OVERRIDING SYSTEM VALUE ";
+        if (computed.count(column.name) != 0) continue;
         const std::string name = Quoted(column.name);
         const std::string text = name + "::text";
         columns += (columns.empty() ? "" : ", ") + name;
@@ -269,8 +276,8 @@ std::string PgDatabase::InsertSql(const Table& table) {
     }
     const std::string begin = "INSERT INTO " + (isFound ? Quoted(table.name) : table.original) + " (" +
                               columns + ") " + overriding + "VALUES (";
-    return "SELECT " + QuotedText(begin) + " || " + values + " || ');' FROM " + table.rows + " WHERE " +
-           table.is;
+    return "SELECT " + table.key + ", " + QuotedText(begin) + " || " + values + " || ');' FROM " +
+           table.rows + " WHERE " + table.among;
 }
 
 bool PgDatabase::CheckExpression(const Table& table, std::string_view code, int& parameters,

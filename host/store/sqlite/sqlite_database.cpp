@@ -332,8 +332,8 @@ std::string SqliteDatabase::InsertSql(const Table& table) {
                    name + ") END");
     }
     const std::string begin = "INSERT INTO " + Quoted(table.name) + " (" + columns + ") VALUES (";
-    return "SELECT " + QuotedText(begin) + " || " + values + " || ');' FROM " + table.rows + " WHERE " +
-           table.is;
+    return "SELECT " + table.key + ", " + QuotedText(begin) + " || " + values + " || ');' FROM " +
+           table.rows + " WHERE " + table.is;
 }
 
 bool SqliteDatabase::CheckExpression(const Table& table, std::string_view code, int& parameters,
