@@ -1,5 +1,5 @@
--- Reads the results of the benchmarks (bench.json in the working directory) and prints two tables: what was
--- measured, and which limits hold. The benchmarks whose limits do not hold are written to bench.again, as the
+-- Reads the results of the benchmarks (bench.json in the working directory) and prints tables: what was measured,
+-- what could not be, and which limits hold. The benchmarks whose limits do not hold are written to bench.again, as the
 -- filter that runs them once more. "Growth" is the time that an element takes, to that in the smallest size.
 -- Of repeated measurements the best counts: whatever else the machine did made the others worse.
 
@@ -53,6 +53,13 @@ select name as benchmark,
 from (select *, name in ('NoOpCommand', 'EnsembleCommand', 'SetColumnCaption', 'GetColumnCaption', 'UsageText')
                     as is_command
       from run) as run
+order by name;
+
+-- What could not be measured here.
+select substr(name, 1, instr(name || '/iterations', '/iterations') - 1) as 'not measured', why
+from (select distinct json_extract(value, '$.run_name') as name, json_extract(value, '$.error_message') as why
+      from json_each(cast(readfile('bench.json') as text), '$.benchmarks')
+      where json_extract(value, '$.error_occurred') is not null)
 order by name;
 
 -- What takes how long in seconds at most: benchmark, what it does, the limit.
