@@ -28,6 +28,17 @@ bool Application::AddDataCtrl(const std::string& name, const std::string& file, 
     return true;
 }
 
+bool Application::FollowNews() {
+    bool changed = false;
+    for (const auto& control : dataControls_) {
+        bool byOthers = false;
+        std::string error;
+        if (control->HasNews()) control->FollowOthers(byOthers, error); // who looks is told why it cannot
+        changed = changed || byOthers;
+    }
+    return changed;
+}
+
 znIBrowserDataCtrl* Application::FindDataCtrl(const char* name) {
     if (Refused("znIBrowserApplication::FindDataCtrl", name)) return nullptr;
     return dataControls_.Find(TextOf(name));

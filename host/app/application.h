@@ -23,6 +23,8 @@ public:
     BrowserStates& Model() { return browser_; }
     Recorder& Recording() { return recorder_; }
     NamedList<DataCtrl>& DataControls() { return dataControls_; }
+    /// Tells the views what others were seen to have changed. @return whether there was anything
+    bool FollowNews();
     /// Adds a data control on a database file, made when missing unless it is only to be read, or on one in
     /// memory when `file` is "".
     /// @return false, with the reason in `error`, and without a data control.

@@ -59,6 +59,7 @@ Tcl_Obj* NewRow(const RowLook& look, std::size_t& bytes) {
 
 /// Appends the rows from `first` on to the list, as long as they are not too large.
 void AddRows(RowModel& rows, std::int64_t first, std::int64_t count, Tcl_Obj* list, std::size_t& bytes) {
+    const RowModel::Answering answering(rows);
     constexpr std::int64_t atOnce = 1000;
     for (; count > 0; first += atOnce, count -= atOnce) {
         const std::vector<RowLook> looks = rows.Read(first, std::min(count, atOnce), true);
@@ -70,6 +71,15 @@ void AddRows(RowModel& rows, std::int64_t first, std::int64_t count, Tcl_Obj* li
     }
 }
 
+/// Whether the look met with changes of others: all that changed is listed then. Rows tell what of it cannot
+/// be read.
+bool LooksAgain(AppCall& call, Window& window) {
+    if (!call.App().FollowNews()) return false;
+    window.Rows().Count();
+    window.Rows().TakeTrouble();
+    return true;
+}
+
 } // namespace
 
 int AnswerRows(AppCall& call) {
@@ -79,11 +89,17 @@ int AnswerRows(AppCall& call) {
     if (!window) return TCL_ERROR;
     if (call.Count() > 1 && !call.Number(1, "FIRST", first)) return TCL_ERROR;
     if (call.Count() > 2 && !call.Number(2, "COUNT", count)) return TCL_ERROR;
-    const RowModel::Answering answering(window->Rows());
     window->Rows().TakeTrouble();
     Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
-    std::size_t bytes = 0;
-    AddRows(window->Rows(), static_cast<std::int64_t>(first), static_cast<std::int64_t>(count), list, bytes);
+    const auto read = [&] {
+        std::size_t bytes = 0;
+        Tcl_SetListObj(list, 0, nullptr);
+        AddRows(window->Rows(), static_cast<std::int64_t>(first), static_cast<std::int64_t>(count), list,
+                bytes);
+        return bytes;
+    };
+    std::size_t bytes = read();
+    if (LooksAgain(call, *window)) bytes = read();
     const std::string trouble = window->Rows().TakeTrouble();
     if (trouble.empty() && bytes <= mostBytes) return call.Answer(list);
     Tcl_DecrRefCount(list);
@@ -128,7 +144,10 @@ int AnswerChooser(AppCall& call) { return AnswerAid(call, Window::Aid::Chooser);
 
 int AnswerDraw(AppCall& call) {
     const std::shared_ptr<Window> window = WindowOf(call);
-    return window ? call.Answer(DrawRows(*window)) : TCL_ERROR;
+    if (!window) return TCL_ERROR;
+    std::string drawn = DrawRows(*window);
+    if (LooksAgain(call, *window)) drawn = DrawRows(*window);
+    return call.Answer(drawn);
 }
 
 } // namespace znhost

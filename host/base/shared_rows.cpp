@@ -1,5 +1,7 @@
 #include "base/shared_rows.h"
 
+#include "base/row_set.h"
+
 namespace znhost {
 
 SharedRows::SharedRows(std::unique_ptr<RowPages> pages, std::size_t size, Rows first)
@@ -43,7 +45,9 @@ void SharedRows::List::Take(const std::vector<RowPages::Run>& runs) {
     for (const RowPages::Run& run : runs) {
         const std::size_t first = std::min(run.first, rows.size());
         const std::size_t count = std::min(run.rows.size(), rows.size() - first);
-        std::copy_n(run.rows.begin(), count, rows.begin() + static_cast<std::ptrdiff_t>(first));
+        for (std::size_t i = 0; i < count; ++i) {
+            if (rows[first + i] == RowPages::nowhere) rows[first + i] = run.rows[i];
+        }
     }
 }
 
@@ -71,8 +75,14 @@ void SharedRows::Look(const Rows& rows) const {
     constexpr std::size_t many = 1000; // each is looked for by itself
     if (!IsPaged() || rows.empty()) return;
     if (rows.size() > many) return list_->ReadAll();
+    RowSet wanted;
+    wanted.Add(rows);
+    for (const std::int64_t row : Known())
+        if (row != RowPages::nowhere) wanted.Remove(row);
     std::vector<RowPages::Run> runs;
-    for (const std::int64_t row : list_->pages->InOrder(rows)) runs.push_back({0, {row}});
+    if (!wanted.IsEmpty()) {
+        for (const std::int64_t row : list_->pages->InOrder(wanted.ToVector())) runs.push_back({0, {row}});
+    }
     if (!runs.empty()) list_->Take(list_->pages->Find(runs));
 }
 

@@ -94,7 +94,8 @@ public:
     void Came(std::int64_t number, const Rows& rows) const { list_->pages->Came(number, rows); }
     /// Reads the rows that were read of an earlier list, wherever they stand now.
     void Follow(const SharedRows& other) const;
-    /// Reads these rows, as far as they are in the list: `Known` has them then.
+    /// Reads these rows, as far as they are in the list: `Known` has them then, unless the list is another
+    /// one by now.
     void Look(const Rows& rows) const;
     /// The list, to be changed: no other has it.
     Rows& Own() {

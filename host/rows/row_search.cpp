@@ -35,7 +35,7 @@ std::vector<std::string> RowModel::TextsOf(const std::vector<Row>& rows) {
 
 RowModel::FoundBeginning RowModel::FindBeginning(const std::string& beginning, std::int64_t first,
                                                  std::chrono::milliseconds time) {
-    constexpr std::size_t atOnce = 200;
+    constexpr std::size_t atOnce = 2000;
     const auto until = std::chrono::steady_clock::now() + time;
     const Answering answering(*this);
     if (!IsReady() || first < 0 || first >= tree_.Count()) return {};

@@ -69,10 +69,13 @@ void DataCtrl::ItemsChanged() {
 void DataCtrl::RowsChanged() {
     Database::Stamp now;
     std::string ignored;
-    const bool known = journal_.IsTold() && database_->ReadStamp(now, ignored) && now.SameTables(told_) &&
-                       now.foreign == told_.foreign;
+    const bool isRead = database_->ReadStamp(now, ignored);
+    const bool known = isRead && journal_.IsTold() && now.SameTables(told_) && now.foreign == told_.foreign;
     told_ = now;
-    if (!known) return ItemsChanged();
+    if (!known) {
+        if (isRead) Follow(now);
+        return ItemsChanged();
+    }
     indexes_.Clear();
     Model().DataChanged(*this, VIEW_ITEMS);
 }
@@ -97,8 +100,8 @@ bool DataCtrl::UndoChange(std::string& error) {
 bool DataCtrl::FollowOthers(bool& changed, std::string& error) {
     Database::Stamp now;
     if (!database_->FollowFile(error) || !database_->ReadStamp(now, error)) return false;
-    changed = followed_.schema >= 0 && (now.foreign != followed_.foreign || !now.SameTables(followed_));
-    followed_ = now;
+    changed = IsByOthers(now) || (followed_.schema >= 0 && !now.SameElsewhere(followed_));
+    Follow(now);
     if (!changed) return true;
     ForgetMissing();
     ItemsChanged();
@@ -122,6 +125,7 @@ Object& FindOrMake(std::unordered_map<std::string, std::shared_ptr<Object>>& kno
 bool DataCtrl::Refresh(std::string& error) {
     Database::Stamp now;
     if (!database_->ReadStamp(now, error)) return false;
+    hasNews_ = hasNews_ || IsByOthers(now);
     if (now.SameTables(stamp_)) return true;
     if (!schema_.Refresh(error)) return false;
     TakeOverTables();

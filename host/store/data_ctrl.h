@@ -52,6 +52,8 @@ public:
     /// Looks whether another connection has changed the database, and tells the views. @return false, with
     /// the reason, when the database cannot be read
     bool FollowOthers(bool& changed, std::string& error);
+    /// Whether others were seen to have changed the database, and the views have not been told.
+    bool HasNews() const { return hasNews_; }
     /// Tells the reason of a failure to who can read no answer, as a background error.
     void Report(const char* what, const std::string& error);
     RowCopies& Copies() { return copies_; }
@@ -137,6 +139,13 @@ private:
     /// All that are there, as the tables were when last looked at.
     std::vector<SimpleSource*> SimpleSources() const;
     void TakeOverTables();
+    void Follow(const Database::Stamp& now) {
+        followed_ = now;
+        hasNews_ = false;
+    }
+    bool IsByOthers(const Database::Stamp& now) const {
+        return followed_.schema >= 0 && (now.foreign != followed_.foreign || !now.SameTables(followed_));
+    }
     void ListTables();
     void NoteGone(const std::vector<BaseSource*>& bases, const std::vector<DataReference*>& references);
     template <class Gone, class Forgetting>
@@ -154,6 +163,7 @@ private:
     ChangeLog changes_;
     Database::Stamp told_;     // when rows were last said to have changed
     Database::Stamp followed_; // when it was last looked whether others changed something
+    bool hasNews_ = false;     // somebody else has since
     Database::Stamp stamp_;    // of the tables when the sources were last brought up to date
     Database::Stamp counted_;  // of the rows when the version was last asked for
     std::uint64_t version_ = 0;

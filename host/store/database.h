@@ -52,13 +52,15 @@ public:
         std::int64_t rollbacks = 0; ///< what was rolled back may have been counted, and looked at, before
         std::int64_t foreign = 0;   ///< what other connections commit
         std::int64_t own = 0;       ///< rows changed through this one
+        std::int64_t elsewhere = 0; ///< what lies where changes cannot be noticed is another one at each look
 
         bool SameTables(const Stamp& other) const {
             return schema == other.schema && rollbacks == other.rollbacks;
         }
         bool SameRows(const Stamp& other) const {
-            return SameTables(other) && foreign == other.foreign && own == other.own;
+            return SameTables(other) && SameElsewhere(other) && foreign == other.foreign && own == other.own;
         }
+        bool SameElsewhere(const Stamp& other) const { return elsewhere == other.elsewhere; }
     };
 
     enum class Access {

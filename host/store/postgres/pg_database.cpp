@@ -127,7 +127,8 @@ bool PgDatabase::AskStamp(Stamp& stamp, std::string& error) {
     if (schema_.HasOtherServers()) ++looksAtOthers_;
     stamp.schema = schemaNumber_;
     stamp.rollbacks = Rollbacks() + connection_.RolledBack();
-    stamp.foreign = completed_ - ownTransactions_ + looksAtOthers_;
+    stamp.foreign = completed_ - ownTransactions_;
+    stamp.elsewhere = looksAtOthers_;
     stamp.own = connection_.Changes() - ownChanges_ + looksInside_;
     return true;
 }
@@ -237,11 +238,13 @@ bool PgDatabase::CopyRows(const Table& table, std::string& error) {
         FromTcl("DROP TABLE IF EXISTS " + table.rows + "; CREATE TEMP TABLE " + table.rows +
                 " AS SELECT row_number() OVER () AS " + table.key + ", * FROM " + table.original +
                 "; CREATE UNIQUE INDEX ON " + table.rows + " (" + table.key + "); ANALYZE " + table.rows);
-    const bool done = connection_.Run(inside ? "SAVEPOINT znbrowser; " + sql + "; RELEASE znbrowser"
-                                             : "BEGIN READ WRITE; " + sql + "; COMMIT",
-                                      error);
+    // From its number on the transaction counts, however it ends.
+    const char* const begin =
+        inside ? "SAVEPOINT znbrowser" : "BEGIN READ WRITE; SELECT pg_current_xact_id()";
+    const bool begun = connection_.Run(begin, error);
+    const bool done = begun && connection_.Run(sql + (inside ? "; RELEASE znbrowser" : "; COMMIT"), error);
     if (!done) Undo(inside);
-    if (!inside) ++ownTransactions_;
+    if (begun && !inside) ++ownTransactions_;
     ownChanges_ += connection_.Changes() - before;
     return done;
 }
