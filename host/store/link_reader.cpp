@@ -29,6 +29,21 @@ std::string Operand(const std::vector<std::string>& names) {
     return names.size() == 1 ? Columns(names) : "(" + Columns(names) + ")";
 }
 
+/// True for a child at the top: one without a parent, or, where the parent holds the key, one that has any. A
+/// server joins by EXISTS; a long list behind IN it would go through for each child.
+std::string IsAtTop(const LinkJoint& joint, bool isOnServer) {
+    const std::string child = Operand(joint.columns[LINK_CHILD]);
+    const RowPart& part = joint.part[LINK_PARENT];
+    const std::string parents =
+        "(SELECT " + Columns(joint.columns[LINK_PARENT]) + " FROM " + part.From() + part.Where() + ")";
+    if (!isOnServer) return "(" + child + " IN " + parents + ")" + (joint.childHolds ? " IS NOT TRUE" : "");
+    std::vector<std::string> keys; // names that no column of the child has
+    for (std::size_t i = 0; i < joint.columns[LINK_PARENT].size(); ++i)
+        keys.push_back("znbrowser_" + std::to_string(i));
+    return std::string(joint.childHolds ? "NOT " : "") + "EXISTS (SELECT 1 FROM " + parents +
+           " AS znbrowser_parents (" + Columns(keys) + ") WHERE " + Operand(keys) + " = " + child + ")";
+}
+
 /// The rows of one end with their columns under plain names: item, c0, c1, ...
 std::string PairSide(const LinkJoint& joint, LinkEnd end, std::string_view more = {},
                      std::string columns = {}) {
@@ -407,9 +422,7 @@ std::string LinkReader::TopCondition(const RowPart& part, std::vector<Value>& va
         const RowPart& parent = joint.part[LINK_PARENT];
         if (joint.part[LINK_CHILD].slot != part.slot) continue;
         if (!condition.empty()) condition += joint.childHolds ? " AND " : " OR ";
-        condition += "(" + Operand(joint.columns[LINK_CHILD]) + " IN (SELECT " +
-                     Columns(joint.columns[LINK_PARENT]) + " FROM " + parent.From() + parent.Where() + "))" +
-                     (joint.childHolds ? " IS NOT TRUE" : "");
+        condition += IsAtTop(joint, IsOnServer());
         values.insert(values.end(), parent.values.begin(), parent.values.end());
     }
     if (!condition.empty()) return "(" + condition + ")";

@@ -104,8 +104,9 @@ proc ::znbrowser::any::OpenFile {n file} {
     Try $n BrowseFile $file
 }
 
-# Whether two names are those of one file, by whatever links.
+# Whether two names are those of one database: of one file, by whatever links.
 proc ::znbrowser::any::IsSameFile {one other} {
+    if {$one ne "" && $one eq $other} {return 1}
     if {$one eq "" || [catch {file stat $one first; file stat $other second}]} {return 0}
     return [expr {$first(dev) == $second(dev) && $first(ino) == $second(ino)}]
 }
