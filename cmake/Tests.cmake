@@ -61,8 +61,9 @@ if(TARGET znbrowsersh)
         foreach(name data/criteria data/data_ctrl data/data_operation data/data_property data/data_reference
                 data/data_source_hierarchical data/data_source_simple data/input_field data/view_data_source
                 rows/changes rows/export rows/filter rows/rows rows/row_events state/state_store
-                tk/collector_bar tk/export tk/looks tk/mouse_and_keys tk/parts tk/popup_menus tk/recording
-                view/dataitem view/folder view/property view/sort view/tree)
+                tk/collector_bar tk/default_browser tk/export tk/finding tk/looks tk/meanwhile tk/mouse_and_keys
+                tk/parts tk/popup_menus tk/recording tk/windows
+                view/dataitem view/folder view/helper view/list view/property view/sort view/tree)
             set(shell $<TARGET_FILE:znbrowsersh>)
             if(name MATCHES "^tk/")
                 set(shell "${PROJECT_SOURCE_DIR}/tests/tk/on_display.sh" ${shell} --tk)

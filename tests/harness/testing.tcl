@@ -4,16 +4,38 @@ namespace import ::tcltest::*
 
 interp alias {} zn {} znbrowsermanager
 
-# A data control on a new database: in memory or, with ZN_TEST_SERVER, on a server of the tests' own.
-proc newControl {name} {
-    if {![info exists ::env(ZN_TEST_SERVER)]} {return [zn app datactrl create $name]}
-    if {[info procs server::start] eq ""} {
-        uplevel #0 [list source [file join [file dirname $::testingFile] server.tcl]]
-        server::share
-    }
-    zn app datactrl create $name [server::url [server::database]]
-}
+set testingFile [file normalize [info script]]
 testConstraint file [expr {![info exists ::env(ZN_TEST_SERVER)]}] ;# what a server answers in words of its own
+if {![testConstraint file]} {
+    source [file join [file dirname $testingFile] server.tcl]
+    server::share
+}
+
+# The name of a new database: the file, or "" for one in memory; with ZN_TEST_SERVER, on a server of the tests' own.
+proc newDatabase {{file ""}} {
+    if {[testConstraint file]} {return $file}
+    return [server::url [server::database]]
+}
+
+# A data control on a new database.
+proc newControl {name} {zn app datactrl create $name [newDatabase]}
+
+# A text with numbers as the database writes them: a server as short as may be.
+proc written {text} {expr {[testConstraint file] ? $text : [regsub -all {(\d)\.0\M} $text {\1}]}}
+
+# A statement in the words of the engine, where a server has others.
+proc dialect {statement} {
+    if {[testConstraint file]} {return $statement}
+    foreach {files servers} {
+        {\mx'([[:xdigit:]]*)'}         {'\\x\1'::bytea}
+        {\mzeroblob\((\w+)\)}         {decode(repeat('00', \1), 'hex')}
+        {\mprintf\('%\.(\d+)c', '(.)'\)} {repeat('\2', \1)}
+        {\mchar\(}                    chr(
+        {\mblob\M}                    bytea
+        { without rowid\M}            {}
+    } {regsub -all -nocase $files $statement $servers statement}
+    return $statement
+}
 
 # What an answer says: "error: MESSAGE" for a banner, "usage: WORDS" for a usage text, else the answer itself.
 proc gist {answer} {
@@ -49,7 +71,6 @@ proc journalOf {pattern script} {
 proc inTurn {beginning commands} {lmap words $commands {said {*}$beginning {*}$words}}
 
 # What a script gives in a shell of its own, where nothing has been made yet.
-set testingFile [file normalize [info script]]
 proc inNewShell {script} {
     exec [info nameofexecutable] << "[list source $::testingFile]\nputs \[$script\]"
 }

@@ -49,9 +49,6 @@ proc start {} {
     zn view column current Name
 }
 
-# A text with numbers as the database writes them: a server as short as may be.
-proc written {text} {expr {[testConstraint file] ? $text : [regsub -all {(\d)\.0\M} $text {\1}]}}
-
 # A column with a property of the parts.
 proc addColumn {name type {source part}} {
     zn view property create $name

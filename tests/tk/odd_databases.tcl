@@ -5,7 +5,7 @@ namespace eval odd {
 
     # Nothing, empty texts, numbers that are too long for a column, blobs.
     variable values [list \
-        {create table thing (id integer primary key, name text, note text, big integer, ratio real, data blob)} \
+        {create table thing (id integer primary key, name text, note text, big bigint, ratio double precision, data blob)} \
         "insert into thing values (1, 'whole', 'two\nlines', 1, 0.5, x'$pixel'), (2, 'bare', null, null, null, null),
             (3, 'empty', '', 9007199254740993, 3.14159265358979, x'00010203'), (4, null, 'nameless', 7, 1e300, zeroblob(5000))" \
     ]
@@ -15,7 +15,7 @@ namespace eval odd {
         {create table dependency (id integer primary key, package_id integer references package,
             needed_id integer references package, kind text)}
         {insert into package values (1, 'editor', 'text'), (2, 'library', 'libs'), (3, 'fonts', 'x11')}
-        {insert into dependency (package_id, needed_id, kind) values (1, 2, 'needs'), (1, 3, 'likes'), (3, 2, 'needs')}
+        {insert into dependency values (1, 1, 2, 'needs'), (2, 1, 3, 'likes'), (3, 3, 2, 'needs')}
         {create view needed as select needed_id, count(*) as times from dependency group by 1}
     }
     # A caption that is wider than the values below it, and texts that are longer in one table than in the other.
@@ -37,7 +37,7 @@ namespace eval odd {
             insert into link select i, 'link ' || i, nullif(i - 1, 0), 'first text', 'second text', 'third text', 'fourth text' from n}
         {create table plain (id integer primary key, name text)}
         {insert into plain values (1, 'plain row')}
-        {create view broken as select name, abs(-9223372036854775808) as value from plain}
+        {create view broken as select name, abs(-9223372036854775807 - 1) as value from plain}
     }
     # More columns than anybody looks at together.
     variable wide [apply {{} {
@@ -52,7 +52,7 @@ namespace eval odd {
     # A check box for each row.
     variable tasks {
         {create table task (id integer primary key, name text, done boolean, rank integer)}
-        {insert into task values (1, 'wash', 0, 12), (2, 'dry', 1, 3), (3, 'fold', null, 1)}
+        {insert into task values (1, 'wash', false, 12), (2, 'dry', true, 3), (3, 'fold', null, 1)}
     }
     # Names that are nothing but a blank or nothing at all, words of SQL and Tcl, and values of other types than declared.
     variable strange [list \
@@ -66,6 +66,20 @@ namespace eval odd {
         {create table loose (c1 numeric, c2 decimal(10,2), c3 datetime, c4 boolean, c5 json, c6 varchar(10))} \
         {insert into loose values (12345678901234567890, '1.50', '2024-01-01', 'yes', '{"a": [1]}', '0012'), ('abc', 'x', 1.5, 0, x'01', '007'), (null, null, null, null, null, null)} \
         {create table computed (a integer, b as (a * 2), c as (a || 'x') stored)} {insert into computed (a) values (1), (2)} \
+    ]
+    # The same of a server: names as long as it takes them, and types of its own.
+    variable strangeOnServer [list \
+        {create table "select" (" " bigint primary key, "a ""b"" c" text, "[x] $y" double precision, "Ünïcödé ☃" blob, "-" text)} \
+        "insert into \"select\" values (1, 'line\nbreak', 1e308, x'00ff00', ''), (9223372036854775807, '\ttab', 'nan', zeroblob(100000), null),
+            (-5, printf('%.100000c', 'x'), '-infinity', null, '12')" \
+        "create table \"[string range [string repeat {a name without end } 6] 0 62]\" (k text primary key)" \
+        "insert into \"[string range [string repeat {a name without end } 6] 0 62]\" values ('\x7ba b'), ('\$x \[exit\]'), ('-option'), ('#hash'), ('\u202ertl\u202c \u05e9\u05dc')" \
+        {create view "v 1" as select * from "select"} {create table "empty one" ()} \
+        {create table found (body tsvector, title text)} {insert into found values ('hello world', 't1')} \
+        {create type mood as enum ('', 'so so')} \
+        {create table loose (c1 numeric, c2 mood, c3 timestamptz, c4 int4range, c5 json, c6 text[])} \
+        {insert into loose values (12345678901234567890.50, '', '2024-01-01', '[1,3)', '{"a": [1]}', '{a,null,"b c"}'), ('nan', 'so so', 'infinity', 'empty', '1', '{}'), (null, null, null, null, null, null)} \
+        {create table computed (a integer, b integer generated always as (a * 2) stored, c interval)} {insert into computed (a, c) values (1, '1 mon -1 day'), (2, '0')} \
     ]
     # A tree of folders and files, ten in each.
     variable files {
@@ -85,17 +99,14 @@ namespace eval odd {
         return $statements
     }}]
 
-    # Makes the file of that name in the tests' directory.
+    # Makes the file of that name in the tests' directory, or a database on the server.
     proc make {kind {name ""}} {
         set file [tcltest::makeFile "" [expr {$name eq "" ? "$kind.db" : $name}]]
         file delete $file
-        run $file [set ::odd::$kind]
-        return $file
-    }
-
-    # Runs statements on a file, as another program does.
-    proc run {file statements} {
-        znbrowsermanager app datactrl create [set name maker[incr ::odd::makers]] $file
-        foreach statement $statements {znbrowsermanager app sql $name $statement}
+        set database [newDatabase $file]
+        if {$database ne $file && [info exists ::odd::${kind}OnServer]} {append kind OnServer}
+        znbrowsermanager app datactrl create [set control maker[incr ::odd::makers]] $database
+        foreach statement [set ::odd::$kind] {znbrowsermanager app sql $control [dialect $statement]}
+        return $database
     }
 }
