@@ -59,11 +59,14 @@ if(TARGET znbrowsersh)
         set_tests_properties("server/start" PROPERTIES FIXTURES_SETUP server)
         set_tests_properties("server/stop" PROPERTIES FIXTURES_CLEANUP server)
         foreach(name data/criteria data/data_ctrl data/data_operation data/data_property data/data_reference
-                data/data_source_hierarchical data/data_source_simple data/input_field data/view_data_source
-                rows/changes rows/export rows/filter rows/rows rows/row_events state/state_store
+                data/data_source_hierarchical data/data_source_simple data/dropped data/input_field
+                data/view_data_source
+                rows/changes rows/export rows/filter rows/items rows/rows rows/row_events state/state
+                state/state_store
                 tk/collector_bar tk/default_browser tk/export tk/finding tk/looks tk/meanwhile tk/mouse_and_keys
                 tk/parts tk/popup_menus tk/recording tk/windows
-                view/dataitem view/folder view/helper view/list view/property view/sort view/tree)
+                view/dataitem view/folder view/helper view/list view/property view/sort view/tree
+                window/collector window/popup_host window/popup_menu)
             set(shell $<TARGET_FILE:znbrowsersh>)
             if(name MATCHES "^tk/")
                 set(shell "${PROJECT_SOURCE_DIR}/tests/tk/on_display.sh" ${shell} --tk)

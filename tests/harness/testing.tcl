@@ -20,6 +20,9 @@ proc newDatabase {{file ""}} {
 # A data control on a new database.
 proc newControl {name} {zn app datactrl create $name [newDatabase]}
 
+# What differs by the engine.
+proc engine {file server} {expr {[testConstraint file] ? $file : $server}}
+
 # A text with numbers as the database writes them: a server as short as may be.
 proc written {text} {expr {[testConstraint file] ? $text : [regsub -all {(\d)\.0\M} $text {\1}]}}
 
@@ -33,6 +36,8 @@ proc dialect {statement} {
         {\mchar\(}                    chr(
         {\mblob\M}                    bytea
         { without rowid\M}            {}
+        {^drop table \w+$}            {& cascade}
+        {\mznbrowser_(setting|state)\M} {znbrowser.\1}
     } {regsub -all -nocase $files $statement $servers statement}
     return $statement
 }
