@@ -61,6 +61,8 @@ if(TARGET znbrowsersh)
         foreach(name data/criteria data/data_ctrl data/data_operation data/data_property data/data_reference
                 data/data_source_hierarchical data/data_source_simple data/dropped data/input_field
                 data/view_data_source
+                extremes/hostile_names extremes/hostile_values extremes/nesting extremes/texts extremes/words
+                hostcheck/hostcheck
                 rows/changes rows/export rows/filter rows/items rows/rows rows/row_events state/state
                 state/state_store
                 tk/collector_bar tk/default_browser tk/export tk/finding tk/looks tk/meanwhile tk/mouse_and_keys

@@ -30,6 +30,10 @@ proc written {text} {expr {[testConstraint file] ? $text : [regsub -all {(\d)\.0
 proc dialect {statement} {
     if {[testConstraint file]} {return $statement}
     foreach {files servers} {
+        {\mcast\(x'([[:xdigit:]]*)' as text\)} {convert_from('\\x\1', 'UTF8')}
+        {\mhex\((\w+|\?)\)}          {upper(encode(convert_to(\1::text, 'UTF8'), 'hex'))}
+        {\msqlite_schema\M}           {(SELECT relname::text AS name FROM pg_class
+            WHERE relnamespace = 'public'::regnamespace AND relkind IN ('r', 'v') ORDER BY oid) AS found}
         {\mx'([[:xdigit:]]*)'}         {'\\x\1'::bytea}
         {\mzeroblob\((\w+)\)}         {decode(repeat('00', \1), 'hex')}
         {\mprintf\('%\.(\d+)c', '(.)'\)} {repeat('\2', \1)}
