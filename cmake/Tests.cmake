@@ -63,8 +63,8 @@ if(TARGET znbrowsersh)
                 data/view_data_source
                 extremes/hostile_names extremes/hostile_values extremes/nesting extremes/texts extremes/words
                 hostcheck/hostcheck
-                rows/changes rows/export rows/filter rows/items rows/rows rows/row_events state/state
-                state/state_store
+                rows/changes rows/export rows/filter rows/items rows/rows rows/row_events shell/default_browser
+                state/state state/state_store
                 tk/collector_bar tk/default_browser tk/export tk/finding tk/looks tk/meanwhile tk/mouse_and_keys
                 tk/parts tk/popup_menus tk/recording tk/windows
                 view/dataitem view/folder view/helper view/list view/property view/sort view/tree
