@@ -105,8 +105,10 @@ bool Database::Run(std::string_view sql, const std::vector<Value>& values, Rows&
         for (int column = 0; column < columns; ++column)
             bytes += row.emplace_back(statement.Text(column)).size() + 1;
         if (bytes <= largestValue) continue;
+        const std::string limit = ": the limit is " + Limit(largestValue);
+        error = rows.size() == 1 ? "a text, blob or row is too large" + limit
+                                 : "the rows are too large" + limit + ", ask for fewer";
         rows.clear();
-        error = "the rows are too large: the limit is " + Limit(largestValue) + ", ask for fewer";
         return false;
     }
     return statement.Finish(error);
