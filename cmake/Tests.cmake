@@ -54,14 +54,15 @@ if(TARGET znbrowsersh)
         foreach(step start stop)
             add_test(NAME "server/${step}" COMMAND tclsh8.6
                 "${PROJECT_SOURCE_DIR}/tests/harness/shared_server.tcl" ${step} "${server_file}")
-            set_tests_properties("server/${step}" PROPERTIES TIMEOUT 300)
+            set_tests_properties("server/${step}" PROPERTIES TIMEOUT 900)
         endforeach()
         set_tests_properties("server/start" PROPERTIES FIXTURES_SETUP server)
         set_tests_properties("server/stop" PROPERTIES FIXTURES_CLEANUP server)
         foreach(name data/criteria data/data_ctrl data/data_operation data/data_property data/data_reference
                 data/data_source_hierarchical data/data_source_simple data/dropped data/input_field
                 data/view_data_source
-                extremes/hostile_names extremes/hostile_values extremes/nesting extremes/texts extremes/words
+                extremes/hostile_names extremes/hostile_values extremes/large extremes/nesting extremes/texts
+                extremes/words
                 hostcheck/hostcheck
                 rows/changes rows/export rows/filter rows/items rows/rows rows/row_events shell/default_browser
                 state/state state/state_store

@@ -31,6 +31,7 @@ proc dialect {statement} {
     if {[testConstraint file]} {return $statement}
     foreach {files servers} {
         {\mcast\(x'([[:xdigit:]]*)' as text\)} {convert_from('\\x\1', 'UTF8')}
+        {\mhex\(zeroblob\(([^()]+)\)\)} {repeat('00', \1)}
         {\mhex\((\w+|\?)\)}          {upper(encode(convert_to(\1::text, 'UTF8'), 'hex'))}
         {\msqlite_schema\M}           {(SELECT relname::text AS name FROM pg_class
             WHERE relnamespace = 'public'::regnamespace AND relkind IN ('r', 'v') ORDER BY oid) AS found}
