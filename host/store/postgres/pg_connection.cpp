@@ -5,7 +5,11 @@
 
 #include <algorithm>
 #include <charconv>
+#include <csignal>
+#include <future>
+#include <memory>
 #include <poll.h>
+#include <thread>
 #include <utility>
 
 namespace znhost {
@@ -381,6 +385,43 @@ void PgConnection::NoteStatus() {
 
 // ---- Giving up
 
+namespace {
+
+struct BlockedSignals {
+    BlockedSignals() {
+        sigset_t all;
+        sigfillset(&all);
+        pthread_sigmask(SIG_SETMASK, &all, &before);
+    }
+    ~BlockedSignals() { pthread_sigmask(SIG_SETMASK, &before, nullptr); }
+    BlockedSignals(const BlockedSignals&) = delete;
+    BlockedSignals& operator=(const BlockedSignals&) = delete;
+
+    sigset_t before;
+};
+
+/// Has the server stop what was asked. libpq waits until it has heard of it, however long that is: a server
+/// that stands still is left to a thread, which takes no signals. @return false when it has not heard in time
+bool Cancel(PGcancel* cancel) noexcept {
+    if (!cancel) return false;
+    const auto free = [](PGcancel* one) { Pq().PQfreeCancel(one); };
+    try {
+        const std::shared_ptr<PGcancel> shared(cancel, free);
+        std::packaged_task<void()> ask([shared] {
+            char ignored[256];
+            Pq().PQcancel(shared.get(), ignored, sizeof ignored);
+        });
+        const std::future<void> heard = ask.get_future();
+        const BlockedSignals blocked;
+        std::thread(std::move(ask)).detach();
+        return heard.wait_for(timeToStop) == std::future_status::ready;
+    } catch (const std::exception&) { // there is no memory, or no thread, for it
+        return false;
+    }
+}
+
+} // namespace
+
 /// Takes what the server still has to tell. @return false when it does not come to an end in time
 bool PgConnection::Drain(std::chrono::milliseconds time) noexcept {
     const auto deadline = Clock::now() + time;
@@ -405,12 +446,8 @@ bool PgConnection::Drain(std::chrono::milliseconds time) noexcept {
 
 void PgConnection::Stop() noexcept {
     if (!connection_ || !asked_) return;
-    char ignored[256];
-    PGcancel* const cancel = Pq().PQgetCancel(connection_.get());
-    if (cancel) Pq().PQcancel(cancel, ignored, sizeof ignored);
-    Pq().PQfreeCancel(cancel);
     ++changes_; // it may have done a part
-    if (Drain(timeToStop)) return;
+    if (Cancel(Pq().PQgetCancel(connection_.get())) && Drain(timeToStop)) return;
     transactionLost_ = transactionLost_ || inTransaction_;
     Close();
 }
