@@ -79,10 +79,12 @@ namespace {
 /// and what the tables are like, unless the number is the one given.
 constexpr char stampSql[] =
     "SELECT completed, written, path, CASE WHEN completed = ? AND NOT written THEN NULL ELSE concat_ws('/', "
-    "(SELECT concat(count(*), ' ', sum((c.xmin::text::bigint + 1) * (c.oid::bigint % 1009 + 1))) "
+    "(SELECT concat(count(*), ' ', sum((c.xmin::text::bigint + c.cmin::text::bigint + 1) * (c.oid::bigint % "
+    "1009 + 1))) "
     "FROM pg_class c WHERE c.oid >= 16384 AND c.relpersistence <> 't' AND c.relkind IN "
     "('r','p','v','m','f')), "
-    "(SELECT concat(count(*), ' ', sum((a.xmin::text::bigint + 1) * (a.attrelid::bigint % 1009 + a.attnum))) "
+    "(SELECT concat(count(*), ' ', sum((a.xmin::text::bigint + a.cmin::text::bigint + 1) * "
+    "(a.attrelid::bigint % 1009 + a.attnum))) "
     "FROM pg_attribute a JOIN pg_class c ON c.oid = a.attrelid WHERE c.oid >= 16384 "
     "AND c.relpersistence <> 't' AND c.relkind IN ('r','p','v','m','f') AND a.attnum > 0), "
     "(SELECT concat(count(*), ' ', sum((k.xmin::text::bigint + 1) * (k.oid::bigint % 1009 + 1))) "
@@ -126,7 +128,7 @@ bool PgDatabase::AskStamp(Stamp& stamp, std::string& error) {
     statementsFor_ = schemaNumber_;
     if (schema_.HasOtherServers()) ++looksAtOthers_;
     stamp.schema = schemaNumber_;
-    stamp.rollbacks = Rollbacks() + connection_.RolledBack();
+    stamp.rollbacks = Rollbacks() + connection_.RolledBack() - ownRollbacks_;
     stamp.foreign = completed_ - ownTransactions_;
     stamp.elsewhere = looksAtOthers_;
     stamp.own = connection_.Changes() - ownChanges_ + looksInside_;
@@ -234,6 +236,7 @@ bool PgDatabase::ReadTables(Tables& tables, std::string& error) {
 bool PgDatabase::CopyRows(const Table& table, std::string& error) {
     const bool inside = InTransaction();
     const std::int64_t before = connection_.Changes();
+    const std::int64_t rolledBack = connection_.RolledBack();
     const std::string sql =
         FromTcl("DROP TABLE IF EXISTS " + table.rows + "; CREATE TEMP TABLE " + table.rows +
                 " AS SELECT row_number() OVER () AS " + table.key + ", * FROM " + table.original +
@@ -246,6 +249,7 @@ bool PgDatabase::CopyRows(const Table& table, std::string& error) {
     if (!done) Undo(inside);
     if (begun && !inside) ++ownTransactions_;
     ownChanges_ += connection_.Changes() - before;
+    ownRollbacks_ += connection_.RolledBack() - rolledBack;
     return done;
 }
 

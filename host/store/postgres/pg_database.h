@@ -76,6 +76,7 @@ private:
     // What the copies did.
     std::int64_t ownTransactions_ = 0;
     std::int64_t ownChanges_ = 0;
+    std::int64_t ownRollbacks_ = 0;
 };
 
 } // namespace znhost
