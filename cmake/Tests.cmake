@@ -58,7 +58,7 @@ if(TARGET znbrowsersh)
         endforeach()
         set_tests_properties("server/start" PROPERTIES FIXTURES_SETUP server)
         set_tests_properties("server/stop" PROPERTIES FIXTURES_CLEANUP server)
-        foreach(name data/criteria data/data_ctrl data/data_operation data/data_property data/data_reference
+        set(on_both data/criteria data/data_ctrl data/data_operation data/data_property data/data_reference
                 data/data_source_hierarchical data/data_source_simple data/dropped data/input_field
                 data/view_data_source
                 extremes/hostile_names extremes/hostile_values extremes/large extremes/nesting extremes/texts
@@ -70,6 +70,10 @@ if(TARGET znbrowsersh)
                 tk/parts tk/popup_menus tk/recording tk/windows
                 view/dataitem view/folder view/helper view/list view/property view/sort view/tree
                 window/collector window/popup_host window/popup_menu)
+        if(ZN_SANITIZE) # windows do the same on both
+            list(FILTER on_both EXCLUDE REGEX "^tk/")
+        endif()
+        foreach(name IN LISTS on_both)
             set(shell $<TARGET_FILE:znbrowsersh>)
             if(name MATCHES "^tk/")
                 set(shell "${PROJECT_SOURCE_DIR}/tests/tk/on_display.sh" ${shell} --tk)

@@ -173,6 +173,9 @@ bool PgConnection::SetUp(std::string& reason) {
     // statement would take longer than most of them.
     std::string ignored;
     Run("LISTEN znbrowser", ignored); // a standby has no channels
+    // Nobody waits for the query of a program that is gone.
+    if (Pq().PQserverVersion(connection_.get()) >= 140000)
+        Run("SET client_connection_check_interval = '1s'", ignored);
     return Run("SET jit = off; SET datestyle = 'ISO, YMD'; SET intervalstyle = 'postgres'; SET "
                "extra_float_digits = 1; "
                "SET bytea_output = 'hex'; SET standard_conforming_strings = on",
@@ -189,7 +192,10 @@ bool PgConnection::ApplyAccess(std::string& reason) {
 void PgConnection::TakeNotice(const pg_result* notice) noexcept {
     try {
         if (FieldOf(notice, PG_DIAG_SQLSTATE) == "25P01") noTransaction_ = true;
-        if (FieldOf(notice, PG_DIAG_SEVERITY_NONLOCALIZED) == "FATAL") lastWords_ = ReasonOf(notice);
+        // Where another of its processes has died the server ends all connections with a warning.
+        const bool isLast = FieldOf(notice, PG_DIAG_SEVERITY_NONLOCALIZED) == "FATAL" ||
+                            FieldOf(notice, PG_DIAG_SQLSTATE) == "57P02";
+        if (isLast) lastWords_ = ReasonOf(notice);
     } catch (const std::bad_alloc&) { // through libpq nothing may be thrown
         noTransaction_ = true;
     }
