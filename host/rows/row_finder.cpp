@@ -239,6 +239,20 @@ std::size_t RowFinder::NextToSelected(bool forward, const View& view) const {
     return next;
 }
 
+void RowFinder::GoOnFrom(const RowFinder& earlier) {
+    if (!earlier.hasLast_) return;
+    const std::vector<RowStep> path = earlier.PathTo(earlier.last_);
+    const auto isSame = [](const RowStep& a, const RowStep& b) {
+        return a.row == b.row && a.content.IsSame(b.content);
+    };
+    for (std::size_t hit = 0; hit < hits_.size() && !hasLast_; ++hit) {
+        if (entries_[hits_[hit]].row != path.back().row) continue;
+        const std::vector<RowStep> steps = PathTo(hit);
+        hasLast_ = std::equal(steps.begin(), steps.end(), path.begin(), path.end(), isSame);
+        last_ = hit;
+    }
+}
+
 std::size_t RowFinder::Next(bool forward, const View& view) {
     const std::size_t count = hits_.size();
     const bool goesOn = hasLast_ && view.Selected().IsSelected(Item(last_));

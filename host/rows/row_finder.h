@@ -45,6 +45,9 @@ public:
     /// The hit after or before the one given last, while that is still selected; else the one next to the
     /// first selected item that leads to hits. Goes round at the ends. There must be a hit.
     std::size_t Next(bool forward, const View& view);
+    /// Goes on from the hit that an earlier search for the same gave last, if it is still there.
+    void GoOnFrom(const RowFinder& earlier);
+    bool IsFor(const std::vector<FindCriterion>& criteria) const { return criteria_ == criteria; }
 
 private:
     /// A row on the way to a match: the place where it stands, and its number.

@@ -118,6 +118,7 @@ void RowModel::AskAlong(std::span<LookedAt> all, const std::vector<Row>& rows, b
         }
         AskAlong(all.subspan(1), rows, countsBelow);
     });
+    if (!items.asked) AskAlong(all.subspan(1), rows, countsBelow);
 }
 
 /// As many as are on a screen are kept.

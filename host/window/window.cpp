@@ -171,7 +171,11 @@ WindowEvent* Window::Own(znIBrowserEvent* event) const {
 std::shared_ptr<RowFinder> Window::Search(std::vector<FindCriterion> criteria) {
     std::shared_ptr<RowFinder> finder = finder_;
     const bool known = finder && finder->IsUpToDate(criteria);
-    if (!known && view_) finder = std::make_shared<RowFinder>(*view_, rows_, std::move(criteria));
+    if (!known && view_) {
+        const std::shared_ptr<RowFinder> earlier = finder && finder->IsFor(criteria) ? finder : nullptr;
+        finder = std::make_shared<RowFinder>(*view_, rows_, std::move(criteria));
+        if (earlier) finder->GoOnFrom(*earlier);
+    }
     finder_ = view_ ? finder : nullptr;
     return finder_;
 }
