@@ -172,7 +172,7 @@ void ServerPages::NoteBlocks(SimpleSource& source, const Rows& rows) {
     blocks_ = std::max(fewBlocks, 2 * (blockOf(rows.back()) - blockOf(rows.front()) + 1));
 }
 
-// Of the number of a row in a table the source of that table alone makes none other.
+// The source of one table takes the number that stands for the rows as it is; others would count it anew.
 bool ServerPages::CanExpect() const {
     return !firstNumber_ && dynamic_cast<BaseSource*>(source_.lock().get()) != nullptr;
 }
